@@ -1,0 +1,10 @@
+# The module for MATLAB, where MATLAB is found.
+find_package(Matlab QUIET COMPONENTS MX_LIBRARY)
+if(Matlab_FOUND)
+  message(STATUS "quarn: MATLAB found at ${Matlab_ROOT_DIR}, building quarn.${Matlab_MEX_EXTENSION}")
+  file(GLOB_RECURSE quarn_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/*.cpp)
+  matlab_add_mex(NAME quarn_matlab SRC ${quarn_sources} OUTPUT_NAME quarn LINK_TO quarn_flags quarn_blas TBB::tbb R2017b)
+  target_include_directories(quarn_matlab PRIVATE ${CMAKE_SOURCE_DIR}/src)
+  set_target_properties(quarn_matlab PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/module)
+  target_link_options(quarn_matlab PRIVATE -Wl,--exclude-libs,ALL -Wl,--gc-sections)
+endif()

@@ -1,0 +1,62 @@
+// The entry of the module.
+#include <cstdio>
+#include <new>
+#include <stdexcept>
+#include <system_error>
+
+#include "gateway/command_table.h"
+#include "host/arrays.h"
+#include "host/errors.h"
+#include "sparse/sp_tbb.h"
+
+namespace {
+
+constexpr double presence = 1.0001;
+
+/// Runs when the module is about to be unloaded, and when the host ends. Cannot throw.
+extern "C" void leaveModule() { quarn::endSparseWorkers(); }
+
+void registerExit() {
+  static bool registered = false;
+  if (registered) return;
+  registered = true;
+  mexAtExit(leaveModule);
+}
+
+const quarn::CommandRow* commandOf(const mxArray* word) {
+  char text[quarn::wordCapacity];
+  if (!mxIsChar(word) || quarn::host::count(word) >= sizeof text) return nullptr;
+  if (mxGetString(word, text, sizeof text) != 0) return nullptr;
+  return quarn::findCommand(text);
+}
+
+/// Runs a command. An exception of the standard library (out of memory above all) must not leave the module; the host's own,
+/// with which Octave unwinds after an error, must. Returns the first kind's text in text.
+bool run(const quarn::CommandRow& row, int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[], char* text, std::size_t size) {
+  try {
+    row.run(nlhs, plhs, nrhs, prhs);
+    return true;
+  } catch (const std::bad_alloc&) {
+    std::snprintf(text, size, "out of memory");
+  } catch (const std::logic_error& e) {
+    std::snprintf(text, size, "%s", e.what());
+  } catch (const std::system_error& e) {
+    std::snprintf(text, size, "%s", e.what());
+  }
+  return false;
+}
+
+}  // namespace
+
+extern "C" [[gnu::visibility("default")]] void mexFunction(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
+  registerExit();
+  if (nrhs == 0) {
+    plhs[0] = mxCreateDoubleScalar(presence);
+    return;
+  }
+  const quarn::CommandRow* row = commandOf(prhs[0]);
+  if (!row) quarn::host::fail("quarn : Unknown command");
+  quarn::host::setCommand(row->word);
+  char text[256];
+  if (!run(*row, nlhs, plhs, nrhs, prhs, text, sizeof text)) quarn::host::refuse("%s", text);
+}

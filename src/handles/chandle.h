@@ -1,0 +1,54 @@
+// Base of every persistent object: its value and its type code.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "host/mex_api.h"
+#include "integration/ror.h"
+
+namespace quarn {
+
+/// A computational object made from a host value. Registered handles own a deep duplicate of that value; handles made for
+/// one call from a cell element borrow it. Objects live in host memory (mxCalloc): made for one call they go with it, also
+/// after an error; registered ones are made persistent. The destructor is not virtual on purpose: derived classes own nothing.
+class chandle {
+ public:
+  chandle() = default;
+  chandle(const chandle&) = delete;
+  chandle& operator=(const chandle&) = delete;
+  ~chandle() { doFree(); }
+
+  /// Derives working pointers from the value; called each time the handle is gathered for use.
+  virtual void initCpt() {}
+  /// Commits the state after an accepted time step.
+  virtual void EndStep() {}
+  /// Adds this handle's contribution to r (in-out, ctx.N values). Trusts what checkSizes has established.
+  virtual void Residual(ROr /*ctx*/, double* /*r*/) {}
+
+  /// Refuses what Residual and EndStep would read or write outside the arrays of ctx and the rLen values of r.
+  /// Called once for a call or a run of the integrator, before the first Residual.
+  virtual void checkSizes(const ROr& /*ctx*/, std::size_t /*rLen*/) {}
+  /// Offset behind the state block that the handle writes into ctx.u; 0 if it writes none.
+  virtual std::int64_t stateEnd() const { return 0; }
+
+  /// Stores both; a previous value is not released.
+  void set_val(int newType, mxArray* v) {
+    type = newType;
+    val = v;
+    verified = false;
+  }
+  /// The value; prints "Empty value\n" and makes a 0x0 matrix where there is none. Callers return duplicates of it, never itself.
+  mxArray* get_val();
+  /// Destroys the value, except that of type 1003, which stays in memory by rule; then no value and type -1.
+  void doFree();
+
+  mxArray* val = nullptr;
+  std::int32_t type = 0;
+
+ protected:
+  /// The indices in the value have been checked; a registered value cannot change afterwards.
+  bool verified = false;
+};
+
+}  // namespace quarn

@@ -1,0 +1,75 @@
+#include "handles/handle_commands.h"
+
+#include <algorithm>
+
+#include "handles/handle_types.h"
+#include "handles/hindex.h"
+#include "host/arrays.h"
+#include "host/convert.h"
+#include "host/errors.h"
+
+namespace quarn {
+
+namespace {
+
+constexpr int mostInputs = 9;  // of "chandleget", the command word included
+
+int indexArgument(const mxArray* a) { return host::toInt(host::number(a, "the handle's index")); }
+
+chandle* existing(int index) {
+  chandle* h = cIndex.getStack(index);
+  if (!h) host::fail("KORV:quarn:NonHandle", "Handle does not exist");
+  return h;
+}
+
+mxArray* listKeys() {
+  const auto& all = cIndex.all();
+  mxArray* keys = mxCreateDoubleMatrix(static_cast<mwSize>(all.size()), 1, mxREAL);
+  double* key = mxGetPr(keys);
+  for (const auto& entry : all) *key++ = entry.first;
+  return keys;
+}
+
+}  // namespace
+
+void commandChandleSet(int /*nlhs*/, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
+  if (nrhs < 3) host::refuse("expected 3 inputs (command, type, value), got %d", nrhs);
+  const int code = host::toInt(host::number(prhs[1], "the handle's type"));
+  int ok = 0;
+  chandle* h = chandleInitByType(code, &ok);
+  const int index = cIndex.get_free_index();
+  if (host::isClass(prhs[2], "v_handle")) host::fail("KORV:quarn:NonHandle", "xxx");
+  mxArray* value = host::duplicate(prhs[2]);
+  mexMakeArrayPersistent(value);
+  mexMakeMemoryPersistent(h);
+  h->set_val(code, value);
+  cIndex.setStack(index, h);
+  plhs[0] = mxCreateDoubleScalar(index);
+}
+
+void commandChandleGet(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
+  if (nrhs < 2) {
+    plhs[0] = listKeys();
+    return;
+  }
+  if (nrhs == 2) {
+    plhs[0] = host::duplicate(existing(indexArgument(prhs[1]))->get_val());
+    return;
+  }
+  chandle* h = existing(indexArgument(prhs[2]));
+  if (nrhs > mostInputs) host::fail("KORV:quarn:WrongSize", "varargin too large");
+  mxArray* in[mostInputs];
+  std::transform(prhs + 1, prhs + nrhs, in, [](const mxArray* a) { return const_cast<mxArray*>(a); });
+  in[1] = host::duplicate(h->get_val());
+  mexCallMATLAB(nlhs, plhs, nrhs - 1, in, "feval");
+}
+
+void commandChandleClear(int /*nlhs*/, mxArray* /*plhs*/[], int nrhs, const mxArray* prhs[]) {
+  if (nrhs < 2 || host::count(prhs[1]) == 0) {
+    cIndex.free_index(-1);
+  } else {
+    cIndex.free_index(indexArgument(prhs[1]));
+  }
+}
+
+}  // namespace quarn

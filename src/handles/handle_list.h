@@ -1,0 +1,18 @@
+// Lists of handles, gathered for one call.
+#pragma once
+
+#include "handles/chandle.h"
+
+namespace quarn {
+
+/// Fills out (one slot an element of list) and returns their number. Every handle's initCpt is called.
+///   cell           a new handle for this call from each struct, of the type in its field "type"; its arrays stay the caller's
+///   "chandle"      the registered handles whose indices the object's method "remi" returns
+/// Raises KORV:quarn:NonHandle "Handle does not exist" for an index without a handle, "Not a valid chandle type", and what
+/// the handles' initCpt raise.
+int fillVectP(chandle** out, const mxArray* list);
+
+/// Room for the handles of list, in host memory of the current call.
+chandle** newHandleList(const mxArray* list);
+
+}  // namespace quarn

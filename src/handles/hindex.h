@@ -1,0 +1,39 @@
+// The registry of handles.
+#pragma once
+
+#include <cstdint>
+#include <map>
+
+#include "handles/chandle.h"
+
+namespace quarn {
+
+/// Maps integer indices to handles, in ascending order. A key may map to null. Lives from load to unload of the module; at unload
+/// its nodes are released, the handles that are still registered are not.
+class hindex {
+ public:
+  /// The next index to issue: 0, 1, 2, ...
+  int get_free_index() { return counter++; }
+  /// The handle at key i. An unknown key is inserted with null, and is listed from then on.
+  chandle* getStack(int i) { return entries[i]; }
+  /// Stores h at key i. A handle that was there is overwritten, not destroyed.
+  void setStack(int i, chandle* h) { entries[i] = h; }
+  /// -1: destroys every handle; the keys stay, with null, and counter goes on. Other keys: destroys the handle, if there is one, and erases
+  /// the key. When i is the index to be issued next, counter becomes i - 1.
+  void free_index(int i);
+
+  const std::map<std::int32_t, chandle*>& all() const { return entries; }
+
+ private:
+  static void destroy(chandle* h);
+
+  std::int32_t counter = 0;
+  std::map<std::int32_t, chandle*> entries;
+};
+
+extern hindex cIndex;
+
+/// Prints "Emptying quarn stack\n" and clears all. For debugging sessions; no command calls it.
+void emptyStack();
+
+}  // namespace quarn

@@ -1,0 +1,79 @@
+#include "host/arrays.h"
+
+#include <algorithm>
+#include <climits>
+#include <cstdio>
+#include <cstring>
+
+#include "host/errors.h"
+
+namespace quarn::host {
+
+namespace {
+int narrow(std::size_t n) { return n > INT_MAX ? INT_MAX : static_cast<int>(n); }
+}  // namespace
+
+std::size_t count(const mxArray* a) { return a ? static_cast<std::size_t>(mxGetNumberOfElements(a)) : 0; }
+
+int rows(const mxArray* a) { return a ? narrow(static_cast<std::size_t>(mxGetM(a))) : 0; }
+
+int cols(const mxArray* a) { return a ? narrow(static_cast<std::size_t>(mxGetN(a))) : 0; }
+
+Description describe(const mxArray* a) {
+  Description d{};
+  if (!a) {
+    std::snprintf(d.text, sizeof d.text, "nothing");
+    return d;
+  }
+  const char* kind = mxIsSparse(a) ? "sparse " : mxIsComplex(a) ? "complex " : "";
+  std::snprintf(d.text, sizeof d.text, "%s%.60s %dx%d", kind, mxGetClassName(a), rows(a), cols(a));
+  return d;
+}
+
+bool isClass(const mxArray* a, const char* className) { return a && mxIsClass(a, className); }
+
+bool isRealDouble(const mxArray* a) { return a && mxIsDouble(a) && !mxIsSparse(a) && !mxIsComplex(a); }
+
+Doubles doubles(const mxArray* a, const char* name) {
+  if (!a) return {};
+  if (!isRealDouble(a)) refuse("%s must be a full real double array, got %s", name, describe(a).text);
+  const std::size_t n = count(a);
+  if (n == 0) return {};
+  return {mxGetPr(a), n};
+}
+
+Ints int32s(const mxArray* a, const char* name) {
+  if (!a) return {};
+  if (!mxIsInt32(a) || mxIsComplex(a)) refuse("%s must be int32, got %s", name, describe(a).text);
+  const std::size_t n = count(a);
+  if (n == 0) return {};
+  return {static_cast<int*>(mxGetData(a)), n};
+}
+
+double number(const mxArray* a, const char* name) {
+  const bool scalar = a && (mxIsNumeric(a) || mxIsLogical(a) || mxIsChar(a)) && !mxIsSparse(a) && count(a) > 0;
+  if (!scalar) refuse("%s must be a number, got %s", name, describe(a).text);
+  return mxGetScalar(a);
+}
+
+mxArray* field(const mxArray* a, const char* name) {
+  if (!a || !mxIsStruct(a) || count(a) == 0) return nullptr;
+  return mxGetField(a, 0, name);
+}
+
+mxArray* cell(const mxArray* a, std::size_t i) {
+  if (!a || !mxIsCell(a) || i >= count(a)) return nullptr;
+  mxArray* element = mxGetCell(a, static_cast<mwIndex>(i));
+  return count(element) > 0 ? element : nullptr;
+}
+
+void storeClipped(double* dst, std::size_t dstCount, long long offset, const double* src, long long n) {
+  if (!dst || !src || n <= 0) return;
+  const long long size = static_cast<long long>(std::min<std::size_t>(dstCount, LLONG_MAX));
+  const long long first = std::max(0LL, -offset);
+  const long long last = std::min(n, size - offset);
+  if (first >= last) return;
+  std::memmove(dst + offset + first, src + first, static_cast<std::size_t>(last - first) * sizeof(double));
+}
+
+}  // namespace quarn::host

@@ -1,0 +1,58 @@
+// Looking into host arrays. Every function takes null and arrays of any class: on Octave a data or field accessor called on
+// the wrong class ends the process, so the class is tested first, here and nowhere else.
+#pragma once
+
+#include <cstddef>
+
+#include "host/mex_api.h"
+
+namespace quarn::host {
+
+/// Borrowed data of an array. No elements means no data: the pointer is null then, whatever the host returns.
+template <class T>
+struct Span {
+  T* data = nullptr;
+  std::size_t count = 0;
+  explicit operator bool() const { return data != nullptr; }
+};
+using Doubles = Span<double>;
+using Ints = Span<int>;
+
+/// Elements of a; 0 for null.
+std::size_t count(const mxArray* a);
+/// First dimension, and product of the others, as 32-bit integers (INT_MAX where they do not fit); 0 for null.
+int rows(const mxArray* a);
+int cols(const mxArray* a);
+
+/// What an array is, for error texts: "double 3x1", "sparse double 4x4", "nothing".
+struct Description {
+  char text[96];
+};
+Description describe(const mxArray* a);
+
+bool isClass(const mxArray* a, const char* className);
+/// A full real double array (no elements is fine).
+bool isRealDouble(const mxArray* a);
+
+/// Data of a full real double array; refuses any other class under the name that the user knows it by. Null (absent) is empty.
+Doubles doubles(const mxArray* a, const char* name);
+/// Data of an int32 array; refuses any other class. Null (absent) is empty.
+Ints int32s(const mxArray* a, const char* name);
+/// First value of a numeric, logical or char array; refuses anything else, and an array without elements.
+double number(const mxArray* a, const char* name);
+
+/// Field of element 0 of a struct; null where there is none, or where a is not a struct or has no element.
+mxArray* field(const mxArray* a, const char* name);
+/// Element i of a cell; null where it is unset or has no elements, or where there is no such element.
+mxArray* cell(const mxArray* a, std::size_t i);
+/// Field or property of an object; null where it cannot be reached. Its data is the object's own on Octave.
+mxArray* objectField(const mxArray* object, const char* name);
+
+/// A copy that shares no memory with a: deep on every host. Objects other than structs and cells are copied by the host.
+mxArray* duplicate(const mxArray* a);
+
+/// Copies the values of src that fall inside a destination of dstCount values when they are stored from offset on; what lies
+/// outside is left out. Returns nothing. offset may be negative or beyond the end.
+void storeClipped(double* dst, std::size_t dstCount, long long offset, const double* src, long long n);
+
+}  // namespace quarn::host

@@ -1,0 +1,19 @@
+// Doubles used as integers.
+#pragma once
+
+#include <climits>
+#include <cstdint>
+
+namespace quarn::host {
+
+/// Integer part of x. What does not fit, NaN included, becomes INT_MIN, as the x86-64 conversion instruction does.
+constexpr int toInt(double x) {
+  return x > -2147483649.0 && x < 2147483648.0 ? static_cast<int>(x) : INT_MIN;
+}
+
+/// The same for 64-bit integers; what does not fit becomes INT64_MIN.
+constexpr std::int64_t toInt64(double x) {
+  return x >= -9223372036854775808.0 && x < 9223372036854775808.0 ? static_cast<std::int64_t>(x) : INT64_MIN;
+}
+
+}  // namespace quarn::host

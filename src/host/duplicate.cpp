@@ -1,0 +1,111 @@
+// Deep copies and object fields: where the two hosts differ most.
+//
+// MATLAB's mxDuplicateArray copies deep. Octave's shares the data and counts references, so that a write into the copy shows
+// in the original; there the arrays are built anew, level by level.
+#include <cstring>
+
+#include "host/arrays.h"
+#include "host/errors.h"
+
+namespace quarn::host {
+
+mxArray* objectField(const mxArray* object, const char* name) {
+  if (!object) return nullptr;
+  if (mxArray* property = mxGetProperty(object, 0, name)) return property;
+#ifdef QUARN_HOST_OCTAVE
+  // An object of an old-style class: its fields are reached through struct().
+  mxArray* in = const_cast<mxArray*>(object);
+  mxArray* out = nullptr;
+  mexCallMATLAB(1, &out, 1, &in, "struct");
+  return field(out, name);
+#else
+  return mxGetField(object, 0, name);
+#endif
+}
+
+#ifndef QUARN_HOST_OCTAVE
+
+mxArray* duplicate(const mxArray* a) { return a ? mxDuplicateArray(a) : mxCreateDoubleMatrix(0, 0, mxREAL); }
+
+#else
+
+namespace {
+
+void copyBytes(void* to, const void* from, std::size_t bytes) {
+  if (to && from && bytes > 0) std::memcpy(to, from, bytes);
+}
+
+mxArray* duplicateStruct(const mxArray* a) {
+  const int fields = mxGetNumberOfFields(a);
+  const std::size_t n = count(a);
+  auto names = static_cast<const char**>(mxCalloc(static_cast<std::size_t>(fields) + 1, sizeof(char*)));
+  for (int f = 0; f < fields; ++f) names[f] = mxGetFieldNameByNumber(a, f);
+  mxArray* copy = mxCreateStructArray(mxGetNumberOfDimensions(a), mxGetDimensions(a), fields, names);
+  mxFree(static_cast<void*>(names));
+  for (std::size_t i = 0; i < n; ++i) {
+    for (int f = 0; f < fields; ++f) {
+      const auto index = static_cast<mwIndex>(i);
+      mxSetFieldByNumber(copy, index, f, duplicate(mxGetFieldByNumber(a, index, f)));
+    }
+  }
+  return copy;
+}
+
+mxArray* duplicateCell(const mxArray* a) {
+  mxArray* copy = mxCreateCellArray(mxGetNumberOfDimensions(a), mxGetDimensions(a));
+  const std::size_t n = count(a);
+  for (std::size_t i = 0; i < n; ++i) {
+    const auto index = static_cast<mwIndex>(i);
+    mxSetCell(copy, index, duplicate(mxGetCell(a, index)));
+  }
+  return copy;
+}
+
+mxArray* duplicateSparse(const mxArray* a) {
+  const auto columns = static_cast<std::size_t>(mxGetN(a));
+  const auto entries = static_cast<std::size_t>(mxGetJc(a)[columns]);
+  const bool logical = mxIsLogical(a);
+  mxArray* copy = logical ? mxCreateSparseLogicalMatrix(mxGetM(a), mxGetN(a), static_cast<mwSize>(entries))
+                          : mxCreateSparse(mxGetM(a), mxGetN(a), static_cast<mwSize>(entries), mxIsComplex(a) ? mxCOMPLEX : mxREAL);
+  copyBytes(mxGetJc(copy), mxGetJc(a), (columns + 1) * sizeof(mwIndex));
+  copyBytes(mxGetIr(copy), mxGetIr(a), entries * sizeof(mwIndex));
+  copyBytes(mxGetData(copy), mxGetData(a), entries * (logical ? sizeof(mxLogical) : sizeof(double)));
+  if (!logical && mxIsComplex(a)) copyBytes(mxGetImagData(copy), mxGetImagData(a), entries * sizeof(double));
+  return copy;
+}
+
+mxArray* duplicateValues(const mxArray* a) {
+  const auto dims = mxGetNumberOfDimensions(a);
+  const mwSize* extents = mxGetDimensions(a);
+  const std::size_t bytes = count(a) * static_cast<std::size_t>(mxGetElementSize(a));
+  mxArray* copy = mxIsChar(a)      ? mxCreateCharArray(dims, extents)
+                  : mxIsLogical(a) ? mxCreateLogicalArray(dims, extents)
+                                   : mxCreateNumericArray(dims, extents, mxGetClassID(a), mxIsComplex(a) ? mxCOMPLEX : mxREAL);
+  copyBytes(mxGetData(copy), mxGetData(a), bytes);
+  if (mxIsNumeric(a) && mxIsComplex(a)) copyBytes(mxGetImagData(copy), mxGetImagData(a), bytes);
+  return copy;
+}
+
+mxArray* duplicateByHost(const mxArray* a) {
+  if (mxIsFunctionHandle(a)) return mxDuplicateArray(a);
+  mxArray* in = const_cast<mxArray*>(a);
+  mxArray* out = nullptr;
+  mexCallMATLAB(1, &out, 1, &in, "deal");  // mxDuplicateArray raises an error for an object
+  if (!out) refuse("a value of class %.60s cannot be copied", mxGetClassName(a));
+  return out;
+}
+
+}  // namespace
+
+mxArray* duplicate(const mxArray* a) {
+  if (!a) return mxCreateDoubleMatrix(0, 0, mxREAL);
+  if (mxIsStruct(a)) return duplicateStruct(a);
+  if (mxIsCell(a)) return duplicateCell(a);
+  if (mxIsSparse(a)) return duplicateSparse(a);
+  if (mxIsNumeric(a) || mxIsChar(a) || mxIsLogical(a)) return duplicateValues(a);
+  return duplicateByHost(a);
+}
+
+#endif
+
+}  // namespace quarn::host

@@ -1,0 +1,38 @@
+#include "host/errors.h"
+
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+
+#include "host/mex_api.h"
+
+namespace quarn::host {
+
+namespace {
+const char* commandWord = "";
+}
+
+void setCommand(const char* word) noexcept { commandWord = word; }
+
+void fail(const char* identifier, const char* text) {
+  mexErrMsgIdAndTxt(identifier, "%s", text);
+  std::abort();  // not reached: the host's error call does not return
+}
+
+void fail(const char* text) {
+  mexErrMsgTxt(text);
+  std::abort();
+}
+
+void refuse(const char* format, ...) {
+  char text[512];
+  int used = std::snprintf(text, sizeof text, "quarn %s : ", commandWord);
+  if (used < 0) used = 0;
+  va_list args;
+  va_start(args, format);
+  std::vsnprintf(text + used, sizeof text - static_cast<std::size_t>(used), format, args);
+  va_end(args);
+  fail(text);
+}
+
+}  // namespace quarn::host

@@ -1,0 +1,112 @@
+// Reading the integrator's value and binding the arrays of a run.
+#include <algorithm>
+
+#include "host/errors.h"
+#include "integration/diag_newmark.h"
+#include "sparse/line_checks.h"
+#include "sparse/sparse_view.h"
+
+namespace quarn {
+
+namespace {
+
+SparseView fullField(const mxArray* value, const char* field, const char* name) {
+  const mxArray* a = host::field(value, field);
+  if (!a) host::refuse("the integrator needs a field \"%s\"", field);
+  SparseView v = sparseView(a, name);
+  if (v.ir) host::fail("KORV:quarn:Invalid", "Full r expected");
+  checkDense(v, name);
+  return v;
+}
+
+std::int32_t saveColumns(std::size_t values, std::int32_t rowsEach) {
+  if (rowsEach <= 0) return 0;
+  return static_cast<std::int32_t>(std::min<std::size_t>(values / static_cast<std::size_t>(rowsEach), 0x7fffffff));
+}
+
+}  // namespace
+
+void chandleDiagNewmark::initCpt() {
+  const SparseView load = fullField(val, "r", "r");
+  N = load.rows;
+  Nb = load.cols - 2;
+  r = {load.pr, load.prLen};
+
+  const SparseView table = fullField(val, "tft", "tft");
+  NT = table.cols;
+  tft = table.pr;
+  NFNL = NSave = NFNLSave = jSave = jFNLSave = 0;
+  snapshot = store = saveTimes = def = storeTimes = storeDef = {};
+  if (table.rows != Nb + 1) host::fail("KORV:quarn:Invalid", "Inconsistent Nb & NT");
+
+  const SparseView numbers = fullField(val, "data", "data");
+  if (static_cast<long long>(numbers.rows) * numbers.cols != 6) host::fail("KORV:quarn:Invalid", "Inconsistent data length");
+  data = numbers.pr;
+
+  const mxArray* ioptArray = host::field(val, "iopt");
+  if (ioptArray && !mxIsInt32(ioptArray)) host::fail("KORV:quarn:conform", "iopt must be int32");
+  iopt = host::int32s(ioptArray, "iopt").data;
+
+  if (Nb < 0) host::refuse("r must have 2 columns or more (one not read, loads, gain), got %d", load.cols);
+  gain = r.data ? r.data + static_cast<std::ptrdiff_t>(N) * (Nb > 0 ? 2 : 1) : nullptr;
+}
+
+void chandleDiagNewmark::bindWork(const mxArray* mem) {
+  const mxArray* work = host::field(mem, "uva");
+  uva = host::doubles(host::field(work, "uva"), "the work array uva");
+  if (work && uva.count < 4 * static_cast<std::size_t>(N)) host::fail("KORV:quarn:Invalid", "wrong uva size");
+  const mxArray* target = host::field(work, "FNL");
+  snapshot = host::doubles(target, "the force store's snapshot");
+  NFNL = host::rows(target);
+}
+
+void chandleDiagNewmark::bindOutputs(const mxArray* out) {
+  jSave = 0;
+  const mxArray* times = host::field(out, "data");
+  saveTimes = host::doubles(times, "the save times");
+  NSave = host::rows(times);
+  const mxArray* saved = host::field(out, "def");
+  def = host::doubles(saved, "the output def");
+  Ndef = saved ? host::rows(saved) : N;
+  NSave = std::min({NSave, saveColumns(def.count, N), saveColumns(def.count, Ndef)});
+  jFNLSave = 0;
+  const mxArray* storeOut = host::field(out, "FNL");
+  const mxArray* storeOutTimes = host::field(storeOut, "data");
+  storeTimes = host::doubles(storeOutTimes, "the save times of FNL");
+  NFNLSave = host::rows(storeOutTimes);
+  storeDef = host::doubles(host::field(storeOut, "def"), "the output def of FNL");
+}
+
+void chandleDiagNewmark::initCb(const ROr& c, const mxArray* model, const mxArray* mem, const mxArray* out, chandle** list, int nh) {
+  bindWork(mem);
+  const mxArray* modelStore = host::field(model, "FNL");
+  store = {c.FNL, c.fnlLen};
+  NFNL = modelStore ? std::min(NFNL, host::rows(modelStore)) : 0;
+  bindOutputs(out);
+  if (c.a == c.v && c.v) host::fail("KORV:quarn:Invalid", "Identical v & a");
+  if (c.v == c.u && c.u) host::fail("KORV:quarn:Invalid", "Identical v & u");
+  if (c.a == c.u && c.u) host::fail("KORV:quarn:Invalid", "Identical a & u");
+  for (int k = 0; k < nh; ++k) {
+    if (list[k] && list[k]->type == 1003 && list[k]->stateEnd() > static_cast<std::int64_t>(Ndef) + 1) {
+      host::fail("KORV:quarn:Invalid", "iu+Nistate too large");
+    }
+  }
+}
+
+void chandleDiagNewmark::checkRun(const ROr& c, chandle** list, int nh) {
+  const long long length = std::max(N, Ndef);
+  checkLength(c.uLen, length, "u", "one for each mode or row of def");
+  checkLength(c.vLen, length, "v", "one for each mode or row of def");
+  checkLength(c.aLen, length, "a", "one for each mode or row of def");
+  if (!uva && N > 0) host::refuse("mem.uva.uva, the work array, must hold %lld values, got none", 4LL * N);
+  if (uva.count < 3 * static_cast<std::size_t>(Ndef) + static_cast<std::size_t>(N)) host::fail("KORV:quarn:Invalid", "wrong uva size");
+  const std::size_t forceLen = uva.count - 3 * static_cast<std::size_t>(Ndef);
+  fmod = uva.data ? uva.data + 3 * static_cast<std::ptrdiff_t>(Ndef) : nullptr;
+  NFNL = static_cast<std::int32_t>(std::min({static_cast<std::size_t>(NFNL), store.count, snapshot.count}));
+  coefficients = {data[0], data[1], data[2], data[3], data[4]};
+  for (int k = 0; k < nh; ++k) {
+    if (list[k] && list[k]->type >= 0) list[k]->checkSizes(c, forceLen);
+  }
+}
+
+}  // namespace quarn

@@ -1,0 +1,74 @@
+#include <algorithm>
+#include <cstring>
+
+#include "integration/diag_newmark.h"
+
+namespace quarn {
+
+namespace {
+
+void copyValues(double* to, const double* from, std::size_t n) {
+  if (to && from && n > 0) std::memcpy(to, from, n * sizeof(double));
+}
+
+bool live(const chandle* h) { return h && h->type >= 0; }
+
+}  // namespace
+
+void chandleDiagNewmark::doStep(chandle** list, int nh, int j, ROr c) {
+  const std::ptrdiff_t rows = Nb + 1;
+  const double* column = tft + rows * j;
+  const double t = column[rows];
+  const double* loads = column + 1;
+  c.t = t;
+  data[5] = t;
+
+  const auto block = static_cast<std::size_t>(Ndef);
+  copyValues(uva.data, c.u, block);
+  copyValues(uva.data + block, c.v, block);
+  copyValues(uva.data + 2 * block, c.a, block);
+  if (NFNL > 0) copyValues(snapshot.data, store.data, static_cast<std::size_t>(NFNL));
+  if (iopt) host::storeClipped(c.FNL, c.fnlLen, iopt[0], loads, Nb);
+
+  newmarkPredict(c.u, c.v, c.a, N, coefficients);
+  newmarkLoad(fmod, r.data + N, loads, N, Nb);
+  for (int k = 0; k < nh; ++k) {
+    if (!live(list[k])) continue;
+#ifdef QUARN_CHECKED
+    list[k]->checkSizes(c, uva.count - 3 * block);
+#endif
+    list[k]->Residual(c, fmod);
+  }
+  newmarkCorrect(c.u, c.v, c.a, fmod, gain, N, coefficients);
+  for (int k = 0; k < nh; ++k) {
+    if (live(list[k])) list[k]->EndStep();
+  }
+  save(t, c);
+  saveStore(t);
+}
+
+void chandleDiagNewmark::save(double t, const ROr& c) {
+  while (jSave < NSave && t > saveTimes.data[jSave]) ++jSave;
+  if (jSave < NSave && t == saveTimes.data[jSave]) {
+    copyValues(def.data + static_cast<std::ptrdiff_t>(jSave) * Ndef, c.u, static_cast<std::size_t>(Ndef));
+  }
+}
+
+void chandleDiagNewmark::saveStore(double t) {
+  while (jFNLSave < NFNLSave && t > storeTimes.data[jFNLSave]) ++jFNLSave;
+  if (jFNLSave >= NFNLSave) return;
+  // The cursor walks its own times; whether to save is decided by the time that "def" has at that place.
+  const auto place = static_cast<std::size_t>(jFNLSave);
+  const bool due = place < saveTimes.count && t == saveTimes.data[place];
+  const auto length = static_cast<std::size_t>(NFNL);
+  if (due && (place + 1) * length <= storeDef.count) copyValues(storeDef.data + place * length, store.data, length);
+}
+
+void doFlush() {
+  mexCallMATLAB(0, nullptr, 0, nullptr, "drawnow");
+  mxArray* seconds = mxCreateDoubleScalar(1e-05);
+  mexCallMATLAB(0, nullptr, 1, &seconds, "pause");
+  mxDestroyArray(seconds);
+}
+
+}  // namespace quarn

@@ -1,0 +1,119 @@
+#include "integration/sparse_handles.h"
+
+#include "host/errors.h"
+#include "sparse/blas.h"
+#include "sparse/line_checks.h"
+#include "sparse/sp_tbb.h"
+
+namespace quarn {
+
+void addScaledLines(const SparseView& m, const double* x, double factor, int n, double* r) {
+  for (int j = 0; j < n; ++j) {
+    const int k0 = m.jc[j];
+    r[j] += cblas_ddoti(m.jc[j + 1] - k0, m.pr + k0, m.ir + k0, x) * factor;
+  }
+}
+
+void chandleSparse::readView() {
+  m = sparseView(val, name());
+  if (m.throughObject) verified = false;
+}
+
+void chandleSparse::markDiagonal() {
+  if (!m.ir) return;
+  checkLength(m.jcLen, static_cast<long long>(m.cols) + 1, "\"jc\"", "one more than the matrix has columns");
+  if (m.cols >= 0 && m.jcLen > 0 && m.jc[m.cols] == m.cols) m.ir[0] = -1;
+}
+
+void chandleSparse::checkSizes(const ROr& ctx, std::size_t rLen) { checkTerms(ctx, rLen); }
+
+void chandleSparse::checkTerm(std::int32_t N, std::size_t vectorLen, std::size_t rLen, const char* vectorName) {
+  checkLength(rLen, N, "the residual", "one for each row of u");
+  checkLength(vectorLen, N, vectorName, "one for each row of u");
+  if (diagonal()) {
+    checkLength(m.prLen, N, name(), "one diagonal entry for each row of u");
+    return;
+  }
+  if (!verified || verifiedLines != N) {
+    checkLinePointers(m, N, name());
+    largest = largestIndex(m, N, name());
+    verified = true;
+    verifiedLines = N;
+  }
+  checkGather(largest, vectorLen, name(), vectorName);
+}
+
+void chandleSparseStiffness::initCpt() {
+  readView();
+  markDiagonal();
+}
+
+void chandleSparseStiffness::checkTerms(const ROr& ctx, std::size_t rLen) {
+  if (!m.ir || !m.pr) return;
+  checkTerm(ctx.N, ctx.uLen, rLen, "u");
+  if (diagonal() || ctx.beta != 0.0) checkTerm(ctx.N, ctx.vLen, rLen, "v");
+}
+
+void chandleSparseStiffness::Residual(ROr c, double* r) {
+  if (!m.ir || !m.pr) return;
+  if (diagonal()) {
+    for (int i = 0; i < c.N; ++i) r[i] += m.pr[i] * (c.u[i] + c.beta * c.v[i]);
+    return;
+  }
+  SparseMatVec(r, c.u, m.pr, m.ir, m.jc, c.N);
+  if (c.beta != 0.0) addScaledLines(m, c.v, c.beta, c.N, r);
+}
+
+void chandleSparseMass::initCpt() {
+  readView();
+  if (!m.pr) host::fail("KORV:quarn:empty", "no real part");
+  if (!m.ir) host::fail("KORV:quarn:empty", "Error not a valid mass");
+  markDiagonal();
+}
+
+void chandleSparseMass::checkTerms(const ROr& ctx, std::size_t rLen) {
+  if (!ctx.a) return;
+  if (!m.ir && m.pr) host::fail("Implemented for sparse matrices");
+  if (!m.ir) return;
+  checkTerm(ctx.N, ctx.aLen, rLen, "a");
+  if (diagonal() || ctx.alpha != 0.0) checkTerm(ctx.N, ctx.vLen, rLen, "v");
+}
+
+void chandleSparseMass::Residual(ROr c, double* r) {
+  if (!c.a || !m.ir) return;
+  if (diagonal()) {
+    for (int i = 0; i < c.N; ++i) r[i] += m.pr[i] * (c.a[i] + c.alpha * c.v[i]);
+    return;
+  }
+  SparseMatVec(r, c.a, m.pr, m.ir, m.jc, c.N);
+  if (c.alpha != 0.0) addScaledLines(m, c.v, c.alpha, c.N, r);
+}
+
+void chandleSparseDamping::initCpt() {
+  readView();
+  if (m.jc && m.cols >= 0) {
+    checkLength(m.jcLen, static_cast<long long>(m.cols) + 1, "\"jc\"", "one more than the matrix has columns");
+    if (m.jc[m.cols] == 0) {
+      m.ir = nullptr;
+      m.jc = nullptr;
+      m.pr = nullptr;
+      return;
+    }
+  }
+  markDiagonal();
+}
+
+void chandleSparseDamping::checkTerms(const ROr& ctx, std::size_t rLen) {
+  if (m.ir && m.pr) checkTerm(ctx.N, ctx.vLen, rLen, "v");
+}
+
+void chandleSparseDamping::Residual(ROr c, double* r) {
+  if (!m.ir || !m.pr) return;
+  if (diagonal()) {
+    for (int i = 0; i < c.N; ++i) r[i] += m.pr[i] * c.v[i];
+    return;
+  }
+  SparseMatVec(r, c.v, m.pr, m.ir, m.jc, c.N);
+}
+
+}  // namespace quarn

@@ -1,0 +1,70 @@
+// Mass, stiffness and damping matrices as handles.
+#pragma once
+
+#include "handles/chandle.h"
+#include "sparse/sparse_view.h"
+
+namespace quarn {
+
+/// One matrix. Products take stored columns as lines: the matrices are symmetric in use.
+///
+/// A matrix with as many stored entries as columns is taken as diagonal, wherever the entries lie: initCpt writes -1 into the first
+/// place of its index array, in the value itself, and from then on "pr" is the diagonal.
+class chandleSparse : public chandle {
+ public:
+  void checkSizes(const ROr& ctx, std::size_t rLen) override;
+
+ protected:
+  void readView();
+  void markDiagonal();
+  bool diagonal() const { return m.ir && m.ir[0] == -1; }
+  /// Refuses a product of the first N lines with a vector of that many values.
+  void checkTerm(std::int32_t N, std::size_t vectorLen, std::size_t rLen, const char* vectorName);
+  virtual void checkTerms(const ROr& ctx, std::size_t rLen) = 0;
+  virtual const char* name() const = 0;
+
+  SparseView m;
+
+ private:
+  int largest = -1;
+  int verifiedLines = -1;
+};
+
+/// r += K*u + beta*K*v
+class chandleSparseStiffness final : public chandleSparse {
+ public:
+  void initCpt() override;
+  void Residual(ROr c, double* r) override;
+
+ private:
+  void checkTerms(const ROr& ctx, std::size_t rLen) override;
+  const char* name() const override { return "the stiffness matrix"; }
+};
+
+/// r += M*a + alpha*M*v; nothing at all without an acceleration.
+/// initCpt raises KORV:quarn:empty "no real part" and "Error not a valid mass".
+class chandleSparseMass final : public chandleSparse {
+ public:
+  void initCpt() override;
+  void Residual(ROr c, double* r) override;
+
+ private:
+  void checkTerms(const ROr& ctx, std::size_t rLen) override;
+  const char* name() const override { return "the mass matrix"; }
+};
+
+/// r += C*v; a matrix without entries is none.
+class chandleSparseDamping final : public chandleSparse {
+ public:
+  void initCpt() override;
+  void Residual(ROr c, double* r) override;
+
+ private:
+  void checkTerms(const ROr& ctx, std::size_t rLen) override;
+  const char* name() const override { return "the damping matrix"; }
+};
+
+/// r[j] += (line j . x) * factor, j < n: the serial Rayleigh terms.
+void addScaledLines(const SparseView& m, const double* x, double factor, int n, double* r);
+
+}  // namespace quarn

@@ -1,0 +1,68 @@
+// The tabulated law.
+#include <climits>
+#include <cstring>
+#include <functional>
+
+#include "host/errors.h"
+#include "nonlinear/laws.h"
+#include "nonlinear/lin_interp.h"
+#include "sparse/line_checks.h"
+
+namespace quarn {
+
+namespace {
+
+bool overlap(const double* a, long long na, const double* b, long long nb) {
+  const std::less<const double*> before;
+  return na > 0 && nb > 0 && before(a, b + nb) && before(b, a + na);
+}
+
+}  // namespace
+
+TablePlace tablePlace(const chandleNl_inout& h) { return {h.opt + h.iopt[5], h.opt + h.iopt[6], h.iopt[7], h.iopt[8]}; }
+
+void checkTablePlace(const chandleNl_inout& h) {
+  checkLength(static_cast<std::size_t>(h.ioptLen), 9, "iopt", "entries 6 to 9 place the table");
+  const long long table = h.iopt[5];
+  const long long record = h.iopt[6];
+  const long long nx = h.iopt[7];
+  const long long ny = h.iopt[8];
+  if (table < 0 || record < 0 || nx < 0 || ny < 0) {
+    host::refuse("iopt(6:9) must not be negative, got %lld %lld %lld %lld", table, record, nx, ny);
+  }
+  const long long end = nx > h.optLen ? LLONG_MAX : table + nx * (1 + ny);
+  if (end > h.optLen) host::refuse("a table of %lld knots and %lld columns at opt(%lld) ends behind opt of %d values", nx, ny, table + 1, h.optLen);
+  if (record + 3 > h.optLen) host::refuse("the search record at opt(%lld) ends behind opt of %d values", record + 1, h.optLen);
+  const double* knots = h.opt + table;
+  for (long long i = 0; i + 1 < nx; ++i) {
+    if (knots[i] > knots[i + 1]) {
+      host::refuse("the abscissae of a table must ascend, got %g after %g at knot %lld", knots[i + 1], knots[i], i + 2);
+    }
+  }
+}
+
+void checkTable(const chandleNl_inout& h, const ROr& /*ro*/) {
+  checkTablePlace(h);
+  const long long columns = h.iopt[8] > 0 ? h.iopt[8] : 1;
+  checkLength(h.snlTotal, columns * h.unlLen, "snl", "the table's columns for each observed value");
+}
+
+void FuTable(chandleNl_inout* h, ROr ro) {
+  const TablePlace t = tablePlace(*h);
+  const long long queries = h->unlLen;
+  const long long results = queries * (t.ny > 0 ? t.ny : 1);
+  const long long size = static_cast<long long>(t.nx) * (1 + t.ny);
+  // The call is repeated once for each observed value. With nothing shared between its arguments, a repetition that ends with
+  // the record it began with would only repeat itself.
+  const bool apart = !overlap(h->unl, queries, h->snl, results) && !overlap(h->snl, results, h->opt, h->optLen) &&
+                     !overlap(t.table, size, t.record, 3) && !overlap(h->unl, queries, h->opt, h->optLen);
+  for (int repetition = 0; repetition < h->unlLen; ++repetition) {
+    const double before[3] = {t.record[0], t.record[1], t.record[2]};
+    vorel_LinInterp(t.table, h->unl, t.record, h->snl, t.nx, t.ny, h->unlLen, 1, nullptr, nullptr);
+    const bool settled = std::memcmp(t.record, before, sizeof before) == 0;
+    if (apart && settled) break;
+  }
+  storeForces(*h, ro);
+}
+
+}  // namespace quarn

@@ -1,0 +1,43 @@
+#include "host/convert.h"
+#include "nonlinear/laws.h"
+#include "nonlinear/state_laws.h"
+
+namespace quarn {
+
+namespace {
+
+/// First character in the lowest byte: the sum of character(k) * 256^(k-1).
+constexpr std::int64_t codeOf(const char* keyword) {
+  std::int64_t code = 0;
+  int shift = 0;
+  for (const char* c = keyword; *c; ++c, shift += 8) code |= static_cast<std::int64_t>(static_cast<unsigned char>(*c)) << shift;
+  return code;
+}
+
+constexpr LawRow row(const char* keyword, NlForceLaw law, NlLawCheck check, bool needsPages = false) {
+  return {keyword, codeOf(keyword), law, check, needsPages};
+}
+
+constexpr LawRow laws[] = {
+    row("Power", FuPower, checkPower),
+    row("Maxw", Maxw, checkMaxw),
+    row("Table", FuTable, checkTable),
+    row("Expon", FuExpon, checkExpon),
+    row("DahlC", FuDahlC, checkDahlC, true),
+    row("Clima2", Clima2, checkClima2, true),
+    row("sts", STS, checkSts),
+};
+
+static_assert(codeOf("Power") == 491328597840 && codeOf("Clima2") == 55394028842051 && codeOf("sts") == 7566451);
+
+}  // namespace
+
+const LawRow* findLaw(double opt0) {
+  const std::int64_t code = host::toInt64(opt0);
+  for (const LawRow& candidate : laws) {
+    if (candidate.code == code) return &candidate;
+  }
+  return nullptr;
+}
+
+}  // namespace quarn

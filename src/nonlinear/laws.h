@@ -1,0 +1,40 @@
+// The force laws and how "opt" selects them.
+#pragma once
+
+#include <cstdint>
+
+#include "nonlinear/nl_inout.h"
+
+namespace quarn {
+
+struct LawRow {
+  const char* keyword;
+  std::int64_t code;  ///< the keyword read as a little-endian byte string
+  NlForceLaw law;
+  NlLawCheck check;
+  bool needsPages;  ///< a two-dimensional unl is refused when the law is selected
+};
+
+/// Row of the law whose code is opt0, truncated toward zero; null if there is none.
+const LawRow* findLaw(double opt0);
+
+// Laws without states.
+void FuPower(chandleNl_inout* h, ROr ro);   ///< snl = opt[1] * pow(unl, opt[2])
+void FuExpon(chandleNl_inout* h, ROr ro);   ///< snl = opt[1] * pow(opt[2], unl)
+void FuTable(chandleNl_inout* h, ROr ro);   ///< snl interpolated in the table at opt[iopt[5]]
+
+void checkPower(const chandleNl_inout& h, const ROr& ro);
+void checkExpon(const chandleNl_inout& h, const ROr& ro);
+void checkTable(const chandleNl_inout& h, const ROr& ro);
+
+/// Where iopt[5..8] place a table and its search record in opt; refuses one that does not lie there or does not ascend.
+struct TablePlace {
+  double* table;
+  double* record;
+  int nx;
+  int ny;
+};
+TablePlace tablePlace(const chandleNl_inout& h);
+void checkTablePlace(const chandleNl_inout& h);
+
+}  // namespace quarn

@@ -1,0 +1,79 @@
+#include "nonlinear/lin_interp.h"
+
+#include <cstddef>
+
+#include "host/convert.h"
+
+namespace quarn {
+
+namespace {
+
+/// Walks from segment i, one segment at a time, to the one that holds xq. Returns nx - 1 for a query that is not below the last
+/// segment when the walk starts or arrives behind it.
+int walk(const double* X, int nx, int i, double xq) {
+  if (i < 0) i = 0;
+  for (;;) {
+    if (i < nx - 1) {
+      if (xq > X[i + 1]) {
+        ++i;
+      } else if (i >= 1 && X[i] > xq) {
+        --i;
+      } else {
+        return i;
+      }
+    } else {
+      if (nx - 1 <= 0 || !(X[nx - 2] > xq)) return nx - 1;
+      i = nx - 2;
+      if (xq > X[nx - 1]) return i;  // knots that descend: going on would walk for ever
+    }
+  }
+}
+
+double fraction(const double* X, int s, double xq) {
+  const double d = X[s + 1] - X[s];
+  return d == 0.0 ? 0.5 : (xq - X[s]) / d;
+}
+
+/// A query on coinciding knots takes the segment of length zero between them.
+int resolveJump(const double* X, int nx, int s, double xq) {
+  if (s < nx - 2 && X[s + 1] == xq && X[s + 2] == X[s + 1]) return s + 1;
+  if (s > 0 && X[s] == xq && X[s - 1] == X[s]) return s - 1;
+  return s;
+}
+
+}  // namespace
+
+void vorel_LinInterp(const double* X, const double* x, double* rec, double* out, int nx, int ny, int n, int mode, const double* X2,
+                     double* out2) {
+  for (int j = 0; j < n; ++j) {
+    const double xq = x[j];
+    const int found = walk(X, nx, host::toInt(rec[0]), xq);
+    rec[0] = found;
+    rec[1] = x[0];
+    int s = found == nx - 1 && nx >= 2 ? nx - 2 : found;
+    if (s < 0) s = 0;
+    if (ny == 0 && mode != 0) out[j] = s + 1;
+    if (nx <= 0) continue;  // no knots, no value
+    if (mode == 0) {
+      rec[2] = nx == 1 ? 1.0 : fraction(X, s, xq);
+      continue;
+    }
+    double f = 0.0;
+    if (nx > 1) {
+      s = resolveJump(X, nx, s, xq);
+      f = fraction(X, s, xq);
+    }
+    rec[2] = f;
+    const int next = nx > 1 ? s + 1 : s;
+    for (std::ptrdiff_t k = 1; k <= ny; ++k) {
+      const double* column = X + k * nx;
+      out[j + (k - 1) * n] = nx > 1 ? f * column[next] + (1.0 - f) * column[s] : column[s];
+      if (X2 && out2) {
+        const double* column2 = X2 + k * nx;
+        out2[j + (k - 1) * n] = nx > 1 ? f * column2[next] + (1.0 - f) * column2[s] : column2[s];
+      }
+    }
+  }
+}
+
+}  // namespace quarn

@@ -1,0 +1,19 @@
+// Linear table interpolation with a warm-started segment search.
+#pragma once
+
+namespace quarn {
+
+/// Interpolates n queries x in a table, without clamping: the end segments extrapolate.
+///
+/// X    table, nx rows and 1 + ny columns, column-major: abscissae in ascending order (equal neighbours are a jump, a query on
+///      it gets the mean), then the value columns
+/// rec  in-out, three doubles that survive between calls: segment of the last query (start of the next search), first query of
+///      the call, interpolation fraction of the last query
+/// out  n rows and ny columns, column-major; with ny = 0 the 1-based segment number of each query
+/// mode 0: only the record is updated
+/// X2   optional second table over the same abscissae (null: none), its values go to out2
+/// out may be x itself (the values then overwrite the queries as they are found).
+void vorel_LinInterp(const double* X, const double* x, double* rec, double* out, int nx, int ny, int n, int mode,
+                     const double* X2, double* out2);
+
+}  // namespace quarn

@@ -1,0 +1,130 @@
+#include <algorithm>
+
+#include "host/convert.h"
+#include "host/errors.h"
+#include "nonlinear/state_laws.h"
+
+namespace quarn {
+
+namespace {
+
+/// What "opt" and "iopt" say: sizes and the starts of the blocks of weights. In doubles, so that no product overflows.
+struct Layout {
+  explicit Layout(const chandleNl_inout& h) : q(h.iopt[2]), m(h.iopt[3]) {
+    const double dq = q;
+    const double dm = m;
+    Dv = Cu + (dq + dm) * dq;
+    B = Cu + 2.0 * (dq + dm) * dq;
+    A = B + dq * dm;
+    E = A + dm * dm;
+  }
+  int q;
+  int m;
+  double Cu = 5.0;
+  double Dv;
+  double B;
+  double A;
+  double E;
+};
+
+/// Refuses a block of n weights at opt[start] that "opt" does not hold.
+void requireBlock(const chandleNl_inout& h, const char* name, double start, double n) {
+  if (n <= 0.0 || (start >= 0.0 && start + n <= h.optLen)) return;
+  host::refuse("\"opt\" of law \"Maxw\" must hold values %.0f to %.0f (block %s), got %d values", start + 1.0, start + n, name, h.optLen);
+}
+
+void requireBlocks(const chandleNl_inout& h, const Layout& at) {
+  requireBlock(h, "Cu", at.Cu, at.q + 1.0);
+  requireBlock(h, "Dv", at.Dv, at.q + 1.0);
+  requireBlock(h, "B", at.B, at.q);
+  if (at.m > 0 && at.q > 0) requireBlock(h, "A", at.A, at.q + (at.m - 1.0) * at.m);
+  requireBlock(h, "E", at.E, at.q);
+}
+
+/// Values of a committed page that can be written from offset on, at most n.
+std::ptrdiff_t room(std::size_t total, std::ptrdiff_t offset, int n) {
+  return std::clamp(static_cast<std::ptrdiff_t>(total) - offset, std::ptrdiff_t{0}, static_cast<std::ptrdiff_t>(n));
+}
+
+/// One element: u, v its values in the first pages, cu, cv the committed ones 2*unlLen further on.
+/// keepRates, keepStates: how many committed rates and states the arrays hold; further ones are read by nothing.
+struct Element {
+  double* u;
+  double* v;
+  double* cu;
+  double* cv;
+  std::ptrdiff_t keepRates;
+  std::ptrdiff_t keepStates;
+};
+
+void subStep(const Element& x, const Layout& at, const double* opt, double dt, double theta) {
+  const double* B = opt + static_cast<std::ptrdiff_t>(at.B);
+  const double* A = opt + static_cast<std::ptrdiff_t>(at.A);
+  const double* E = opt + static_cast<std::ptrdiff_t>(at.E);
+  const std::ptrdiff_t q = at.q;
+  const std::ptrdiff_t m = at.m;
+  for (std::ptrdiff_t i = 1; i <= m; ++i) x.u[i] = x.cu[i] + dt * x.cv[i];
+  const double u = (1.0 - theta) * x.cu[0] + theta * x.u[0];
+  const double v = (1.0 - theta) * x.cv[0] + theta * x.v[0];
+  for (std::ptrdiff_t i = 0; i < q; ++i) {
+    double rate = B[i] * u;
+    for (std::ptrdiff_t k = 0; k < m; ++k) rate += A[i + k * m] * x.u[1 + k];
+    rate += E[i] * v;
+    x.v[1 + i] = rate;
+    if (i < x.keepRates) x.cv[1 + i] = rate;
+    if (i < x.keepStates) x.cu[1 + i] = x.u[1 + i];
+  }
+}
+
+}  // namespace
+
+void checkMaxw(const chandleNl_inout& h, const ROr& /*ro*/) {
+  constexpr const char* kNoCommitted = "Need unlj1 as last dim";
+  if (h.unlSlices < 2) host::fail(kNoCommitted);
+  requireParameters(h, "Maxw", 4);
+  if (h.ioptLen < 5) host::refuse("\"iopt\" of law \"Maxw\" must hold 5 values or more, got %d", h.ioptLen);
+  const int elements = h.iopt[4];
+  if (elements <= 0 || host::toInt(h.opt[3]) < 1) return;
+
+  const Layout at(h);
+  if (at.q < 0 && elements > 1) host::refuse("iopt(3) of law \"Maxw\" must not be negative with %d elements, got %d", elements, at.q);
+  const long long last = static_cast<long long>(elements - 1) * at.q;  // base of the last element
+  requireValues("Maxw", "snl", h.snlTotal, last + 1);
+  if (at.q < 0) return;
+  requireValues("Maxw", "unl", h.unlTotal, last + at.q + 1);
+  requireValues("Maxw", "vnl", h.vnlTotal, last + at.q + 1);
+  if (at.q > 0) {
+    const std::size_t end = static_cast<std::size_t>(2LL * h.unlLen + last + std::max(at.m, 0) + 1);
+    if (h.unlTotal < end || h.vnlTotal < end) host::fail(kNoCommitted);
+  }
+  requireBlocks(h, at);
+}
+
+void Maxw(chandleNl_inout* h, ROr ro) {
+  const double dt = timeIncrement(h, ro);
+  const int steps = host::toInt(h->opt[3]);
+  const int elements = steps >= 1 ? h->iopt[4] : 0;
+  const Layout at(*h);
+  const std::ptrdiff_t Dv = static_cast<std::ptrdiff_t>(at.Dv);
+  const std::ptrdiff_t committed = 2 * static_cast<std::ptrdiff_t>(h->unlLen);
+  for (std::ptrdiff_t e = 0; e < elements; ++e) {
+    const std::ptrdiff_t o = e * at.q;
+    for (std::ptrdiff_t s = 1; s <= steps; ++s) {
+      if (at.q > 0) {
+        const Element x{h->unl + o,
+                        h->vnl + o,
+                        h->unl + committed + o,
+                        h->vnl + committed + o,
+                        room(h->vnlTotal, committed + o + 1, at.q),
+                        room(h->unlTotal, committed + o + 1, at.q)};
+        subStep(x, at, h->opt, dt, static_cast<double>(s) / steps);
+      }
+      double force = 0.0;
+      for (std::ptrdiff_t i = 0; i <= at.q; ++i) force += h->opt[5 + i] * h->unl[o + i] + h->opt[Dv + i] * h->vnl[o + i];
+      h->snl[o] = force;
+    }
+  }
+  StoreState(h, ro);
+}
+
+}  // namespace quarn

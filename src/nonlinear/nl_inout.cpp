@@ -1,0 +1,165 @@
+#include "nonlinear/nl_inout.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "host/errors.h"
+#include "nonlinear/laws.h"
+#include "sparse/line_checks.h"
+#include "sparse/mt_kernels.h"
+
+namespace quarn {
+
+namespace {
+
+int valuesOf(std::size_t n, const char* name) {
+  if (n > 0x7fffffff) host::refuse("%s holds %zu values, expected fewer than 2^31", name, n);
+  return static_cast<int>(n);
+}
+
+/// Observed values: a page of zeros, then the product of the observation matrix.
+void observe(const SparseView& c, const double* x, double* page, int pageLen) {
+  page[0] = 0.0;
+  if (pageLen > 0) std::memset(page, 0, static_cast<std::size_t>(pageLen) * sizeof(double));
+  if (!c.pr) return;
+  const int dims[3] = {c.rows, c.cols, c.trans};
+  Prod_Mt_ub(dims, c.ir, c.jc, c.pr, x, page);
+}
+
+}  // namespace
+
+void chandleNl_inout::initCpt() {
+  b = sparseView(host::field(val, "b"), "b");
+  c = sparseView(host::field(val, "c"), "c");
+  bWork = nullptr;
+  if (b.throughObject || c.throughObject) verified = false;
+  readStates();
+  readOptions();
+}
+
+void chandleNl_inout::readStates() {
+  const mxArray* unlArray = host::field(val, "unl");
+  const host::Doubles u = pmatDoubles(unlArray, "unl");
+  unl = u.data;
+  unlTotal = u.count;
+  if (!unlArray) {
+    unlLen = 0;
+    unlSlices = 0;
+  } else if (mxGetNumberOfDimensions(unlArray) < 3) {
+    unlLen = valuesOf(host::count(unlArray), "unl");
+    unlSlices = 1;
+  } else {
+    const mwSize* dims = mxGetDimensions(unlArray);
+    unlLen = valuesOf(static_cast<std::size_t>(dims[0]) * static_cast<std::size_t>(dims[1]), "unl");
+    unlSlices = valuesOf(static_cast<std::size_t>(dims[2]), "unl");
+  }
+  const host::Doubles s = pmatDoubles(host::field(val, "snl"), "snl");
+  snl = s ? s.data : unl;
+  snlTotal = s ? s.count : unlTotal;
+  const host::Doubles w = pmatDoubles(host::field(val, "vnl"), "vnl");
+  vnl = w.data;
+  vnlTotal = w.count;
+}
+
+void chandleNl_inout::readOptions() {
+  const host::Doubles o = host::doubles(host::field(val, "opt"), "opt");
+  opt = o.data;
+  optLen = valuesOf(o.count, "opt");
+  if (!opt) host::fail("KORV:quarn:empty", "ReportEB opt");
+  const mxArray* ioptArray = host::field(val, "iopt");
+  if (ioptArray && !mxIsInt32(ioptArray)) host::fail("KORV:quarn:conform", "iopt must be int32");
+  const host::Ints io = host::int32s(ioptArray, "iopt");
+  iopt = io.data;
+  ioptLen = valuesOf(io.count, "iopt");
+
+  const LawRow* row = findLaw(opt[0]);
+  if (!row) host::fail("KORV:quarn:empty", "Unknown .opt(1) choice");
+  if (row->law == FuPower && optLen < 3) host::fail("KORV:quarn:empty", "FuPower requires 3 parameters");
+  if (row->needsPages && unlSlices == 1) host::fail("KORV:quarn:empty", "Incorrect unl");
+  law = row->law;
+  check = row->check;
+}
+
+void chandleNl_inout::Residual(ROr ro, double* r) {
+  if (vnl) observe(c, ro.v, vnl, unlLen);
+  if (unl) observe(c, ro.u, unl, unlLen);
+  law(this, ro);
+  if (snl && b.pr) {
+    const int dims[3] = {b.rows, b.cols, b.trans};
+    Add_Mt_ub(dims, b.ir, b.jc, b.pr, snl, r, bWork);
+  }
+}
+
+void chandleNl_inout::EndStep() {
+  if (unlSlices <= 1) return;
+  // The source begins twice the number of pages into the array, not two pages.
+  const long long source = 2LL * unlSlices;
+  const auto commit = [this, source](double* data, std::size_t total) {
+    if (static_cast<unsigned long long>(source) < total) {
+      const auto n = std::min<unsigned long long>(static_cast<unsigned long long>(unlLen), total - static_cast<unsigned long long>(source));
+      std::memmove(data, data + source, n * sizeof(double));
+    }
+  };
+  if (unl) commit(unl, unlTotal);
+  if (vnl) commit(vnl, vnlTotal);
+}
+
+std::int64_t chandleNl_inout::stateEnd() const { return ioptLen >= 4 ? static_cast<std::int64_t>(iopt[1]) + iopt[3] : 0; }
+
+void chandleNl_inout::checkSizes(const ROr& ro, std::size_t rLen) {
+  checkViews(ro, rLen);
+  check(*this, ro);
+  if (snl && b.pr && b.sparse() && b.trans == 1 && !bWork) {
+    bWork = static_cast<double*>(mxCalloc(static_cast<std::size_t>(std::max(b.cols, 1)), sizeof(double)));
+  }
+}
+
+void chandleNl_inout::checkViews(const ROr& ro, std::size_t rLen) {
+  if (vnl && unlLen > 0) checkLength(vnlTotal, unlLen, "vnl", "as many as a page of unl");
+  if (c.pr && (vnl || unl)) checkObservation(ro);
+  if (b.pr && snl) checkCommand(rLen);
+  verified = true;
+}
+
+void chandleNl_inout::checkObservation(const ROr& ro) {
+  if (!c.sparse()) {
+    if (vnl) checkProd(c, ro.vLen, vnlTotal, "c");
+    if (unl) checkProd(c, ro.uLen, unlTotal, "c");
+    return;
+  }
+  if (c.trans != 1) host::fail("Prod_Mt_u implemented for transposed sparse matrices");
+  if (!verified) {
+    checkLinePointers(c, c.rows, "c");
+    cLargest = largestIndex(c, c.rows, "c");
+  }
+  if (vnl) {
+    checkGather(cLargest, ro.vLen, "c", "v");
+    checkLength(vnlTotal, c.rows, "vnl", "one for each row of c");
+  }
+  if (unl) {
+    checkGather(cLargest, ro.uLen, "c", "u");
+    checkLength(unlTotal, c.rows, "unl", "one for each row of c");
+  }
+}
+
+void chandleNl_inout::checkCommand(std::size_t rLen) {
+  if (!b.sparse()) {
+    if (b.trans != 1 && b.rows > 0) host::fail("Add_Mt_u implemented for sparse matrices");
+    checkAdd(b, snlTotal, rLen, "b");
+    return;
+  }
+  if (!verified) {
+    checkLinePointers(b, b.rows, "b");
+    bLargest = largestIndex(b, b.rows, "b");
+  }
+  if (b.trans == 1) {
+    checkLength(snlTotal, b.rows, "snl", "one for each line of b");
+    checkGather(bLargest, static_cast<std::size_t>(std::max(b.cols, 0)), "b", "its own columns");
+    checkLength(rLen, b.cols, "the residual", "one for each column of b");
+  } else {
+    checkGather(bLargest, snlTotal, "b", "snl");
+    checkLength(rLen, b.rows, "the residual", "one for each line of b");
+  }
+}
+
+}  // namespace quarn

@@ -1,0 +1,73 @@
+// The nonlinear element handle: observe, apply a force law, spread the forces.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "handles/chandle.h"
+#include "host/arrays.h"
+#include "sparse/sparse_view.h"
+
+namespace quarn {
+
+class chandleNl_inout;
+
+/// A force law: reads the observed values and states in unl (and rates in vnl), writes the forces to snl and new states to unl.
+using NlForceLaw = void (*)(chandleNl_inout* h, ROr ro);
+/// Refuses what the law would read or write outside the handle's arrays.
+using NlLawCheck = void (*)(const chandleNl_inout& h, const ROr& ro);
+
+/// Input/output element. Its value is a struct; every array stays the host's, the handle borrows pointers into it:
+///   "c"    observation matrix: unl = c*u, vnl = c*v (Prod_Mt_ub)
+///   "b"    command matrix: r += b'*snl in the sense of Add_Mt_ub
+///   "unl"  observed displacements and, behind them or in further pages (third dimension), internal states
+///   "vnl"  observed velocities, optional; "snl" forces, optional (absent or empty: the forces overwrite unl)
+///   "opt"  parameters of the law, opt[0] its code; "iopt" (int32, optional) offsets and table places
+class chandleNl_inout final : public chandle {
+ public:
+  void initCpt() override;
+  void EndStep() override;
+  void Residual(ROr ro, double* r) override;
+  void checkSizes(const ROr& ro, std::size_t rLen) override;
+  std::int64_t stateEnd() const override;
+
+  SparseView c;
+  SparseView b;
+  const int* iopt = nullptr;
+  double* unl = nullptr;
+  double* vnl = nullptr;
+  double* snl = nullptr;
+  double* opt = nullptr;
+  int unlLen = 0;  ///< values in one page of unl
+  int optLen = 0;
+  int ioptLen = 0;
+  int unlSlices = 0;  ///< pages of unl; 0 when it is absent
+  NlForceLaw law = nullptr;
+  NlLawCheck check = nullptr;
+
+  // Values that the arrays hold in all.
+  std::size_t unlTotal = 0;
+  std::size_t vnlTotal = 0;
+  std::size_t snlTotal = 0;
+
+ private:
+  void readStates();
+  void readOptions();
+  void checkViews(const ROr& ro, std::size_t rLen);
+  void checkObservation(const ROr& ro);
+  void checkCommand(std::size_t rLen);
+
+  int cLargest = -1;
+  int bLargest = -1;
+  double* bWork = nullptr;  ///< work vector of the scatter, host memory of the current call
+};
+
+/// Copies forces to ro.FNL (from iopt[0] on, if not negative) and state blocks to ro.u (from iopt[1] on, if positive): for each of
+/// iopt[4] blocks the source cursor in unl passes iopt[2] values, then iopt[3] values are copied. Every block goes to the same
+/// place, so the last one remains. Called at the end of the laws with states. What falls outside an array is left out.
+void StoreState(chandleNl_inout* h, ROr ro);
+
+/// The first half of it alone, for laws without states; works without "iopt".
+void storeForces(const chandleNl_inout& h, const ROr& ro);
+
+}  // namespace quarn

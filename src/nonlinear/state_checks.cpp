@@ -1,0 +1,18 @@
+#include "host/errors.h"
+#include "nonlinear/state_laws.h"
+
+namespace quarn {
+
+void requireParameters(const chandleNl_inout& h, const char* law, int n) {
+  if (h.optLen < n) host::refuse("\"opt\" of law \"%s\" must hold %d values or more, got %d", law, n, h.optLen);
+  const int needed = h.ioptLen > 1 && h.iopt[1] <= 0 ? 2 : 5;
+  if (h.ioptLen < needed) host::refuse("\"iopt\" of law \"%s\" must hold %d values or more, got %d", law, needed, h.ioptLen);
+}
+
+void requireValues(const char* law, const char* name, std::size_t have, long long need) {
+  if (need > 0 && have < static_cast<unsigned long long>(need)) {
+    host::refuse("\"%s\" of law \"%s\" must hold %lld values or more, got %zu", name, law, need, have);
+  }
+}
+
+}  // namespace quarn

@@ -1,0 +1,38 @@
+// Transposed sum and product of a small matrix with a vector.
+//
+// In terms of the operator M that a view stands for: Add accumulates M'*u, Prod forms M*u. The asymmetry is intended: Add
+// takes sparse views in both orientations, Prod only those flagged trans = 1, whose stored lines are the rows of M.
+#pragma once
+
+#include "sparse/sparse_view.h"
+
+namespace quarn {
+
+/// Accumulates into y (in-out).
+///   sparse, trans != 1: y[i] += line i . u                       for i < rows
+///   sparse, trans = 1:  y[j] += sum of u[i] * line i, formed in a work vector of cols values first
+///   dense,  trans = 1:  y[j] += pr[j] * u[0]                     for j < cols, a single row, whatever rows says
+///   dense,  trans != 1: raises "Add_Mt_u implemented for sparse matrices" if rows > 0
+/// dims = {rows, cols, trans}. The work vector is host memory that is freed before returning.
+void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, const double* u, double* y);
+
+/// The same with a work vector of the caller (cols values, contents lost), for callers that run many times.
+void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, const double* u, double* y, double* work);
+
+/// Product into y.
+///   dense:              y = A*u, overwrites y (rows values)
+///   sparse, trans = 1:  y[i] += line i . u, accumulates (the caller zeroes y)
+///   sparse, trans != 1: raises "Prod_Mt_u implemented for transposed sparse matrices"
+void Prod_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, const double* u, double* y);
+
+/// The same on a matrix argument in any form that sparseView takes, with u and y checked against its size. No matrix adds
+/// nothing.
+void Add_Mt_u(const mxArray* M, host::Doubles u, host::Doubles y, const char* name);
+void Prod_Mt_u(const mxArray* M, host::Doubles u, host::Doubles y, const char* name);
+
+/// Refuses a view with which the kernel above would leave u or y. largest is the view's largest index, if it is known.
+/// A combination that the kernel itself raises an error for passes: the kernel is the one to say so.
+void checkAdd(const SparseView& v, std::size_t uLen, std::size_t yLen, const char* name);
+void checkProd(const SparseView& v, std::size_t uLen, std::size_t yLen, const char* name);
+
+}  // namespace quarn

@@ -1,0 +1,97 @@
+#include "sparse/sp_tbb.h"
+
+#include <oneapi/tbb/blocked_range.h>
+#include <oneapi/tbb/global_control.h>
+#include <oneapi/tbb/parallel_for.h>
+#include <oneapi/tbb/task_arena.h>
+
+#include <atomic>
+
+#include "sparse/blas.h"
+
+namespace quarn {
+
+namespace {
+
+constexpr int threads = 8;
+constexpr int grain = 1000;  // lines; a range of at most that many is never split
+
+std::atomic<bool> workersStarted{false};
+
+using Lines = tbb::blocked_range<int>;
+
+/// Body of the parallel loop: five borrowed pointers, copied into every task.
+struct iSparseMatVec {
+  const double* val;
+  double* y;
+  const double* x;
+  const int* jc;
+  const int* ir;
+
+  void operator()(const Lines& lines) const {
+    for (int i = lines.begin(); i < lines.end(); ++i) {
+      const int k0 = jc[i];
+      y[i] += cblas_ddoti(jc[i + 1] - k0, val + k0, ir + k0, x);
+    }
+  }
+};
+
+/// The same for indices that nothing has looked at yet: while the line is in cache anyway.
+struct TestedSparseMatVec {
+  iSparseMatVec product;
+  unsigned xLen;
+  std::atomic<int>* badLine;
+
+  void operator()(const Lines& lines) const {
+    for (int i = lines.begin(); i < lines.end(); ++i) {
+      const int k0 = product.jc[i];
+      const int k1 = product.jc[i + 1];
+      unsigned outside = 0;
+      for (int k = k0; k < k1; ++k) outside |= static_cast<unsigned>(product.ir[k]) >= xLen ? 1U : 0U;
+      if (outside != 0) {
+        badLine->store(i, std::memory_order_relaxed);
+      } else {
+        product.y[i] += cblas_ddoti(k1 - k0, product.val + k0, product.ir + k0, product.x);
+      }
+    }
+  }
+};
+
+template <class Body>
+void forLines(int n, const Body& body) {
+  if (n <= 0) return;
+  const Lines all(0, n, grain);
+  if (!all.is_divisible()) {
+    body(all);
+    return;
+  }
+  workersStarted.store(true, std::memory_order_relaxed);
+  tbb::global_control control(tbb::global_control::max_allowed_parallelism, threads);
+  tbb::task_arena arena(threads);
+  arena.execute([&] {
+    tbb::task_group_context context;
+    tbb::parallel_for(all, body, tbb::auto_partitioner(), context);
+  });
+}
+
+}  // namespace
+
+void SparseMatVec(double* y, const double* x, const double* val, const int* ir, const int* jc, int n) {
+  if (!val) return;
+  forLines(n, iSparseMatVec{val, y, x, jc, ir});
+}
+
+int SparseMatVecTested(double* y, const double* x, const double* val, const int* ir, const int* jc, int n, unsigned xLen) {
+  if (!val) return -1;
+  std::atomic<int> badLine{-1};
+  forLines(n, TestedSparseMatVec{{val, y, x, jc, ir}, xLen, &badLine});
+  return badLine.load();
+}
+
+void endSparseWorkers() noexcept {
+  if (!workersStarted.exchange(false)) return;
+  tbb::task_scheduler_handle handle{tbb::attach{}};
+  tbb::finalize(handle, std::nothrow);
+}
+
+}  // namespace quarn

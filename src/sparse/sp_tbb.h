@@ -1,0 +1,19 @@
+// Parallel sparse matrix-vector product.
+#pragma once
+
+namespace quarn {
+
+/// y[i] += sum of val[k] * x[ir[k]], k = jc[i] ... jc[i+1]-1, for the lines i = 0 ... n-1: one cblas_ddoti a line, lines in
+/// parallel on 8 threads whatever the core count. y (in-out) must not overlap x. A null val is an absent matrix: nothing
+/// happens. The same bits as the serial loop. Trusts its arguments.
+void SparseMatVec(double* y, const double* x, const double* val, const int* ir, const int* jc, int n);
+
+/// The same on a matrix that has not been looked at: each line's indices are tested against xLen where they are read. A line with
+/// an index outside adds nothing; the number of one such line (0-based) is returned, -1 if there was none. The line pointers
+/// must have been checked.
+int SparseMatVecTested(double* y, const double* x, const double* val, const int* ir, const int* jc, int n, unsigned xLen);
+
+/// Ends the worker threads, if any were started. For the module's exit: unloading the module while they live crashes the host.
+void endSparseWorkers() noexcept;
+
+}  // namespace quarn

@@ -1,0 +1,100 @@
+#include "sparse/sparse_view.h"
+
+#include <cstdint>
+#include <cstring>
+#include <limits>
+
+#include "host/convert.h"
+#include "host/errors.h"
+
+namespace quarn {
+
+namespace {
+
+SparseView denseView(const mxArray* a, const char* name) {
+  SparseView v;
+  const host::Doubles data = host::doubles(a, name);
+  v.pr = data.data;
+  v.prLen = data.count;
+  v.rows = host::rows(a);
+  v.cols = host::cols(a);
+  return v;
+}
+
+void readDims(const mxArray* a, const char* name, SparseView& v) {
+  if (const mxArray* dims = host::field(a, "dims")) {
+    const host::Doubles d = host::doubles(dims, "field \"dims\"");
+    if (d.count < 2) host::refuse("%s.dims must hold 2 values (rows, cols), got %zu", name, d.count);
+    v.rows = host::toInt(d.data[0]);
+    v.cols = host::toInt(d.data[1]);
+    return;
+  }
+  const mxArray* jc = host::field(a, "jc");
+  if (!jc) host::refuse("%s needs a field \"dims\" or a column \"jc\" to give its size, got neither", name);
+  v.rows = v.cols = host::rows(jc) - 1;
+}
+
+SparseView structView(const mxArray* a, const char* name) {
+  SparseView v;
+  const mxArray* pr = host::field(a, "pr");
+  if (!pr) return v;
+  const host::Doubles values = host::doubles(pr, "field \"pr\"");
+  const host::Ints ir = host::int32s(host::field(a, "ir"), "field \"ir\"");
+  const host::Ints jc = host::int32s(host::field(a, "jc"), "field \"jc\"");
+  v.pr = values.data;
+  v.prLen = values.count;
+  v.ir = ir.data;
+  v.irLen = ir.count;
+  v.jc = jc.data;
+  v.jcLen = jc.count;
+  const mxArray* trans = host::field(a, "trans");
+  if (host::count(trans) > 0 && host::number(trans, "field \"trans\"") != 0.0) v.trans = 1;
+  readDims(a, name, v);
+  return v;
+}
+
+}  // namespace
+
+SparseView sparseView(const mxArray* a, const char* name) {
+  bool throughObject = false;
+  if (host::isClass(a, "v_handle")) {
+    a = host::objectField(a, "file");
+    if (!a) host::refuse("%s is a v_handle object without a field \"file\"", name);
+    throughObject = true;
+  }
+  if (!a) return {};
+  if (mxIsSparse(a)) host::fail("ir must be int32");
+  SparseView v = mxIsStruct(a) ? structView(a, name) : denseView(a, name);
+  v.throughObject = throughObject;
+  return v;
+}
+
+void korv_mkl_get_sparse(const mxArray* a, void** ptrs, int* dims) {
+  const SparseView v = sparseView(a, "the matrix");
+  ptrs[0] = v.ir;
+  ptrs[1] = v.jc;
+  ptrs[2] = v.pr;
+  dims[2] = v.trans;
+  if (!v.pr && v.rows == 0 && v.cols == 0) return;
+  dims[0] = v.rows;
+  dims[1] = v.cols;
+}
+
+host::Doubles pmatDoubles(const mxArray* a, const char* name) {
+  const bool builtIn = !a || mxIsNumeric(a) || mxIsChar(a) || mxIsLogical(a) || mxIsStruct(a) || mxIsCell(a) || mxIsFunctionHandle(a);
+  if (builtIn) return host::doubles(a, name);
+  const mxArray* address = host::objectField(a, "c");
+  const bool word = address && mxIsNumeric(address) && !mxIsSparse(address) &&
+                    host::count(address) * static_cast<std::size_t>(mxGetElementSize(address)) >= sizeof(std::uint64_t);
+  if (!word) {
+    host::refuse("%s is an object of class %.60s whose property \"c\" holds no 64-bit address", name, mxGetClassName(a));
+  }
+  std::uint64_t bits = 0;
+  std::memcpy(&bits, mxGetData(address), sizeof bits);
+  auto* data = reinterpret_cast<double*>(static_cast<std::uintptr_t>(bits));
+  return {data, data ? std::numeric_limits<std::size_t>::max() : 0};
+}
+
+double* pmatGetPr(const mxArray* a) { return pmatDoubles(a, "the array").data; }
+
+}  // namespace quarn

@@ -1,0 +1,182 @@
+% "chandleget" with a function: calls on a handle's value; and what the handle commands refuse.
+function tests = suite_registry_calls ()
+  tests = localfunctions ();
+end
+
+function test_a_function_is_called_on_the_value ()
+  h = quarn ('chandleset', 1, [3 1 2]);
+  expect_equal (quarn ('chandleget', 'sort', h), [1 2 3]);
+  expect_equal (quarn ('chandleget', @max, h), 3);
+  expect_equal (quarn ('chandleget', @(v) {v, 'wrapped'}, h), {[3 1 2], 'wrapped'});
+end
+
+function test_extra_arguments_follow_the_value ()
+  h = quarn ('chandleset', 1, struct ('pr', 7));
+  expect_equal (quarn ('chandleget', 'getfield', h, 'pr'), 7);
+  expect_equal (quarn ('chandleget', @(v, a, b) {v.pr, a, b}, h, 'x', {2}), {7, 'x', {2}});
+end
+
+function test_all_outputs_are_returned ()
+  h = quarn ('chandleset', 1, [3 1 2]);
+  [sorted, order] = quarn ('chandleget', 'sort', h, 'descend');
+  expect_equal (sorted, [3 2 1]);
+  expect_equal (order, [1 3 2]);
+end
+
+function test_nine_inputs_are_taken_and_ten_are_too_many ()
+  h = quarn ('chandleset', 1, 'value');
+  expect_equal (quarn ('chandleget', @collect, h, 1, 2, 3, 4, 5, 6), {'value', 1, 2, 3, 4, 5, 6});
+  expect_refused (@() quarn ('chandleget', @collect, h, 1, 2, 3, 4, 5, 6, 7), 'varargin too large', 'KORV:quarn:WrongSize');
+  expect_refused (@() quarn ('chandleget', @collect, h, 1, 2, 3, 4, 5, 6, 7, 8), 'varargin too large', 'KORV:quarn:WrongSize');
+end
+
+function test_a_missing_handle_is_reported_before_too_many_inputs ()
+  clear quarn
+  expect_error (@() quarn ('chandleget', @collect, 3, 1, 2, 3, 4, 5, 6, 7), 'KORV:quarn:NonHandle', 'Handle does not exist');
+  expect_equal (quarn ('chandleget'), 3);
+end
+
+function test_an_error_of_the_function_keeps_its_identifier_and_message ()
+  h = quarn ('chandleset', 1, 5);
+  expect_refused (@() quarn ('chandleget', @(v) error ('solver:diverged', 'step %d of run %s', v, 'A'), h), 'step 5 of run A', ...
+                  'solver:diverged');
+  expect_refused (@() quarn ('chandleget', @(v) error ('without an identifier'), h), 'without an identifier');
+  expect_equal (quarn ('chandleget', h), 5);
+end
+
+function test_a_function_without_an_output_may_be_called_for_none ()
+  h = quarn ('chandleset', 1, 5);
+  quarn ('chandleget', @no_output, h);
+  quarn ('chandleget', @returns_none, h);
+  expect_equal (quarn ('chandleget', h), 5);
+end
+
+function test_a_function_that_returns_nothing_where_an_output_is_asked_is_an_error ()
+  h = quarn ('chandleset', 1, 5);
+  functions = {@no_output, @returns_none, @unset_output};
+  for k = 1:numel (functions)
+    raised = false;
+    try
+      out = quarn ('chandleget', functions{k}, h);
+    catch
+      raised = true;
+    end
+    expect_equal (raised, true);
+    expect_equal (quarn ('chandleget', h), 5);
+  end
+end
+
+function test_what_cannot_be_called_is_an_error ()
+  h = quarn ('chandleset', 1, 5);
+  values = {[], 5, {}, struct('x', 1), true, 'no_such_function_anywhere', '', chandle(0), v_handle(1), containers.Map(), speye(2)};
+  for k = 1:numel (values)
+    raised = false;
+    try
+      quarn ('chandleget', values{k}, h);
+    catch
+      raised = true;
+    end
+    expect_equal (raised, true);
+    expect_equal (quarn ('chandleget', h), 5);
+  end
+end
+
+function test_a_function_may_use_the_module_itself ()
+  h = quarn ('chandleset', 1, 5);
+  inner = quarn ('chandleget', @(v) quarn ('chandleset', 1, v + 1), h);
+  expect_equal (quarn ('chandleget', inner), 6);
+  expect_equal (quarn ('chandleget', @(v) quarn ('chandleget', @(w) v * w, inner), h), 30);
+end
+
+function test_a_function_may_free_the_handle_it_is_called_on ()
+  h = quarn ('chandleset', 1, {'still', 'here'});
+  expect_equal (quarn ('chandleget', @(v) clear_and_return (v, h), h), {'still', 'here'});
+  expect_error (@() quarn ('chandleget', h), 'KORV:quarn:NonHandle', 'Handle does not exist');
+  h = quarn ('chandleset', 1003, {'still', 'here'});
+  expect_equal (quarn ('chandleget', @(v) clear_and_return (v), h), {'still', 'here'});
+end
+
+function test_a_refusal_after_a_nested_call_names_its_own_command ()
+  h = quarn ('chandleset', 1, 5);
+  expect_refused (@() quarn ('chandleget', @(v) quarn ('tbbp'), h), '~^quarn tbbp : ');
+  expect_refused (@() quarn ('chandleget', [], h, @(v) quarn ('omp')), '~.');
+end
+
+function test_a_call_does_not_let_the_function_change_the_handle ()
+  h = quarn ('chandleset', 1, struct ('pr', [1; 2; 3]));
+  got = quarn ('chandleget', @changed, h);
+  expect_equal (got.pr, [2; 3; 4]);
+  expect_equal (quarn ('chandleget', h), struct ('pr', [1; 2; 3]));
+end
+
+function test_setting_without_a_value_is_refused_and_leaves_the_counter ()
+  clear quarn
+  expect_error (@() quarn ('chandleset'), '', '~^quarn chandleset : ');
+  expect_error (@() quarn ('chandleset', 1), '', '~^quarn chandleset : ');
+  expect_equal (quarn ('chandleset', 1, 5), 0);
+end
+
+function test_type_codes_that_are_no_numbers_are_refused ()
+  values = {[], {}, {1}, '', struct('x', 1), @sin, sparse(1), chandle(1), v_handle(1), containers.Map()};
+  for k = 1:numel (values)
+    expect_refused (@() quarn ('chandleset', values{k}, 5), '~^quarn chandleset : ');
+  end
+end
+
+function test_indices_that_are_no_numbers_are_refused ()
+  values = {[], {}, {1}, '', struct('x', 1), @sin, sparse(1), chandle(1), v_handle(1), containers.Map()};
+  for k = 1:numel (values)
+    expect_refused (@() quarn ('chandleget', values{k}), '~^quarn chandleget : ');
+    expect_refused (@() quarn ('chandleget', @isempty, values{k}), '~^quarn chandleget : ');
+  end
+  values = {{1}, struct('x', 1), @sin, sparse(1), chandle(1), v_handle(1), containers.Map()};
+  for k = 1:numel (values)
+    expect_refused (@() quarn ('chandleclear', values{k}), '~^quarn chandleclear : ');
+  end
+end
+
+function test_handle_commands_survive_arguments_of_every_kind ()
+  values = hostile_values ();
+  for k = 1:numel (values)
+    for other = [1 7 20 36 50 numel(values)]
+      survives ('chandleset', values{k}, values{other});
+      survives ('chandleget', values{k}, values{other});
+    end
+    survives ('chandleset', 1, values{k});
+    survives ('chandleget', values{k});
+    survives ('chandleget', @isempty, values{k});
+    survives ('chandleclear', values{k});
+    survives ('chandleclear', values{k}, 1);
+  end
+end
+
+function survives (word, varargin)
+  try
+    quarn (word, varargin{:});
+  catch err
+    if isempty (err.message), error ('quarn %s ended without a message', word); end
+  end
+  h = quarn ('chandleset', 1, {'alive'});
+  expect_equal (quarn ('chandleget', h), {'alive'});
+end
+
+function all = collect (varargin)
+  all = varargin;
+end
+
+function no_output (v)
+end
+
+function varargout = returns_none (v)
+end
+
+function out = unset_output (v)
+end
+
+function v = clear_and_return (v, varargin)
+  quarn ('chandleclear', varargin{:});
+end
+
+function v = changed (v)
+  add_one (v.pr);
+end

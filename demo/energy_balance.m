@@ -6,8 +6,8 @@
 % Output  E             struct of rows [J]: kinetic, strain, potential, damped, work, and their residual
 %                       kinetic + strain + potential + damped - work; v_end, the modal velocities at the end
 %
-% Average acceleration means dq = h (v1 + v2) / 2 for every step, which gives the velocities from the displacements without an
-% error of approximation. Work and dissipation are summed as mean force times dq. Integrated so, a linear run balances to
+% Average acceleration means dq = h (v1 + v2) / 2 for every step, which gives the velocities from the displacements without
+% an error of approximation. Work and dissipation are summed as mean force times dq. Integrated so, a linear run balances to
 % rounding, whatever the step; what is left in a run with contacts is the error made in the nonlinear forces.
 function e = energy_balance (modes, t, ag, q, potential)
   n_time = numel (t);

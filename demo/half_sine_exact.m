@@ -2,12 +2,14 @@
 %
 % Solves  q'' + 2 ZETA W q' + W^2 q = LOAD * AMP * sin (pi t / TD)  for t <= TD,  = 0 afterwards, starting at rest.
 %
-% Input   W, LOAD  columns, one value a mode (W [rad/s]); ZETA damping ratio below 1; AMP amplitude and TD duration of the pulse
+% Input   W, LOAD  columns, one value a mode (W [rad/s])
+%         ZETA     damping ratio, below 1
+%         AMP, TD  amplitude and duration of the pulse [s]
 %         T        row of times [s]
 % Output  Q        one row a mode, one column a time
 %
-% While the pulse lasts: forced vibration Im (X e^(i pi t/TD)) plus the free vibration that starts at rest. Afterwards: the free
-% vibration from the state that the pulse leaves behind.
+% While the pulse lasts: forced vibration Im (X e^(i pi t/TD)) plus the free vibration that makes it start at rest. Afterwards:
+% the free vibration from the state that the pulse leaves behind.
 function q = half_sine_exact (w, zeta, load, amp, td, t)
   n = numel (w);
   q = zeros (n, numel (t));

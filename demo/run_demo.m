@@ -1,15 +1,19 @@
 % The main job on realistic input: a steel frame on a shaken base, with a stop that it hits and a cubic brace.
 %
 % Run it with scripts/demo, which builds the module first, or from MATLAB or Octave with the module on the path. Environment:
-% QUARN_DEMO_QUICK=1 takes fewer and longer steps, QUARN_DEMO_OUT names the folder for pictures and results (default: here).
+% QUARN_DEMO_QUICK=1 takes fewer and longer steps, QUARN_DEMO_OUT names the folder for pictures and results (default: the
+% current one).
 %
-% It assembles a finite-element model, reduces it to 40 modes, runs it without and with the stop and the brace - each run one call
-% of the module - and checks itself: the run without contacts against the exact modal solution, the run with contacts against
-% its own energy balance. It ends with an error when a check fails.
+% It assembles a finite-element model, reduces it to 40 modes, runs it without and with the stop and the brace - each run one
+% call of the module - and checks itself: the run without contacts against the exact modal solution, the run with contacts
+% against its own energy balance. It ends with an error when a check fails.
+%
+% The frame stays elastic: 2 % modal damping is all that takes energy out of it. The shock is a half sine of
+% 8 m/s^2 over 50 ms. The stop stands 15 mm beside the roof: 2 mm of padding of 10 kN/mm, then 100 kN/mm.
 here = fileparts (mfilename ('fullpath'));
 addpath (here, fullfile (here, '..', 'toolbox'));
 out_dir = getenv ('QUARN_DEMO_OUT');
-if isempty (out_dir), out_dir = here; end
+if isempty (out_dir), out_dir = pwd (); end
 
 n_step = 200000;
 duration = 8;
@@ -23,7 +27,7 @@ brace = struct ('k', 5e9, 'p', 3);
 
 say ('assembling the frame');
 frame = frame_model ();
-say ('%d beam elements, %d nodes, %d degrees of freedom, %.1f t', frame.n_element, frame.n_node, rows (frame.k), frame.mass / 1e3);
+say ('%d beam elements, %d nodes, %d degrees of freedom, %.1f t', frame.n_element, frame.n_node, size (frame.k, 1), frame.mass / 1e3);
 
 say ('reducing it to its first 40 modes');
 [phi, w] = first_modes (frame.k, frame.m, 40);
@@ -57,6 +61,7 @@ good = run_checks (modes, h, pulse, stop, roof, free, exact, hit, e_free, e);
 
 contacts = contact_events (t, hit.f(1, :));
 fprintf ('\nContacts with the stop: %d\n', numel (contacts));
+if isempty (contacts), error ('demo: the frame never touched its stop'); end
 for c = contacts
   fprintf ('  from %6.4f s, %5.1f ms long, peak force %5.1f kN\n', c.start, 1e3 * c.duration, c.peak / 1e3);
 end

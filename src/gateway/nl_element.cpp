@@ -34,12 +34,11 @@ const mxArray* NlElement::force() const {
   return snl ? snl : field("unl");
 }
 
-long long NlElement::pages() const {
-  return mxGetNumberOfDimensions(data) > 2 ? static_cast<long long>(mxGetDimensions(data)[2]) : 1;
-}
+long long NlElement::pages() const { return mxGetNumberOfDimensions(data) > 2 ? static_cast<long long>(mxGetDimensions(data)[2]) : 1; }
 
 NlElement nlElement(const mxArray* NL, int listRows, int j) {
-  if (host::cols(NL) < 3) host::refuse("model.NL must have 3 columns, the third with the element structures, got %s", host::describe(NL).text);
+  if (host::cols(NL) < 3)
+    host::refuse("model.NL must have 3 columns, the third with the element structures, got %s", host::describe(NL).text);
   const mxArray* e = host::cell(NL, static_cast<std::size_t>(j) + 2 * static_cast<std::size_t>(listRows));
   if (e && !mxIsStruct(e)) host::refuse("NL{%d,3} must be a struct, got %s", j + 1, host::describe(e).text);
   return {e, j};
@@ -56,7 +55,7 @@ NlLaw nlLaw(const NlElement& e) {
   }
   char* word = mxArrayToString(type);
   if (!word) return NlLaw::nothing;
-  const NlLaw law = word[0] == '\0'                      ? NlLaw::nothing
+  const NlLaw law = word[0] == '\0'                       ? NlLaw::nothing
                     : std::strcmp(word, "rotcenter") == 0 ? NlLaw::rotcenter
                     : std::strcmp(word, "mocirc2") == 0   ? NlLaw::mocirc2
                                                           : NlLaw::hapsel;

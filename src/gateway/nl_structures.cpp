@@ -11,23 +11,34 @@ namespace {
 
 void checkLaw(const NlCall& call, const NlElement& e, NlLaw law) {
   switch (law) {
-    case NlLaw::functionHandle: return checkHandleLaw(call, e);
+    case NlLaw::functionHandle:
+      return checkHandleLaw(call, e);
     case NlLaw::callable:
-    case NlLaw::hapsel: return checkCallableLaw(call, e);
-    case NlLaw::rotcenter: return checkRotCenter(call, e);
-    case NlLaw::mocirc2: return checkMocirc2(call, e);
-    case NlLaw::nothing: return;
+    case NlLaw::hapsel:
+      return checkCallableLaw(call, e);
+    case NlLaw::rotcenter:
+      return checkRotCenter(call, e);
+    case NlLaw::mocirc2:
+      return checkMocirc2(call, e);
+    case NlLaw::nothing:
+      return;
   }
 }
 
 void addLaw(const NlCall& call, const NlElement& e, NlLaw law) {
   switch (law) {
-    case NlLaw::functionHandle: return addHandleLaw(call, e);
-    case NlLaw::callable: return addCallableLaw(call, e);
-    case NlLaw::hapsel: return addHapselLaw(call, e);
-    case NlLaw::rotcenter: return addRotCenter(call, e);
-    case NlLaw::mocirc2: return runMocirc2(call, e);
-    case NlLaw::nothing: return;
+    case NlLaw::functionHandle:
+      return addHandleLaw(call, e);
+    case NlLaw::callable:
+      return addCallableLaw(call, e);
+    case NlLaw::hapsel:
+      return addHapselLaw(call, e);
+    case NlLaw::rotcenter:
+      return addRotCenter(call, e);
+    case NlLaw::mocirc2:
+      return runMocirc2(call, e);
+    case NlLaw::nothing:
+      return;
   }
 }
 

@@ -28,13 +28,13 @@ struct ForceTable {
 
 /// The second column of the element's "Cell" and its tables. Borrowed.
 struct RotCenter {
-  double rotation = 0.0;       ///< row 1: 1-based number of the rotation DOF
-  const double* R0 = nullptr;  ///< row 2: base rotation, 3 x 3
-  const double* p = nullptr;   ///< row 3: point A [length]
-  const double* q = nullptr;   ///< row 4: point B [length]
-  PointDofs A, B;              ///< rows 5 to 8, where the cell has 14 rows or fewer
-  const double* w = nullptr;   ///< row 10: velocity of A per unit rotation speed [length]
-  const int* store = nullptr;  ///< row 11: 0-based positions of the forces in "FNL"; null where the cell has no such row
+  double rotation = 0.0;          ///< row 1: 1-based number of the rotation DOF
+  const double* R0 = nullptr;     ///< row 2: base rotation, 3 x 3
+  const double* p = nullptr;      ///< row 3: point A [length]
+  const double* q = nullptr;      ///< row 4: point B [length]
+  PointDofs A, B;                 ///< rows 5 to 8, where the cell has 14 rows or fewer
+  const double* w = nullptr;      ///< row 10: velocity of A per unit rotation speed [length]
+  const int* store = nullptr;     ///< row 11: 0-based positions of the forces in "FNL"; null where the cell has no such row
   const mxArray* obsA = nullptr;  ///< row 15 and
   const mxArray* obsB = nullptr;  ///< row 17: observation matrices of A and B, where the cell has 15 rows or more; else null
   ForceTable fu, fv;

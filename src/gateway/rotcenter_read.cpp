@@ -27,7 +27,9 @@ struct Parameters {
   int m;
 
   /// Element k (1-based) of the column; null where it is unset or empty.
-  const mxArray* at(int k) const { return k <= m ? host::cell(cell, static_cast<std::size_t>(m) + static_cast<std::size_t>(k) - 1) : nullptr; }
+  const mxArray* at(int k) const {
+    return k <= m ? host::cell(cell, static_cast<std::size_t>(m) + static_cast<std::size_t>(k) - 1) : nullptr;
+  }
 
   const mxArray* needed(int k) const {
     const mxArray* a = at(k);

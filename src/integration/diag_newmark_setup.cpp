@@ -64,7 +64,7 @@ void chandleDiagNewmark::bindOutputs(const mxArray* out) {
   jSave = 0;
   const mxArray* times = host::field(out, "data");
   saveTimes = host::doubles(times, "the save times");
-  NSave = host::rows(times);
+  NSave = saveTimes ? host::rows(times) : 0;
   const mxArray* saved = host::field(out, "def");
   def = host::doubles(saved, "the output def");
   Ndef = saved ? host::rows(saved) : N;
@@ -73,7 +73,7 @@ void chandleDiagNewmark::bindOutputs(const mxArray* out) {
   const mxArray* storeOut = host::field(out, "FNL");
   const mxArray* storeOutTimes = host::field(storeOut, "data");
   storeTimes = host::doubles(storeOutTimes, "the save times of FNL");
-  NFNLSave = host::rows(storeOutTimes);
+  NFNLSave = storeTimes ? host::rows(storeOutTimes) : 0;
   storeDef = host::doubles(host::field(storeOut, "def"), "the output def of FNL");
 }
 

@@ -1,0 +1,181 @@
+% The options of the nonlinear element: selection of the law, stores into the force vector and the state, the end of a step, refusals.
+function tests = suite_element_options ()
+  tests = localfunctions ();
+end
+
+function e = element (opt)
+  e = spring_element (1, 1, 2, opt);
+end
+
+function refused (e, id, text)
+  expect_refused (@() evaluate_law (e, [1; 2], [3; 4]), text, id);
+end
+
+function test_missing_parameters ()
+  e = element ([1 2]);
+  refused (rmfield (e, 'opt'), 'KORV:quarn:empty', 'ReportEB opt');
+  e.opt = [];
+  refused (e, 'KORV:quarn:empty', 'ReportEB opt');
+  e.iopt = 1;
+  refused (e, 'KORV:quarn:empty', 'ReportEB opt');
+end
+
+function test_integer_options_must_be_int32 ()
+  e = element ([law_code('Power') 1 1]);
+  for wrong = {1, int64(1), 'a', {1}}
+    e.iopt = wrong{1};
+    refused (e, 'KORV:quarn:conform', 'iopt must be int32');
+  end
+  e.opt = 1;
+  refused (e, 'KORV:quarn:conform', 'iopt must be int32');
+end
+
+function test_power_needs_three_parameters ()
+  code = law_code ('Power');
+  refused (element (code), 'KORV:quarn:empty', 'FuPower requires 3 parameters');
+  refused (element ([code 2]), 'KORV:quarn:empty', 'FuPower requires 3 parameters');
+  got = evaluate_law (element ([code 2 3]), [2; 0], [0; 0]);
+  expect_equal (got.snl, 16);
+end
+
+function test_laws_with_pages_refuse_a_flat_state ()
+  for word = {'DahlC', 'Clima2'}
+    refused (element ([law_code(word{1}) ones(1, 20)]), 'KORV:quarn:empty', 'Incorrect unl');
+  end
+end
+
+function test_unknown_codes ()
+  sts = law_code ('sts');
+  for code = {0, 1, NaN, Inf, -Inf, -sts, 1e300, sts - 0.5, sts + 1, law_code('power'), law_code('STS'), law_code('FuFric')}
+    refused (element ([code{1} 1 1 1 1 1 1]), 'KORV:quarn:empty', 'Unknown .opt(1) choice');
+  end
+end
+
+function test_code_is_truncated ()
+  expect_equal (law_code ('Power'), 491328597840);
+  got = evaluate_law (element ([law_code('Power') + 0.75, 2, 3]), [2; 0], [0; 0]);
+  expect_equal (got.snl, 16);
+end
+
+% One step of a run with the element alone; states in rows of u behind the single mode.
+function [run, got] = one_step (e, ndof, fnl)
+  [integrator, mem, out] = newmark_setup (1, 0, 0, 1, [0 0], 0.5, 0.25, 0.5, 2, ndof);
+  run = struct ('model', struct ('FNL', -ones (fnl, 1)), 'u', (1:ndof)' * 1.5, 'v', -(1:ndof)' * 0.5, 'a', zeros (ndof, 1), 'opt', [0 0]);
+  run.mem = mem;
+  run.out = out;
+  run.list = {integrator, e};
+  run = fresh (run);
+  got = same_as_model (run);
+end
+
+function test_forces_go_into_the_force_store ()
+  for offset = [0 2]
+    e = spring_element (1, 1, 2, [law_code('Power') 2 1], int32 (offset));
+    [run, got] = one_step (e, 2, 4);
+    wanted = -ones (4, 1);
+    wanted(offset + 1) = got.list{2}.snl;
+    expect_equal (got.model.FNL, wanted);
+  end
+end
+
+function test_negative_offset_or_no_options_suppress_the_store ()
+  e = spring_element (1, 1, 2, [law_code('Power') 2 1], int32 (-1));
+  [run, got] = one_step (e, 2, 4);
+  expect_equal (got.model.FNL, -ones (4, 1));
+  [run, got] = one_step (rmfield (e, 'iopt'), 2, 4);
+  expect_equal (got.model.FNL, -ones (4, 1));
+end
+
+function test_force_store_behind_its_end_is_left_out ()
+  e = spring_element (1, 1, 2, [law_code('Power') 2 1], int32 (4));
+  [run, got] = one_step (e, 2, 4);
+  expect_equal (got.model.FNL, -ones (4, 1));
+end
+
+function test_every_state_block_goes_to_the_same_place ()
+  % Two pairs: observed in rows 1 and 3, states (equal to the forces) in rows 2 and 4; each block is one value
+  % behind one skipped value.
+  e = state_element ('DahlC', [0.5 10 1 4 2], [-1 5 1 1 2], 4, 2);
+  e.c = csc ([eye(4) zeros(4, 3)], true);
+  e.b = e.c;
+  [run, got] = one_step (e, 7, 0);
+  forces = got.list{2}.snl;
+  expect_equal (got.u(6), forces(3));
+  expect_equal (got.u(7), run.u(7));
+  if forces(1) == forces(3), error ('the two blocks hold the same value'); end
+end
+
+function test_state_store_needs_a_positive_offset_and_blocks ()
+  for iopt = {[-1 0 1 1 2], [-1 -3 1 1 2], [-1 5 1 1 0], [-1 5 1 0 2]}
+    e = state_element ('DahlC', [0.5 10 1 4 2], iopt{1}, 4, 2);
+    e.c = csc ([eye(4) zeros(4, 3)], true);
+    e.b = e.c;
+    [run, got] = one_step (e, 7, 0);
+    expect_equal (got.u(2:7), run.u(2:7));
+  end
+end
+
+% An element of LENGTH observed values and PAGES pages that holds 101, 102, ... behind the first page.
+function e = paged_element (len, pages)
+  line = [ones(len, 1), zeros(len, 1)];
+  e = struct ('type', 1003, 'c', csc (line, true), 'b', csc (line, true), 'opt', [law_code('Power'); 0; 1], 'snl', zeros (len, 1));
+  e.unl = reshape (100 + (1:len * pages), len, 1, pages);
+  e.vnl = reshape (200 + (1:len * pages), len, 1, pages);
+  e = fresh (e);
+end
+
+function test_end_of_step_copies_from_twice_the_number_of_pages ()
+  [run, got] = one_step (paged_element (5, 3), 2, 0);
+  expect_equal (got.list{2}.unl(1:5), 107:111);
+  expect_equal (got.list{2}.vnl(1:5), 207:211);
+  expect_equal (got.list{2}.unl(6:15), 106:115);
+  [run, got] = one_step (paged_element (7, 2), 2, 0);
+  expect_equal (got.list{2}.unl(4:7), 108:111);
+end
+
+function test_end_of_step_leaves_out_what_lies_behind_the_end ()
+  % 3 pages of 3: values 7 to 9 are there for a copy of 3; 3 pages of 2: nothing is.
+  [run, got] = one_step (paged_element (3, 3), 2, 0);
+  expect_equal (got.list{2}.unl(1:3), 107:109);
+  [run, got] = one_step (paged_element (2, 3), 2, 0);
+  observed = got.list{2}.unl(1);
+  expect_equal (got.list{2}.unl(1:6), [observed observed 103:106]);
+  % 4 pages of 3: from value 9 on, 3 pages of 2 with a longer vnl.
+  e = paged_element (2, 3);
+  e.vnl = fresh (200 + (1:9)');
+  [run, got] = one_step (e, 2, 0);
+  expect_equal (got.list{2}.vnl(1:2), [207; 208]);
+end
+
+function test_end_of_step_of_a_flat_state_does_nothing ()
+  [run, got] = one_step (paged_element (5, 1), 2, 0);
+  observed = got.list{2}.unl(1);
+  expect_equal (got.list{2}.unl, observed * ones (5, 1));
+end
+
+function test_sizes_that_do_not_fit_are_refused ()
+  good = spring_element (2, 1, 2, [law_code('Power') 2 1]);
+  bad = {};
+  e = good; e.c.ir(1) = int32 (2); bad{end + 1} = e;
+  e = good; e.c.ir(1) = int32 (-1); bad{end + 1} = e;
+  e = good; e.c.jc(2) = int32 (5); bad{end + 1} = e;
+  e = good; e.c = ones (1, 3); bad{end + 1} = e;
+  e = good; e.c = csc (ones (2, 2), true); bad{end + 1} = e;
+  e = good; e.c = struct ('pr', 1, 'dims', [1 2]); bad{end + 1} = e;
+  e = good; e.b.ir(1) = int32 (7); bad{end + 1} = e;
+  e = good; e.b = csc (ones (2, 2), true); bad{end + 1} = e;
+  e = good; e.b = csc (ones (1, 4), true); bad{end + 1} = e;
+  e = good; e.b = struct ('pr', ones (4, 1), 'dims', [1 4], 'trans', 1); bad{end + 1} = e;
+  e = good; e.unl = zeros (3, 1); bad{end + 1} = e;
+  e = good; e.opt = [law_code('Expon'); 1]; bad{end + 1} = e;
+  e = good; e.opt = [law_code('Table'); 1; 1]; bad{end + 1} = e;
+  e = good; e.unl = int32 (1); bad{end + 1} = e;
+  e = good; e.snl = {1}; bad{end + 1} = e;
+  e = good; e.vnl = 'velocity'; bad{end + 1} = e;
+  for k = 1:numel (bad)
+    r = ones (2, 1) * 3;
+    h = registered (bad(k));
+    expect_refused (@() quarn ('residual', r, h, ones (2, 1), ones (2, 1), ones (2, 1), [0 0]), '~^quarn residual : .');
+    expect_equal (r, ones (2, 1) * 3);
+  end
+end

@@ -1,0 +1,153 @@
+% Handles gathered for one call: from vectors of registered ones and from cells of values.
+function tests = suite_handle_lists ()
+  tests = localfunctions ();
+end
+
+function test_handles_add_their_shares_in_order ()
+  one = quarn ('chandleset', 1, csc (sparse (1)));
+  large = quarn ('chandleset', 1, csc (sparse (1e16)));
+  minus = quarn ('chandleset', 1, csc (sparse (-1e16)));
+  expect_equal (added (chandle ([large one minus])), 0);   % the 1 is lost between the large ones
+  expect_equal (added (chandle ([large minus one])), 1);
+end
+
+function test_a_handle_named_twice_adds_twice ()
+  h = quarn ('chandleset', 1, csc (sparse (3)));
+  expect_equal (added (chandle ([h h])), 6);
+end
+
+function test_an_empty_vector_adds_nothing ()
+  r = zeros (2, 1) + 0.1;
+  quarn ('residual', r, chandle ([]), ones (2, 1), ones (2, 1), ones (2, 1));
+  expect_equal (r, [0.1; 0.1]);
+end
+
+function test_long_vectors_are_taken ()
+  h = quarn ('chandleset', 1, csc (sparse (1)));
+  expect_equal (added (chandle (h * ones (1, 3000))), 3000);
+end
+
+function test_an_index_without_a_handle_is_refused_and_leaves_its_key ()
+  clear quarn
+  h = quarn ('chandleset', 1, csc (sparse (3)));
+  indices = [7 -3 NaN 1e300];
+  for k = 1:4
+    r = zeros (1, 1) + 0.5;
+    expect_error (@() quarn ('residual', r, chandle ([h indices(k)]), ones (1, 1), 0, 0), 'KORV:quarn:NonHandle', 'Handle does not exist');
+    expect_equal (r, 0.5);
+  end
+  expect_equal (quarn ('chandleget'), [-2147483648; -3; 0; 7]);
+  expect_equal (added (chandle (h)), 3);
+end
+
+function test_a_freed_handle_is_refused ()
+  h = quarn ('chandleset', 1, csc (sparse (3)));
+  quarn ('chandleclear', h);
+  expect_error (@() added (chandle (h)), 'KORV:quarn:NonHandle', 'Handle does not exist');
+  h = quarn ('chandleset', 1, csc (sparse (3)));
+  quarn ('chandleclear');
+  expect_error (@() added (chandle (h)), 'KORV:quarn:NonHandle', 'Handle does not exist');
+end
+
+function test_an_index_is_truncated ()
+  h = quarn ('chandleset', 1, csc (sparse (3)));
+  expect_equal (added (chandle (h + 0.75)), 3);
+end
+
+function test_an_index_that_is_no_number_is_refused ()
+  expect_refused (@() added (chandle ({5})), '~^quarn residual : ');
+end
+
+function test_a_vector_may_mix_all_types ()
+  h = [quarn('chandleset', 2, csc (sparse (2))), quarn('chandleset', 3, csc (sparse (3))), quarn('chandleset', 1, csc (sparse (5))), ...
+       quarn('chandleset', 1003, power_element (csc (1, true), csc (1), 1))];
+  r = zeros (1, 1) + 7;
+  quarn ('residual', r, chandle (h), ones (1, 1), 10 * ones (1, 1), 100 * ones (1, 1));
+  expect_equal (r, 7 + 200 + 30 + 5 + 1);
+end
+
+function test_an_initialisation_that_fails_keeps_every_handle ()
+  good = quarn ('chandleset', 1, csc (sparse (3)));
+  bad = quarn ('chandleset', 2, struct ('x', 1));
+  r = zeros (1, 1) + 0.5;
+  expect_error (@() quarn ('residual', r, chandle ([good bad]), ones (1, 1), 0, 0), 'KORV:quarn:empty', 'no real part');
+  expect_equal (r, 0.5);
+  expect_equal (added (chandle (good)), 3);
+  expect_equal (quarn ('chandleget', bad), struct ('x', 1));
+end
+
+function test_a_cell_list_uses_the_callers_own_arrays ()
+  run = small_run ();
+  expect_equal (run.list{2}.ir, int32 ([0; 1; 2]));
+  simulate (run);
+  expect_equal (run.list{2}.ir, int32 ([-1; 1; 2]));
+end
+
+function test_a_registered_list_leaves_the_callers_arrays ()
+  run = small_run ();
+  values = run.list;
+  run.list = registered (run.list);
+  simulate (run);
+  expect_equal (values{2}.ir, int32 ([0; 1; 2]));
+end
+
+function test_cell_lists_and_registered_lists_give_the_same_bits ()
+  one = small_run ();
+  two = small_run ();
+  two.list = registered (two.list);
+  simulate (one);
+  simulate (two);
+  expect_equal (one.out, two.out);
+  expect_equal (one.u, two.u);
+end
+
+function test_a_cell_list_registers_nothing ()
+  before = quarn ('chandleget');
+  simulate (small_run ());
+  expect_equal (quarn ('chandleget'), before);
+end
+
+function test_an_unknown_type_in_a_cell_list_is_refused ()
+  codes = [4 0 -1 NaN 1e300];
+  for k = 1:5
+    run = small_run ();
+    run.list{3}.type = codes(k);
+    expect_refused (@() simulate (run), 'Not a valid chandle type', 'KORV:quarn:NonHandle');
+  end
+end
+
+function test_types_in_a_cell_list_are_truncated ()
+  run = small_run ();
+  run.list{2}.type = 1.9;
+  simulate (run);
+  expect_equal (run.list{2}.ir(1), int32 (-1));
+end
+
+function test_elements_without_a_type_are_refused ()
+  values = {[], 5, 'text', {}, struct('x', 1), struct('type', []), struct('type', 'no'), struct('type', {}), struct('type', {{1}}), @sin, ...
+            chandle(0), v_handle(1)};
+  for k = 1:numel (values)
+    run = small_run ();
+    run.list{3} = values{k};
+    own_answer (@() simulate (run));
+    expect_equal (fails (run), true);
+  end
+end
+
+function r = added (handles)
+  r = zeros (1, 1);
+  quarn ('residual', r, handles, ones (1, 1), zeros (1, 1), zeros (1, 1));
+end
+
+function simulate (run)
+  quarn ('chandlediagnewmark', run.list, run.model, run.u, run.v, run.a, run.opt, run.mem, run.out);
+end
+
+function failed = fails (run)
+  failed = false;
+  try
+    simulate (run);
+  catch
+    failed = true;
+  end
+end

@@ -1,0 +1,176 @@
+% Power, exponential and table laws through registered elements, the table walk against the model.
+function tests = suite_laws_memoryless ()
+  tests = localfunctions ();
+end
+
+% The element after observing the values Q as they stand.
+function [e, r] = observed (word, parameters, q, iopt, snl)
+  n = numel (q);
+  line = csc (eye (n), true);
+  e = struct ('type', 1003, 'c', line, 'b', line, 'opt', [law_code(word); parameters(:)]);
+  e.unl = zeros (n, 1);
+  e.snl = zeros (n, 1);
+  if nargin > 3, e.iopt = int32 (iopt); end
+  if nargin > 4, e.snl = snl; end
+  e = fresh (e);
+  [e, r] = evaluate_law (e, q, zeros (n, 1));
+end
+
+% Table X over the record REC at the end of "opt".
+function [e, r] = tabulated (x, rec, nx, ny, q, snl)
+  if nargin < 6, snl = zeros (numel (q) * max (ny, 1), 1); end
+  [e, r] = observed ('Table', [x(:); rec(:)], q, [-1 0 0 0 0 1 1 + numel(x) nx ny], snl);
+end
+
+function test_power ()
+  e = observed ('Power', [2 3], [-2; 0; 1.5; Inf]);
+  expect_equal (e.snl, [-16; 0; 6.75; Inf]);
+  e = observed ('Power', [2 0.5], [-2; 4; -0.25]);
+  expect_equal (e.snl, [NaN; 4; NaN]);
+  e = observed ('Power', [5 0], [0; -3; 7]);
+  expect_equal (e.snl, [5; 5; 5]);
+  e = observed ('Power', [1 -1], [0; 2]);
+  expect_equal (e.snl, [Inf; 0.5]);
+end
+
+function test_expon ()
+  e = observed ('Expon', [1 0], [0; 1; -1]);
+  expect_equal (e.snl, [1; 0; Inf]);
+  e = observed ('Expon', [3 2], [0; 3; -1]);
+  expect_equal (e.snl, [3; 24; 1.5]);
+  e = observed ('Expon', [1 -2], [2; 3; 0.5]);
+  expect_equal (e.snl, [4; -8; NaN]);
+end
+
+function test_forces_reach_the_residual ()
+  [e, r] = observed ('Power', [2 3], [-2; 1; 3]);
+  expect_equal (r, [-16; 2; 54]);
+end
+
+function test_power_and_expon_against_the_model ()
+  rand ('twister', 42);
+  for k = 1:60
+    q = 4 * rand (1 + mod (k, 4), 1) - 1;
+    p = [3 * rand - 1, round(8 * rand) / 2];
+    s = struct ('unl', q, 'opt', [0; p(:)], 'snl', zeros (numel (q), 1));
+    wanted = model_law_power (s, 0, struct ('FNL', []));
+    expect_equal (observed ('Power', p, q).snl, wanted.snl);
+    wanted = model_law_expon (s, 0, struct ('FNL', []));
+    expect_equal (observed ('Expon', p, q).snl, wanted.snl);
+  end
+end
+
+function test_jump_gives_the_mean_whatever_the_start ()
+  for start = [-7 0 1 2 3 99 NaN 1e300 2.9 -0.5]
+    e = tabulated ([0 1 1 2 10 20 30 40], [start 0 0], 4, 1, 1);
+    expect_equal (e.snl, 25);
+    expect_equal (e.opt(12), 0.5);
+  end
+end
+
+function test_extrapolation_at_both_ends ()
+  for start = 0:4
+    e = tabulated ([0 1 1 2 10 20 30 40], [start 0 0], 4, 1, 3);
+    expect_equal (e.snl, 50);
+    expect_equal (e.opt(10:12), [3; 3; 2]);
+    e = tabulated ([0 1 1 2 10 20 30 40], [start 0 0], 4, 1, -1);
+    expect_equal (e.snl, 0);
+    expect_equal (e.opt(10:12), [0; -1; -1]);
+  end
+end
+
+function test_record_of_a_query_on_an_inner_knot_tells_where_it_came_from ()
+  x = [0 1 2 3 10 20 30 40];
+  for start = 0:3
+    e = tabulated (x, [start 0 0], 4, 1, 2);
+    expect_equal (e.snl, 30);
+    segment = 1 + (start >= 2);
+    kept = max (segment, start);
+    expect_equal (e.opt(10:12), [kept; 2; 2 - segment]);
+  end
+end
+
+function test_not_a_number_stops_the_search_where_it_began ()
+  e = tabulated ([0 1 2 3 10 20 30 40], [2 0 0], 4, 1, NaN);
+  expect_equal (e.opt(10:12), [2; NaN; NaN]);
+  expect_equal (e.snl, NaN);
+end
+
+function test_one_knot_returns_its_value ()
+  for q = [-1 4 9 NaN]
+    e = tabulated ([4 7], [3 9 9], 1, 1, q);
+    expect_equal (e.snl, 7);
+    expect_equal (e.opt(4:6), [0; q; 0]);
+  end
+  e = tabulated ([4 7 8], [0 0 0], 1, 2, [1; 5]);
+  expect_equal (e.snl, [7; 7; 8; 8]);
+end
+
+function test_no_column_gives_segment_numbers ()
+  e = tabulated ([0 1 2 3], [0 0 0], 4, 0, [-5; 0.5; 1.5; 2.5; 9]);
+  expect_equal (e.snl, [1; 1; 2; 3; 3]);
+end
+
+function test_no_knot_gives_no_value ()
+  e = tabulated (zeros (1, 0), [1 2 3], 0, 1, [1; 2], [8; 9]);
+  expect_equal (e.snl, [8; 9]);
+end
+
+function test_further_columns_lie_behind_the_forces ()
+  [e, r] = tabulated ([0 1 2, 10 20 30, -1 -2 -5], [0 0 0], 3, 2, [0.5; 1.5]);
+  expect_equal (e.snl, [15; 25; -1.5; -3.5]);
+  expect_equal (r, [15; 25]);
+end
+
+function test_record_keeps_the_first_query_and_the_last_fraction ()
+  e = tabulated ([0 1 2 3 10 20 30 40], [0 0 0], 4, 1, [0.25; 2.5]);
+  expect_equal (e.opt(10:12), [2; 0.25; 0.5]);
+end
+
+function test_without_force_vector_the_table_is_applied_to_its_own_results ()
+  x = [-8 0 8, -4 0 4];
+  e = tabulated (x, [0 0 0], 3, 1, 6, []);
+  expect_equal (e.unl, 3);
+  e = tabulated (x, [0 0 0], 3, 1, [6; -4; 8], []);
+  expect_equal (e.unl, [6; -4; 8] / 8);
+end
+
+function test_random_tables_against_the_model ()
+  rand ('twister', 42);
+  for k = 1:300
+    nx = 1 + floor (8 * rand);
+    ny = 1 + floor (3 * rand);
+    n = 1 + floor (4 * rand);
+    knots = sort (floor (6 * rand (nx, 1)) / 2 + (mod (k, 3) == 0) * rand (nx, 1));
+    x = [knots; 10 * randn(nx * ny, 1)];
+    rec = [floor(12 * rand) - 3 + 0.5 * mod(k, 2); 0; 0];
+    q = 4 * rand (n, 1) - 0.5;
+    on_knots = rand (n, 1) < 0.5;
+    hits = knots(1 + floor (nx * rand (n, 1)));
+    q(on_knots) = hits(on_knots);
+    s = struct ('unl', q, 'snl', zeros (n * ny, 1), 'opt', [0; x; rec], 'iopt', int32 ([-1 0 0 0 0 1 1 + numel(x) nx ny]));
+    wanted = model_law_table (s, 0, struct ('FNL', []));
+    e = tabulated (x, rec, nx, ny, q);
+    expect_equal (e.snl, wanted.snl);
+    expect_equal (e.opt(2:end), wanted.opt(2:end));
+    if ny == 1
+      wanted = model_law_table (rmfield (s, 'snl'), 0, struct ('FNL', []));
+      e = tabulated (x, rec, nx, ny, q, []);
+      expect_equal (e.unl, wanted.unl);
+      expect_equal (e.opt(2:end), wanted.opt(2:end));
+    end
+  end
+end
+
+function test_tables_that_do_not_lie_in_the_parameters_are_refused ()
+  x = [0 1 2 10 20 30];
+  bad = {[-1 0 0 0 0 1 7 4 1], [-1 0 0 0 0 5 7 3 1], [-1 0 0 0 0 1 8 3 1], [-1 0 0 0 0 1 7 3 2], [-1 0 0 0 0 -1 7 3 1], ...
+         [-1 0 0 0 0 1 -1 3 1], [-1 0 0 0 0 1 7 -3 1], [-1 0 0 0 0 1 7 3 -1], [-1 0 0 0 0 1 7 3], ...
+         [-1 0 0 0 0 1 7 2147483647 1], [-1 0 0 0 0 1 7 3 2147483647]};
+  for k = 1:numel (bad)
+    expect_refused (@() observed ('Table', [x 0 0 0], 1, bad{k}), '~^quarn residual : .*(opt|iopt)');
+  end
+  expect_refused (@() observed ('Table', [x 0 0 0], 1), '~^quarn residual : .*iopt');
+  expect_refused (@() observed ('Table', [2 1 0 10 20 30 0 0 0], 1, [-1 0 0 0 0 1 7 3 1]), '~^quarn residual : .*ascend');
+  expect_refused (@() tabulated ([x 5 5 5], [0 0 0], 3, 2, [1; 2], zeros (2, 1)), '~^quarn residual : .*snl');
+end

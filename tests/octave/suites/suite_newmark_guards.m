@@ -1,0 +1,237 @@
+% Bad input to the integrator: refused before anything is written, with a text that says what is wrong; registered handles survive.
+function tests = suite_newmark_guards ()
+  tests = localfunctions ();
+end
+
+function refused (run, words)
+  refused_cleanly (run.list, {run.model, run.u, run.v, run.a, run.opt, run.mem, run.out}, '', ['~^quarn chandlediagnewmark : .*' words]);
+end
+
+function test_missing_inputs ()
+  run = small_run ();
+  args = {run.list, run.model, run.u, run.v, run.a, run.opt, run.mem, run.out};
+  for n = 0:7
+    expect_refused (@() quarn ('chandlediagnewmark', args{1:n}), '~^quarn chandlediagnewmark : .*(9|6) inputs');
+  end
+end
+
+function test_list_without_an_integrator_in_front ()
+  run = small_run ();
+  good = run.list;
+  run.list = {};
+  refused (run, 'integrator');
+  run.list = good([2 1 3]);
+  refused (run, 'integrator.*2000.*type 1');
+  run.list = chandle ([]);
+  refused (run, 'integrator');
+  run.list = registered (good(2));
+  refused (run, 'integrator.*2000.*type 1');
+end
+
+function test_list_elements_that_are_no_handle ()
+  for wrong = {[], 5, 'x', {1}, struct('x', 1), struct('type', {}), int32([1 2]), @sin, cell(1, 1)}
+    run = small_run ();
+    run.list{2} = wrong{1};
+    refused (run, 'element 2 .*"type"');
+  end
+  run = small_run ();
+  run.list{2}.type = {1};
+  refused (run, '"type"');
+  run.list{2}.type = [];
+  refused (run, '"type"');
+end
+
+function test_integrator_fields_missing ()
+  for name = {'r', 'tft', 'data'}
+    run = small_run ();
+    run.list{1} = rmfield (run.list{1}, name{1});
+    refused (run, ['"' name{1} '"']);
+  end
+end
+
+function test_integrator_fields_of_other_classes ()
+  for name = {'r', 'tft', 'data'}
+    run = small_run ();
+    value = run.list{1}.(name{1});
+    for wrong = {single(value), int32(value), 1i * value, num2cell(value), 'text', true(size (value)), @sin}
+      run.list{1}.(name{1}) = wrong{1};
+      refused (run, name{1});
+    end
+  end
+end
+
+function test_load_matrix_without_a_gain_column ()
+  run = small_run ();
+  run.list{1}.r = ones (3, 1);
+  run.list{1}.tft = zeros (0, 4);
+  refused (run, 'r must have 2 columns');
+end
+
+function test_structures_that_claim_more_than_they_hold ()
+  run = small_run ();
+  r = run.list{1}.r;
+  run.list{1}.r = struct ('pr', r(:), 'dims', [4 3]);
+  refused (run, '\<r\>');
+  run = small_run ();
+  tft = run.list{1}.tft;
+  run.list{1}.tft = struct ('pr', tft(:), 'dims', [2 7]);
+  refused (run, 'tft');
+  run = small_run ();
+  run.list{1}.data = struct ('pr', ones (5, 1), 'dims', [2 3]);
+  refused (run, 'data');
+end
+
+function test_short_state_arrays ()
+  for name = {'u', 'v', 'a'}
+    for wrong = {ones(2, 1), ones(1, 1), zeros(0, 1), zeros(3, 0)}
+      run = small_run ();
+      run.list = run.list(1);
+      run.(name{1}) = wrong{1};
+      refused (run, ['\<' name{1} '\>']);
+    end
+  end
+end
+
+function test_state_arrays_shorter_than_the_outputs ()
+  run = small_run ();
+  run.out.def = zeros (4, 6);
+  run.mem.uva.uva = zeros (40, 1);
+  refused (run, '\<u\>.*4');
+end
+
+function test_state_arrays_of_other_classes ()
+  for name = {'u', 'v', 'a'}
+    for wrong = {single([1; 2; 3]), int32([1; 2; 3]), 'abc', {1; 2; 3}, sparse([1; 2; 3]), true(3, 1), struct('u', 1), @sin}
+      run = small_run ();
+      run.(name{1}) = wrong{1};
+      refused (run, ['\<' name{1} '\>']);
+    end
+  end
+end
+
+function test_work_memory_missing ()
+  for mem = {[], struct('x', 1), 5}
+    run = small_run ();
+    run.mem = mem{1};
+    refused (run, 'uva');
+  end
+  for mem = {struct('uva', {{}}), struct('uva', struct ('FNL', 1)), struct('uva', struct ('uva', []))}
+    run.mem = mem{1};
+    refused_cleanly (run.list, {run.model, run.u, run.v, run.a, run.opt, run.mem, run.out}, 'KORV:quarn:Invalid', 'wrong uva size');
+  end
+end
+
+function test_save_times_of_rows_without_values ()
+  run = small_run ();
+  run.model.FNL = zeros (2, 1);
+  run.mem.uva.FNL = zeros (2, 1);
+  before = fresh (run.out.def);
+  run.out = struct ('data', zeros (3, 0), 'def', before, 'FNL', struct ('data', zeros (3, 0), 'def', zeros (2, 6)));
+  quarn ('chandlediagnewmark', run.list, run.model, run.u, run.v, run.a, run.opt, run.mem, run.out);
+  expect_equal (run.out.def, before);
+end
+
+function test_memory_and_outputs_of_other_classes ()
+  trials = {'mem', struct('uva', struct('uva', int32(zeros (12, 1)))), 'uva'
+            'mem', struct('uva', struct('uva', zeros(12, 1), 'FNL', 'x')), 'FNL|snapshot'
+            'out', struct('data', int32(1), 'def', zeros(3, 6)), 'times'
+            'out', struct('data', 1, 'def', single(zeros (3, 6))), 'def'
+            'out', struct('data', 1, 'def', zeros(3, 6), 'FNL', struct('data', 'x', 'def', 1)), 'FNL'
+            'out', struct('data', 1, 'def', zeros(3, 6), 'FNL', struct('data', 1, 'def', {{1}})), 'FNL'
+            'model', struct('FNL', int32(1)), 'FNL'
+            'opt', 'ab', 'Rayleigh'
+            'opt', struct('Rayleigh', {{1}}), 'Rayleigh'};
+  for k = 1:size (trials, 1)
+    run = small_run ();
+    run.(trials{k, 1}) = trials{k, 2};
+    refused (run, ['(' trials{k, 3} ')']);
+  end
+end
+
+function test_matrices_that_do_not_fit_the_state ()
+  full_matrix = sparse ([1 2 3 1 3], [1 1 2 3 3], [2 -1 5 4 3], 3, 3);
+  outside = csc (full_matrix);
+  outside.ir(2) = int32 (3);
+  negative = csc (full_matrix);
+  negative.ir(3) = int32 (-2);
+  backwards = csc (full_matrix);
+  backwards.jc(3) = int32 (1);
+  long = csc (full_matrix);
+  long.jc(4) = int32 (6);
+  cut = csc (full_matrix);
+  cut.jc = cut.jc(1:3);
+  values = csc (full_matrix);
+  values.pr = values.pr(1:4);
+  small = csc (full_matrix(1:2, 1:2));
+  marked = csc (eye (2));
+  alien = csc (full_matrix);
+  alien.ir = int64 (alien.ir);
+  sizes = csc (full_matrix);
+  sizes.dims = 3;
+  for s = {outside, negative, backwards, long, cut, values, small, marked, alien, sizes}
+    for code = 1:3
+      run = small_run ();
+      run.list = {run.list{1}, typed(code, s{1})};
+      refused (run, '.');
+    end
+  end
+end
+
+function test_elements_that_do_not_fit_the_state ()
+  good = spring_element (1, 1, 3, [law_code('Power') 2 1]);
+  far = good;
+  far.c.ir(1) = int32 (3);
+  into = good;
+  into.b.ir(1) = int32 (12);
+  wide = good;
+  wide.b = csc (ones (1, 5), true);
+  wide.b.dims = [1 20];
+  short = good;
+  short.opt = [law_code('Expon') 2];
+  bare = good;
+  bare.opt = [law_code('DahlC') 0 0.1 1 1 1 1];
+  bare.unl = zeros (1, 1, 2);
+  for e = {far, into, wide, short, bare}
+    run = small_run ();
+    run.list{4} = e{1};
+    refused (run, '.');
+  end
+end
+
+function test_later_handles_are_checked_before_the_first_step ()
+  run = small_run ();
+  e = spring_element (1, 1, 3, [law_code('Power') 2 1]);
+  bad = e;
+  bad.c.ir(1) = int32 (3);
+  run.list = [run.list, {e, bad}];
+  refused (run, '\<c\>|u');
+  expect_equal (run.list{4}.snl, 0);
+  expect_equal (run.list{1}.data(6), 0);
+end
+
+function test_random_nonsense_never_ends_the_host ()
+  rand ('twister', 42);
+  values = hostile_values ();
+  names = {'list', 'model', 'u', 'v', 'a', 'opt', 'mem', 'out'};
+  fields = {'r', 'tft', 'data', 'iopt'};
+  refusals = 0;
+  for k = 1:1500
+    run = small_run ();
+    for spoiled = 1:1 + (rand < 0.3)
+      x = values{1 + floor (numel (values) * rand)};
+      switch mod (k, 4)
+        case 0, run.(names{1 + floor (8 * rand)}) = x;
+        case 1, if iscell (run.list), run.list{1}.(fields{1 + floor (4 * rand)}) = x; end
+        case 2, if iscell (run.list), run.list{1 + floor (3 * rand)} = x; end
+        case 3, run.mem = struct ('uva', struct ('uva', zeros (12, 1), 'FNL', x)); run.out.FNL = struct ('data', x, 'def', x);
+      end
+    end
+    try
+      quarn ('chandlediagnewmark', run.list, run.model, run.u, run.v, run.a, run.opt, run.mem, run.out);
+    catch err
+      refusals = refusals + 1;
+    end
+  end
+  if refusals < 500, error ('only %d of 1500 calls were refused', refusals); end
+  expect_equal (quarn (), 1.0001);
+end

@@ -1,0 +1,297 @@
+% The nonlinear list in the residual command: which law an element gets, what is assembled and what is stored.
+function tests = suite_nl_structures ()
+  tests = localfunctions ();
+end
+
+function call (r, model, u, v, opt)
+  if nargin < 5, opt = []; end
+  quarn ('residual', r, model, u, v, [], opt, struct ('tag', 17));
+end
+
+% An element that observes DOFs 1 and 3 of 4 and sends its forces to the same DOFs.
+function e = element ()
+  c = sparse ([1 2], [1 3], [1 1], 2, 4);
+  e = struct ('c', csc (c, true), 'b', csc (c, true), 'unl', zeros (2, 1), 'vnl', zeros (2, 1), 'StoreFNL', 0, 'FInd', int32 (0));
+end
+
+function f = twice_unl (e, varargin)
+  f = 2 * e.unl;
+end
+
+function f = in_struct (e, varargin)
+  f = struct ('unl', -e.unl, 'snl', 3 * e.unl);
+end
+
+function f = in_struct_unl (e, varargin)
+  f = struct ('unl', -e.unl);
+end
+
+function f = empty_struct (varargin)
+  f = struct ('other', 1);
+end
+
+function varargout = no_value (varargin)
+  varargout = {};
+end
+
+function add_one_in_place (e, varargin)
+  change_in_place (e.unl, ones (numel (e.unl), 1));
+end
+
+function test_row_without_an_element_is_skipped ()
+  e = element ();
+  e.Fu = @twice_unl;
+  model = nl_model ([], e, []);
+  r = zeros (4, 1) + 1;
+  call (r, model, [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (r, [3; 1; 7; 1]);
+end
+
+function test_list_without_rows_adds_nothing ()
+  model = struct ('K', {cell(1, 3)}, 'NL', {{}});
+  r = zeros (4, 1) + 5;
+  call (r, model, ones (4, 1), zeros (4, 1));
+  model.NL = cell (0, 3);
+  call (r, model, ones (4, 1), zeros (4, 1));
+  expect_equal (r, 5 * ones (4, 1));
+end
+
+function test_result_vector_is_the_force ()
+  e = element ();
+  e.Fu = @twice_unl;
+  r = zeros (4, 1);
+  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (r, [2; 0; 6; 0]);
+end
+
+function test_result_structure_gives_snl_before_unl ()
+  e = element ();
+  e.Fu = @in_struct;
+  r = zeros (4, 1);
+  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (r, [3; 0; 9; 0]);
+  e.Fu = @in_struct_unl;
+  r = zeros (4, 1);
+  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (r, [-1; 0; -3; 0]);
+end
+
+function test_result_structure_without_forces_contributes_nothing ()
+  e = element ();
+  e.Fu = @empty_struct;
+  e.StoreFNL = 1;
+  model = nl_model (e);
+  model.FNL = zeros (2, 1) + 8;
+  r = zeros (4, 1);
+  call (r, model, [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (r, zeros (4, 1));
+  expect_equal (model.FNL, [8; 8]);
+end
+
+function test_no_result_leaves_the_elements_own_force ()
+  e = element ();
+  e.Fu = @no_value;
+  r = zeros (4, 1);
+  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (r, [1; 0; 3; 0]);
+  e.snl = zeros (2, 1) + [5; 6];
+  r = zeros (4, 1);
+  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (r, [5; 0; 6; 0]);
+  r = zeros (4, 1);
+  call (r, nl_model (rmfield (e, {'snl', 'unl'})), [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (r, zeros (4, 1));
+end
+
+function test_element_without_b_adds_nothing_and_still_stores ()
+  e = rmfield (element (), 'b');
+  e.Fu = @twice_unl;
+  e.StoreFNL = 1;
+  model = nl_model (e);
+  model.FNL = zeros (3, 1);
+  r = zeros (4, 1);
+  call (r, model, [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (r, zeros (4, 1));
+  expect_equal (model.FNL, [2; 6; 0]);
+end
+
+function test_force_store_starts_at_the_zero_based_offset ()
+  e = element ();
+  e.Fu = @twice_unl;
+  e.StoreFNL = 1;
+  e.FInd = int32 (4);
+  model = nl_model (e);
+  model.FNL = zeros (8, 1) + 1;
+  r = zeros (4, 1);
+  call (r, model, [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (model.FNL, [1; 1; 1; 1; 2; 6; 1; 1]);
+  expect_equal (r, [2; 0; 6; 0]);
+end
+
+function test_store_flag_counts_nan_as_set_and_zero_as_unset ()
+  flags = [0 1 NaN -2];
+  for k = 1:numel (flags)
+    e = element ();
+    e.Fu = @twice_unl;
+    e.StoreFNL = flags(k);
+    model = nl_model (e);
+    model.FNL = zeros (2, 1);
+    call (zeros (4, 1), model, [1; 2; 3; 4], zeros (4, 1));
+    expect_equal (model.FNL, [2; 6] * double (k > 1));
+  end
+end
+
+function test_forces_beyond_the_store_are_left_out ()
+  offsets = {int32(3), int32(-1), int32(90)};
+  wanted = {[7; 7; 7; 2], [6; 7; 7; 7], [7; 7; 7; 7]};
+  for k = 1:3
+    e = element ();
+    e.Fu = @twice_unl;
+    e.StoreFNL = 1;
+    e.FInd = offsets{k};
+    model = nl_model (e);
+    model.FNL = zeros (4, 1) + 7;
+    r = zeros (4, 1);
+    call (r, model, [1; 2; 3; 4], zeros (4, 1));
+    expect_equal (model.FNL, wanted{k});
+    expect_equal (r, [2; 0; 6; 0]);
+  end
+end
+
+function test_store_takes_the_rows_of_the_force_only ()
+  e = rmfield (element (), 'b');
+  e.Fu = @(e, varargin) [1 2; 3 4; 5 6];
+  e.StoreFNL = 1;
+  model = nl_model (e);
+  model.FNL = zeros (6, 1);
+  call (zeros (4, 1), model, ones (4, 1), zeros (4, 1));
+  expect_equal (model.FNL, [1; 3; 5; 0; 0; 0]);
+end
+
+function test_store_without_a_place_in_the_model_is_left_out ()
+  e = rmfield (element (), 'FInd');
+  e.Fu = @twice_unl;
+  e.StoreFNL = 1;
+  r = zeros (4, 1);
+  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (r, [2; 0; 6; 0]);
+end
+
+function test_function_handle_in_Fu_wins_over_the_type ()
+  e = element ();
+  e.Fu = @twice_unl;
+  e.type = 'rotcenter';
+  r = zeros (4, 1);
+  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (r, [2; 0; 6; 0]);
+end
+
+function test_callable_type_works_on_the_element_in_place ()
+  e = element ();
+  e.type = @add_one_in_place;
+  e.StoreFNL = 1;
+  model = nl_model (e);
+  model.FNL = zeros (2, 1);
+  r = zeros (4, 1);
+  call (r, model, [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (r, [2; 0; 4; 0]);
+  expect_equal (model.FNL, zeros (2, 1));
+end
+
+function test_callable_type_without_unl_or_b_assembles_nothing ()
+  e = element ();
+  e.type = @no_value;
+  e.snl = zeros (2, 1) + 4;
+  r = zeros (4, 1);
+  call (r, nl_model (rmfield (e, 'unl'), rmfield (e, 'b')), [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (r, zeros (4, 1));
+  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (r, [4; 0; 4; 0]);
+end
+
+function test_empty_type_does_nothing_but_observe ()
+  global HAPSEL_CALLS
+  HAPSEL_CALLS = {};
+  e = element ();
+  e.type = '';
+  r = zeros (4, 1);
+  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (numel (HAPSEL_CALLS), 0);
+  expect_equal (r, zeros (4, 1));
+  expect_equal (e.unl, [1; 3]);
+end
+
+function test_any_other_word_goes_to_hapsel_with_eight_inputs ()
+  global HAPSEL_CALLS
+  words = {'nl_spring', 'Rotcenter', 'rotcenter2', 'mocirc', 'mocirc22'};
+  for k = 1:numel (words)
+    HAPSEL_CALLS = {};
+    e = element ();
+    e.type = words{k};
+    e.snl = zeros (2, 1) + [5; 6];
+    model = nl_model (e);
+    r = zeros (4, 1);
+    u = [1; 2; 3; 4];
+    v = [5; 6; 7; 8];
+    a = [9; 10; 11; 12];
+    quarn ('residual', r, model, u, v, a, [0 0], {'x'});
+    expect_equal (numel (HAPSEL_CALLS), 1);
+    in = HAPSEL_CALLS{1};
+    expect_equal (numel (in), 8);
+    expect_equal (in{1}.type, words{k});
+    expect_equal (in{3}, model);
+    expect_equal (in(4:8), {u, v, a, [0 0], {'x'}});
+    expect_equal (r, [10; 0; 12; 0]);
+  end
+end
+
+function test_function_gets_the_element_and_the_seven_arguments ()
+  global SEEN
+  SEEN = {};
+  e = element ();
+  e.Fu = @remember;
+  model = nl_model (e);
+  opt = struct ('Rayleigh', [0 0], 'tc', 2);
+  quarn ('residual', zeros (4, 1) + 3, model, [1; 2; 3; 4], [5; 6; 7; 8], [], opt, 'extra');
+  expect_equal (numel (SEEN), 8);
+  expect_equal (SEEN{1}.unl, [1; 3]);
+  expect_equal (SEEN{1}.vnl, [5; 7]);
+  expect_equal (SEEN(2:2), {3 * ones(4, 1)});
+  expect_equal (SEEN(4:8), {[1; 2; 3; 4], [5; 6; 7; 8], [], opt, 'extra'});
+end
+
+function f = remember (varargin)
+  global SEEN
+  SEEN = varargin;
+  SEEN{2} = SEEN{2} + 0;
+  f = zeros (2, 1);
+end
+
+function test_mocirc2_adds_and_stores_nothing ()
+  e = element ();
+  e.type = 'mocirc2';
+  e.cta = csc (sparse ([1 2 3 4], [1 1 2 2], [1 2 3 4], 4, 4));
+  model = nl_model (e, e);
+  model.FNL = zeros (3, 1) + 9;
+  r = zeros (4, 1) + 2;
+  call (r, model, [1; 2; 3; 4], zeros (4, 1));
+  e.cta = csc (sparse (4, 4));
+  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  expect_equal (r, 2 * ones (4, 1));
+  expect_equal (model.FNL, [9; 9; 9]);
+end
+
+function test_elements_add_in_the_order_of_the_rows ()
+  e = element ();
+  e.Fu = @(e, varargin) [1e16; 0];
+  f = element ();
+  f.Fu = @(e, varargin) [1; 0];
+  g = element ();
+  g.Fu = @(e, varargin) [-1e16; 0];
+  r = zeros (4, 1);
+  call (r, nl_model (e, f, g), zeros (4, 1), zeros (4, 1));
+  expect_equal (r(1), (1e16 + 1) - 1e16);
+  r = zeros (4, 1);
+  call (r, nl_model (e, g, f), zeros (4, 1), zeros (4, 1));
+  expect_equal (r(1), 1);
+end

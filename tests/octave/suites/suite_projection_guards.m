@@ -1,0 +1,197 @@
+% What "c<-a'*b" and "abc" refuse: defined messages, and calls that would leave an array.
+function tests = suite_projection_guards ()
+  tests = localfunctions ();
+end
+
+function values = odd_values ()
+  values = {{1; 2; 3}, @sin, struct('x', {1; 2; 3}), ['a'; 'b'; 'c'], single([1; 2; 3]), int32([1; 2; 3]), true(3, 1), ...
+            sparse([1; 2; 3]), containers.Map(), v_handle(1), [], {}, struct('x', {})};
+end
+
+function m = matrix_3x4 ()
+  m = csc ([1 0 2 0; 0 3 0 0; 4 0 5 0]);
+end
+
+function refused_left (a, b)
+  expect_error (@() quarn ('c<-a''*b', a, b), '', '~^quarn c<-a''\*b : ');
+end
+
+function refused_triple (ta, k, tb)
+  expect_error (@() quarn ('abc', ta, k, tb, int32 ([1 0 0])), '', '~^quarn abc : ');
+end
+
+function test_left_product_wrong_size_carries_its_identifier ()
+  text = 'quarn c<-a''*b : vector a has a wrong size';
+  expect_error (@() quarn ('c<-a''*b', ones (4, 1), matrix_3x4 ()), 'KORV:quarn:WrongSize', text);
+  expect_error (@() quarn ('c<-a''*b', [], matrix_3x4 ()), 'KORV:quarn:WrongSize', text);
+end
+
+% The transposed path reports the same text without an identifier; that asymmetry is wanted.
+function test_left_product_wrong_size_of_a_transposed_structure_carries_none ()
+  m = csc (ones (3, 4), true);
+  expect_error (@() quarn ('c<-a''*b', ones (3, 1), m), '', 'quarn c<-a''*b : vector a has a wrong size');
+end
+
+function test_left_product_wrong_size_leaves_the_target_alone ()
+  c = zeros (1, 4) + 7;
+  expect_error (@() quarn ('c<-a''*b', ones (4, 1), matrix_3x4 (), c), 'KORV:quarn:WrongSize', ...
+                'quarn c<-a''*b : vector a has a wrong size');
+  expect_equal (c, [7 7 7 7]);
+end
+
+function test_native_sparse_matrices_are_refused ()
+  expect_error (@() quarn ('c<-a''*b', ones (3, 1), speye (3)), '', 'ir must be int32');
+  expect_error (@() quarn ('abc', ones (3, 1), speye (3), ones (3, 1), int32 ([1 0 0])), '', 'ir must be int32');
+end
+
+function test_left_product_needs_its_operands ()
+  expect_error (@() quarn ('c<-a''*b'), '', '~^quarn c<-a''\*b : .*expected');
+  expect_error (@() quarn ('c<-a''*b', 1), '', '~^quarn c<-a''\*b : .*expected');
+end
+
+function test_left_product_of_a_dense_matrix_is_refused ()
+  refused_left (ones (3, 1), ones (3, 4));
+  refused_left (ones (3, 1), struct ('pr', ones (3, 4), 'dims', [3 4]));
+end
+
+function test_left_product_refuses_odd_operands ()
+  values = odd_values ();
+  for k = 1:numel (values)
+    id = 'KORV:quarn:WrongSize';
+    if size (values{k}, 1) == 3, id = ''; end
+    expect_error (@() quarn ('c<-a''*b', values{k}, matrix_3x4 ()), id, '~^quarn c<-a''\*b : ');
+  end
+end
+
+function test_left_product_refuses_odd_matrices ()
+  text = '~^quarn c<-a''\*b : ';
+  odd = {{1; 2; 3}, @sin, 'abc', single([1; 2; 3]), int32([1; 2; 3]), true(3, 1), containers.Map(), chandle(1), 1i};
+  for k = 1:numel (odd), expect_error (@() quarn ('c<-a''*b', ones (3, 1), odd{k}), '', text); end
+  % Arrays without elements, and structures without "pr", are no matrix: they fit no a.
+  none = {[], struct('x', {}), struct('x', {1; 2; 3}), v_handle([])};
+  for k = 1:numel (none), expect_error (@() quarn ('c<-a''*b', ones (3, 1), none{k}), 'KORV:quarn:WrongSize', text); end
+  expect_equal (quarn ('c<-a''*b', zeros (0, 2), struct ('x', 1)), zeros (2, 0));
+end
+
+function test_left_product_refuses_a_target_of_another_size_or_class ()
+  m = matrix_3x4 ();
+  targets = {zeros(4, 1), zeros(1, 3), zeros(2, 4), zeros(0, 0), zeros(1, 4, 'single'), zeros(1, 4, 'int32'), 1i * ones(1, 4), ...
+             sparse(ones(1, 4)), cell(1, 4), @sin, containers.Map(), v_handle(zeros(1, 4)), 'abcd', true(1, 4)};
+  for k = 1:numel (targets)
+    expect_error (@() quarn ('c<-a''*b', ones (3, 1), m, targets{k}), '', '~^quarn c<-a''\*b : c must be .* 1x4 ');
+  end
+  c = zeros (1, 3) + 7;
+  expect_error (@() quarn ('c<-a''*b', ones (3, 1), m, c), '', '~^quarn c<-a''\*b : c must be ');
+  expect_equal (c, [7 7 7]);
+end
+
+function test_broken_matrix_structures_are_refused_before_anything_is_written ()
+  good = csc ([1 0 2; 0 3 0; 4 0 5]);
+  broken = {};
+  broken{end+1} = setfield (good, 'ir', int32 ([0; 2; 1; 0; 3]));
+  broken{end+1} = setfield (good, 'ir', int32 ([0; -2; 1; 0; 2]));
+  broken{end+1} = setfield (good, 'ir', int32 ([-1; 2; 1; 0; 2]));
+  broken{end+1} = setfield (good, 'ir', int32 ([0; 2; 1; 0]));
+  broken{end+1} = setfield (good, 'pr', [1; 2; 3; 4]);
+  broken{end+1} = setfield (good, 'jc', int32 ([0; 2; 3]));
+  broken{end+1} = setfield (good, 'jc', int32 ([0; 3; 2; 5]));
+  broken{end+1} = setfield (good, 'jc', int32 ([-1; 2; 3; 5]));
+  broken{end+1} = setfield (good, 'jc', int32 ([0; 2; 3; 6]));
+  broken{end+1} = setfield (good, 'jc', [0; 2; 3; 5]);
+  broken{end+1} = setfield (good, 'ir', [0; 2; 1; 0; 2]);
+  broken{end+1} = setfield (good, 'pr', single ([1; 4; 3; 2; 5]));
+  broken{end+1} = setfield (good, 'pr', {1});
+  broken{end+1} = setfield (good, 'dims', 3);
+  broken{end+1} = rmfield (good, 'jc');
+  for k = 1:numel (broken)
+    c = zeros (1, 3) + 7;
+    expect_error (@() quarn ('c<-a''*b', ones (3, 1), broken{k}, c), '', '~^quarn c<-a''\*b : ');
+    expect_equal (c, [7 7 7]);
+    refused_triple (ones (3, 1), broken{k}, ones (3, 1));
+  end
+end
+
+function test_the_diagonal_marker_is_named ()
+  marked = setfield (csc (eye (3)), 'ir', int32 ([-1; 1; 2]));
+  expect_error (@() quarn ('c<-a''*b', ones (3, 1), marked), '', '~marked as diagonal');
+end
+
+function test_negative_sizes_are_refused ()
+  s = struct ('pr', 1, 'ir', int32 (0), 'jc', int32 ([0; 1]), 'dims', [1 -2]);
+  refused_left (1, s);
+  negative = setfield (s, 'dims', [-1 1]);
+  expect_error (@() quarn ('abc', 1, negative, 1, int32 ([1 0 0])), '', 'abc : a and b have wrong size');
+  s.trans = 1;
+  s.dims = [-2 1];
+  refused_left (1, s);
+end
+
+function test_sizes_that_no_memory_holds_are_refused ()
+  s = struct ('pr', 1, 'ir', int32 (0), 'jc', int32 ([0; 1]), 'dims', [0 2147483647]);
+  refused_left (zeros (0, 2 ^ 40), s);
+end
+
+function test_triple_product_defined_messages ()
+  k = csc ([1 2; 3 4]);
+  flags = int32 ([1 0 0]);
+  one = [1; 1];
+  sparse_text = 'quarn abc : b must be int32 sparse';
+  expect_error (@() quarn ('abc', one, [1 2; 3 4], one, flags), '', sparse_text);
+  expect_error (@() quarn ('abc', one, struct ('pr', ones (2), 'dims', [2 2]), one, flags), '', sparse_text);
+  expect_error (@() quarn ('abc', one, struct ('x', 1), one, flags), '', sparse_text);
+  flags_text = 'int32 needed : quarn(''abc'',TA,k,TB,int32([1 0 0]));';
+  expect_error (@() quarn ('abc', one, k, one, [1 0 0]), '', flags_text);
+  expect_error (@() quarn ('abc', one, k, one), '', flags_text);
+  expect_error (@() quarn ('abc', one, k), '', flags_text);
+  expect_error (@() quarn ('abc', one, k, one, {1}), '', flags_text);
+  others = {[1 0 1], [1 1 0], [0 0 0], [2 0 0], [1 0], 1, zeros(1, 0)};
+  for i = 1:numel (others)
+    expect_error (@() quarn ('abc', one, k, one, int32 (others{i})), '', 'quarn(''abc'')');
+  end
+  expect_error (@() quarn ('abc', [1; 1; 1], k, one, flags), '', 'abc : a and b have wrong size');
+  expect_error (@() quarn ('abc', one, k, [1; 1; 1], flags), '', 'abc : b and c have wrong size');
+end
+
+function test_triple_product_checks_in_order ()
+  k = csc ([1 2; 3 4]);
+  expect_error (@() quarn ('abc', 1, [1 2; 3 4], 1, 1), '', 'quarn abc : b must be int32 sparse');
+  expect_error (@() quarn ('abc', 1, k, 1, 1), '', 'int32 needed : quarn(''abc'',TA,k,TB,int32([1 0 0]));');
+  expect_error (@() quarn ('abc', 1, k, 1, int32 (0)), '', 'quarn(''abc'')');
+  expect_error (@() quarn ('abc', 1, k, 1, int32 ([1 0 0])), '', 'abc : a and b have wrong size');
+end
+
+% A matrix whose index array holds nothing has no pattern for "abc".
+function test_triple_product_without_any_entry_is_not_sparse ()
+  expect_error (@() quarn ('abc', 1, csc (0), 1, int32 ([1 0 0])), '', 'quarn abc : b must be int32 sparse');
+end
+
+function test_triple_product_needs_its_operands ()
+  expect_error (@() quarn ('abc'), '', '~^quarn abc : .*expected');
+  expect_error (@() quarn ('abc', 1), '', '~^quarn abc : .*expected');
+end
+
+function test_triple_product_with_a_narrower_ta_is_refused ()
+  expect_error (@() quarn ('abc', [1; 1], csc ([1 2; 3 4]), ones (2, 3), int32 ([1 0 0])), '', ...
+                'quarn abc : TA must have as many columns as TB (3), got 1');
+end
+
+function test_triple_product_of_a_tall_matrix_is_refused ()
+  refused_triple (ones (3, 1), csc (ones (3, 2)), ones (2, 1));
+  refused_triple (ones (3, 1), csc (ones (3, 2), true), ones (2, 1));
+end
+
+function test_triple_product_with_an_index_past_ta_is_refused ()
+  refused_triple (ones (2, 1), csc (ones (2, 3), true), ones (3, 1));
+end
+
+function test_triple_product_refuses_odd_bases ()
+  values = odd_values ();
+  k = csc (ones (3, 3));
+  for i = 1:numel (values)
+    expect_error (@() quarn ('abc', values{i}, k, ones (3, 1), int32 ([1 0 0])), '', '~^(quarn )?abc : ');
+    expect_error (@() quarn ('abc', ones (3, 1), k, values{i}, int32 ([1 0 0])), '', '~^(quarn )?abc : ');
+    if ~isa (values{i}, 'int32')
+      expect_error (@() quarn ('abc', ones (3, 1), k, ones (3, 1), values{i}), '', '~^int32 needed : ');
+    end
+  end
+end

@@ -1,0 +1,178 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+#include <vector>
+
+#include "nonlinear/lin_interp.h"
+
+namespace quarn {
+namespace {
+
+// A jump at 1: abscissae 0 1 1 2, values 10 20 30 40.
+const double jump[] = {0, 1, 1, 2, 10, 20, 30, 40};
+
+double value(const double* table, int nx, double query, double* rec) {
+  double out = -1;
+  vorel_LinInterp(table, &query, rec, &out, nx, 1, 1, 1, nullptr, nullptr);
+  return out;
+}
+
+TEST(LinInterp, QueryOnAJumpGetsTheMeanWhateverTheStart) {
+  for (int start = -2; start < 8; ++start) {
+    double rec[3] = {static_cast<double>(start), 0, 0};
+    EXPECT_EQ(value(jump, 4, 1.0, rec), 25.0) << start;
+    EXPECT_EQ(rec[2], 0.5);
+  }
+}
+
+TEST(LinInterp, QueryAboveTheLastKnotExtrapolatesAndLeavesTheRecordBehindTheLastSegment) {
+  double rec[3] = {};
+  EXPECT_EQ(value(jump, 4, 3.0, rec), 50.0);
+  EXPECT_EQ(rec[0], 3.0);
+  EXPECT_EQ(rec[2], 2.0);
+}
+
+TEST(LinInterp, QueryBelowTheFirstKnotExtrapolatesWithANegativeFraction) {
+  double rec[3] = {};
+  EXPECT_EQ(value(jump, 4, -1.0, rec), 0.0);
+  EXPECT_EQ(rec[0], 0.0);
+  EXPECT_EQ(rec[2], -1.0);
+}
+
+TEST(LinInterp, InnerKnotEndsOnTheSegmentBelowWhenReachedFromBelowAndAboveWhenReachedFromAbove) {
+  const double table[] = {0, 1, 2, 3, 0, 1, 4, 9};
+  double fromBelow[3] = {0, 0, 0};
+  EXPECT_EQ(value(table, 4, 2.0, fromBelow), 4.0);
+  EXPECT_EQ(fromBelow[0], 1.0);
+  double fromAbove[3] = {2, 0, 0};
+  EXPECT_EQ(value(table, 4, 2.0, fromAbove), 4.0);
+  EXPECT_EQ(fromAbove[0], 2.0);
+}
+
+TEST(LinInterp, RecordHoldsTheFirstQueryForEveryQuery) {
+  const double x[] = {0.25, 1.75};
+  double rec[3] = {};
+  double out[2];
+  vorel_LinInterp(jump, x, rec, out, 4, 1, 2, 1, nullptr, nullptr);
+  EXPECT_EQ(rec[1], 0.25);
+  EXPECT_EQ(out[0], 12.5);
+  EXPECT_EQ(out[1], 37.5);
+}
+
+TEST(LinInterp, NaNQueryStopsAtTheStartSegmentAndYieldsNaN) {
+  double rec[3] = {2, 0, 0};
+  EXPECT_TRUE(std::isnan(value(jump, 4, std::nan(""), rec)));
+  EXPECT_EQ(rec[0], 2.0);
+}
+
+TEST(LinInterp, OneKnotReturnsItsValueWithoutLookingAtANextOne) {
+  const double table[] = {5, 7};
+  for (const double q : {4.0, 5.0, 6.0}) {
+    double rec[3] = {3, 0, 0};
+    EXPECT_EQ(value(table, 1, q, rec), 7.0);
+    EXPECT_EQ(rec[0], 0.0);
+    EXPECT_EQ(rec[2], 0.0);
+  }
+}
+
+TEST(LinInterp, PositionOnlyWritesNoValueAndOneKnotHasTheFractionOne) {
+  const double query = 0.5;
+  double rec[3] = {};
+  double out = -9;
+  vorel_LinInterp(jump, &query, rec, &out, 4, 1, 1, 0, nullptr, nullptr);
+  EXPECT_EQ(out, -9.0);
+  EXPECT_EQ(rec[2], 0.5);
+  const double table[] = {5, 7};
+  vorel_LinInterp(table, &query, rec, &out, 1, 1, 1, 0, nullptr, nullptr);
+  EXPECT_EQ(rec[2], 1.0);
+  EXPECT_EQ(out, -9.0);
+}
+
+TEST(LinInterp, PositionOnlyDoesNotResolveJumps) {
+  const double query = 1.0;
+  double rec[3] = {};
+  vorel_LinInterp(jump, &query, rec, nullptr, 4, 1, 1, 0, nullptr, nullptr);
+  EXPECT_EQ(rec[0], 0.0);
+  EXPECT_EQ(rec[2], 1.0);
+}
+
+TEST(LinInterp, WithoutValueColumnsTheSegmentNumberIsReturned) {
+  const double x[] = {-5.0, 1.5, 9.0};
+  double rec[3] = {};
+  double out[3];
+  vorel_LinInterp(jump, x, rec, out, 4, 0, 3, 1, nullptr, nullptr);
+  EXPECT_EQ(out[0], 1.0);
+  EXPECT_EQ(out[1], 3.0);
+  EXPECT_EQ(out[2], 3.0);
+}
+
+TEST(LinInterp, WithoutKnotsThereIsNoValue) {
+  const double query = 1.0;
+  double rec[3] = {0, 0, 0.25};
+  double out = -9;
+  vorel_LinInterp(jump, &query, rec, &out, 0, 1, 1, 1, nullptr, nullptr);
+  EXPECT_EQ(out, -9.0);
+  EXPECT_EQ(rec[0], -1.0);
+}
+
+TEST(LinInterp, SecondTableGetsTheSameWeights) {
+  const double second[] = {0, 0, 0, 0, 1, 2, 3, 4};
+  const double query = 1.5;
+  double rec[3] = {};
+  double out;
+  double out2;
+  vorel_LinInterp(jump, &query, rec, &out, 4, 1, 1, 1, second, &out2);
+  EXPECT_EQ(out, 35.0);
+  EXPECT_EQ(out2, 3.5);
+}
+
+TEST(LinInterp, ColumnsAreWrittenColumnByColumn) {
+  const double table[] = {0, 1, 0, 10, 100, 200};
+  const double x[] = {0.5, 1.0, 2.0};
+  double rec[3] = {};
+  double out[6];
+  vorel_LinInterp(table, x, rec, out, 2, 2, 3, 1, nullptr, nullptr);
+  const double wanted[] = {5, 10, 20, 150, 200, 300};
+  for (int k = 0; k < 6; ++k) EXPECT_EQ(out[k], wanted[k]) << k;
+}
+
+TEST(LinInterp, NoQueriesLeaveTheRecordAlone) {
+  double rec[3] = {7, 8, 9};
+  vorel_LinInterp(jump, nullptr, rec, nullptr, 4, 1, 0, 1, nullptr, nullptr);
+  EXPECT_EQ(rec[0], 7.0);
+}
+
+TEST(LinInterp, KnotsThatDescendAtTheEndDoNotWalkForEver) {
+  const double table[] = {0, 2, 1, 10, 20, 30};
+  double rec[3] = {5, 0, 0};
+  EXPECT_TRUE(std::isfinite(value(table, 3, 1.5, rec)));
+}
+
+TEST(LinInterp, AgreesWithASearchFromScratchOnRandomTables) {
+  std::mt19937 random(42);
+  std::uniform_real_distribution<double> uniform(-1, 1);
+  for (int trial = 0; trial < 300; ++trial) {
+    const int nx = 2 + trial % 17;
+    std::vector<double> table(static_cast<std::size_t>(2 * nx));
+    double x = uniform(random);
+    for (int i = 0; i < nx; ++i) {
+      table[static_cast<std::size_t>(i)] = x;
+      table[static_cast<std::size_t>(nx + i)] = uniform(random);
+      x += 0.01 + std::abs(uniform(random));
+    }
+    double rec[3] = {static_cast<double>(trial % 23) - 3, 0, 0};
+    for (int k = 0; k < 20; ++k) {
+      const double q = table[0] + (table[static_cast<std::size_t>(nx - 1)] - table[0]) * 0.75 * (1 + uniform(random)) - 0.2;
+      int s = 0;
+      while (s < nx - 2 && q > table[static_cast<std::size_t>(s + 1)]) ++s;
+      const double x0 = table[static_cast<std::size_t>(s)];
+      const double f = (q - x0) / (table[static_cast<std::size_t>(s + 1)] - x0);
+      const double wanted = f * table[static_cast<std::size_t>(nx + s + 1)] + (1.0 - f) * table[static_cast<std::size_t>(nx + s)];
+      EXPECT_EQ(value(table.data(), nx, q, rec), wanted);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quarn

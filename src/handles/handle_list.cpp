@@ -22,7 +22,8 @@ chandle* fromElement(const mxArray* list, std::size_t i) {
   return h;
 }
 
-chandle* fromRegistry(const mxArray* list, mxArray* place, std::size_t i) {
+/// Registry index of element i of a "chandle" object.
+int keyOf(const mxArray* list, mxArray* place, std::size_t i) {
   *mxGetPr(place) = static_cast<double>(i + 1);
   mxArray* in[2] = {const_cast<mxArray*>(list), place};
   mxArray* index = nullptr;
@@ -30,9 +31,33 @@ chandle* fromRegistry(const mxArray* list, mxArray* place, std::size_t i) {
   if (!index) host::fail("KORV:quarn:NonHandle", "Handle does not exist");
   const int key = host::toInt(host::number(index, "the index that \"remi\" returned"));
   mxDestroyArray(index);
+  return key;
+}
+
+chandle* fromRegistry(int key) {
   chandle* h = cIndex.getStack(key);
   if (!h) host::fail("KORV:quarn:NonHandle", "Handle does not exist");
   return h;
+}
+
+void gatherElements(chandle** out, const mxArray* list, std::size_t n) {
+  for (std::size_t i = 0; i < n; ++i) {
+    out[i] = fromElement(list, i);
+    out[i]->initCpt();
+  }
+}
+
+/// All indices are asked for before any handle is looked up: "remi" is a method of the user's, which may free handles.
+void gatherRegistered(chandle** out, const mxArray* list, std::size_t n) {
+  auto* keys = static_cast<int*>(mxCalloc(n + 1, sizeof(int)));
+  mxArray* place = mxCreateDoubleScalar(-1.0);
+  for (std::size_t i = 0; i < n; ++i) keys[i] = keyOf(list, place, i);
+  mxDestroyArray(place);
+  for (std::size_t i = 0; i < n; ++i) {
+    out[i] = fromRegistry(keys[i]);
+    out[i]->initCpt();
+  }
+  mxFree(keys);
 }
 
 }  // namespace
@@ -44,13 +69,11 @@ chandle** newHandleList(const mxArray* list) {
 int fillVectP(chandle** out, const mxArray* list) {
   const std::size_t n = host::count(list);
   if (n > INT_MAX) host::refuse("a handle list may have up to %d elements, got %zu", INT_MAX, n);
-  const bool elements = mxIsCell(list);
-  mxArray* place = elements ? nullptr : mxCreateDoubleScalar(-1.0);
-  for (std::size_t i = 0; i < n; ++i) {
-    out[i] = elements ? fromElement(list, i) : fromRegistry(list, place, i);
-    out[i]->initCpt();
+  if (mxIsCell(list)) {
+    gatherElements(out, list, n);
+  } else {
+    gatherRegistered(out, list, n);
   }
-  if (place) mxDestroyArray(place);
   return static_cast<int>(n);
 }
 

@@ -30,7 +30,12 @@ Description describe(const mxArray* a) {
   return d;
 }
 
-bool isClass(const mxArray* a, const char* className) { return a && mxIsClass(a, className); }
+bool isObject(const mxArray* a) {
+  return a && !mxIsNumeric(a) && !mxIsStruct(a) && !mxIsCell(a) && !mxIsChar(a) && !mxIsLogical(a) && !mxIsFunctionHandle(a);
+}
+
+// Asking Octave for the class name of a struct or cell leaks the name once the array is looked into, so only objects are asked.
+bool isClass(const mxArray* a, const char* className) { return isObject(a) && mxIsClass(a, className); }
 
 bool isRealDouble(const mxArray* a) { return a && mxIsDouble(a) && !mxIsSparse(a) && !mxIsComplex(a); }
 

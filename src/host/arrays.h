@@ -30,6 +30,9 @@ struct Description {
 };
 Description describe(const mxArray* a);
 
+/// Neither a built-in array nor a function handle: an object of a class.
+bool isObject(const mxArray* a);
+/// An object of that class.
 bool isClass(const mxArray* a, const char* className);
 /// A full real double array (no elements is fine).
 bool isRealDouble(const mxArray* a);

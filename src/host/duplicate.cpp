@@ -35,9 +35,12 @@ void copyBytes(void* to, const void* from, std::size_t bytes) {
   if (to && from && bytes > 0) std::memcpy(to, from, bytes);
 }
 
+// Octave leaks the extents of a struct or cell that are asked for before the first look into it: the look comes first.
+
 mxArray* duplicateStruct(const mxArray* a) {
   const int fields = mxGetNumberOfFields(a);
   const std::size_t n = count(a);
+  if (n > 0 && fields > 0) mxGetFieldByNumber(a, 0, 0);
   auto names = static_cast<const char**>(mxCalloc(static_cast<std::size_t>(fields) + 1, sizeof(char*)));
   for (int f = 0; f < fields; ++f) names[f] = mxGetFieldNameByNumber(a, f);
   mxArray* copy = mxCreateStructArray(mxGetNumberOfDimensions(a), mxGetDimensions(a), fields, names);
@@ -52,8 +55,9 @@ mxArray* duplicateStruct(const mxArray* a) {
 }
 
 mxArray* duplicateCell(const mxArray* a) {
-  mxArray* copy = mxCreateCellArray(mxGetNumberOfDimensions(a), mxGetDimensions(a));
   const std::size_t n = count(a);
+  if (n > 0) mxGetCell(a, 0);
+  mxArray* copy = mxCreateCellArray(mxGetNumberOfDimensions(a), mxGetDimensions(a));
   for (std::size_t i = 0; i < n; ++i) {
     const auto index = static_cast<mwIndex>(i);
     mxSetCell(copy, index, duplicate(mxGetCell(a, index)));

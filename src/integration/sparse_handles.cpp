@@ -22,7 +22,7 @@ void chandleSparse::readView() {
 void chandleSparse::markDiagonal() {
   if (!m.ir) return;
   checkLength(m.jcLen, static_cast<long long>(m.cols) + 1, "\"jc\"", "one more than the matrix has columns");
-  if (m.cols >= 0 && m.jcLen > 0 && m.jc[m.cols] == m.cols) m.ir[0] = -1;
+  if (m.jc && m.cols >= 0 && m.jc[m.cols] == m.cols) m.ir[0] = -1;
 }
 
 void chandleSparse::checkSizes(const ROr& ctx, std::size_t rLen) { checkTerms(ctx, rLen); }

@@ -1,5 +1,7 @@
 // The tabulated law.
+#include <array>
 #include <climits>
+#include <cstdint>
 #include <cstring>
 #include <functional>
 
@@ -15,6 +17,14 @@ namespace {
 bool overlap(const double* a, long long na, const double* b, long long nb) {
   const std::less<const double*> before;
   return na > 0 && nb > 0 && before(a, b + nb) && before(b, a + na);
+}
+
+using Bits = std::array<std::uint64_t, 3>;
+
+Bits bitsOf(const double* record) {
+  Bits bits{};
+  std::memcpy(bits.data(), record, sizeof bits);
+  return bits;
 }
 
 }  // namespace
@@ -57,10 +67,9 @@ void FuTable(chandleNl_inout* h, ROr ro) {
   const bool apart = !overlap(h->unl, queries, h->snl, results) && !overlap(h->snl, results, h->opt, h->optLen) &&
                      !overlap(t.table, size, t.record, 3) && !overlap(h->unl, queries, h->opt, h->optLen);
   for (int repetition = 0; repetition < h->unlLen; ++repetition) {
-    const double before[3] = {t.record[0], t.record[1], t.record[2]};
+    const Bits before = bitsOf(t.record);
     vorel_LinInterp(t.table, h->unl, t.record, h->snl, t.nx, t.ny, h->unlLen, 1, nullptr, nullptr);
-    const bool settled = std::memcmp(t.record, before, sizeof before) == 0;
-    if (apart && settled) break;
+    if (apart && bitsOf(t.record) == before) break;
   }
   storeForces(*h, ro);
 }

@@ -124,8 +124,8 @@ function test_types_in_a_cell_list_are_truncated ()
 end
 
 function test_elements_without_a_type_are_refused ()
-  values = {[], 5, 'text', {}, struct('x', 1), struct('type', []), struct('type', 'no'), struct('type', {}), struct('type', {{1}}), @sin, ...
-            chandle(0), v_handle(1)};
+  values = {[], 5, 'text', {}, struct('x', 1), struct('type', []), struct('type', 'no'), struct('type', {}), struct('type', {{1}}), ...
+            @sin, chandle(0), v_handle(1)};
   for k = 1:numel (values)
     run = small_run ();
     run.list{3} = values{k};

@@ -25,7 +25,7 @@ function test_residual_of_a_model_structure ()
   fields = fieldnames (element);
   for k = find (~strcmp (fields, 'Fu')).'
     for value = hostile_values ()
-      model.NL{3} = setfield (element, fields{k}, value{1});
+      model.NL{3} = put (element, fields{k}, value{1});
       own_answer (@() quarn ('residual', zeros (3, 1), model, args{3:7}));
     end
   end
@@ -65,7 +65,7 @@ function test_fields_of_an_element ()
   fields = fieldnames (element);
   for k = 1:numel (fields)
     for value = hostile_values ()
-      h = quarn ('chandleset', 1003, setfield (element, fields{k}, value{1}));
+      h = quarn ('chandleset', 1003, put (element, fields{k}, value{1}));
       own_answer (@() quarn ('residual', zeros (3, 1), chandle (h), ones (3, 1), ones (3, 1), ones (3, 1)));
     end
   end
@@ -89,7 +89,7 @@ function test_fields_of_the_integrator ()
   sweep_fields ('chandlediagnewmark', args, 0, run.mem, @(a, s) replaced (a, 7, s));
   sweep_fields ('chandlediagnewmark', args, 0, run.mem.uva, @(a, s) replaced (a, 7, struct ('uva', s)));
   sweep_fields ('chandlediagnewmark', args, 0, run.out, @(a, s) replaced (a, 8, s));
-  sweep_fields ('chandlediagnewmark', args, 0, run.out.FNL, @(a, s) replaced (a, 8, setfield (a{8}, 'FNL', s)));
+  sweep_fields ('chandlediagnewmark', args, 0, run.out.FNL, @(a, s) replaced (a, 8, put (a{8}, 'FNL', s)));
 end
 
 function test_missing_arguments ()
@@ -107,7 +107,7 @@ function matrix_fields (m)
   fields = fieldnames (m);
   for k = 1:numel (fields)
     for value = hostile_values ()
-      bad = setfield (m, fields{k}, value{1});
+      bad = put (m, fields{k}, value{1});
       own_answer (@() quarn ('residual', zeros (3, 1), {bad, bad, bad}, ones (3, 1), ones (3, 1), ones (3, 1), [0.5 0.5]));
       own_answer (@() quarn ('tbbp', bad, ones (3, 1), zeros (3, 1)));
       own_answer (@() quarn ('tbbp', v_handle (bad), ones (3, 1), zeros (3, 1)));
@@ -141,7 +141,7 @@ function sweep_fields (word, args, count, s, place)
   fields = fieldnames (s);
   for k = 1:numel (fields)
     for value = hostile_values ()
-      bad = place (args, setfield (s, fields{k}, value{1}));
+      bad = place (args, put (s, fields{k}, value{1}));
       own_answer (@() outputs (count, word, bad{:}));
     end
     bad = place (args, rmfield (s, fields{k}));
@@ -156,4 +156,8 @@ end
 function outputs (count, varargin)
   out = cell (1, count);
   [out{:}] = quarn (varargin{:});
+end
+
+function s = put (s, name, value)
+  s.(name) = value;
 end

@@ -96,6 +96,14 @@ function test_a_function_may_free_the_handle_it_is_called_on ()
   expect_equal (quarn ('chandleget', @(v) clear_and_return (v), h), {'still', 'here'});
 end
 
+function test_a_function_may_unload_the_module ()
+  for k = 1:10
+    h = quarn ('chandleset', 1, {'outlives', k});
+    expect_equal (quarn ('chandleget', @unload_and_return, h), {'outlives', k});
+    expect_equal (quarn ('chandleget'), zeros (0, 1));
+  end
+end
+
 function test_a_refusal_after_a_nested_call_names_its_own_command ()
   h = quarn ('chandleset', 1, 5);
   expect_refused (@() quarn ('chandleget', @(v) quarn ('tbbp'), h), '~^quarn tbbp : ');
@@ -179,4 +187,8 @@ end
 
 function v = changed (v)
   add_one (v.pr);
+end
+
+function v = unload_and_return (v)
+  clear quarn
 end

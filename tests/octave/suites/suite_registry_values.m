@@ -35,6 +35,7 @@ function test_function_handles_and_objects_come_back_usable ()
   expect_equal (inside.file, [1 2]);
   expect_equal (got.f (1), 4);
   expect_equal (got.b.c, 5);
+  expect_equal (quarn ('chandleget', @(v) {class(v.m), v.b.c, v.f(2)}, h), {'v_handle', 5, 5});
 end
 
 function test_a_value_outlives_the_variable_it_came_from ()
@@ -162,6 +163,7 @@ function test_a_returned_value_survives_an_unload ()
 end
 
 function test_a_freed_element_keeps_its_value_in_memory_and_others_give_theirs_back ()
+  if sanitized (), return; end
   bytes = 8 * 2 ^ 20;
   before = resident ();
   for k = 1:12, quarn ('chandleclear', quarn ('chandleset', 1, ones (bytes / 8, 1))); end
@@ -172,6 +174,7 @@ function test_a_freed_element_keeps_its_value_in_memory_and_others_give_theirs_b
 end
 
 function test_clearing_all_gives_values_back_except_those_of_elements ()
+  if sanitized (), return; end
   bytes = 8 * 2 ^ 20;
   before = resident ();
   for k = 1:12, quarn ('chandleset', 3, ones (bytes / 8, 1)); end
@@ -206,6 +209,11 @@ function v = plain_values ()
        true, logical([1 0; 0 1]), 'text', ['two'; 'row'], char(zeros (0, 4)), {1, 'a', {2, {}}}, ...
        struct('a', {1, 'b', {3}}), reshape(struct ('a', {1, 2, 3, 4}), 2, 2), sparse([1 0; 0 2]), sparse([0 1i; 2 0]), ...
        sparse(logical ([1 0; 0 1])), sparse(3, 0), sparse(4, 5), 1:5};
+end
+
+% A sanitizer holds freed memory back, so that none of it seems to be given back.
+function yes = sanitized ()
+  yes = ~isempty (getenv ('QUARN_SANITIZED'));
 end
 
 function bytes = resident ()

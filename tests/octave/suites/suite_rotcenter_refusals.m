@@ -160,7 +160,7 @@ end
 function test_lists_that_share_memory_with_a_target_stay_inside ()
   shared = zeros (3, 1) + 1;
   e = rmfield (rotor (10), {'unl', 'c'});
-  e.Cell(5:8, 2) = {shared, shared, shared, shared};
+  e.Cell([1 5:8], 2) = {1, shared, shared, shared, shared};
   e.cur_u = shared;
   e.cur_v = shared;
   r = shared;

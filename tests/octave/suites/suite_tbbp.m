@@ -126,6 +126,25 @@ function test_line_counts_around_the_grain_give_the_bits_of_the_serial_sum ()
   end
 end
 
+function test_the_residual_of_matrices_and_handles_has_the_bits_of_the_product ()
+  [m, x, n] = large_case ();
+  product = zeros (n, 1);
+  quarn ('tbbp', m, x, product);
+  r = zeros (n, 1);
+  none = csc (sparse (n, n));
+  quarn ('residual', r, {none, none, m}, x, zeros (n, 1), zeros (n, 1));
+  expect_equal (r, product);
+  r = zeros (n, 1);
+  h = chandle (quarn ('chandleset', 1, m));
+  quarn ('residual', r, h, x, zeros (n, 1), zeros (n, 1));
+  expect_equal (r, product);
+  quarn ('residual', r, h, x, zeros (n, 1), zeros (n, 1));
+  expect_equal (r, product + product);
+  r = zeros (n, 1);
+  quarn ('residual', r, {none, m, m}, x, x, zeros (n, 1));
+  expect_equal (r, product + product);
+end
+
 function test_the_result_is_the_same_after_a_reload ()
   [m, x, n] = large_case ();
   first = zeros (n, 1);

@@ -99,6 +99,12 @@ function test_vectors_and_lines_that_do_not_fit_are_refused ()
   end
 end
 
+function test_a_refusal_after_a_callback_that_used_the_module_names_the_command ()
+  e = element ([], csc (speye (2)), [0; 0]);
+  e.Fu = @(varargin) quarn ('omp');   % one force where two are spread
+  expect_refused (@() evaluate (e, [1; 10], [0; 0], zeros (2, 1)), '~^quarn residual : ');
+end
+
 % What an element with the observation matrix c sees of u, start standing in the observation before.
 function seen = observed (c, u, start)
   e = element (c, [], start);

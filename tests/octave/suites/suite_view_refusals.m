@@ -9,8 +9,8 @@ function test_line_pointers_must_be_there ()
 end
 
 function test_line_pointers_must_be_enough ()
-  broken (with ('jc', int32 ([0; 1; 2])));
-  broken (with ('jc', int32 (0)));
+  broken (with ('jc', int32 ([0; 1; 2])), 'line pointers');
+  broken (with ('jc', int32 (0)), 'line pointers');
 end
 
 function test_line_pointers_must_not_start_below_zero ()
@@ -140,10 +140,11 @@ function s = with (name, value)
 end
 
 % The matrix m is refused in a product of three lines that leaves its result alone.
-function broken (m)
+function broken (m, words)
+  if nargin < 2, words = ''; end
   y = [1; 2; 3] + 0.5;
   x = [1; 2; 3] * 2;
-  expect_refused (@() quarn ('tbbp', m, x, y), '~^quarn tbbp : ');
+  expect_refused (@() quarn ('tbbp', m, x, y), ['~^quarn tbbp : .*' words]);
   expect_equal (y, [1.5; 2.5; 3.5]);
 end
 

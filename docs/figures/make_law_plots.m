@@ -1,0 +1,175 @@
+% Draws the force-displacement plots of docs/laws.md into docs/images (quarn must be on the path).
+%
+%   octave-cli --no-history -qf --path MODULE_DIR --path docs/figures --eval make_law_plots
+function make_law_plots ()
+  if exist ('graphics_toolkit'), graphics_toolkit ('gnuplot'); end
+  power ();
+  exponential ();
+  table ();
+  maxwell ();
+  dahl ();
+  stick_slip ();
+  clima2 ();
+end
+
+function power ()
+  x = linspace (-1.5, 1.5, 121);
+  exponents = [1 2 3];
+  f = zeros (3, numel (x));
+  for k = 1:3, f(k, :) = drive (element ('Power', [1 exponents(k)], 1), x, 0 * x); end
+  draw ('law_power', x, f, {'p = 1', 'p = 2', 'p = 3'}, 'Power: F = k u^p, k = 1 N/m^p', 'displacement [m]');
+end
+
+function exponential ()
+  x = linspace (-2, 2, 121);
+  bases = [0.5 1.5 3];
+  f = zeros (3, numel (x));
+  for k = 1:3, f(k, :) = drive (element ('Expon', [1 bases(k)], 1), x, 0 * x); end
+  draw ('law_expon', x, f, {'a = 0.5', 'a = 1.5', 'a = 3'}, 'Expon: F = k a^u, k = 1 N', 'displacement [m]');
+end
+
+function table ()
+  % A gap of +-1 mm, a stiff stop, and a jump of 20 N at 3 mm; beyond the last knots the end segments go on.
+  knots = [-2 -1 1 2.5 3 3 4];
+  values = [-60 0 0 40 45 65 70];
+  e = element ('Table', [knots values 0 0 0], 1, [-1 0 0 0 0 1 15 7 1]);
+  x = sort ([linspace(-2.6, 4.6, 201) 3 - 1e-9 3 + 1e-9]);
+  f = drive (e, x, 0 * x);
+  draw ('law_table', x, f, {}, 'Table: gap of 1 mm, a jump at 3 mm, linear beyond the ends', 'displacement [mm]');
+  hold ('on');
+  plot (knots, values, 'ko', 'markersize', 8, 'linewidth', 2);
+  hold ('off');
+  save_plot ('law_table');
+end
+
+function maxwell ()
+  % A spring of 10 N/m beside a spring of 60 N/m in series with a damper: relaxation time 0.025 s.
+  k1 = 10;
+  k2 = 60;
+  c = 1.5;
+  names = {'0.3 Hz', '6.4 Hz', '60 Hz'};
+  f = zeros (3, 401);
+  rates = [0.3 6.4 60];
+  for k = 1:3
+    [x, v, h, last] = harmonic (0.01, rates(k), 400, 6);
+    e = element ('Maxw', [h 1 0, k1+k2 -k2 0 0 0 0, zeros(1, 6), k2/c 0, -k2/c, 0 0], 2, [-1 0 2 1 1], 3);
+    e.vnl(6) = k2 / c * x(1);
+    force = drive (e, [x; 0 * x], [v; 0 * v]);
+    f(k, :) = force(1, last);
+  end
+  draw ('law_maxw', 1e3 * x(last), f, names, 'Maxw: one internal state, relaxation time 25 ms', 'displacement [mm]');
+end
+
+function dahl ()
+  [x, v, h, last] = harmonic (0.01, 1, 4000, 5);
+  exponents = [0 1 2];
+  f = zeros (3, numel (last));
+  for k = 1:3
+    e = element ('DahlC', [h 3e5 exponents(k) 1 1000], 2, [-1 1 1 1 1], 2);
+    force = drive (e, [x; 0 * x], [v; 0 * v]);
+    f(k, :) = force(1, last);
+  end
+  names = {'e = 0 (Coulomb)', 'e = 1', 'e = 2'};
+  draw ('law_dahlc', 1e3 * x(last), f, names, 'DahlC: k = 3e5 N/m, limit 1000 N', 'displacement [mm]');
+end
+
+function stick_slip ()
+  [x, v, h, last] = harmonic (0.01, 1, 200, 3);
+  e = element ('sts', [h 500 1e4 40 0], 2, [-1 1 1 1 1], 2);
+  force = drive (e, [x; 0 * x], [v; 0 * v]);
+  headline = 'sts: k = 1e4 N/m, slip force 40 N, parallel 500 N/m; a dot is a step';
+  draw ('law_sts', 1e3 * x(last), force(1, last), {}, headline, 'displacement [mm]', '.-');
+end
+
+function clima2 ()
+  % g0 (the limit, mu = 1) falls from 100 N to 40 N over the third value, the stiffness g1 from 4e4 to 2e4 N/m.
+  [x, v, h, last] = harmonic (0.01, 1, 4000, 4);
+  level = [0 0.5 1];
+  f = zeros (3, numel (last));
+  for k = 1:3
+    parameters = [h 0 1 1 0, 0 1 100 40 4e4 2e4, 0 0 0];
+    e = element ('Clima2', parameters, 5, [-1 3 3 2 1 7 13 2 2], 2);
+    n = numel (x);
+    force = drive (e, [x; zeros(1, n); level(k) * ones(1, n); zeros(2, n)], [v; zeros(4, n)]);
+    f(k, :) = force(1, last);
+  end
+  names = {'third value 0', 'third value 0.5', 'third value 1'};
+  draw ('law_clima2', 1e3 * x(last), f, names, 'Clima2: first branch at three table values, k = 0', 'displacement [mm]');
+end
+
+% Some cycles of a harmonic motion, the samples of the last one, and the time step.
+function [x, v, h, last] = harmonic (amplitude, frequency, samples, cycles)
+  h = 1 / (frequency * samples);
+  phase = 2 * pi * (0:cycles * samples) / samples;
+  x = amplitude * sin (phase);
+  v = amplitude * 2 * pi * frequency * cos (phase);
+  last = (cycles - 1) * samples + 1:cycles * samples + 1;
+end
+
+% An element that observes each of its values as it stands and keeps its force in "snl".
+function e = element (word, parameters, page, iopt, pages)
+  if nargin < 5, pages = 1; end
+  code = sum (double (word) .* 256 .^ (0:numel (word) - 1));
+  opt = [code parameters];
+  if any (strcmp (word, {'Maxw', 'DahlC', 'sts', 'Clima2'})), opt = [code 0 parameters]; end
+  e = struct ('type', 1003, 'opt', opt(:));
+  e.c = struct ('ir', int32 ((0:page - 1)'), 'jc', int32 ((0:page)'), 'pr', ones (page, 1), 'dims', [page page], 'trans', 1);
+  if nargin > 3, e.iopt = int32 (iopt(:)); end
+  e.unl = zeros (page, 1, pages);
+  e.vnl = zeros (page, 1, pages);
+  e.snl = zeros (max (page, 1), 1);
+end
+
+% Forces along a motion: columns of x and v are samples. Rows of x that the law stores its states in are carried over.
+% An integrator whose coefficients are all zero moves nothing: each call just evaluates the law once and ends the step.
+function f = drive (e, x, v)
+  n = size (x, 1);
+  integrator = struct ('type', 2000, 'r', zeros (n, 2), 'tft', [0 1], 'data', zeros (1, 6));
+  mem = struct ('uva', struct ('uva', zeros (4 * n, 1)));
+  out = struct ('data', zeros (0, 1));
+  stored = [];
+  if isfield (e, 'iopt') && e.iopt(2) > 0, stored = double (e.iopt(2)) + (1:double (e.iopt(4))); end
+  state = zeros (numel (stored), 1);
+  f = zeros (numel (e.snl), size (x, 2));
+  for k = 1:size (x, 2)
+    u = x(:, k) + zeros (n, 1);
+    u(stored) = state;
+    w = v(:, k) + zeros (n, 1);
+    a = zeros (n, 1);
+    quarn ('chandlediagnewmark', {integrator, e}, struct ('K', []), u, w, a, zeros (1, 2), mem, out);
+    state = u(stored);
+    f(:, k) = e.snl;
+  end
+end
+
+function draw (name, x, f, names, headline, across, style)
+  if nargin < 7, style = '-'; end
+  colours = [0 0.32 0.62; 0.85 0.37 0.01; 0.1 0.55 0.3];
+  figure (1, 'visible', 'off');
+  clf ();
+  hold ('on');
+  for k = 1:size (f, 1), plot (x, f(k, :), style, 'color', colours(k, :), 'linewidth', 4, 'markersize', 6); end
+  hold ('off');
+  low = min (f(:));
+  high = max (f(:));
+  axis ([x_range(x) low-0.06*(high-low) high+0.06*(high-low)]);
+  grid ('on');
+  box ('on');
+  set (gca (), 'gridlinestyle', ':', 'gridcolor', 0.6 * ones (1, 3), 'fontsize', 11);
+  title (headline, 'fontweight', 'normal');
+  xlabel (across);
+  ylabel ('force [N]');
+  if ~isempty (names), legend (names, 'location', 'eastoutside'); end
+  save_plot (name);
+end
+
+function r = x_range (x)
+  reach = max (x) - min (x);
+  r = [min(x)-0.05*reach max(x)+0.05*reach];
+end
+
+function save_plot (name)
+  here = fileparts (mfilename ('fullpath'));
+  set (gcf (), 'paperunits', 'inches', 'paperposition', [0 0 7 4.2]);
+  print (fullfile (here, '..', 'images', [name '.png']), '-dpng', '-r100');
+end

@@ -1,0 +1,135 @@
+% Memory stays flat over many calls. The full counts (a million calls, 100,000 rounds) run when the environment variable QUARN_FULL
+% is set. Each loop is compared with an equal one that does everything but call the module, because the host itself may grow.
+function tests = suite_memory ()
+  tests = localfunctions ();
+end
+
+function n = scaled (n)
+  if isempty (getenv ('QUARN_FULL')), n = ceil (n * 0.06); end
+end
+
+% Growth in KiB of COUNT rounds of FN behind a warm-up.
+function kib = growth (fn, count)
+  fn (max (1000, ceil (count / 20)));
+  before = resident_memory ();
+  fn (count);
+  kib = resident_memory () - before;
+end
+
+% FN must grow by less than BYTES a round more than the equal loop IDLE does.
+function flat (name, fn, idle, count, bytes)
+  host = growth (idle, count);
+  module = growth (fn, count);
+  fprintf ('        %s, %d rounds: %+d KiB, the same loop without the module %+d KiB\n', name, count, module, host);
+  if module - max (host, 0) > 256 + count * bytes / 1024
+    error ('%s: %d rounds grew by %d KiB, without the module by %d KiB', name, count, module, host);
+  end
+end
+
+function run = element_run ()
+  run = small_run ();
+  run.list{4} = spring_element (1, 1, 3, [law_code('Power') 2 1]);
+end
+
+% Half of the calls fail: alternately when the list is gathered and when the arrays are checked, behind the handles' creation.
+function integrate (count)
+  run = element_run ();
+  other = element_run ();
+  other.list{4}.opt(1) = 5;
+  far = element_run ();
+  far.list{4}.c.ir(1) = int32 (3);
+  for k = 1:count
+    switch mod (k, 4)
+      case {0, 2}, x = run;
+      case 1, x = other;
+      case 3, x = far;
+    end
+    try
+      quarn ('chandlediagnewmark', x.list, x.model, x.u, x.v, x.a, x.opt, x.mem, x.out);
+    catch err
+      if mod (k, 2) == 0, rethrow (err); end
+    end
+  end
+end
+
+function integrate_idle (count)
+  run = element_run ();
+  other = element_run ();
+  far = element_run ();
+  for k = 1:count
+    switch mod (k, 4)
+      case {0, 2}, x = run;
+      case 1, x = other;
+      case 3, x = far;
+    end
+    try
+      if mod (k, 2) == 1, error ('KORV:quarn:empty', 'Unknown .opt(1) choice'); end
+    catch err
+      if mod (k, 2) == 0, rethrow (err); end
+    end
+  end
+end
+
+function test_integrator_with_cell_lists_half_of_them_failing ()
+  flat ('integrator calls', @integrate, @integrate_idle, scaled (1e6), 1);
+end
+
+function register_and_clear (count)
+  run = small_run ();
+  values = {run.list{2}, typed(2, diag ([1 2 3])), run.list{3}, run.list{1}};
+  codes = [1 2 3 2000];
+  for k = 1:count
+    for j = 1:4
+      i = quarn ('chandleset', codes(j), values{j});
+      quarn ('chandleclear', i);
+    end
+  end
+end
+
+function register_idle (count)
+  run = small_run ();
+  values = {run.list{2}, typed(2, diag ([1 2 3])), run.list{3}, run.list{1}};
+  codes = [1 2 3 2000];
+  for k = 1:count
+    for j = 1:4
+      i = max (codes(j), numel (values{j}));
+    end
+  end
+end
+
+function test_handles_registered_and_cleared ()
+  flat ('rounds of chandleset and chandleclear', @register_and_clear, @register_idle, scaled (1e5), 8);
+end
+
+function residual_calls (count)
+  h = registered ({typed(1, diag ([4 5 6])), spring_element(1, 1, 3, [law_code('Power') 2 1])});
+  r = zeros (3, 1);
+  u = [1; 2; 3] / 7;
+  v = [1; 2; 3] / 5;
+  for k = 1:count
+    try
+      if mod (k, 2) == 0
+        quarn ('residual', r, h, u, v, v, [0 0]);
+      else
+        quarn ('residual', r, h, u(1:2), v, v, [0 0]);
+        quarn ('residual', r, h, u(1), v(1), v(1), [0 0]);
+        error ('never', 'not refused');
+      end
+    catch err
+      if mod (k, 2) == 0 || strcmp (err.identifier, 'never'), rethrow (err); end
+    end
+  end
+  quarn ('chandleclear');
+end
+
+function residual_idle (count)
+  u = [1; 2; 3] / 7;
+  v = [1; 2; 3] / 5;
+  for k = 1:count
+    try
+      if mod (k, 2) == 1, error ('%s', sprintf ('%d values', numel (u(1:2)))); end
+    catch err
+      if mod (k, 2) == 0, rethrow (err); end
+    end
+  end
+end

@@ -17,7 +17,12 @@ std::size_t count(const mxArray* a) { return a ? static_cast<std::size_t>(mxGetN
 
 int rows(const mxArray* a) { return a ? narrow(static_cast<std::size_t>(mxGetM(a))) : 0; }
 
-int cols(const mxArray* a) { return a ? narrow(static_cast<std::size_t>(mxGetN(a))) : 0; }
+// Octave's mxGetN leaks its list of dimensions once a cell is looked into, so the count is divided where that is possible.
+int cols(const mxArray* a) {
+  if (!a) return 0;
+  const auto m = static_cast<std::size_t>(mxGetM(a));
+  return narrow(m > 0 ? count(a) / m : static_cast<std::size_t>(mxGetN(a)));
+}
 
 Description describe(const mxArray* a) {
   Description d{};
@@ -34,8 +39,8 @@ bool isObject(const mxArray* a) {
   return a && !mxIsNumeric(a) && !mxIsStruct(a) && !mxIsCell(a) && !mxIsChar(a) && !mxIsLogical(a) && !mxIsFunctionHandle(a);
 }
 
-// Asking Octave for the class name of a struct or cell leaks the name once the array is looked into, so only objects are asked.
-bool isClass(const mxArray* a, const char* className) { return isObject(a) && mxIsClass(a, className); }
+// Asking Octave for the class name of a struct or cell leaks the name once the array is looked into.
+bool isClass(const mxArray* a, const char* className) { return a && !mxIsStruct(a) && !mxIsCell(a) && mxIsClass(a, className); }
 
 bool isRealDouble(const mxArray* a) { return a && mxIsDouble(a) && !mxIsSparse(a) && !mxIsComplex(a); }
 

@@ -32,7 +32,7 @@ Description describe(const mxArray* a);
 
 /// Neither a built-in array nor a function handle: an object of a class.
 bool isObject(const mxArray* a);
-/// An object of that class.
+/// Of that class; for objects and function handles.
 bool isClass(const mxArray* a, const char* className);
 /// A full real double array (no elements is fine).
 bool isRealDouble(const mxArray* a);

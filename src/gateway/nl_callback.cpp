@@ -27,7 +27,6 @@ void callBack(const NlCall& call, const NlElement& e, int nlhs, mxArray** plhs, 
   in[n++] = const_cast<mxArray*>(e.data);
   for (int k = 1; k < allArguments; ++k) in[n++] = const_cast<mxArray*>(call.prhs[k]);
   mexCallMATLAB(nlhs, plhs, n, in, function);
-  host::setCommand("residual");  // the function may have called quarn itself
 }
 
 void callWithoutResult(const NlCall& call, const NlElement& e, const char* function, const mxArray* head) {

@@ -48,7 +48,7 @@ NlLaw nlLaw(const NlElement& e) {
   if (host::isClass(e.field("Fu"), "function_handle")) return NlLaw::functionHandle;
   const mxArray* type = e.needed("type");
   if (!mxIsChar(type)) {
-    if (host::count(type) == 0) {
+    if (host::count(type) == 0 || mxIsNumeric(type) || mxIsLogical(type) || mxIsCell(type) || mxIsStruct(type)) {
       host::refuse("NL{%d,3}.type must be a law's name or a callable, got %s", e.row + 1, host::describe(type).text);
     }
     return NlLaw::callable;

@@ -24,9 +24,9 @@ void registerExit() {
 }
 
 const quarn::CommandRow* commandOf(const mxArray* word) {
-  char text[quarn::wordCapacity];
-  if (!mxIsChar(word) || quarn::host::count(word) >= sizeof text) return nullptr;
-  if (mxGetString(word, text, sizeof text) != 0) return nullptr;
+  if (!mxIsChar(word)) return nullptr;
+  char text[quarn::wordCapacity] = "";
+  mxGetString(word, text, sizeof text);  // a longer word is cut off, and matches none
   return quarn::findCommand(text);
 }
 
@@ -56,7 +56,7 @@ extern "C" [[gnu::visibility("default")]] void mexFunction(int nlhs, mxArray* pl
   }
   const quarn::CommandRow* row = commandOf(prhs[0]);
   if (!row) quarn::host::fail("quarn : Unknown command");
-  quarn::host::setCommand(row->word);
+  const quarn::host::CommandScope scope(row->word);
   char text[256];
   if (!run(*row, nlhs, plhs, nrhs, prhs, text, sizeof text)) quarn::host::refuse("%s", text);
 }

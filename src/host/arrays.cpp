@@ -36,7 +36,7 @@ Description describe(const mxArray* a) {
 }
 
 bool isObject(const mxArray* a) {
-  return a && !mxIsNumeric(a) && !mxIsStruct(a) && !mxIsCell(a) && !mxIsChar(a) && !mxIsLogical(a) && !mxIsFunctionHandle(a);
+  return a && !mxIsNumeric(a) && !mxIsStruct(a) && !mxIsCell(a) && !mxIsChar(a) && !mxIsLogical(a) && !mxIsClass(a, "function_handle");
 }
 
 // Asking Octave for the class name of a struct or cell leaks the name once the array is looked into.

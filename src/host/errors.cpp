@@ -12,7 +12,9 @@ namespace {
 const char* commandWord = "";
 }
 
-void setCommand(const char* word) noexcept { commandWord = word; }
+CommandScope::CommandScope(const char* word) noexcept : outer(commandWord) { commandWord = word; }
+
+CommandScope::~CommandScope() { commandWord = outer; }
 
 void fail(const char* identifier, const char* text) {
   mexErrMsgIdAndTxt(identifier, "%s", text);

@@ -7,8 +7,18 @@
 
 namespace quarn::host {
 
-/// The command word that refuse() puts into its texts. The gateway sets it at every entry; the pointer must stay valid.
-void setCommand(const char* word) noexcept;
+/// The command word that refuse() puts into its texts, for the life of the object; then again the one of the call from which the
+/// host called back. The pointer must stay valid.
+class CommandScope {
+ public:
+  explicit CommandScope(const char* word) noexcept;
+  ~CommandScope();
+  CommandScope(const CommandScope&) = delete;
+  CommandScope& operator=(const CommandScope&) = delete;
+
+ private:
+  const char* outer;
+};
 
 /// Raises TEXT under IDENTIFIER.
 [[noreturn]] void fail(const char* identifier, const char* text);

@@ -8,6 +8,7 @@
 #include <atomic>
 
 #include "sparse/blas.h"
+#include "sparse/task_order.h"
 
 namespace quarn {
 
@@ -58,6 +59,17 @@ struct TestedSparseMatVec {
 };
 
 template <class Body>
+void runTasks(const Lines& all, const Body& body) {
+  tbb::task_group_context context;
+#ifdef __SANITIZE_THREAD__
+  const TaskOrder order;
+  tbb::parallel_for(all, Ordered<Body>{body, order}, tbb::auto_partitioner(), context);
+#else
+  tbb::parallel_for(all, body, tbb::auto_partitioner(), context);
+#endif
+}
+
+template <class Body>
 void forLines(int n, const Body& body) {
   if (n <= 0) return;
   const Lines all(0, n, grain);
@@ -68,10 +80,7 @@ void forLines(int n, const Body& body) {
   workersStarted.store(true, std::memory_order_relaxed);
   tbb::global_control control(tbb::global_control::max_allowed_parallelism, threads);
   tbb::task_arena arena(threads);
-  arena.execute([&] {
-    tbb::task_group_context context;
-    tbb::parallel_for(all, body, tbb::auto_partitioner(), context);
-  });
+  arena.execute([&] { runTasks(all, body); });
 }
 
 }  // namespace

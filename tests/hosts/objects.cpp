@@ -5,8 +5,8 @@ namespace standin {
 
 namespace {
 
-mxArray* newObject(Kind kind, const std::string& className, const Properties& properties) {
-  const mwSize dims[2] = {1, 1};
+mxArray* newObject(Kind kind, const std::string& className, const Properties& properties, mwSize n) {
+  const mwSize dims[2] = {1, n};
   mxArray* a = newArray(mxOBJECT_CLASS, 2, dims);
   const Busy busy;
   a->kind = kind;
@@ -16,13 +16,17 @@ mxArray* newObject(Kind kind, const std::string& className, const Properties& pr
     a->elements.push_back(value);
     adopt(value);
   }
+  a->elements.resize(n * a->names.size());
   return a;
 }
 
 }  // namespace
 
-mxArray* object(const std::string& className, const Properties& properties) { return newObject(Kind::object, className, properties); }
-mxArray* oldObject(const std::string& className, const Properties& fields) { return newObject(Kind::oldObject, className, fields); }
+mxArray* object(const std::string& className, const Properties& properties, mwSize n) {
+  return newObject(Kind::object, className, properties, n);
+}
+
+mxArray* oldObject(const std::string& className, const Properties& fields) { return newObject(Kind::oldObject, className, fields, 1); }
 
 mxArray* functionHandle(Function function) {
   const mwSize dims[2] = {1, 1};

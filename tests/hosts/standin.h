@@ -89,9 +89,9 @@ void (*takeExitFunction())();
 /// A second array on the same data, as after an assignment in the host's language.
 mxArray* share(const mxArray* a);
 /// An object with properties: of a class defined by classdef (properties are copied out), or of an old-style class (fields are
-/// the object's own). Takes the values.
+/// the object's own). Takes the values. An array of n objects has them in its first element.
 using Properties = std::vector<std::pair<std::string, mxArray*>>;
-mxArray* object(const std::string& className, const Properties& properties);
+mxArray* object(const std::string& className, const Properties& properties, mwSize n = 1);
 mxArray* oldObject(const std::string& className, const Properties& fields);
 mxArray* functionHandle(Function function);
 

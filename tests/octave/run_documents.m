@@ -5,8 +5,8 @@
 % run stands in a block of another language.
 args = argv ();
 here = make_absolute_filename (fileparts (mfilename ('fullpath')));
-addpath (make_absolute_filename (args{2}));
 addpath (fullfile (here, '..', '..', 'toolbox'));
+addpath (make_absolute_filename (args{2}));
 addpath (fullfile (here, 'support', 'documents'));
 warning ('off', 'Octave:classdef-to-struct');
 blocks = document_blocks (args{1}, 'matlab');
@@ -15,8 +15,8 @@ mkdir (folder);
 cd (folder);
 failed = 0;
 for k = 1:numel (blocks)
-  quarn ('chandleclear');
   try
+    quarn ('chandleclear');
     run_block (blocks(k).code);
     fprintf ('ok      example at line %d\n', blocks(k).line);
   catch err

@@ -54,6 +54,12 @@ function test_branches_are_clamped_before_the_linear_term ()
   expect_equal (e.snl(1:2), [10 - 3 * 0.1; -10 - 3 * 0.2]);
 end
 
+function test_nothing_grows_beyond_the_limit ()
+  % The power of a negative z with this exponent is not a number.
+  e = evaluate_law (element ([0.5 0 0.5 0.5 0]), [0; 0; 1; 20; -20], [0.5; -0.5; 0; 0; 0]);
+  expect_equal (e.snl(1:2), [10; -10]);
+end
+
 function test_velocity_zero_counts_as_negative_in_both_branches ()
   % z = 1 + 1 makes the power overflow, and 0 * Inf shows that the branch was taken; z = 1 - 1 leaves the state alone.
   e = evaluate_law (element ([0.5 0 2000 0.5 0]), [0; 0; 1; 10; 10], zeros (5, 1));
@@ -121,6 +127,8 @@ function test_further_value_columns_are_not_used ()
   two = evaluate_law (element (), u, v);
   expect_equal (e.snl, two.snl);
   expect_equal (e.opt(16:18), two.opt(14:16));
+  many = evaluate_law (element ([0.5 3 1 0.5 0.25], 5, 2, [0 2 10 30 4 8 1e3*rand(1, 1000)], 502), u, v);
+  expect_equal (many.snl, two.snl);
 end
 
 function test_without_value_columns_the_segment_number_is_the_scale ()

@@ -48,11 +48,17 @@ function test_at_the_limit_only_reversed_motion_changes_the_force ()
 end
 
 function test_beyond_the_limit_nothing_grows_before_the_clamp ()
-  % z is negative there; an even exponent would make its power positive.
-  e = evaluate_law (element ([0.5 10 2 2 4]), [0; 20], [0.001; 0]);
+  % The power of a negative z with this exponent is not a number.
+  e = evaluate_law (element ([0.5 10 0.5 2 4]), [0; 20], [0.25; 0]);
   expect_equal (e.snl(1), 8);
+  e = evaluate_law (element ([0.5 10 0.5 2 4]), [0; -20], [-0.25; 0]);
+  expect_equal (e.snl(1), -8);
+end
+
+function test_negative_limit_ends_at_its_opposite ()
+  % The minimum with the limit comes first, the maximum with its opposite has the last word.
   e = evaluate_law (element ([0.5 10 2 -2 4]), [0; 0.5], [0.25; 0]);
-  expect_equal (e.snl(1), 8);  % a negative limit: min gives -8, max then +8
+  expect_equal (e.snl(1), 8);
 end
 
 function test_velocity_zero_counts_as_negative ()

@@ -133,6 +133,9 @@ function test_without_force_vector_the_table_is_applied_to_its_own_results ()
   expect_equal (e.unl, 3);
   e = tabulated (x, [0 0 0], 3, 1, [6; -4; 8], []);
   expect_equal (e.unl, [6; -4; 8] / 8);
+  % First and last query stay where they are, and so does the record; the one between them is halved three times nevertheless.
+  e = tabulated (x, [0 0 0], 3, 1, [0; 8; 0], []);
+  expect_equal (e.unl, [0; 1; 0]);
 end
 
 function test_random_tables_against_the_model ()

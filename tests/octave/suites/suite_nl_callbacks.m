@@ -101,17 +101,6 @@ function test_callable_type_may_have_no_output ()
   expect_equal (r, [1; 0; 3; 0]);
 end
 
-function test_type_that_cannot_be_called_is_the_hosts_error ()
-  wrong = {5, {1}, struct('a', 1)};
-  for k = 1:numel (wrong)
-    e = element ();
-    e.type = wrong{k};
-    r = zeros (4, 1);
-    expect_error (@() call (r, nl_model (e)), '', '~feval');
-    expect_equal (r, zeros (4, 1));
-  end
-end
-
 function test_results_of_other_classes_are_refused ()
   wrong = {int32([1; 2]), {1, 2}, 'ab', true(2, 1), single([1; 2]), sparse([1; 2]), [1; 2i], @sin, struct('snl', {{1}}), struct('unl', 'x')};
   key = quarn ('chandleset', 1, csc (speye (2)));

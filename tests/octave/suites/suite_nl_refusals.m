@@ -58,8 +58,11 @@ function test_element_without_any_law ()
   refused (e, 'quarn residual : NL{2,3} needs a field "type", it has none');
   e.Fu = [0 1; 1 2];
   refused (e, 'quarn residual : NL{2,3} needs a field "type", it has none');
-  e.type = [];
-  refused (e, 'quarn residual : NL{2,3}.type must be a law''s name or a callable, got double 0x0');
+  wrong = {[], 5, {1}, struct('a', 1), true, sparse(1)};
+  for k = 1:numel (wrong)
+    e.type = wrong{k};
+    refused (e, '~^quarn residual : NL\{2,3\}\.type must be a law''s name or a callable, got ');
+  end
 end
 
 function test_buffers_of_other_classes ()

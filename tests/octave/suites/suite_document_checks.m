@@ -1,0 +1,96 @@
+% The checks of the documents find what is wrong: each test breaks one thing in a small tree that has nothing wrong with it.
+function tests = suite_document_checks ()
+  addpath (fullfile (fileparts (mfilename ('fullpath')), '..', 'support', 'documents'));
+  tests = localfunctions ();
+end
+
+function put (root, name, text)
+  file = fullfile (root, name);
+  if ~exist (fileparts (file), 'dir'), mkdir (fileparts (file)); end
+  id = fopen (file, 'w');
+  fputs (id, text);
+  fclose (id);
+end
+
+function remove (root)
+  confirm_recursive_rmdir (false, 'local');
+  rmdir (root, 's');
+end
+
+function root = good_tree ()
+  root = tempname ();
+  put (root, 'README.md', '# Tree');
+  put (root, 'CHANGELOG.md', '# Changes');
+  put (root, 'CONTRIBUTING.md', sprintf ('See [the command](docs/commands/one.md#the-command-ab).\n'));
+  put (root, 'src/gateway/command_table.cpp', sprintf ('  {"a*b", commandAb},\n'));
+  put (root, 'src/nonlinear/law_table.cpp', sprintf ('  row("Soft", FuSoft, checkSoft),\n'));
+  put (root, 'src/a.cpp', sprintf ('host::fail("KORV:quarn:empty", "no such thing");\nconstexpr const char* text = "other thing";\nhost::fail("third thing");\n'));
+  put (root, 'docs/commands.md', sprintf ('| [`a*b`](commands/one.md) |\nKORV:quarn:empty no such thing, other thing, third thing\n'));
+  put (root, 'docs/commands/one.md', sprintf ('# The command `a*b`\n'));
+  put (root, 'docs/laws.md', sprintf ('## Soft\n'));
+end
+
+% The tree with FILE replaced must have exactly one problem, which matches PATTERN.
+function expect_problem (file, text, pattern)
+  root = good_tree ();
+  put (root, file, text);
+  problems = document_problems (root);
+  remove (root);
+  if numel (problems) ~= 1 || isempty (regexp (problems{1}, pattern, 'once'))
+    error ('expected one problem like "%s", got %d: %s', pattern, numel (problems), strjoin (problems, '; '));
+  end
+end
+
+function test_a_good_tree_has_no_problem ()
+  root = good_tree ();
+  [problems, counts] = document_problems (root);
+  remove (root);
+  expect_equal (numel (problems), 0);
+  expect_equal (counts, [6 1 1 4 2]);
+end
+
+function test_a_command_without_a_section ()
+  expect_problem ('docs/commands/one.md', sprintf ('# The command ab\n'), 'command "a\*b" has no section');
+end
+
+function test_a_command_without_a_line_in_the_table ()
+  expect_problem ('docs/commands.md', sprintf ('[`a*b`](commands/one.md)\nKORV:quarn:empty no such thing, other thing, third thing\n'), ...
+                  'command "a\*b" has no line');
+end
+
+function test_a_law_without_a_section ()
+  expect_problem ('docs/laws.md', sprintf ('## Softer\nSoft\n'), 'law "Soft" has no section');
+end
+
+function test_a_heading_in_a_fenced_block_is_no_section ()
+  expect_problem ('docs/laws.md', sprintf ('```text\n## Soft\n```\n'), 'law "Soft" has no section');
+end
+
+function test_error_texts_that_are_not_listed ()
+  for missing = {'KORV:quarn:empty', 'no such thing', 'other thing', 'third thing'}
+    text = sprintf ('| [`a*b`](commands/one.md) |\nKORV:quarn:empty no such thing, other thing, third thing\n');
+    expect_problem ('docs/commands.md', strrep (text, missing{1}, ''), ['"' missing{1} '" is not in']);
+  end
+end
+
+function test_dead_links ()
+  expect_problem ('README.md', '[a](docs/two.md)', 'README.md: dead link docs/two.md');
+  expect_problem ('README.md', '![a picture](docs/images/two.png)', 'dead link docs/images/two.png');
+  expect_problem ('README.md', '[a](docs/laws.md#hard)', 'dead link docs/laws.md#hard');
+  expect_problem ('README.md', '[a](#hard)', 'dead link #hard');
+end
+
+function test_an_empty_law_table_is_a_problem ()
+  expect_problem ('src/nonlinear/law_table.cpp', 'nothing', '0 keywords');
+end
+
+function test_blocks_of_a_document ()
+  root = tempname ();
+  put (root, 'a.md', sprintf ('# A\n```matlab\nx = 1;\ny = 2;\n```\ntext\n  ```text\nno\n  ```\n```matlab\nz\n```\n'));
+  blocks = document_blocks (fullfile (root, 'a.md'), 'matlab');
+  put (root, 'b.md', sprintf ('```matlab\nx = 1;\n'));
+  expect_equal ({blocks.code}, {sprintf('x = 1;\ny = 2;'), 'z'});
+  expect_equal ([blocks.line], [2 10]);
+  expect_error (@() document_blocks (fullfile (root, 'b.md'), 'matlab'), '', '~line 1 is not closed');
+  remove (root);
+end

@@ -1,0 +1,46 @@
+% The module is loaded, used with its worker threads, and cleared again and again in one process.
+function tests = suite_reload ()
+  tests = localfunctions ();
+end
+
+function test_load_multiply_in_parallel_clear_300_times ()
+  n = 6000;
+  a = spdiags ([-ones(n, 1), 2 * ones(n, 1), -ones(n, 1)], -1:1, n, n);
+  s = csc (a);
+  x = cos ((1:n)');
+  wanted = full (a * x);
+  for k = 1:300
+    if quarn ('ismex') ~= 1, error ('round %d: not loaded', k); end
+    y = zeros (n, 1);
+    quarn ('tbbp', s, x, y);
+    expect_equal (y, wanted, 1e-15);
+    clear ('quarn');
+  end
+end
+
+function test_registry_starts_afresh_behind_a_reload ()
+  first = quarn ('chandleset', 1, csc (eye (2)));
+  second = quarn ('chandleset', 2, csc (eye (2)));
+  expect_equal (second, first + 1);
+  clear ('quarn');
+  expect_equal (quarn ('chandleget'), zeros (0, 1));
+  expect_equal (quarn ('chandleset', 1, csc (eye (2))), 0);
+  expect_equal (quarn ('chandleset', 1003, struct ('opt', 1)), 1);
+  clear ('quarn');
+  expect_error (@() quarn ('chandleget', 0), 'KORV:quarn:NonHandle', 'Handle does not exist');
+end
+
+function test_clear_all_with_live_handles_and_workers ()
+  n = 6000;
+  s = csc (speye (n));
+  for k = 1:20
+    h = registered ({typed(1, speye (n)), typed(2, sparse ([1 1:n], [2 1:n], ones (1, n + 1), n, n)), spring_element(1, 1, n, [law_code('Power') 2 1])});
+    r = zeros (n, 1);
+    x = ones (n, 1);
+    quarn ('residual', r, h, x, x, x, [0 0]);
+    expect_equal (r(3), 2);
+    quarn ('tbbp', s, x, r);
+    expect_equal (r(3), 3);
+    clear ('quarn');
+  end
+end

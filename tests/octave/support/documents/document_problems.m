@@ -1,0 +1,49 @@
+% [PROBLEMS, COUNTS] = DOCUMENT_PROBLEMS (ROOT)  checks the documents of a tree against its sources and against each other
+%
+% PROBLEMS is a cell row of texts:
+%   - a command word of the command table without a section under docs/commands, or without a line in the table of docs/commands.md
+%   - a law keyword of the law table without a section in docs/laws.md
+%   - a defined error text or identifier of the sources that does not stand in docs/commands.md
+%   - a relative link or image that leads to no file, or to no heading of it
+%   - nothing found of one of these kinds: the check would be looking at the wrong files
+% COUNTS holds the numbers of documents, command words, law keywords, error texts and links.
+function [problems, counts] = document_problems (root)
+  index = fullfile (root, 'docs', 'commands.md');
+  documents = find_files (fullfile (root, 'docs'), '\.md$');
+  for name = {'README.md', 'CHANGELOG.md', 'CONTRIBUTING.md'}
+    documents{end + 1} = fullfile (root, name{1});
+  end
+  problems = {};
+
+  words = table_words (fullfile (root, 'src', 'gateway', 'command_table.cpp'), '{"([^"]+)", command');
+  keywords = table_words (fullfile (root, 'src', 'nonlinear', 'law_table.cpp'), 'row\("([^"]+)"');
+  listed = fileread (index);
+  headings = headings_of (find_files (fullfile (root, 'docs', 'commands'), '\.md$'));
+  for k = 1:numel (words)
+    if ~any (strcmp (headings, words{k})), problems{end + 1} = sprintf ('command "%s" has no section under docs/commands', words{k}); end
+    if isempty (strfind (listed, ['| [`' words{k} '`](']))
+      problems{end + 1} = sprintf ('command "%s" has no line in docs/commands.md', words{k});
+    end
+  end
+  headings = headings_of ({fullfile(root, 'docs', 'laws.md')});
+  for k = 1:numel (keywords)
+    if ~any (strcmp (headings, keywords{k})), problems{end + 1} = sprintf ('law "%s" has no section in docs/laws.md', keywords{k}); end
+  end
+
+  texts = error_texts (fullfile (root, 'src'));
+  for k = 1:numel (texts)
+    if isempty (strfind (listed, texts{k})), problems{end + 1} = sprintf ('error text "%s" is not in docs/commands.md', texts{k}); end
+  end
+
+  n_links = 0;
+  for k = 1:numel (documents)
+    links = document_links (documents{k});
+    n_links = n_links + numel (links);
+    for m = 1:numel (links)
+      if ~link_leads_somewhere (documents{k}, links{m}), problems{end + 1} = sprintf ('%s: dead link %s', documents{k}, links{m}); end
+    end
+  end
+
+  counts = [numel(documents), numel(words), numel(keywords), numel(texts), n_links];
+  if any (counts == 0), problems{end + 1} = sprintf ('found %d documents, %d words, %d keywords, %d error texts, %d links', counts); end
+end

@@ -1,0 +1,25 @@
+% O = OPTIONS (WHO, DEFAULTS, ARGS)  name-value pairs ARGS on top of the structure DEFAULTS
+%
+% A default of '<required>' has to be given. Names are those of DEFAULTS, in any case of letters. Errors name the function WHO.
+function o = options (who, defaults, args)
+  o = defaults;
+  names = fieldnames (defaults);
+  if mod (numel (args), 2) ~= 0
+    error ('qn:input', '%s: names and values expected in pairs, got %d arguments', who, numel (args));
+  end
+  for k = 1:2:numel (args)
+    if ~ischar (args{k})
+      error ('qn:input', '%s: the name of a parameter expected, got an array of class %s', who, class (args{k}));
+    end
+    known = strcmpi (args{k}, names);
+    if ~any (known)
+      error ('qn:input', '%s: no parameter called "%s"; there are %s', who, args{k}, strjoin (names.', ', '));
+    end
+    o.(names{known}) = args{k + 1};
+  end
+  for k = 1:numel (names)
+    if ischar (o.(names{k})) && strcmp (o.(names{k}), '<required>')
+      error ('qn:input', '%s: the parameter "%s" is missing', who, names{k});
+    end
+  end
+end

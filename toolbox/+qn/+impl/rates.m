@@ -1,0 +1,38 @@
+% [V, A] = RATES (RES)  modal velocities and accelerations at every step
+%
+% With g = loads - forces - w^2 q, the run obeys a + c v = g at every step, and v' = v + h (1-gamma) a + h gamma a'. What is coupled
+% by damping beside the diagonal acts at the predicted velocity.
+function [v, a] = rates (res)
+  sim = res.sim;
+  if numel (sim.saved) ~= numel (sim.time)
+    error ('qn:input', 'velocities need every step of the run: leave "every" and "times" out of qn.simulation');
+  end
+  if ~res.complete, error ('qn:input', 'the run is not complete: go on with qn.resume first'); end
+  m = numel (sim.model.w);
+  g = sim.shapes * sim.loads - bsxfun (@times, sim.model.stiffness, res.q);
+  for e = sim.elements, g = g - e.command.' * res.force(e.forces, :); end
+  h = sim.step;
+  gamma = sim.scheme.gamma;
+  c = sim.model.damping;
+  start = sim.start;
+  if size (c, 2) == 1
+    g(:, 1) = start.a(1:m) + c .* start.v(1:m);
+    v = zeros (size (g));
+    for i = 1:m
+      below = 1 + h * gamma * c(i);
+      push = h * ((1 - gamma) * g(i, 1:end - 1) + gamma * g(i, 2:end)) / below;
+      v(i, :) = filter (1, [1, -(1 - h * (1 - gamma) * c(i)) / below], [start.v(i), push]);
+    end
+    a = g - bsxfun (@times, c, v);
+  else
+    own = diag (c);
+    beside = c - diag (own);
+    v = [start.v(1:m), zeros(m, size (g, 2) - 1)];
+    a = [start.a(1:m), zeros(m, size (g, 2) - 1)];
+    for j = 2:size (g, 2)
+      ahead = v(:, j - 1) + h * (1 - gamma) * a(:, j - 1);
+      v(:, j) = (ahead + h * gamma * (g(:, j) - beside * ahead)) ./ (1 + h * gamma * own);
+      a(:, j) = g(:, j) - own .* v(:, j) - beside * ahead;
+    end
+  end
+end

@@ -1,0 +1,53 @@
+% QN.CONTACTS  the contacts in a force history: when, how long, how hard
+%
+% Purpose
+%   Lists every span in which the force is not zero.
+%
+% Calls
+%   C = qn.contacts (RES, ROW)
+%   C = qn.contacts (TIME, FORCE)
+%
+% Input
+%   RES     from qn.run, with every step kept near the contacts
+%   ROW     row of RES.force (1)
+%   TIME    1 x k times, evenly spaced [s]
+%   FORCE   1 x k forces [N]; a force of the other sign is a contact on the other side, and is listed as one of its own
+%
+% Output
+%   C       struct array, in order of time: start [s], duration [s], peak [N, with its sign], impulse [N s]
+%
+% Errors
+%   qn:input  there is no such row, or the lengths differ
+%
+% Example
+%   t = 0:1e-3:1;
+%   c = qn.contacts (t, max (0, 50 * sin (20 * t)));
+%   [c.duration]                          % pi/20 each
+%
+% See also qn.gap, qn.stop, qn.energies
+function c = contacts (what, force)
+  if isstruct (what)
+    time = what.time;
+    row = 1;
+    if nargin > 1, row = force; end
+    if numel (row) ~= 1 || row < 1 || row > size (what.force, 1)
+      error ('qn:input', 'qn.contacts: the result has %d rows of forces', size (what.force, 1));
+    end
+    force = what.force(row, :);
+  else
+    time = what;
+  end
+  if numel (time) ~= numel (force) || numel (time) < 2
+    error ('qn:input', 'qn.contacts: as many times as forces expected, got %d and %d', numel (time), numel (force));
+  end
+  h = time(2) - time(1);
+  side = sign (force(:).');
+  c = struct ('start', {}, 'duration', {}, 'peak', {}, 'impulse', {});
+  first = find (side ~= 0 & side ~= [0, side(1:end - 1)]);
+  for k = first
+    last = k - 1 + find ([side(k:end), 0] ~= side(k), 1) - 1;
+    f = force(k:last);
+    [unused, top] = max (abs (f));
+    c(end + 1) = struct ('start', time(k), 'duration', numel (f) * h, 'peak', f(top), 'impulse', sum (f) * h);
+  end
+end

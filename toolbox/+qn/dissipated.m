@@ -1,0 +1,58 @@
+% QN.DISSIPATED  energy that each nonlinear element has taken up, stored and dissipated
+%
+% Purpose
+%   Shows which element damps. What an element without memory "dissipates" is the error of the time step: its force is evaluated at
+%   the predictor. It should be small beside the rest.
+%
+% Calls
+%   D = qn.dissipated (RES)
+%
+% Input
+%   RES   from qn.run, with every step kept
+%
+% Output
+%   D     struct array, one an element of 'elements' in qn.simulation (a bank of laws is one):
+%           law         text
+%           absorbed    1 x k work done on it since the start [J]
+%           stored      1 x k change of its stored energy [J]: of memoryless laws their potential; of sliders and Dahl elements
+%                       force^2 / (2 stiffness); of Maxwell elements that of their springs; of 'clima2' not known, 0
+%           dissipated  1 x k, the difference [J]
+%
+% Errors
+%   qn:input  the result keeps only some of the steps
+%
+% Example
+%   model = qn.modal (1e4, 1);
+%   sim = qn.simulation (model, 'step', 1e-3, 'steps', 1000, 'q0', 0.1, ...
+%                        'elements', {qn.slider('slip', 20, 'stiffness', 1e5), qn.observe(model, 1)});
+%   d = qn.dissipated (qn.run (sim, 'progress', false));
+%   plot ((0:1000) * 1e-3, d(1).dissipated);
+%
+% See also qn.energies, qn.slider, qn.plot.loop
+function d = dissipated (res)
+  sim = res.sim;
+  if numel (sim.saved) ~= numel (sim.time), error ('qn:input', 'qn.dissipated: the energy of an element needs every step of the run'); end
+  d = struct ('law', {}, 'absorbed', {}, 'stored', {}, 'dissipated', {});
+  m = numel (sim.model.w);
+  for e = sim.elements
+    f = res.force(e.forces, :);
+    x = e.observe * res.q;
+    y = e.command * res.q;
+    absorbed = [0, cumsum(sum ((f(:, 1:end - 1) + f(:, 2:end)) / 2 .* diff (y, 1, 2), 1))];
+    state = [];
+    if e.state > 0, state = res.state(e.state - m, :); end
+    stored = qn.impl.stored (e.law, x, f, state, sim.step);
+    stored = stored - stored(1);
+    if numel (d) < e.item
+      d(e.item) = struct ('law', qn.impl.law_text (e.law), 'absorbed', absorbed, 'stored', stored, 'dissipated', absorbed - stored);
+    else
+      d(e.item).absorbed = d(e.item).absorbed + absorbed;
+      d(e.item).stored = d(e.item).stored + stored;
+      d(e.item).dissipated = d(e.item).absorbed - d(e.item).stored;
+    end
+  end
+  for k = 1:numel (d)
+    n = sum ([sim.elements.item] == k);
+    if n > 1, d(k).law = sprintf ('%d laws, the first: %s', n, d(k).law); end
+  end
+end

@@ -1,0 +1,67 @@
+% QN.ELEMENT  value of a nonlinear element handle (type 1003) from a law and observation rows
+%
+% Purpose
+%   Packs a law into the module's option vectors. qn.simulation does this for the user; call it to work with quarn directly.
+%
+% Calls
+%   E = qn.element (LAW, C, ...)
+%
+% Input
+%   LAW   from qn.law or a recipe (one law, not a bank)
+%   C     p x n observation rows, n the length of the displacement vector. 'power', 'exponential' and 'table' take any number of
+%         rows, each with a force of its own; 'clima2' takes three; the others one.
+%   Names and values
+%     'command'  rows through which the forces act, size of C (C)
+%     'step'     time step [s]; laws with memory need it
+%     'state'    row of the displacement vector, from 2, where 'dahl', 'stickslip' (one value) and 'clima2' (two values) keep their
+%                state between steps. No mode may use it.
+%     'slot'     place of the first force in the model's "FNL", from 1; 0: none (0)
+%
+% Output
+%   E     struct for quarn ('chandleset', 1003, E)
+%
+% Errors
+%   qn:input  rows, step or state do not fit the law
+%
+% Example
+%   e = qn.element (qn.law ('power', 'stiffness', 100, 'exponent', 3), [1 -1]);
+%   h = chandle (quarn ('chandleset', 1003, e));
+%   r = zeros (2, 1);
+%   quarn ('residual', r, h, [0.3; 0.1], zeros(2, 1), zeros(2, 1));      % r is 100 * 0.2^3 * [1; -1]
+%   delete (h);
+%
+% See also qn.law, qn.describe, qn.force, qn.simulation
+function e = element (law, c, varargin)
+  who = 'qn.element';
+  if numel (law) ~= 1, error ('qn:input', '%s: one law expected, got a bank of %d; make an element of each', who, numel (law)); end
+  o = qn.impl.options (who, struct ('command', c, 'step', [], 'state', [], 'slot', 0), varargin);
+  t = qn.impl.traits (law, size (c, 1));
+  if t.rows > 0 && size (c, 1) ~= t.rows
+    error ('qn:input', '%s: the law "%s" observes %d rows, got %d', who, law.kind, t.rows, size (c, 1));
+  end
+  if ~isequal (size (o.command), size (c)), error ('qn:input', '%s: "command" must have the size of the observation rows', who); end
+  if t.memory
+    if isempty (o.step), error ('qn:input', '%s: the law "%s" needs the time step', who, law.kind); end
+    qn.impl.scalar (who, 'step', o.step, realmin ());
+  end
+  n = size (c, 2);
+  c = [c; zeros(t.width - size (c, 1), n)];
+  if t.states > 0
+    if isempty (o.state), error ('qn:input', '%s: the law "%s" needs the row where its state is kept', who, law.kind); end
+    qn.impl.scalar (who, 'state', o.state, 2);
+    n = max (n, o.state + t.states - 1);
+    c = [c, zeros(t.width, n - size (c, 2))];
+    c(t.rows + (1:t.states), o.state - 1 + (1:t.states)) = eye (t.states);
+  end
+  b = zeros (t.width, n);
+  b(1:size (o.command, 1), 1:size (o.command, 2)) = o.command;
+  [opt, own] = qn.impl.pack_law (law, o.step);
+  place = [o.slot - 1; 0; 0; 0; 0];
+  if t.states > 0, place(2:5) = [o.state - 1; t.rows; t.states; 1]; end
+  if strcmp (law.kind, 'maxwell'), place(3:5) = [t.width; t.width - 1; 1]; end
+  pages = 1;
+  if strcmp (law.kind, 'maxwell'), pages = 3; end
+  if any (strcmp (law.kind, {'dahl', 'clima2'})), pages = 2; end
+  e = struct ('type', 1003, 'c', qn.pack (c, 'transposed'), 'b', qn.pack (b, 'transposed'), 'opt', opt, 'iopt', int32 ([place; own]), ...
+              'unl', zeros (t.width, 1, pages), 'vnl', zeros (t.width, 1, pages), 'snl', zeros (t.width, 1));
+end

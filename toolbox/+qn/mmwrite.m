@@ -1,0 +1,58 @@
+% QN.MMWRITE  writes a matrix to a Matrix Market file
+%
+% Purpose
+%   The inverse of qn.mmread: every value survives to the last bit.
+%
+% Calls
+%   qn.mmwrite (FILE, A)
+%   qn.mmwrite (FILE, A, COMMENT)
+%
+% Input
+%   FILE      name of the file; an existing one is replaced
+%   A         real or complex matrix; sparse ones become "coordinate", full ones "array". Of a real symmetric matrix the lower
+%             triangle is written.
+%   COMMENT   line of text for the head of the file, such as the units
+%
+% Errors
+%   qn:input  A is not a matrix, or the file cannot be written
+%
+% Example
+%   file = [tempname() '.mtx'];
+%   qn.mmwrite (file, sparse ([2 -1; -1 2]), 'stiffness [N/m]');
+%   type (file);
+%   delete (file);
+%
+% See also qn.mmread, qn.unpack
+function mmwrite (file, a, comment)
+  if ~(isnumeric (a) && ndims (a) == 2), error ('qn:input', 'qn.mmwrite: a matrix expected, got class %s', class (a)); end
+  [id, why] = fopen (file, 'w');
+  if id < 0, error ('qn:input', 'qn.mmwrite: cannot write %s: %s', file, why); end
+  close_file = onCleanup (@() fclose (id));
+  form = {'array', 'coordinate'};
+  field = {'complex', 'real'};
+  symmetry = {'general', 'symmetric'};
+  half = isreal (a) && size (a, 1) == size (a, 2) && isequal (a, a.');
+  fprintf (id, '%%%%MatrixMarket matrix %s %s %s\n', form{1 + issparse(a)}, field{1 + isreal(a)}, symmetry{1 + half});
+  if nargin > 2, fprintf (id, '%% %s\n', strrep (comment, sprintf ('\n'), ' ')); end
+  inside = true (size (a));
+  if issparse (a)
+    stored = a;
+    if half, stored = tril (a); end
+    [i, j, x] = find (stored);
+    fprintf (id, '%d %d %d\n', size (a), numel (x));
+    if isreal (a)
+      fprintf (id, '%d %d %.17g\n', [i(:), j(:), x(:)].');
+    else
+      fprintf (id, '%d %d %.17g %.17g\n', [i(:), j(:), real(x(:)), imag(x(:))].');
+    end
+  else
+    if half, inside = tril (inside); end
+    x = a(inside);
+    fprintf (id, '%d %d\n', size (a));
+    if isreal (a)
+      fprintf (id, '%.17g\n', x);
+    else
+      fprintf (id, '%.17g %.17g\n', [real(x(:)), imag(x(:))].');
+    end
+  end
+end

@@ -1,0 +1,80 @@
+% QN.MODAL  modal model of a structure: the coordinates in which quarn integrates
+%
+% Purpose
+%   Solves K x = w^2 M x for the lowest modes, scales them to a modal mass of 1 kg and adds damping. A model with one degree of
+%   freedom is given by its stiffness and mass.
+%
+% Calls
+%   MODEL = qn.modal (K, M, ...)
+%   MODEL = qn.modal (S, ...)
+%
+% Input
+%   K, M   stiffness [N/m] and mass [kg], n x n, symmetric, M positive definite
+%   S      structure with the fields K, M and, if there is one, C: a physical model
+%   Names and values
+%     'modes'     how many modes to keep (all, at most 200)
+%     'damping'   modal damping ratios, one for all or one a mode, 1 being critical (0)
+%     'rayleigh'  [alpha beta]: damping matrix alpha*M + beta*K [1/s, s]; see qn.rayleigh
+%     'C'         damping matrix [N s/m], n x n; projected onto the modes. Where that leaves more than rounding beside the
+%                 diagonal, the full modal matrix is kept.
+%     'method'    'auto', 'eig' (dense) or 'eigs' (sparse, for many degrees of freedom)
+%   The dampings add up.
+%
+% Output
+%   MODEL  struct: shapes     n x m, one mode a column [1/sqrt(kg)]
+%                  w          m x 1 angular frequencies [rad/s]
+%                  hertz      m x 1 frequencies [Hz]
+%                  stiffness  m x 1, w.^2 [1/s^2]
+%                  damping    m x 1, 2*zeta*w [1/s], or m x m
+%                  M          the mass matrix, for base motion and initial states [kg]
+%
+% Errors
+%   qn:input  sizes do not fit, the mass is not positive definite, a damping is negative
+%
+% Example
+%   k = 1e6 * [2 -1; -1 1];
+%   model = qn.modal (k, 3 * eye (2), 'damping', 0.02);
+%   model.hertz
+%
+% See also qn.observe, qn.command, qn.base, qn.rayleigh, qn.simulation
+function model = modal (varargin)
+  who = 'qn.modal';
+  if nargin > 0 && isstruct (varargin{1})
+    s = varargin{1};
+    if ~isfield (s, 'K') || ~isfield (s, 'M'), error ('qn:input', '%s: the model needs the fields K and M', who); end
+    args = [{s.K, s.M}, varargin(2:end)];
+    if isfield (s, 'C') && ~isempty (s.C), args = [args, {'C', s.C}]; end
+  else
+    args = varargin;
+  end
+  if numel (args) < 2, error ('qn:input', '%s: stiffness and mass expected', who); end
+  k = args{1};
+  m = args{2};
+  n = size (k, 1);
+  if ~isequal (size (k), [n n]) || ~isequal (size (m), [n n]) || n == 0
+    error ('qn:input', '%s: square matrices of one size expected, got K %s and M %s', who, mat2str (size (k)), mat2str (size (m)));
+  end
+  o = qn.impl.options (who, struct ('modes', min (n, 200), 'damping', 0, 'rayleigh', [0 0], 'C', [], 'method', 'auto'), args(3:end));
+  qn.impl.scalar (who, 'modes', o.modes, 1);
+  count = min (o.modes, n);
+  if strcmp (o.method, 'auto')
+    o.method = 'eig';
+    if issparse (k) && n > 1500 && count < n / 5, o.method = 'eigs'; end
+  end
+  [phi, w] = qn.impl.modes (k, m, count, o.method);
+  if any (o.damping < 0) || ~any (numel (o.damping) == [1 count])
+    error ('qn:input', '%s: one damping ratio or %d, none below 0, expected, got %s', who, count, mat2str (o.damping));
+  end
+  if numel (o.rayleigh) ~= 2, error ('qn:input', '%s: "rayleigh" takes [alpha beta], got %d values', who, numel (o.rayleigh)); end
+  damping = 2 * o.damping(:) .* w + o.rayleigh(1) + o.rayleigh(2) * w .^ 2;
+  if ~isempty (o.C)
+    c = qn.project (phi, o.C);
+    beside = norm (c - diag (diag (c)), 'fro');
+    if beside > 1e-9 * norm (c, 'fro')
+      damping = diag (damping) + c;
+    else
+      damping = damping + diag (c);
+    end
+  end
+  model = struct ('shapes', phi, 'w', w, 'hertz', w / (2 * pi), 'stiffness', w .^ 2, 'damping', damping, 'M', m);
+end

@@ -1,0 +1,31 @@
+% QN.RAYLEIGH  coefficients of proportional damping from two damping ratios
+%
+% Purpose
+%   alpha*M + beta*K has the damping ratio (alpha/w + beta*w)/2 at the angular frequency w. Two ratios fix both.
+%
+% Calls
+%   AB = qn.rayleigh (HERTZ, ZETA)
+%
+% Input
+%   HERTZ  two frequencies [Hz]
+%   ZETA   the damping ratio at each, or one for both
+%
+% Output
+%   AB     [alpha beta] [1/s, s]
+%
+% Errors
+%   qn:input  not two different positive frequencies, or not one or two ratios
+%
+% Example
+%   ab = qn.rayleigh ([2 20], 0.03);
+%   model = qn.modal (1e6 * [2 -1; -1 1], eye (2), 'rayleigh', ab);
+%
+% See also qn.modal
+function ab = rayleigh (hertz, zeta)
+  if numel (hertz) ~= 2 || any (hertz <= 0) || hertz(1) == hertz(2)
+    error ('qn:input', 'qn.rayleigh: two different positive frequencies expected, got %s', mat2str (hertz));
+  end
+  if ~any (numel (zeta) == [1 2]), error ('qn:input', 'qn.rayleigh: one or two damping ratios expected, got %d', numel (zeta)); end
+  w = 2 * pi * hertz(:);
+  ab = ([1 ./ w, w] / 2 \ (zeta(:) .* ones (2, 1))).';
+end

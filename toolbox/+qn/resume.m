@@ -1,0 +1,38 @@
+% QN.RESUME  goes on with a run that was stopped or cut short
+%
+% Purpose
+%   Takes a run up where it ended. The results of the whole have the same bits as those of a run in one piece.
+%
+% Calls
+%   RES = qn.resume (RES, ...)
+%   RES = qn.resume (FILE, ...)
+%
+% Input
+%   RES    result of qn.run with complete = false; a complete one is returned as it is
+%   FILE   .mat file that qn.run wrote with 'save'
+%   Names and values: as for qn.run
+%
+% Output
+%   RES    as for qn.run
+%
+% Errors
+%   qn:input  the file holds no run
+%
+% Example
+%   model = qn.modal (4e4, 1);
+%   sim = qn.simulation (model, 'step', 1e-3, 'steps', 1000, 'q0', 0.01);
+%   part = qn.run (sim, 'piece', 100, 'stop', @(r) r.time_end > 0.25);
+%   res = qn.resume (part);
+%
+% See also qn.run
+function res = resume (what, varargin)
+  if ischar (what)
+    res = load (what);
+  else
+    res = what;
+  end
+  if ~isstruct (res) || ~all (isfield (res, {'sim', 'final', 'q', 'complete'}))
+    error ('qn:input', 'qn.resume: the result of qn.run or its file expected');
+  end
+  res = qn.impl.advance (res, qn.impl.run_options ('qn.resume', varargin));
+end

@@ -1,0 +1,55 @@
+% QN.RUN  runs a simulation
+%
+% Purpose
+%   Integrates in pieces, each one call of the module. Between two pieces it says how far it is, saves its state and can be
+%   stopped. However a run is cut, its results have the same bits.
+%
+% Calls
+%   RES = qn.run (SIM, ...)
+%
+% Input
+%   SIM   from qn.simulation
+%   Names and values
+%     'progress'  true: say every second how much is done and how long it will take (true)
+%     'piece'     steps in one piece; [] makes pieces of about half a second ([])
+%     'save'      name of a .mat file for the state and the results so far ('': none). It is replaced as a whole, so that an
+%                 interruption leaves the last one.
+%     'interval'  seconds between two of those (30); it is also written at the end
+%     'stop'      function of the results so far, called between pieces: true ends the run ([])
+%
+% Output
+%   RES   struct: time      1 x k times of the results [s]
+%                 q         m x k modal coordinates [m sqrt(kg)]; displacements are rows of qn.observe times q
+%                 force     p x k forces of the elements [N], as they acted in that step: evaluated at the predictor
+%                 state     memory of friction laws, one row each, k columns [N or m]
+%                 final     last state, for qn.resume and 'start' of qn.simulation
+%                 time_end  its time [s]
+%                 complete  true when the run reached its end
+%                 seconds   what the run took [s]
+%                 units     struct of texts
+%                 sim       the set-up
+%
+% Errors
+%   Those of the module. A run whose motion grows beyond all numbers is ended with the warning qn:diverged. The handles of the run
+%   are freed in every case.
+%
+% Example
+%   model = qn.modal (4e4, 1, 'damping', 0.02);
+%   sim = qn.simulation (model, 'step', 1e-3, 'steps', 1000, 'load', {qn.command(model, 1), @(t) 100 * sin(30 * t)});
+%   res = qn.run (sim);
+%   u = qn.displacement (res, qn.observe (model, 1));
+%
+% See also qn.simulation, qn.resume, qn.check, qn.displacement, qn.plot.history
+function res = run (sim, varargin)
+  m = numel (sim.model.w);
+  k = numel (sim.saved);
+  res = struct ('time', sim.time(sim.saved), 'q', zeros (m, k), 'force', zeros (numel ([sim.elements.forces]), k), ...
+                'state', zeros (sim.states, k), 'final', sim.start, 'time_end', sim.time(1), 'complete', false, 'seconds', 0, ...
+                'units', qn.impl.units (), 'sim', sim);
+  if any (sim.saved == 1)
+    res.q(:, 1) = sim.start.u(1:m);
+    res.state(:, 1) = sim.start.u(m + 1:end);
+    res.force(:, 1) = sim.start.FNL(qn.impl.meaningful (sim));
+  end
+  res = qn.impl.advance (res, qn.impl.run_options ('qn.run', varargin));
+end

@@ -1,0 +1,76 @@
+% QN.SIMULATION  everything that a time simulation needs, in one structure
+%
+% Purpose
+%   Puts model, time steps, loads and nonlinear elements together, finds the initial acceleration and lays out the tables in the
+%   way the module reads them. Nothing is computed beyond that; see qn.check and qn.run.
+%
+% Calls
+%   SIM = qn.simulation (MODEL, NAME, VALUE, ...)
+%
+% Input
+%   MODEL       from qn.modal, m modes
+%   Names and values
+%     'step'      time step h [s], needed
+%     'until'     time at which to end [s], rounded to whole steps; or
+%     'steps'     number of steps
+%     'scheme'    see qn.scheme ('average')
+%     'load'      {SHAPE, SIGNAL; ...}: SHAPE is the modal force of a unit load (m values; see qn.command, qn.base), SIGNAL is a
+%                 function of a row of times, or a 2 x k table [times; values], linear in between and zero outside, or one value for
+%                 every time point [N, or m/s^2 for base motion]
+%     'elements'  {LAW, C; ...} or {LAW, C, B; ...}: LAW from qn.law or a recipe, C observation rows (qn.observe), B rows through
+%                 which the force acts (C). A bank of laws sits behind one C.
+%     'every'     results are kept at every k-th step (1), or
+%     'times'     at the steps next to these times [s]
+%     'u0', 'v0'  initial displacement and velocity of the structure [m, m/s] (0), or
+%     'q0', 'dq0' initial modal state
+%     'a0'        'consistent': initial acceleration from the equation of motion, or m modal values ('consistent')
+%     'start'     result of an earlier run: its last state, its laws' memory and its time are where this one begins
+%
+% Output
+%   SIM   struct: model, scheme, step, time (1 x steps+1) [s], saved (columns of time), shapes, loads, elements, start, ...
+%
+% Errors
+%   qn:input  something is missing, unknown or of the wrong size; the message says what is expected
+%
+% Example
+%   model = qn.modal (4e4, 1, 'damping', 0.02);
+%   sim = qn.simulation (model, 'step', 1e-3, 'until', 1, 'load', {qn.command (model, 1), @(t) 100 * (t < 0.1)}, ...
+%                        'elements', {qn.cubic('stiffness', 1e8), qn.observe(model, 1)});
+%   res = qn.run (sim);
+%
+% See also qn.modal, qn.law, qn.scheme, qn.check, qn.advise, qn.run
+function sim = simulation (model, varargin)
+  who = 'qn.simulation';
+  o = struct ('step', '<required>', 'until', [], 'steps', [], 'scheme', 'average', 'load', {{}}, 'elements', {{}}, 'every', 1, ...
+              'times', [], 'u0', [], 'v0', [], 'q0', [], 'dq0', [], 'a0', 'consistent', 'start', []);
+  o = qn.impl.options (who, o, varargin);
+  qn.impl.scalar (who, 'step', o.step, realmin ());
+  first = 0;
+  if ~isempty (o.start)
+    % Times are counted from the same origin, in whole steps, so that a continued run sees the same bits.
+    first = round (o.start.time_end / o.step);
+    if abs (first * o.step - o.start.time_end) > 1e-6 * o.step
+      error ('qn:input', '%s: the earlier run ended at %g s, which is no multiple of the step', who, o.start.time_end);
+    end
+  end
+  if isempty (o.steps)
+    if isempty (o.until), error ('qn:input', '%s: give "until" or "steps"', who); end
+    qn.impl.scalar (who, 'until', o.until, 0);
+    o.steps = round (o.until / o.step) - first;
+  end
+  qn.impl.scalar (who, 'steps', o.steps, 1);
+  sim = struct ('model', model, 'scheme', qn.scheme (o.scheme), 'step', o.step, 'first', first, 'time', (first + (0:o.steps)) * o.step);
+  if isempty (o.times)
+    qn.impl.scalar (who, 'every', o.every, 1);
+    sim.saved = 1:o.every:o.steps + 1;
+  else
+    sim.saved = unique (min (max (round (o.times(:).' / o.step) - first, 0), o.steps)) + 1;
+  end
+  [sim.shapes, sim.loads, sim.notes] = qn.impl.loads (model, o.load, sim.time);
+  [sim.elements, sim.states, sim.slots] = qn.impl.elements (model, o.elements);
+  sim.start = qn.impl.initial (sim, o);
+  % What it was made of, for runs with another step.
+  o.start = [];
+  if first > 0, o = []; end
+  sim.options = o;
+end

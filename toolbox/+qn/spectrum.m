@@ -1,0 +1,48 @@
+% QN.SPECTRUM  amplitude spectrum of a signal
+%
+% Purpose
+%   Amplitudes of the harmonics in a signal: a sine of amplitude 2 shows as 2, whatever the window.
+%
+% Calls
+%   [HERTZ, X] = qn.spectrum (TIME, SIGNAL, ...)
+%
+% Input
+%   TIME     1 x k times, evenly spaced [s]
+%   SIGNAL   p x k, one row a signal
+%   Names and values
+%     'window'  'hann' or 'none' ('hann')
+%     'mean'    'keep' or 'remove' ('remove')
+%
+% Output
+%   HERTZ    1 x n frequencies, from 0 to half the sampling rate [Hz]
+%   X        p x n complex amplitudes [unit of the signal]; abs (X) is what to plot
+%
+% Errors
+%   qn:input  the lengths differ, the times are not evenly spaced, or a name is unknown
+%
+% Example
+%   t = (0:999) * 1e-3;
+%   [f, x] = qn.spectrum (t, 2 * sin (2 * pi * 50 * t));
+%   plot (f, abs (x));
+%
+% See also qn.srs, qn.plot.waterfall
+function [hertz, x] = spectrum (time, signal, varargin)
+  who = 'qn.spectrum';
+  o = qn.impl.options (who, struct ('window', 'hann', 'mean', 'remove'), varargin);
+  n = numel (time);
+  h = qn.impl.spacing (who, time);
+  if size (signal, 2) ~= n, error ('qn:input', '%s: %d columns expected, one a time, got %d', who, n, size (signal, 2)); end
+  switch o.window
+    case 'hann', w = 0.5 - 0.5 * cos (2 * pi * (0:n - 1) / n);
+    case 'none', w = ones (1, n);
+    otherwise, error ('qn:input', '%s: the window is ''hann'' or ''none'', not ''%s''', who, o.window);
+  end
+  if strcmp (o.mean, 'remove'), signal = bsxfun (@minus, signal, mean (signal, 2)); end
+  x = fft (bsxfun (@times, signal, w), [], 2) / sum (w);
+  half = floor (n / 2) + 1;
+  x = x(:, 1:half);
+  doubled = 2:half;
+  if mod (n, 2) == 0, doubled = 2:half - 1; end
+  x(:, doubled) = 2 * x(:, doubled);
+  hertz = (0:half - 1) / (n * h);
+end

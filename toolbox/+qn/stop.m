@@ -1,0 +1,42 @@
+% QN.STOP  two-sided stop
+%
+% Purpose
+%   Free play between two stops, then a spring on either side.
+%
+% Calls
+%   LAW = qn.stop ('gap', G, 'stiffness', K, ...)
+%
+% Input
+%   Names and values
+%     'gap'        play on either side of x = 0 [m], or [left right]
+%     'stiffness'  contact stiffness [N/m], or [left right]
+%     'inner'      stiffness between the stops [N/m] (0)
+%
+% Output
+%   LAW   table law; see qn.law
+%
+% Errors
+%   qn:input  a parameter is missing or unknown, a gap or stiffness is negative
+%
+% Example
+%   support = qn.stop ('gap', 0.001, 'stiffness', 1e7);
+%   qn.force (support, [-0.002 0 0.002])      % [-1e4 0 1e4] N
+%
+% See also qn.gap, qn.bilinear, qn.bearing, qn.law
+function law = stop (varargin)
+  who = 'qn.stop';
+  o = qn.impl.options (who, struct ('gap', '<required>', 'stiffness', '<required>', 'inner', 0), varargin);
+  gap = o.gap(:) .* ones (2, 1);
+  k = o.stiffness(:) .* ones (2, 1);
+  for i = 1:2
+    qn.impl.scalar (who, 'gap', gap(i), 0);
+    qn.impl.scalar (who, 'stiffness', k(i), 0);
+  end
+  qn.impl.scalar (who, 'inner', o.inner, 0);
+  [left, right] = deal (o.inner * gap(1), o.inner * gap(2));
+  unit = max ([gap; 1e-3]);
+  x = [-gap(1) - unit; -gap(1); gap(2); gap(2) + unit];
+  f = [-left - k(1) * unit; -left; right; right + k(2) * unit];
+  law = qn.law ('table', 'displacement', x, 'force', f);
+  law.note = sprintf ('two-sided stop, play from %g to %g m', -gap(1), gap(2));
+end

@@ -1,0 +1,31 @@
+% QN.VELOCITY  velocities and accelerations of the structure from a result
+%
+% Purpose
+%   The module saves displacements. Velocities and accelerations follow from them, from the loads and from the forces of the
+%   elements by the equation of motion and the scheme's own rule, without differences: they are those of the run, to rounding.
+%
+% Calls
+%   [V, A] = qn.velocity (RES, C)
+%
+% Input
+%   RES   from qn.run, with every step kept
+%   C     observation rows or the number of one degree of freedom, as for qn.displacement
+%
+% Output
+%   V, A  p x k velocities [m/s] and accelerations [m/s^2]
+%
+% Errors
+%   qn:input  the result keeps only some of the steps, or the run was cut short
+%
+% Example
+%   model = qn.modal (1e4, 1);
+%   res = qn.run (qn.simulation (model, 'step', 1e-3, 'steps', 500, 'v0', 1));
+%   [v, a] = qn.velocity (res, 1);
+%
+% See also qn.displacement, qn.energies, qn.plot.phase
+function [v, a] = velocity (res, c)
+  c = qn.impl.looked_at (res.sim.model, c);
+  [v, a] = qn.impl.rates (res);
+  v = c * v;
+  a = c * a;
+end

@@ -1,0 +1,62 @@
+% QUARN  kernels of structural-dynamics time simulation
+%
+%   quarn ('command', arguments...)
+%   x = quarn ()                        1.0001: the module is there
+%
+% quarn is a compiled module. This file holds its help; called as a function, it steps behind the compiled one and passes the
+% call on.
+%
+% Most commands write their result into arrays that the caller passes. Such an array has to be one of its own: zeros (n, 1) or
+% the result of a computation. A range (1:3), a literal number or a copy of another variable is no good target.
+%
+% Commands
+%   x = quarn ('ismex')                                        1
+%   s = quarn ('cvs')                                          revision string
+%   quarn ('residual', r, model, u, v, a, opt, extra)          r = r + M a + C v + K u + nonlinear forces, in place
+%   [t, w] = quarn ('residual', ...)                           the same, and the kinetic and strain energy of a matrix model
+%   i = quarn ('chandleset', type, value)                      new handle; type 1 stiffness, 2 mass, 3 damping,
+%                                                              1003 nonlinear element, 2000 Newmark integrator
+%   value = quarn ('chandleget', i)                            copy of a handle's value
+%   list = quarn ('chandleget')                                indices of all handles
+%   y = quarn ('chandleget', f, i, ...)                        f (value, ...)
+%   quarn ('chandleclear', i)                                  frees a handle, all of them without i
+%   quarn ('chandlediagnewmark', list, model, u, v, a, opt, mem, out)   time integration in modal coordinates, in place
+%   quarn ('tbbp', A, x, y)                                    y = y + A.' * x, in place, in parallel
+%   p = quarn ('c<-a''*b', a, B)                               a.' * B
+%   p = quarn ('abc', A, K, B, int32 ([1 0 0]))                A.' * K * B, bases real or complex, of equal width
+%   quarn ('setsparse', S, ir, [], pr)                         overwrites indices and values of a matrix, in place
+%
+% A sparse matrix is passed as a structure with 32-bit indices from 0; see qn.pack. A list of handles is a chandle vector.
+%
+% Working with models instead of index vectors: package qn
+%   matrices       qn.pack, qn.unpack, qn.mmread, qn.mmwrite, qn.project
+%   models         qn.modal, qn.rayleigh, qn.observe, qn.command, qn.base
+%   force laws     qn.law, qn.describe, qn.element, qn.force
+%   recipes        qn.gap, qn.stop, qn.bilinear, qn.cubic, qn.slider, qn.iwan, qn.zener, qn.maxwell, qn.bearing
+%   simulation     qn.scheme, qn.simulation, qn.check, qn.advise, qn.run, qn.resume
+%   results        qn.displacement, qn.velocity, qn.energies, qn.dissipated, qn.contacts, qn.spectrum, qn.srs
+%   pictures       qn.plot.history, qn.plot.phase, qn.plot.loop, qn.plot.orbit, qn.plot.waterfall
+%   without time   qn.static, qn.harmonic, qn.backbone
+%
+% Example
+%   model = qn.modal (4e4, 1, 'damping', 0.01);
+%   stop = qn.gap ('gap', 0.002, 'stiffness', 1e6);
+%   sim = qn.simulation (model, 'step', 1e-4, 'until', 0.5, 'load', {qn.command (model, 1), @(t) 200 * sin (150 * t)}, ...
+%                        'elements', {stop, qn.observe(model, 1)});
+%   res = qn.run (sim);
+%   qn.contacts (res, 1)
+%
+% See also chandle, v_handle, qn.simulation, qn.run
+function varargout = quarn (varargin)
+  here = fileparts (mfilename ('fullpath'));
+  name = ['quarn.' mexext()];
+  folders = strsplit (path (), pathsep ());
+  if ~any (cellfun (@(folder) exist (fullfile (folder, name), 'file') > 0, folders))
+    error ('quarn: the compiled module %s is not on the path; add the folder that it was built into with addpath', name);
+  end
+  if strcmp (pwd (), here)
+    error ('quarn: the current folder hides the compiled module; change to another folder and add this one with addpath');
+  end
+  addpath (here, '-end');
+  [varargout{1:nargout}] = qn.impl.compiled (varargin{:});
+end

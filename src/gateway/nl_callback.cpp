@@ -26,7 +26,7 @@ void callBack(const NlCall& call, const NlElement& e, int nlhs, mxArray** plhs, 
   if (head) in[n++] = const_cast<mxArray*>(head);
   in[n++] = const_cast<mxArray*>(e.data);
   for (int k = 1; k < allArguments; ++k) in[n++] = const_cast<mxArray*>(call.prhs[k]);
-  mexCallMATLAB(nlhs, plhs, n, in, function);
+  host::callHost(nlhs, plhs, n, in, function);
 }
 
 void callWithoutResult(const NlCall& call, const NlElement& e, const char* function, const mxArray* head) {

@@ -56,7 +56,7 @@ extern "C" [[gnu::visibility("default")]] void mexFunction(int nlhs, mxArray* pl
   }
   const quarn::CommandRow* row = commandOf(prhs[0]);
   if (!row) quarn::host::fail("quarn : Unknown command");
-  const quarn::host::CommandScope scope(row->word);
+  quarn::host::setCommand(row->word);
   char text[256];
   if (!run(*row, nlhs, plhs, nrhs, prhs, text, sizeof text)) quarn::host::refuse("%s", text);
 }

@@ -61,7 +61,7 @@ void commandChandleGet(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[
   mxArray* in[mostInputs];
   std::transform(prhs + 1, prhs + nrhs, in, [](const mxArray* a) { return const_cast<mxArray*>(a); });
   in[1] = host::duplicate(h->get_val());
-  mexCallMATLAB(nlhs, plhs, nrhs - 1, in, "feval");
+  host::callHost(nlhs, plhs, nrhs - 1, in, "feval");
 }
 
 void commandChandleClear(int /*nlhs*/, mxArray* /*plhs*/[], int nrhs, const mxArray* prhs[]) {

@@ -27,7 +27,7 @@ int keyOf(const mxArray* list, mxArray* place, std::size_t i) {
   *mxGetPr(place) = static_cast<double>(i + 1);
   mxArray* in[2] = {const_cast<mxArray*>(list), place};
   mxArray* index = nullptr;
-  mexCallMATLAB(1, &index, 2, in, "remi");
+  host::callHost(1, &index, 2, in, "remi");
   if (!index) host::fail("KORV:quarn:NonHandle", "Handle does not exist");
   const int key = host::toInt(host::number(index, "the index that \"remi\" returned"));
   mxDestroyArray(index);

@@ -16,7 +16,7 @@ mxArray* objectField(const mxArray* object, const char* name) {
   // An object of an old-style class: its fields are reached through struct().
   mxArray* in = const_cast<mxArray*>(object);
   mxArray* out = nullptr;
-  mexCallMATLAB(1, &out, 1, &in, "struct");
+  callHost(1, &out, 1, &in, "struct");
   return field(out, name);
 #else
   return mxGetField(object, 0, name);
@@ -94,7 +94,7 @@ mxArray* duplicateByHost(const mxArray* a) {
   if (mxIsFunctionHandle(a)) return mxDuplicateArray(a);
   mxArray* in = const_cast<mxArray*>(a);
   mxArray* out = nullptr;
-  mexCallMATLAB(1, &out, 1, &in, "deal");  // mxDuplicateArray raises an error for an object
+  callHost(1, &out, 1, &in, "deal");  // mxDuplicateArray raises an error for an object
   if (!out) refuse("a value of class %.60s cannot be copied", mxGetClassName(a));
   return out;
 }

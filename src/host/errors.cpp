@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "host/mex_api.h"
 
 namespace quarn::host {
 
@@ -12,9 +11,13 @@ namespace {
 const char* commandWord = "";
 }
 
-CommandScope::CommandScope(const char* word) noexcept : outer(commandWord) { commandWord = word; }
+void setCommand(const char* word) noexcept { commandWord = word; }
 
-CommandScope::~CommandScope() { commandWord = outer; }
+void callHost(int nlhs, mxArray* plhs[], int nrhs, mxArray* prhs[], const char* function) {
+  const char* word = commandWord;
+  mexCallMATLAB(nlhs, plhs, nrhs, prhs, function);
+  commandWord = word;
+}
 
 void fail(const char* identifier, const char* text) {
   mexErrMsgIdAndTxt(identifier, "%s", text);

@@ -5,20 +5,12 @@
 // that owns memory outside the host may be alive in a function that calls them.
 #pragma once
 
+#include "host/mex_api.h"
+
 namespace quarn::host {
 
-/// The command word that refuse() puts into its texts, for the life of the object; then again the one of the call from which the
-/// host called back. The pointer must stay valid.
-class CommandScope {
- public:
-  explicit CommandScope(const char* word) noexcept;
-  ~CommandScope();
-  CommandScope(const CommandScope&) = delete;
-  CommandScope& operator=(const CommandScope&) = delete;
-
- private:
-  const char* outer;
-};
+/// The command word that refuse() puts into its texts. The gateway sets it at every entry; the pointer must stay valid.
+void setCommand(const char* word) noexcept;
 
 /// Raises TEXT under IDENTIFIER.
 [[noreturn]] void fail(const char* identifier, const char* text);
@@ -28,5 +20,9 @@ class CommandScope {
 
 /// Raises "quarn COMMAND : <formatted text>". The text says what is wrong, what was expected and what was got.
 [[noreturn]] [[gnu::format(printf, 1, 2)]] void refuse(const char* format, ...);
+
+/// Calls a function of the host's language. Its error ends the call, with identifier and text unchanged. The function may call quarn
+/// itself; afterwards texts name the command of this call again.
+void callHost(int nlhs, mxArray* plhs[], int nrhs, mxArray* prhs[], const char* function);
 
 }  // namespace quarn::host

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "host/errors.h"
 #include "integration/diag_newmark.h"
 
 namespace quarn {
@@ -65,9 +66,9 @@ void chandleDiagNewmark::saveStore(double t) {
 }
 
 void doFlush() {
-  mexCallMATLAB(0, nullptr, 0, nullptr, "drawnow");
+  host::callHost(0, nullptr, 0, nullptr, "drawnow");
   mxArray* seconds = mxCreateDoubleScalar(1e-05);
-  mexCallMATLAB(0, nullptr, 1, &seconds, "pause");
+  host::callHost(0, nullptr, 1, &seconds, "pause");
   mxDestroyArray(seconds);
 }
 

@@ -75,12 +75,13 @@ Result call(Entry entry, int nlhs, const Arguments& args) {
   Result result;
   Frame& caller = currentFrame();
   Frame frame;
-  frame.module = true;
   enterFrame(frame);
   // Places and arguments are exactly as many as the call has, for the sanitizer.
   std::vector<mxArray*> out(static_cast<std::size_t>(nlhs > 1 ? nlhs : 1));
   std::vector<const mxArray*> in(args);
+  frame.module = true;
   result.failed = !runEntry(frame, entry, nlhs, out.data(), static_cast<int>(in.size()), in.data());
+  frame.module = false;
   if (result.failed) {
     Error error = takeError();
     result.identifier = std::move(error.identifier);

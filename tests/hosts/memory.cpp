@@ -17,7 +17,7 @@ std::size_t liveBlocks = 0;
 long failing = 0;
 long counted = 0;
 std::size_t memoryLimit = std::size_t{1} << 32;
-thread_local int depth = 0;
+int depth = 0;
 
 void reclaim(Frame& frame) {
   while (!frame.arrays.empty()) destroy(*frame.arrays.begin());
@@ -50,7 +50,7 @@ void* newBlock(std::size_t n, std::size_t size, bool clear) {
 
 Busy::Busy() { ++depth; }
 Busy::~Busy() { --depth; }
-bool busy() { return depth > 0; }
+bool moduleAtWork() { return current->module && depth == 0; }
 
 Frame& currentFrame() { return *current; }
 Frame& persistentFrame() { return persistent; }

@@ -13,6 +13,7 @@ mxArray* newObject(Kind kind, const std::string& className, const Properties& pr
   a->className = className;
   for (const auto& [name, value] : properties) {
     a->names.push_back(name);
+    if (n == 0) continue;  // nothing to hold it
     a->elements.push_back(value);
     adopt(value);
   }

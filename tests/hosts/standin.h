@@ -117,8 +117,8 @@ void failAllocation(long k);
 long allocations();
 /// Largest array that can be had, in bytes; what is larger is "Out of memory.".
 void setMemoryLimit(std::size_t bytes);
-/// Whether a function of the host is at work, as opposed to code of the module.
-bool busy();
+/// Whether code of a module is running, as opposed to the host's own.
+bool moduleAtWork();
 
 }  // namespace standin
 #pragma GCC visibility pop

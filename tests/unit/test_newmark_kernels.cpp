@@ -45,7 +45,7 @@ TEST(NewmarkKernels, LoadSumsTheColumnsInOrder) {
         }
       }
       std::vector<double> f(static_cast<std::size_t>(n), 9.0);
-      newmarkLoad(f.data(), r.data(), load.data(), n, nb);
+      newmarkLoad(f.data(), r.data(), n, load.data(), n, nb);
       EXPECT_EQ(f, wanted);
     }
   }

@@ -96,7 +96,7 @@ function test_every_state_block_goes_to_the_same_place ()
   % Two pairs: observed in rows 1 and 3, states (equal to the forces) in rows 2 and 4; each block is one value
   % behind one skipped value.
   e = state_element ('DahlC', [0.5 10 1 4 2], [-1 5 1 1 2], 4, 2);
-  e.c = csc ([eye(4) zeros(4, 3)], true);
+  e.c = matrix_lines ([eye(4) zeros(4, 3)], true);
   e.b = e.c;
   [run, got] = one_step (e, 7, 0);
   forces = got.list{2}.snl;
@@ -108,7 +108,7 @@ end
 function test_state_store_needs_a_positive_offset_and_blocks ()
   for iopt = {[-1 0 1 1 2], [-1 -3 1 1 2], [-1 5 1 1 0], [-1 5 1 0 2]}
     e = state_element ('DahlC', [0.5 10 1 4 2], iopt{1}, 4, 2);
-    e.c = csc ([eye(4) zeros(4, 3)], true);
+    e.c = matrix_lines ([eye(4) zeros(4, 3)], true);
     e.b = e.c;
     [run, got] = one_step (e, 7, 0);
     expect_equal (got.u(2:7), run.u(2:7));
@@ -118,7 +118,7 @@ end
 % An element of LENGTH observed values and PAGES pages that holds 101, 102, ... behind the first page.
 function e = paged_element (len, pages)
   line = [ones(len, 1), zeros(len, 1)];
-  e = struct ('type', 1003, 'c', csc (line, true), 'b', csc (line, true), 'opt', [law_code('Power'); 0; 1], 'snl', zeros (len, 1));
+  e = struct ('type', 1003, 'c', matrix_lines (line, true), 'b', matrix_lines (line, true), 'opt', [law_code('Power'); 0; 1], 'snl', zeros (len, 1));
   e.unl = reshape (100 + (1:len * pages), len, 1, pages);
   e.vnl = reshape (200 + (1:len * pages), len, 1, pages);
   e = fresh (e);
@@ -160,11 +160,11 @@ function test_sizes_that_do_not_fit_are_refused ()
   e = good; e.c.ir(1) = int32 (-1); bad{end + 1} = e;
   e = good; e.c.jc(2) = int32 (5); bad{end + 1} = e;
   e = good; e.c = ones (1, 3); bad{end + 1} = e;
-  e = good; e.c = csc (ones (2, 2), true); bad{end + 1} = e;
+  e = good; e.c = matrix_lines (ones (2, 2), true); bad{end + 1} = e;
   e = good; e.c = struct ('pr', 1, 'dims', [1 2]); bad{end + 1} = e;
   e = good; e.b.ir(1) = int32 (7); bad{end + 1} = e;
-  e = good; e.b = csc (ones (2, 2), true); bad{end + 1} = e;
-  e = good; e.b = csc (ones (1, 4), true); bad{end + 1} = e;
+  e = good; e.b = matrix_lines (ones (2, 2), true); bad{end + 1} = e;
+  e = good; e.b = matrix_lines (ones (1, 4), true); bad{end + 1} = e;
   e = good; e.b = struct ('pr', ones (4, 1), 'dims', [1 4], 'trans', 1); bad{end + 1} = e;
   e = good; e.unl = zeros (3, 1); bad{end + 1} = e;
   e = good; e.opt = [law_code('Expon'); 1]; bad{end + 1} = e;

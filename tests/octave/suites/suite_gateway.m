@@ -110,8 +110,8 @@ end
 
 function test_tbbp_adds_the_product_at_every_call ()
   a = sparse ([2 0 1; 0 3 0; 1 0 4]);
-  m = csc (a);
-  kept = csc (a);
+  m = matrix_lines (a);
+  kept = matrix_lines (a);
   x = [1; 2; 3];
   y = 10 * ones (3, 1);
   quarn ('tbbp', m, x, y);
@@ -124,14 +124,14 @@ function test_tbbp_adds_the_product_at_every_call ()
 end
 
 function test_tbbp_says_which_arguments_are_missing ()
-  m = csc (speye (3));
+  m = matrix_lines (speye (3));
   expect_refused (@() quarn ('tbbp', m), '~^quarn tbbp : ');
   expect_refused (@() quarn ('tbbp', m, zeros (3, 1)), '~^quarn tbbp : ');
 end
 
 function test_tbbp_survives_arguments_of_every_kind ()
   values = hostile_values ();
-  good = {csc(speye (3)), ones(3, 1), zeros(3, 1)};
+  good = {matrix_lines(speye (3)), ones(3, 1), zeros(3, 1)};
   for k = 1:numel (values)
     for at = 1:3
       args = good;

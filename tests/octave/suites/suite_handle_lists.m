@@ -4,15 +4,15 @@ function tests = suite_handle_lists ()
 end
 
 function test_handles_add_their_shares_in_order ()
-  one = quarn ('chandleset', 1, csc (sparse (1)));
-  large = quarn ('chandleset', 1, csc (sparse (1e16)));
-  minus = quarn ('chandleset', 1, csc (sparse (-1e16)));
+  one = quarn ('chandleset', 1, matrix_lines (sparse (1)));
+  large = quarn ('chandleset', 1, matrix_lines (sparse (1e16)));
+  minus = quarn ('chandleset', 1, matrix_lines (sparse (-1e16)));
   expect_equal (added (chandle ([large one minus])), 0);   % the 1 is lost between the large ones
   expect_equal (added (chandle ([large minus one])), 1);
 end
 
 function test_a_handle_named_twice_adds_twice ()
-  h = quarn ('chandleset', 1, csc (sparse (3)));
+  h = quarn ('chandleset', 1, matrix_lines (sparse (3)));
   expect_equal (added (chandle ([h h])), 6);
 end
 
@@ -23,13 +23,13 @@ function test_an_empty_vector_adds_nothing ()
 end
 
 function test_long_vectors_are_taken ()
-  h = quarn ('chandleset', 1, csc (sparse (1)));
+  h = quarn ('chandleset', 1, matrix_lines (sparse (1)));
   expect_equal (added (chandle (h * ones (1, 3000))), 3000);
 end
 
 function test_an_index_without_a_handle_is_refused_and_leaves_its_key ()
   clear quarn
-  h = quarn ('chandleset', 1, csc (sparse (3)));
+  h = quarn ('chandleset', 1, matrix_lines (sparse (3)));
   indices = [7 -3 NaN 1e300];
   for k = 1:4
     r = zeros (1, 1) + 0.5;
@@ -41,16 +41,16 @@ function test_an_index_without_a_handle_is_refused_and_leaves_its_key ()
 end
 
 function test_a_freed_handle_is_refused ()
-  h = quarn ('chandleset', 1, csc (sparse (3)));
+  h = quarn ('chandleset', 1, matrix_lines (sparse (3)));
   quarn ('chandleclear', h);
   expect_error (@() added (chandle (h)), 'KORV:quarn:NonHandle', 'Handle does not exist');
-  h = quarn ('chandleset', 1, csc (sparse (3)));
+  h = quarn ('chandleset', 1, matrix_lines (sparse (3)));
   quarn ('chandleclear');
   expect_error (@() added (chandle (h)), 'KORV:quarn:NonHandle', 'Handle does not exist');
 end
 
 function test_an_index_is_truncated ()
-  h = quarn ('chandleset', 1, csc (sparse (3)));
+  h = quarn ('chandleset', 1, matrix_lines (sparse (3)));
   expect_equal (added (chandle (h + 0.75)), 3);
 end
 
@@ -59,15 +59,15 @@ function test_an_index_that_is_no_number_is_refused ()
 end
 
 function test_a_vector_may_mix_all_types ()
-  h = [quarn('chandleset', 2, csc (sparse (2))), quarn('chandleset', 3, csc (sparse (3))), quarn('chandleset', 1, csc (sparse (5))), ...
-       quarn('chandleset', 1003, power_element (csc (1, true), csc (1), 1))];
+  h = [quarn('chandleset', 2, matrix_lines (sparse (2))), quarn('chandleset', 3, matrix_lines (sparse (3))), quarn('chandleset', 1, matrix_lines (sparse (5))), ...
+       quarn('chandleset', 1003, power_element (matrix_lines (1, true), matrix_lines (1), 1))];
   r = zeros (1, 1) + 7;
   quarn ('residual', r, chandle (h), ones (1, 1), 10 * ones (1, 1), 100 * ones (1, 1));
   expect_equal (r, 7 + 200 + 30 + 5 + 1);
 end
 
 function test_an_initialisation_that_fails_keeps_every_handle ()
-  good = quarn ('chandleset', 1, csc (sparse (3)));
+  good = quarn ('chandleset', 1, matrix_lines (sparse (3)));
   bad = quarn ('chandleset', 2, struct ('x', 1));
   r = zeros (1, 1) + 0.5;
   expect_error (@() quarn ('residual', r, chandle ([good bad]), ones (1, 1), 0, 0), 'KORV:quarn:empty', 'no real part');

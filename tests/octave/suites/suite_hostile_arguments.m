@@ -4,20 +4,20 @@ function tests = suite_hostile_arguments ()
 end
 
 function test_residual_of_handles ()
-  h = [quarn('chandleset', 2, csc (speye (3))), quarn('chandleset', 1, csc (magic (3)))];
+  h = [quarn('chandleset', 2, matrix_lines (speye (3))), quarn('chandleset', 1, matrix_lines (magic (3)))];
   sweep ('residual', {zeros(3, 1), chandle(h), ones(3, 1), ones(3, 1), ones(3, 1), [0.5 0.5], []}, 0);
 end
 
 function test_residual_of_matrices ()
-  k = csc (speye (3));
+  k = matrix_lines (speye (3));
   sweep ('residual', {zeros(3, 1), {k, k, k}, ones(3, 1), ones(3, 1), ones(3, 1), [0.5 0.5], []}, 2);
 end
 
 function test_residual_of_a_model_structure ()
-  k = csc (speye (3));
-  element = struct ('c', csc (speye (3), true), 'unl', zeros (3, 1), 'vnl', zeros (3, 1), 'StoreFNL', 1, 'FInd', int32 (0));
+  k = matrix_lines (speye (3));
+  element = struct ('c', matrix_lines (speye (3), true), 'unl', zeros (3, 1), 'vnl', zeros (3, 1), 'StoreFNL', 1, 'FInd', int32 (0));
   element.Fu = @(varargin) ones (3, 1);
-  element.b = csc (speye (3));
+  element.b = matrix_lines (speye (3));
   model = struct ('K', {{k, k, k}}, 'FNL', zeros (3, 1), 'NL', {{'x', 1, element}});
   args = {zeros(3, 1), model, ones(3, 1), ones(3, 1), ones(3, 1), [0.5 0.5], []};
   sweep ('residual', args, 2);
@@ -32,7 +32,7 @@ function test_residual_of_a_model_structure ()
 end
 
 function test_matrices_of_a_model ()
-  k = csc (speye (3));
+  k = matrix_lines (speye (3));
   for place = 1:3
     for value = hostile_values ()
       cells = {k, k, k};
@@ -43,8 +43,8 @@ function test_matrices_of_a_model ()
 end
 
 function test_fields_of_a_matrix ()
-  matrix_fields (csc (magic (3)));
-  matrix_fields (csc (speye (3), true));
+  matrix_fields (matrix_lines (magic (3)));
+  matrix_fields (matrix_lines (speye (3), true));
 end
 
 function test_values_of_registered_handles ()
@@ -59,7 +59,7 @@ function test_values_of_registered_handles ()
 end
 
 function test_fields_of_an_element ()
-  element = power_element (csc (speye (3), true), csc (speye (3)), 3);
+  element = power_element (matrix_lines (speye (3), true), matrix_lines (speye (3)), 3);
   element.vnl = zeros (3, 1);
   element.iopt = int32 ([0; 0; 0; 0; 0]);
   fields = fieldnames (element);
@@ -98,7 +98,7 @@ function test_missing_arguments ()
   for n = 0:7
     expect_refused (@() quarn ('chandlediagnewmark', args{1:n}), '~^quarn chandlediagnewmark : ');
   end
-  k = csc (speye (3));
+  k = matrix_lines (speye (3));
   args = {zeros(3, 1), {k, k, k}, ones(3, 1), ones(3, 1), ones(3, 1)};
   for n = 0:4, expect_refused (@() quarn ('residual', args{1:n}), '~^quarn residual : '); end
 end

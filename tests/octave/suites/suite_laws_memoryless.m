@@ -6,7 +6,7 @@ end
 % The element after observing the values Q as they stand.
 function [e, r] = observed (word, parameters, q, iopt, snl)
   n = numel (q);
-  line = csc (eye (n), true);
+  line = matrix_lines (eye (n), true);
   e = struct ('type', 1003, 'c', line, 'b', line, 'opt', [law_code(word); parameters(:)]);
   e.unl = zeros (n, 1);
   e.snl = zeros (n, 1);

@@ -70,7 +70,7 @@ end
 function [e, u] = wrap (word, parameters, page, pages, places, values)
   ndof = page + randi (4) - 1;
   e = struct ('type', 1003, 'opt', [law_code(word); 0; parameters(:)]);
-  e.c = csc (single_entries (page, ndof), true);
+  e.c = matrix_lines (single_entries (page, ndof), true);
   e.unl = values (page, 1, pages);
   e.vnl = values (page, 1, pages);
   if rand < 0.8
@@ -79,7 +79,7 @@ function [e, u] = wrap (word, parameters, page, pages, places, values)
   else
     forces = page;
   end
-  e.b = csc (single_entries (min (forces, ndof), ndof), true);
+  e.b = matrix_lines (single_entries (min (forces, ndof), ndof), true);
   e.iopt = int32 ([randi(4) - 2; places(:)]);
   if numel (places) >= 4 && places(1) > 0, e.iopt(2) = int32 (min (places(1), ndof)); end
   e = fresh (e);

@@ -11,7 +11,7 @@ end
 % setsparse
 
 function test_setsparse_overwrites_indices_and_values ()
-  m = csc ([1 0; 2 3]);
+  m = matrix_lines ([1 0; 2 3]);
   alias = m.pr;
   quarn ('setsparse', m, int32 ([1; 0; 0]), [], [7; 8; 9]);
   expect_equal (m.ir, int32 ([1; 0; 0]));
@@ -21,14 +21,14 @@ function test_setsparse_overwrites_indices_and_values ()
 end
 
 function test_setsparse_writes_from_the_start_what_it_is_given ()
-  m = csc ([1 0; 2 3]);
+  m = matrix_lines ([1 0; 2 3]);
   quarn ('setsparse', m, int32 (1), [], [7; 8]);
   expect_equal (m.ir, int32 ([1; 1; 1]));
   expect_equal (m.pr, [7; 8; 3]);
 end
 
 function test_setsparse_never_touches_line_pointers ()
-  m = csc ([1 0; 2 3]);
+  m = matrix_lines ([1 0; 2 3]);
   quarn ('setsparse', m, int32 ([0; 1; 1]), int32 ([0; 1; 3]), [7; 8; 9]);
   expect_equal (m.jc, int32 ([0; 2; 3]));
   odd = odd_values ();
@@ -37,7 +37,7 @@ function test_setsparse_never_touches_line_pointers ()
 end
 
 function test_setsparse_skips_indices_that_are_not_int32 ()
-  m = csc ([1 0; 2 3]);
+  m = matrix_lines ([1 0; 2 3]);
   quarn ('setsparse', m, [1; 0; 0], [], [7; 8; 9]);
   expect_equal (m.ir, int32 ([0; 1; 1]));
   expect_equal (m.pr, [7; 8; 9]);
@@ -48,7 +48,7 @@ function test_setsparse_skips_indices_that_are_not_int32 ()
 end
 
 function test_setsparse_with_fewer_arguments_does_less ()
-  m = csc ([1 0; 2 3]);
+  m = matrix_lines ([1 0; 2 3]);
   quarn ('setsparse', m);
   expect_equal (m.ir, int32 ([0; 1; 1]));
   quarn ('setsparse', m, int32 ([1; 0; 0]));
@@ -59,27 +59,27 @@ function test_setsparse_with_fewer_arguments_does_less ()
 end
 
 function test_setsparse_with_empty_values_copies_none ()
-  m = csc ([1 0; 2 3]);
+  m = matrix_lines ([1 0; 2 3]);
   empties = {[], zeros(0, 3), {}, '', single([]), struct('x', {})};
   for k = 1:numel (empties), quarn ('setsparse', m, [], [], empties{k}); end
   expect_equal (m.pr, [1; 2; 3]);
 end
 
 function test_setsparse_takes_the_bits_of_8_byte_integers ()
-  m = csc ([1 0; 2 3]);
+  m = matrix_lines ([1 0; 2 3]);
   quarn ('setsparse', m, [], [], typecast ([4.5 -2 0.25], 'int64'));
   expect_equal (m.pr, [4.5; -2; 0.25]);
 end
 
 function test_setsparse_onto_itself_changes_nothing ()
-  m = csc ([1 0; 2 3]);
+  m = matrix_lines ([1 0; 2 3]);
   quarn ('setsparse', m, m.ir, m.jc, m.pr);
   expect_equal (m.ir, int32 ([0; 1; 1]));
   expect_equal (m.pr, [1; 2; 3]);
 end
 
 function test_setsparse_reaches_through_a_v_handle_and_into_full_matrices ()
-  m = csc ([1 0; 2 3]);
+  m = matrix_lines ([1 0; 2 3]);
   quarn ('setsparse', v_handle (m), int32 ([1; 0; 0]), [], [7; 8; 9]);
   expect_equal (m.ir, int32 ([1; 0; 0]));
   expect_equal (m.pr, [7; 8; 9]);
@@ -89,7 +89,7 @@ function test_setsparse_reaches_through_a_v_handle_and_into_full_matrices ()
 end
 
 function test_setsparse_refuses_sources_longer_than_their_target_before_writing ()
-  m = csc ([1 0; 2 3]);
+  m = matrix_lines ([1 0; 2 3]);
   expect_error (@() quarn ('setsparse', m, int32 ([0; 0; 0; 0]), [], [7; 8; 9]), '', '~^quarn setsparse : ir holds 4 values.* 3$');
   expect_error (@() quarn ('setsparse', m, int32 ([0; 0; 0]), [], [7; 8; 9; 10]), '', '~^quarn setsparse : pr holds 4 values.* 3$');
   expect_error (@() quarn ('setsparse', zeros (1, 1), int32 (0)), '', '~^quarn setsparse : ir holds 1 values.* 0$');
@@ -99,7 +99,7 @@ function test_setsparse_refuses_sources_longer_than_their_target_before_writing 
 end
 
 function test_setsparse_refuses_values_that_are_not_8_bytes_each ()
-  m = csc ([1 0; 2 3]);
+  m = matrix_lines ([1 0; 2 3]);
   others = {single([1; 2; 3]), 'abc', true(3, 1), {1}, @sin, struct('x', 1), sparse([1; 2; 3]), containers.Map(), v_handle(1)};
   for k = 1:numel (others)
     expect_error (@() quarn ('setsparse', m, [], [], others{k}), '', '~^quarn setsparse : pr must be ');
@@ -186,7 +186,7 @@ end
 
 function test_dtkt_checks_and_stops ()
   expect_error (@() quarn ('dtkt', ones (2, 1), ones (2, 2)), '', 'quarn dtkt : b must be sparse');
-  expect_error (@() quarn ('dtkt', ones (2, 1), csc (eye (2))), '', 'quarn dtkt : b must be sparse');
+  expect_error (@() quarn ('dtkt', ones (2, 1), matrix_lines (eye (2))), '', 'quarn dtkt : b must be sparse');
   expect_error (@() quarn ('dtkt', ones (2, 1), sparse (ones (2, 3))), '', 'quarn  : k must be square');
   expect_error (@() quarn ('dtkt', ones (3, 1), speye (2)), '', 'base has a wrong size');
   expect_error (@() quarn ('dtkt', ones (2, 1), speye (2)), '', 'quarn  : reimplement for mkls');

@@ -103,7 +103,7 @@ end
 
 function residual_calls (count)
   h = registered ({typed(1, diag ([4 5 6])), spring_element(1, 1, 3, [law_code('Power') 2 1])});
-  matrix = csc ([4 1 0; 1 5 1; 0 1 6]);
+  matrix = matrix_lines ([4 1 0; 1 5 1; 0 1 6]);
   models = {h, {matrix, matrix, matrix}, struct('K', {{matrix, matrix, matrix}})};
   r = zeros (3, 1);
   short = zeros (2, 1);

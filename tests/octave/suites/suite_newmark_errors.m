@@ -23,7 +23,7 @@ end
 
 function test_sparse_r ()
   run = small_run ();
-  run.list{1}.r = csc (run.list{1}.r);
+  run.list{1}.r = matrix_lines (run.list{1}.r);
   refused (run, 'KORV:quarn:Invalid', 'Full r expected');
   run.list{1}.r = sparse (ones (3, 3));
   refused (run, '', 'ir must be int32');
@@ -62,7 +62,7 @@ function test_order_of_the_checks_of_the_value ()
   refused (run, 'KORV:quarn:Invalid', 'Inconsistent data length');
   run.list{1}.tft = ones (3, 4);
   refused (run, 'KORV:quarn:Invalid', 'Inconsistent Nb & NT');
-  run.list{1}.r = csc (run.list{1}.r);
+  run.list{1}.r = matrix_lines (run.list{1}.r);
   refused (run, 'KORV:quarn:Invalid', 'Full r expected');
 end
 

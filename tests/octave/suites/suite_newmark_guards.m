@@ -150,23 +150,23 @@ end
 
 function test_matrices_that_do_not_fit_the_state ()
   full_matrix = sparse ([1 2 3 1 3], [1 1 2 3 3], [2 -1 5 4 3], 3, 3);
-  outside = csc (full_matrix);
+  outside = matrix_lines (full_matrix);
   outside.ir(2) = int32 (3);
-  negative = csc (full_matrix);
+  negative = matrix_lines (full_matrix);
   negative.ir(3) = int32 (-2);
-  backwards = csc (full_matrix);
+  backwards = matrix_lines (full_matrix);
   backwards.jc(3) = int32 (1);
-  long = csc (full_matrix);
+  long = matrix_lines (full_matrix);
   long.jc(4) = int32 (6);
-  cut = csc (full_matrix);
+  cut = matrix_lines (full_matrix);
   cut.jc = cut.jc(1:3);
-  values = csc (full_matrix);
+  values = matrix_lines (full_matrix);
   values.pr = values.pr(1:4);
-  small = csc (full_matrix(1:2, 1:2));
-  marked = csc (eye (2));
-  alien = csc (full_matrix);
+  small = matrix_lines (full_matrix(1:2, 1:2));
+  marked = matrix_lines (eye (2));
+  alien = matrix_lines (full_matrix);
   alien.ir = int64 (alien.ir);
-  sizes = csc (full_matrix);
+  sizes = matrix_lines (full_matrix);
   sizes.dims = 3;
   for s = {outside, negative, backwards, long, cut, values, small, marked, alien, sizes}
     for code = 1:3
@@ -184,7 +184,7 @@ function test_elements_that_do_not_fit_the_state ()
   into = good;
   into.b.ir(1) = int32 (12);
   wide = good;
-  wide.b = csc (ones (1, 5), true);
+  wide.b = matrix_lines (ones (1, 5), true);
   wide.b.dims = [1 20];
   short = good;
   short.opt = [law_code('Expon') 2];

@@ -33,7 +33,7 @@ function e = random_element (n, modes, exact, fnl)
     c = c + randn (count, n) .* (rand (count, n) < 0.4);
     b = randn (count, n);
   end
-  e = struct ('type', 1003, 'c', csc (c, true), 'b', csc (b, true));
+  e = struct ('type', 1003, 'c', matrix_lines (c, true), 'b', matrix_lines (b, true));
   if rand < 0.3, e.c = full (c); end
   e.unl = zeros (count, 1, pick ([1 1 2 3]));
   if rand < 0.7, e.vnl = zeros (size (e.unl)); end

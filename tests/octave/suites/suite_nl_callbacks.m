@@ -5,7 +5,7 @@ end
 
 function e = element ()
   c = sparse ([1 2], [1 3], [1 1], 2, 4);
-  e = struct ('c', csc (c, true), 'b', csc (c, true), 'unl', zeros (2, 1), 'vnl', zeros (2, 1), 'StoreFNL', 0, 'FInd', int32 (0));
+  e = struct ('c', matrix_lines (c, true), 'b', matrix_lines (c, true), 'unl', zeros (2, 1), 'vnl', zeros (2, 1), 'StoreFNL', 0, 'FInd', int32 (0));
 end
 
 function call (r, model, varargin)
@@ -48,7 +48,7 @@ function test_error_of_a_function_arrives_unchanged_and_sums_stay ()
     bad.(kinds{k}) = @fails;
     model = nl_model (good, bad, good);
     n = 4;
-    model.K = {csc(speye (n)), [], csc(speye (n))};
+    model.K = {matrix_lines(speye (n)), [], matrix_lines(speye (n))};
     r = zeros (4, 1);
     expect_error (@() call (r, model), 'structure:broken', 'the spring broke');
     expect_equal (r, [1; 2; 3; 4] + [2; 0; 6; 0]);
@@ -103,7 +103,7 @@ end
 
 function test_results_of_other_classes_are_refused ()
   wrong = {int32([1; 2]), {1, 2}, 'ab', true(2, 1), single([1; 2]), sparse([1; 2]), [1; 2i], @sin, struct('snl', {{1}}), struct('unl', 'x')};
-  key = quarn ('chandleset', 1, csc (speye (2)));
+  key = quarn ('chandleset', 1, matrix_lines (speye (2)));
   for k = 1:numel (wrong)
     e = element ();
     e.Fu = gives (wrong{k});
@@ -154,7 +154,7 @@ function test_functions_need_all_arguments_and_computed_laws_do_not ()
     r = zeros (4, 1);
     n = 4;
     model = nl_model (e);
-    model.K = {[], [], csc(speye (n))};
+    model.K = {[], [], matrix_lines(speye (n))};
     for given = 6:7
       extra = cell (1, given - 6);
       expect_error (@() quarn ('residual', r, model, ones (4, 1), ones (4, 1), [], extra{:}), '', ...
@@ -249,7 +249,7 @@ function test_law_as_a_function_equals_the_same_law_built_in ()
     v = randn (n, 1);
     built = zeros (n, 1);
     quarn ('residual', built, nl_model (rotor), u, v, [], [], []);
-    e = struct ('Fu', @(e, r, model, u, v, a, opt, extra) model_rotcenter (rotor, u, v), 'b', csc (speye (n)), 'StoreFNL', 0);
+    e = struct ('Fu', @(e, r, model, u, v, a, opt, extra) model_rotcenter (rotor, u, v), 'b', matrix_lines (speye (n)), 'StoreFNL', 0);
     called = zeros (n, 1);
     quarn ('residual', called, nl_model (e), u, v, [], [], []);
     expect_equal (called, built, 1e-13);

@@ -11,7 +11,7 @@ end
 % An element that observes DOFs 1 and 3 of 4 and sends its forces to the same DOFs.
 function e = element ()
   c = sparse ([1 2], [1 3], [1 1], 2, 4);
-  e = struct ('c', csc (c, true), 'b', csc (c, true), 'unl', zeros (2, 1), 'vnl', zeros (2, 1), 'StoreFNL', 0, 'FInd', int32 (0));
+  e = struct ('c', matrix_lines (c, true), 'b', matrix_lines (c, true), 'unl', zeros (2, 1), 'vnl', zeros (2, 1), 'StoreFNL', 0, 'FInd', int32 (0));
 end
 
 function f = twice_unl (e, varargin)

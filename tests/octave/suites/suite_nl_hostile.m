@@ -25,7 +25,7 @@ function sweep (e, left_out)
 end
 
 function e = observed (law)
-  c = csc (speye (6), true);
+  c = matrix_lines (speye (6), true);
   e = struct ('c', c, 'b', c, 'unl', zeros (6, 1), 'vnl', zeros (6, 1), 'unl0', zeros (6, 1), 'vnl0', zeros (6, 1), 'snl', zeros (6, 1), ...
               'StoreFNL', 1, 'FInd', int32 (0), 'opt', [0 -1]);
   e.(law) = @nothing;
@@ -82,7 +82,7 @@ function test_parameters_of_rotcenter ()
 end
 
 function test_matrix_of_mocirc2 ()
-  sweep (struct ('type', 'mocirc2', 'cta', csc (ones (6, 2))), {'type'});
+  sweep (struct ('type', 'mocirc2', 'cta', matrix_lines (ones (6, 2))), {'type'});
 end
 
 function test_elements_and_lists ()

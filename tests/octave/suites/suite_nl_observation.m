@@ -5,7 +5,7 @@ end
 
 % Two observations of three DOFs, no force.
 function e = element ()
-  e = struct ('c', csc ([1 0 2; 0 3 0], true), 'type', '');
+  e = struct ('c', matrix_lines ([1 0 2; 0 3 0], true), 'type', '');
 end
 
 function b = buffer (varargin)

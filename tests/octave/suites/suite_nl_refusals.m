@@ -5,7 +5,7 @@ end
 
 function e = element ()
   c = sparse ([1 2], [1 3], [1 1], 2, 4);
-  e = struct ('c', csc (c, true), 'b', csc (c, true), 'unl', zeros (2, 1), 'vnl', zeros (2, 1), 'StoreFNL', 1, 'FInd', int32 (0));
+  e = struct ('c', matrix_lines (c, true), 'b', matrix_lines (c, true), 'unl', zeros (2, 1), 'vnl', zeros (2, 1), 'StoreFNL', 1, 'FInd', int32 (0));
   e.Fu = @(e, varargin) 2 * e.unl;
 end
 
@@ -16,10 +16,10 @@ function refused (bad, text, opt)
   good = rmfield (good, 'Fu');
   good.type = '';
   n = 4;
-  value = csc (speye (n));
+  value = matrix_lines (speye (n));
   key = quarn ('chandleset', 1, value);
   model = nl_model (good, bad);
-  model.K = {[], [], csc(speye (n))};
+  model.K = {[], [], matrix_lines(speye (n))};
   model.FNL = zeros (3, 1) + 1;
   r = zeros (n, 1) + 2;
   expect_error (@() quarn ('residual', r, model, [1; 2; 3; 4], [5; 6; 7; 8], [], opt, []), '', text);
@@ -89,7 +89,7 @@ function test_observation_matrix_missing_or_wrong ()
 end
 
 function test_observation_matrix_that_leaves_its_arrays ()
-  shapes = {zeros(2, 5), zeros(3, 4), csc(sparse (2, 5, 1, 2, 5), true), csc(sparse (3, 1, 1, 3, 4), true)};
+  shapes = {zeros(2, 5), zeros(3, 4), matrix_lines(sparse (2, 5, 1, 2, 5), true), matrix_lines(sparse (3, 1, 1, 3, 4), true)};
   texts = {'the observed vector must hold 5 values', 'the observation must hold 3 values', 'index 4 in "ir"', ...
     'the observation must hold 3 values'};
   for k = 1:4
@@ -107,7 +107,7 @@ end
 
 function test_observation_matrix_of_the_wrong_kind_has_its_own_texts ()
   e = element ();
-  e.c = csc (eye (4));
+  e.c = matrix_lines (eye (4));
   e.unl = zeros (4, 1);
   e.vnl = zeros (4, 1);
   model = nl_model (e);
@@ -121,7 +121,7 @@ end
 
 function test_command_matrix_that_leaves_its_arrays ()
   e = element ();
-  e.b = csc (sparse (2, 5, 1, 2, 5), true);
+  e.b = matrix_lines (sparse (2, 5, 1, 2, 5), true);
   refused (e, '~^quarn residual : the residual must hold 5 values');
   e.b = 'x';
   refused (e, '~^quarn residual : the element''s b must be a full real double array, got char');
@@ -196,9 +196,9 @@ function test_mocirc2_without_a_usable_matrix ()
   refused (e, 'quarn residual : NL{2,3} needs a field "cta", it has none');
   e.cta = ones (3);
   refused (e, 'quarn residual : NL{2,3}.cta must be a sparse matrix structure, got double 3x3');
-  e.cta = csc (ones (4, 1));
+  e.cta = matrix_lines (ones (4, 1));
   refused (e, 'quarn residual : NL{2,3}.cta has no column 2, it has 1');
-  e.cta = csc (ones (5, 2));
+  e.cta = matrix_lines (ones (5, 2));
   refused (e, '~^quarn residual : the element''s cta : index 4 in "ir" reaches past u of 4 values');
   e.cta = speye (4);
   refused (e, 'ir must be int32');

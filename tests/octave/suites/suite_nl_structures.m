@@ -11,7 +11,7 @@ end
 % An element that observes DOFs 1 and 3 of 4 and sends its forces to the same DOFs.
 function e = element ()
   c = sparse ([1 2], [1 3], [1 1], 2, 4);
-  e = struct ('c', csc (c, true), 'b', csc (c, true), 'unl', zeros (2, 1), 'vnl', zeros (2, 1), 'StoreFNL', 0, 'FInd', int32 (0));
+  e = struct ('c', matrix_lines (c, true), 'b', matrix_lines (c, true), 'unl', zeros (2, 1), 'vnl', zeros (2, 1), 'StoreFNL', 0, 'FInd', int32 (0));
 end
 
 function f = twice_unl (e, varargin)
@@ -208,12 +208,12 @@ end
 function test_mocirc2_adds_and_stores_nothing ()
   e = element ();
   e.type = 'mocirc2';
-  e.cta = csc (sparse ([1 2 3 4], [1 1 2 2], [1 2 3 4], 4, 4));
+  e.cta = matrix_lines (sparse ([1 2 3 4], [1 1 2 2], [1 2 3 4], 4, 4));
   model = nl_model (e, e);
   model.FNL = zeros (3, 1) + 9;
   r = zeros (4, 1) + 2;
   call (r, model, [1; 2; 3; 4], zeros (4, 1));
-  e.cta = csc (sparse (4, 4));
+  e.cta = matrix_lines (sparse (4, 4));
   call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
   expect_equal (r, 2 * ones (4, 1));
   expect_equal (model.FNL, [9; 9; 9]);

@@ -7,7 +7,7 @@ end
 function [e, c, b] = linear_element ()
   c = [1 -1 0; 0 2 0.5];
   b = [3 0 1; 0 -1 4];
-  e = struct ('type', 1003, 'c', csc (c, true), 'b', csc (b, true), 'opt', [law_code('Power'); 1; 1]);
+  e = struct ('type', 1003, 'c', matrix_lines (c, true), 'b', matrix_lines (b, true), 'opt', [law_code('Power'); 1; 1]);
   e.unl = ones (2, 1) * 77;
   e.vnl = ones (2, 1) * 77;
   e.snl = ones (2, 1) * 77;
@@ -98,7 +98,7 @@ end
 
 function test_page_is_rows_times_columns ()
   c = [1 -1 0; 0 2 0.5; 1 1 1; 2 0 0];
-  e = struct ('type', 1003, 'c', csc (c, true), 'b', csc (c, true), 'opt', [law_code('Power'); 2; 1], 'snl', zeros (4, 1));
+  e = struct ('type', 1003, 'c', matrix_lines (c, true), 'b', matrix_lines (c, true), 'opt', [law_code('Power'); 2; 1], 'snl', zeros (4, 1));
   e.unl = reshape (1:8, 2, 2, 2) * 1;
   e = fresh (e);
   [u, v] = states ();
@@ -134,7 +134,7 @@ end
 function test_sparse_observation_matrix_must_be_flagged_transposed ()
   e = linear_element ();
   [u, v] = states ();
-  e.c = csc ([1 0 0; 0 1 0; 0 0 1]);
+  e.c = matrix_lines ([1 0 0; 0 1 0; 0 0 1]);
   expect_error (@() evaluate_law (e, u, v), '', 'Prod_Mt_u implemented for transposed sparse matrices');
 end
 
@@ -142,7 +142,7 @@ function test_command_matrix_stored_by_columns_gathers ()
   [e, c] = linear_element ();
   [u, v] = states ();
   b = [3 1; 0 -1];
-  e.b = csc (b);
+  e.b = matrix_lines (b);
   [got, r] = evaluate_law (e, u, v);
   expect_equal (r, [b' * (c * u); 0]);
 end

@@ -9,7 +9,7 @@ function values = odd_values ()
 end
 
 function m = matrix_3x4 ()
-  m = csc ([1 0 2 0; 0 3 0 0; 4 0 5 0]);
+  m = matrix_lines ([1 0 2 0; 0 3 0 0; 4 0 5 0]);
 end
 
 function refused_left (a, b)
@@ -28,7 +28,7 @@ end
 
 % The transposed path reports the same text without an identifier; that asymmetry is wanted.
 function test_left_product_wrong_size_of_a_transposed_structure_carries_none ()
-  m = csc (ones (3, 4), true);
+  m = matrix_lines (ones (3, 4), true);
   expect_error (@() quarn ('c<-a''*b', ones (3, 1), m), '', 'quarn c<-a''*b : vector a has a wrong size');
 end
 
@@ -86,7 +86,7 @@ function test_left_product_refuses_a_target_of_another_size_or_class ()
 end
 
 function test_broken_matrix_structures_are_refused_before_anything_is_written ()
-  good = csc ([1 0 2; 0 3 0; 4 0 5]);
+  good = matrix_lines ([1 0 2; 0 3 0; 4 0 5]);
   broken = {};
   broken{end+1} = setfield (good, 'ir', int32 ([0; 2; 1; 0; 3]));
   broken{end+1} = setfield (good, 'ir', int32 ([0; -2; 1; 0; 2]));
@@ -112,7 +112,7 @@ function test_broken_matrix_structures_are_refused_before_anything_is_written ()
 end
 
 function test_the_diagonal_marker_is_named ()
-  marked = setfield (csc (eye (3)), 'ir', int32 ([-1; 1; 2]));
+  marked = setfield (matrix_lines (eye (3)), 'ir', int32 ([-1; 1; 2]));
   expect_error (@() quarn ('c<-a''*b', ones (3, 1), marked), '', '~marked as diagonal');
 end
 
@@ -132,7 +132,7 @@ function test_sizes_that_no_memory_holds_are_refused ()
 end
 
 function test_triple_product_defined_messages ()
-  k = csc ([1 2; 3 4]);
+  k = matrix_lines ([1 2; 3 4]);
   flags = int32 ([1 0 0]);
   one = [1; 1];
   sparse_text = 'quarn abc : b must be int32 sparse';
@@ -153,7 +153,7 @@ function test_triple_product_defined_messages ()
 end
 
 function test_triple_product_checks_in_order ()
-  k = csc ([1 2; 3 4]);
+  k = matrix_lines ([1 2; 3 4]);
   expect_error (@() quarn ('abc', 1, [1 2; 3 4], 1, 1), '', 'quarn abc : b must be int32 sparse');
   expect_error (@() quarn ('abc', 1, k, 1, 1), '', 'int32 needed : quarn(''abc'',TA,k,TB,int32([1 0 0]));');
   expect_error (@() quarn ('abc', 1, k, 1, int32 (0)), '', 'quarn(''abc'')');
@@ -162,7 +162,7 @@ end
 
 % A matrix whose index array holds nothing has no pattern for "abc".
 function test_triple_product_without_any_entry_is_not_sparse ()
-  expect_error (@() quarn ('abc', 1, csc (0), 1, int32 ([1 0 0])), '', 'quarn abc : b must be int32 sparse');
+  expect_error (@() quarn ('abc', 1, matrix_lines (0), 1, int32 ([1 0 0])), '', 'quarn abc : b must be int32 sparse');
 end
 
 function test_triple_product_needs_its_operands ()
@@ -171,22 +171,22 @@ function test_triple_product_needs_its_operands ()
 end
 
 function test_triple_product_with_a_narrower_ta_is_refused ()
-  expect_error (@() quarn ('abc', [1; 1], csc ([1 2; 3 4]), ones (2, 3), int32 ([1 0 0])), '', ...
+  expect_error (@() quarn ('abc', [1; 1], matrix_lines ([1 2; 3 4]), ones (2, 3), int32 ([1 0 0])), '', ...
                 'quarn abc : TA must have as many columns as TB (3), got 1');
 end
 
 function test_triple_product_of_a_tall_matrix_is_refused ()
-  refused_triple (ones (3, 1), csc (ones (3, 2)), ones (2, 1));
-  refused_triple (ones (3, 1), csc (ones (3, 2), true), ones (2, 1));
+  refused_triple (ones (3, 1), matrix_lines (ones (3, 2)), ones (2, 1));
+  refused_triple (ones (3, 1), matrix_lines (ones (3, 2), true), ones (2, 1));
 end
 
 function test_triple_product_with_an_index_past_ta_is_refused ()
-  refused_triple (ones (2, 1), csc (ones (2, 3), true), ones (3, 1));
+  refused_triple (ones (2, 1), matrix_lines (ones (2, 3), true), ones (3, 1));
 end
 
 function test_triple_product_refuses_odd_bases ()
   values = odd_values ();
-  k = csc (ones (3, 3));
+  k = matrix_lines (ones (3, 3));
   for i = 1:numel (values)
     expect_error (@() quarn ('abc', values{i}, k, ones (3, 1), int32 ([1 0 0])), '', '~^(quarn )?abc : ');
     expect_error (@() quarn ('abc', ones (3, 1), k, values{i}, int32 ([1 0 0])), '', '~^(quarn )?abc : ');

@@ -38,7 +38,7 @@ function test_triple_products_of_random_bases ()
     ta = random_base (n, cols, mod (round_no, 2) == 1, whole);
     tb = random_base (n, cols, mod (round_no, 4) >= 2, whole);
     transposed = rand () < 0.5;
-    k = csc (s, transposed);
+    k = matrix_lines (s, transposed);
     if transposed, s = s.'; end
     p = quarn ('abc', ta, k, tb, int32 ([1 0 0]));
     compare (p, ta.' * s * tb, 4 * abs (ta).' * abs (s) * abs (tb), whole);
@@ -55,8 +55,8 @@ function test_left_products_of_random_bases ()
     whole = rand () < 0.5;
     s = random_matrix (n, m, whole);
     a = random_base (n, cols, false, whole);
-    k = csc (s);
-    if rand () < 0.5, k = csc (s.', true); end
+    k = matrix_lines (s);
+    if rand () < 0.5, k = matrix_lines (s.', true); end
     wanted = a.' * s;
     sizes = abs (a).' * abs (s);
     compare (quarn ('c<-a''*b', a, k), wanted, sizes, whole);
@@ -72,7 +72,7 @@ function test_columns_together_have_the_bits_of_columns_alone ()
   for round_no = 1:60
     n = ceil (rand () * 90);
     cols = ceil (rand () * 20);
-    k = csc (random_matrix (n, n, false));
+    k = matrix_lines (random_matrix (n, n, false));
     ta = random_base (n, cols, mod (round_no, 2) == 1, false);
     tb = random_base (n, cols, mod (round_no, 4) >= 2, false);
     p = quarn ('abc', ta, k, tb, int32 ([1 0 0]));

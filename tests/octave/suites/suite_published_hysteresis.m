@@ -14,8 +14,8 @@ function u = slider (registered_handles)
   rest = round ([0.13 0.14 0.15 0.16] / h) + 1;
   [integrator, mem, out] = newmark_setup (1, 0, k, zeros (1, 0), zeros (0, count), h, 0.25, 0.5, [turns rest], 2);
   e = state_element ('DahlC', [h 4e7 0 1 1], [-1 1 1 1 1], 2, 2);
-  e.b = csc ([1 0], true);
-  simulate ({integrator, typed(1, csc (diag ([k 0]))), e}, [u0; 0], [0; 0], [-k * u0; 0], mem, out, registered_handles);
+  e.b = matrix_lines ([1 0], true);
+  simulate ({integrator, typed(1, matrix_lines (diag ([k 0]))), e}, [u0; 0], [0; 0], [-k * u0; 0], mem, out, registered_handles);
   u = out.def(1, :);
 end
 
@@ -42,7 +42,7 @@ function [u, t] = zener (h, registered_handles)
   d0 = -0.1;
   w = struct ('Cu', [k1 * (k2 + k3) / s, -k1 * k3 / s], 'Dv', 0, 'B', k1 * k3 / (c * s), 'A', k3 / c * (k3 / s - 1), 'E', 0);
   e = maxwell_element (2, 1, 1, h, 1, w);
-  e.c = csc ([1; 0], true);
+  e.c = matrix_lines ([1; 0], true);
   e.b = e.c;
   e.vnl(6) = w.B * d0;  % the first step uses the committed rate
   e = fresh (e);
@@ -86,7 +86,7 @@ function [x, f] = dahl_strokes (steps, strokes, registered_handles)
   reach = 0.01;
   h = 1 / steps;
   e = state_element ('DahlC', [h 1e5 1 10 100], [-1 1 1 1 1], 2, 2);
-  e.b = csc ([1 0], true);
+  e.b = matrix_lines ([1 0], true);
   [integrator, mem, out] = newmark_setup (1, 0, 0, zeros (1, 0), zeros (0, steps + 1), h, 0.25, 0.5, 2:steps + 1, 2);
   integrator.r(2) = 0;
   u = [-reach; 0];

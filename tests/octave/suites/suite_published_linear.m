@@ -84,9 +84,9 @@ end
 function test_free_beam_frequencies_from_projected_matrices ()
   [k, m] = free_beam (150);
   basis = polynomials (150, 16);
-  kr = quarn ('c<-a''*b', basis, csc (k)) * basis;
+  kr = quarn ('c<-a''*b', basis, matrix_lines (k)) * basis;
   buffer = zeros (size (basis, 2), size (m, 2));
-  quarn ('c<-a''*b', basis, csc (m), buffer);
+  quarn ('c<-a''*b', basis, matrix_lines (m), buffer);
   mr = buffer * basis;
   expect_equal (kr, full (basis' * k * basis), 1e-10);
   expect_equal (mr, full (basis' * m * basis), 1e-12);
@@ -112,8 +112,8 @@ function run = long_run (nonlinear)
   run.list = {integrator, typed(1, diag ([k; 0])), typed(3, diag ([c; 0])), typed(2, diag ([m; 0]))};
   if nonlinear
     pair = state_element ('DahlC', [0.03 50 1 2 1], [0 3 1 1 1], 2, 2);
-    pair.c = csc ([1 0 -1 0; 0 0 0 1], true);
-    pair.b = csc ([1 0 -1 0; 0 0 0 0], true);
+    pair.c = matrix_lines ([1 0 -1 0; 0 0 0 1], true);
+    pair.b = matrix_lines ([1 0 -1 0; 0 0 0 0], true);
     spring = spring_element (2, 1, 4, [law_code('Power') 30 3], int32 (2));
     run.list = [run.list, {pair, spring}];
   end

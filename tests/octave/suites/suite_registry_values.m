@@ -108,8 +108,8 @@ function test_a_call_on_the_value_gets_a_copy_of_its_own ()
 end
 
 function test_a_handle_in_use_writes_into_its_own_value_only ()
-  s = power_element (csc (speye (2), true), [], 2);
-  kept = power_element (csc (speye (2), true), [], 2);
+  s = power_element (matrix_lines (speye (2), true), [], 2);
+  kept = power_element (matrix_lines (speye (2), true), [], 2);
   h = quarn ('chandleset', 1003, s);
   before = quarn ('chandleget', h);
   quarn ('residual', zeros (2, 1), chandle (h), [7; 8], zeros (2, 1), zeros (2, 1));
@@ -123,7 +123,7 @@ function test_a_handle_in_use_writes_into_its_own_value_only ()
 end
 
 function test_marking_a_diagonal_matrix_stays_inside_the_handle ()
-  m = csc (speye (3));
+  m = matrix_lines (speye (3));
   h = quarn ('chandleset', 2, m);
   before = quarn ('chandleget', h);
   quarn ('residual', zeros (3, 1), chandle (h), ones (3, 1), ones (3, 1), ones (3, 1));
@@ -134,12 +134,12 @@ function test_marking_a_diagonal_matrix_stays_inside_the_handle ()
 end
 
 function test_a_value_survives_writes_into_the_matrix_it_came_from ()
-  m = csc (sparse ([1 2; 3 4]));
+  m = matrix_lines (sparse ([1 2; 3 4]));
   h = quarn ('chandleset', 1, m);
   quarn ('setsparse', m, int32 ([1; 1; 1; 1]), [], [9; 9; 9; 9]);
   expect_equal (m.pr, [9; 9; 9; 9]);
   expect_equal (m.ir, int32 ([1; 1; 1; 1]));
-  expect_equal (quarn ('chandleget', h), csc (sparse ([1 2; 3 4])));
+  expect_equal (quarn ('chandleget', h), matrix_lines (sparse ([1 2; 3 4])));
 end
 
 function test_a_value_is_kept_when_other_handles_are_freed ()

@@ -6,7 +6,7 @@ end
 function test_load_multiply_in_parallel_clear_300_times ()
   n = 6000;
   a = spdiags ([-ones(n, 1), 2 * ones(n, 1), -ones(n, 1)], -1:1, n, n);
-  s = csc (a);
+  s = matrix_lines (a);
   x = cos ((1:n)');
   wanted = full (a * x);
   for k = 1:300
@@ -19,12 +19,12 @@ function test_load_multiply_in_parallel_clear_300_times ()
 end
 
 function test_registry_starts_afresh_behind_a_reload ()
-  first = quarn ('chandleset', 1, csc (eye (2)));
-  second = quarn ('chandleset', 2, csc (eye (2)));
+  first = quarn ('chandleset', 1, matrix_lines (eye (2)));
+  second = quarn ('chandleset', 2, matrix_lines (eye (2)));
   expect_equal (second, first + 1);
   clear ('quarn');
   expect_equal (quarn ('chandleget'), zeros (0, 1));
-  expect_equal (quarn ('chandleset', 1, csc (eye (2))), 0);
+  expect_equal (quarn ('chandleset', 1, matrix_lines (eye (2))), 0);
   expect_equal (quarn ('chandleset', 1003, struct ('opt', 1)), 1);
   clear ('quarn');
   expect_error (@() quarn ('chandleget', 0), 'KORV:quarn:NonHandle', 'Handle does not exist');
@@ -32,7 +32,7 @@ end
 
 function test_clear_all_with_live_handles_and_workers ()
   n = 6000;
-  s = csc (speye (n));
+  s = matrix_lines (speye (n));
   for k = 1:20
     h = registered ({typed(1, speye (n)), typed(2, sparse ([1 1:n], [2 1:n], ones (1, n + 1), n, n)), spring_element(1, 1, n, [law_code('Power') 2 1])});
     r = zeros (n, 1);

@@ -30,20 +30,20 @@ function test_matrix_cells_of_every_kind_of_damping ()
   randn ('twister', 42);
   for k = 1:240
     c = random_case (k);
-    damping = csc (c.C);
+    damping = matrix_lines (c.C);
     if mod (k, 4) == 1
       modes = 1 + mod (k, 3);
       c.C = struct ('def', randn (c.n, modes), 'data', [randn(modes, 1); zeros(modes, 1)]);
       damping = c.C;
       if mod (k, 8) == 1
         c.C.K = random_matrix (c.n, 0.3);
-        damping.K = csc (c.C.K);
+        damping.K = matrix_lines (c.C.K);
       end
       damping.data = damping.data + 0;
     end
     if mod (k, 3) == 0, c.a = []; end
     r = c.r + 0;
-    [kinetic, potential] = quarn ('residual', r, {csc(c.M), damping, csc(c.K)}, c.u, c.v, c.a, c.rayleigh);
+    [kinetic, potential] = quarn ('residual', r, {matrix_lines(c.M), damping, matrix_lines(c.K)}, c.u, c.v, c.a, c.rayleigh);
     expect_equal (r, c.r + model_residual (c.M, c.C, c.K, c.u, c.v, c.a, c.rayleigh), 1e-13);
     check_energies (kinetic, potential, c);
   end
@@ -63,7 +63,7 @@ function test_handle_vectors_of_any_order_and_number ()
       m = random_matrix (c.n, 0.4);
       m(1) = 1;
       if mod (i, 3) == 0, m = diag (1 + rand (c.n, 1)); end
-      keys(i) = quarn ('chandleset', kind, csc (m));
+      keys(i) = quarn ('chandleset', kind, matrix_lines (m));
       matrices = {none, none, none};
       if nnz (m) == c.n, m = diag (nonzeros (m)); end  % taken as the diagonal, wherever the entries lie
       matrices{kind} = m;
@@ -86,7 +86,7 @@ function test_handles_and_matrix_cell_have_the_same_bits ()
     types = [2 3 1];
     matrices = cell (1, 3);
     for i = 1:3
-      matrices{i} = csc (full{i});
+      matrices{i} = matrix_lines (full{i});
       keys(i) = quarn ('chandleset', types(i), matrices{i});
     end
     [u, v, a, start] = deal (randn (20, 1), randn (20, 1), randn (20, 1), randn (20, 1));
@@ -118,7 +118,7 @@ function test_structures_with_nonlinear_lists_and_energies ()
       [NL{j, 3}, added, store] = random_element (c, j, store);
       wanted = wanted + added;
     end
-    model = struct ('K', {{csc(c.M), csc(c.C), csc(c.K)}}, 'NL', {NL}, 'FNL', zeros (20, 1));
+    model = struct ('K', {{matrix_lines(c.M), matrix_lines(c.C), matrix_lines(c.K)}}, 'NL', {NL}, 'FNL', zeros (20, 1));
     r = c.r + 0;
     [kinetic, potential] = quarn ('residual', r, model, c.u, c.v, c.a, opt, []);
     expect_equal (r, wanted, 1e-13);
@@ -139,7 +139,7 @@ function [e, added, store] = random_element (c, j, store)
   B = random_matrix (m, 0.6);
   B(m, c.n) = 1;
   start = randn (m, 1);
-  e = struct ('c', csc (C, true), 'b', csc (B, true), 'unl', zeros (m, 1), 'vnl', zeros (m, 1), 'unl0', start, 'StoreFNL', 0, ...
+  e = struct ('c', matrix_lines (C, true), 'b', matrix_lines (B, true), 'unl', zeros (m, 1), 'vnl', zeros (m, 1), 'unl0', start, 'StoreFNL', 0, ...
               'FInd', int32 (offset));
   x = start + C * c.u;
   y = C * c.v;
@@ -163,7 +163,7 @@ function [e, added, store] = random_element (c, j, store)
   else
     words = {'', 'mocirc2'};
     e.type = words{1 + floor (2 * rand ())};
-    e.cta = csc (ones (c.n, 4));
+    e.cta = matrix_lines (ones (c.n, 4));
     added = zeros (c.n, 1);
   end
 end

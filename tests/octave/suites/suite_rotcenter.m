@@ -50,7 +50,7 @@ function test_ten_rows_store_nothing_and_eleven_to_fourteen_store_three_values (
     e = disc (rows, 7, 2);
     e.StoreFNL = 1;
     e.FInd = int32 (0);
-    e.b = csc (speye (5), true);
+    e.b = matrix_lines (speye (5), true);
     e.unl = zeros (0, 1);
     model = nl_model (e);
     model.FNL = zeros (8, 1) + 9;
@@ -72,8 +72,8 @@ function test_seventeen_rows_use_the_observation_matrices ()
   lists.Cell = e.Cell(1:14, :);
   e.Cell(5:8, 2) = {@sin};
   e.Cell([9 12 13 14 16], 2) = {@sin};
-  e.Cell{15, 2} = csc (sparse ([1 2], [2 3], [1 1], 3, 5), true);
-  e.Cell{17, 2} = csc (sparse ([1 2], [4 5], [1 1], 3, 5), true);
+  e.Cell{15, 2} = matrix_lines (sparse ([1 2], [2 3], [1 1], 3, 5), true);
+  e.Cell{17, 2} = matrix_lines (sparse ([1 2], [4 5], [1 1], 3, 5), true);
   model = nl_model (e);
   model.FNL = zeros (7, 1);
   r = zeros (5, 1);

@@ -8,16 +8,16 @@ function e = rotor (rows)
   randn ('twister', 42);
   e = random_rotor (6, rows, 0);
   e.unl = zeros (1, 1);
-  e.c = csc (ones (1, 6), true);
+  e.c = matrix_lines (ones (1, 6), true);
 end
 
 function refused (e, text, n, store)
   if nargin < 3, n = 6; end
   if nargin < 4, store = zeros (4, 1) + 1; end
-  value = csc (speye (3));
+  value = matrix_lines (speye (3));
   key = quarn ('chandleset', 1, value);
   model = nl_model (e);
-  model.K = {[], [], csc(speye (n))};
+  model.K = {[], [], matrix_lines(speye (n))};
   model.FNL = store;
   before = store + 0;
   cursor = e.cur_u + 0;
@@ -150,8 +150,8 @@ end
 function test_observation_matrices_of_the_wrong_shape ()
   for row = [15 17]
     refused (with (rotor (17), row, []), sprintf ('NL{1,3}.Cell{%d,2} is needed by "rotcenter", it is empty or missing', row));
-    refused (with (rotor (17), row, csc (ones (4, 6), true)), '~the observation must hold 4 values');
-    refused (with (rotor (17), row, csc (ones (3, 7), true)), '~index 6 in "ir"');
+    refused (with (rotor (17), row, matrix_lines (ones (4, 6), true)), '~the observation must hold 4 values');
+    refused (with (rotor (17), row, matrix_lines (ones (3, 7), true)), '~index 6 in "ir"');
     refused (with (rotor (17), row, ones (3, 7)), '~the observed vector must hold 7 values');
     refused (with (rotor (17), row, 'x'), '~must be a full real double array, got char');
   end

@@ -18,7 +18,7 @@ end
 
 function test_each_column_is_one_dot_product ()
   a = unsymmetric ();
-  s = csc (a);
+  s = matrix_lines (a);
   x = [1; 2; 3];
   other = [7; 11; -13];
   expect_equal (contribution (1, s, x, other, other, [0 0]), full (a' * x));
@@ -30,7 +30,7 @@ function test_contributions_are_added_to_what_the_vector_holds ()
   a = unsymmetric ();
   x = [1; 2; 3];
   for code = 1:3
-    expect_equal (contribution (code, csc (a), x, x, x, [0 0], [10; 20; 30]), [10; 20; 30] + full (a' * x));
+    expect_equal (contribution (code, matrix_lines (a), x, x, x, [0 0], [10; 20; 30]), [10; 20; 30] + full (a' * x));
   end
 end
 
@@ -38,16 +38,16 @@ function test_rayleigh_pair_adds_alpha_mass_and_beta_stiffness_times_velocity ()
   a = unsymmetric ();
   u = [1; 2; 3];
   v = [-1; 0.5; 4];
-  expect_equal (contribution (1, csc (a), u, v, u, [8 0.25]), full (a' * u + (a' * v) * 0.25));
-  expect_equal (contribution (2, csc (a), v, v, u, [0.125 9]), full (a' * u + (a' * v) * 0.125));
-  expect_equal (contribution (3, csc (a), u, v, u, [3 4]), full (a' * v));
+  expect_equal (contribution (1, matrix_lines (a), u, v, u, [8 0.25]), full (a' * u + (a' * v) * 0.25));
+  expect_equal (contribution (2, matrix_lines (a), v, v, u, [0.125 9]), full (a' * u + (a' * v) * 0.125));
+  expect_equal (contribution (3, matrix_lines (a), u, v, u, [3 4]), full (a' * v));
   pair = struct ('Rayleigh', [0.125 0.25]);
-  expect_equal (contribution (1, csc (a), u, v, u, pair), full (a' * u + (a' * v) * 0.25));
-  expect_equal (contribution (2, csc (a), v, v, u, struct ('other', 1)), full (a' * u));
+  expect_equal (contribution (1, matrix_lines (a), u, v, u, pair), full (a' * u + (a' * v) * 0.25));
+  expect_equal (contribution (2, matrix_lines (a), v, v, u, struct ('other', 1)), full (a' * u));
 end
 
 function test_zero_coefficient_skips_the_rayleigh_columns_of_a_sparse_matrix ()
-  s = csc (unsymmetric ());
+  s = matrix_lines (unsymmetric ());
   x = [1; 2; 3];
   bad = [Inf; NaN; Inf];
   expect_equal (contribution (1, s, x, bad, x, [1 0]), full (unsymmetric ()' * x));
@@ -55,7 +55,7 @@ function test_zero_coefficient_skips_the_rayleigh_columns_of_a_sparse_matrix ()
 end
 
 function test_zero_coefficient_still_multiplies_in_a_diagonal_matrix ()
-  s = csc (diag ([2 3 4]));
+  s = matrix_lines (diag ([2 3 4]));
   x = [1; 2; 3];
   bad = [Inf; 0; 1];
   expect_equal (contribution (1, s, x, bad, x, [1 0]), [NaN; 6; 12]);
@@ -66,7 +66,7 @@ function test_diagonal_products ()
   d = [2; 3; 4];
   u = [1; 2; 3];
   v = [-1; 0.5; 4];
-  s = csc (diag (d));
+  s = matrix_lines (diag (d));
   expect_equal (contribution (1, s, u, v, u, [8 0.25]), d .* (u + 0.25 * v));
   expect_equal (contribution (2, s, v, v, u, [0.5 9]), d .* (u + 0.5 * v));
   expect_equal (contribution (3, s, u, v, u, [3 4]), d .* v);
@@ -76,12 +76,12 @@ function test_as_many_entries_as_columns_means_diagonal_wherever_they_lie ()
   a = sparse ([2 3 1], [1 1 3], [2 3 4], 3, 3);
   x = [1; 10; 100];
   for code = 1:3
-    expect_equal (contribution (code, csc (a), x, x, x, [0 0]), [2; 30; 400]);
+    expect_equal (contribution (code, matrix_lines (a), x, x, x, [0 0]), [2; 30; 400]);
   end
 end
 
 function test_marker_is_written_into_the_value_of_the_handle_not_into_its_source ()
-  s = csc (diag ([2 3 4]));
+  s = matrix_lines (diag ([2 3 4]));
   for code = 1:3
     i = quarn ('chandleset', code, s);
     before = quarn ('chandleget', i);
@@ -107,11 +107,11 @@ end
 
 function test_matrix_with_another_count_of_entries_is_not_marked ()
   for a = {unsymmetric(), sparse([1 3], [1 3], [5 6], 3, 3)}
-    i = quarn ('chandleset', 1, csc (a{1}));
+    i = quarn ('chandleset', 1, matrix_lines (a{1}));
     r = zeros (3, 1);
     quarn ('residual', r, chandle (i), [1; 2; 3], zeros (3, 1), zeros (3, 1), [0 0]);
     s = quarn ('chandleget', i);
-    expect_equal (s.ir, csc (a{1}).ir);
+    expect_equal (s.ir, matrix_lines (a{1}).ir);
     expect_equal (r, full (a{1}' * [1; 2; 3]));
   end
 end
@@ -119,17 +119,17 @@ end
 function test_entries_are_counted_against_columns_not_rows ()
   a = sparse ([1 2 4], [1 2 3], [5 6 7], 4, 3);
   x = [1; 10; 100];
-  expect_equal (contribution (1, csc (a), x, x, x, [0 0]), [5; 60; 700]);
+  expect_equal (contribution (1, matrix_lines (a), x, x, x, [0 0]), [5; 60; 700]);
 end
 
 function test_empty_acceleration_skips_the_whole_mass_handle ()
-  for matrix = {csc(unsymmetric()), csc(eye (3))}
+  for matrix = {matrix_lines(unsymmetric()), matrix_lines(eye (3))}
     expect_equal (contribution (2, matrix{1}, ones (3, 1), ones (3, 1), [], [0.5 0.5], [1; 2; 3]), [1; 2; 3]);
   end
 end
 
 function test_damping_without_entries_adds_nothing ()
-  s = csc (sparse (3, 3));
+  s = matrix_lines (sparse (3, 3));
   bad = NaN (3, 1);
   expect_equal (contribution (3, s, bad, bad, bad, [0 0], [1; 2; 3]), [1; 2; 3]);
   reserved = struct ('ir', int32 ([5; 6]), 'jc', int32 (zeros (4, 1)), 'pr', [1; 1], 'dims', [3 3], 'trans', 0);
@@ -140,9 +140,9 @@ function test_loops_run_over_the_displacements_not_the_matrix ()
   a = sparse ([1 2 1 2 3], [1 1 2 2 3], [2 1 4 3 9], 3, 3);
   x = [1; 10];
   for code = 1:3
-    expect_equal (contribution (code, csc (a), x, x, x, [0 0]), [12; 34]);
+    expect_equal (contribution (code, matrix_lines (a), x, x, x, [0 0]), [12; 34]);
   end
-  diagonal = csc (diag ([2 3 4]));
+  diagonal = matrix_lines (diag ([2 3 4]));
   for code = 1:3
     expect_equal (contribution (code, diagonal, x, x, x, [0 0]), [2; 30]);
   end
@@ -153,13 +153,13 @@ function test_stiffness_or_damping_without_index_array_adds_nothing ()
   for code = [1 3]
     expect_equal (contribution (code, magic (3), x, x, x, [0 1], [1; 2; 3]), [1; 2; 3]);
     expect_equal (contribution (code, struct ('dims', [3 3]), x, x, x, [0 1], [1; 2; 3]), [1; 2; 3]);
-    expect_equal (contribution (code, csc (sparse (3, 3)), x, x, x, [0 1], [1; 2; 3]), [1; 2; 3]);
+    expect_equal (contribution (code, matrix_lines (sparse (3, 3)), x, x, x, [0 1], [1; 2; 3]), [1; 2; 3]);
   end
 end
 
 function test_mass_without_values_or_indices ()
   x = [1; 2; 3];
-  for value = {struct('dims', [3 3]), csc(sparse (3, 3)), zeros(0, 0)}
+  for value = {struct('dims', [3 3]), matrix_lines(sparse (3, 3)), zeros(0, 0)}
     expect_error (@() contribution (2, value{1}, x, x, x, [0 0]), 'KORV:quarn:empty', 'no real part');
   end
   for value = {eye(3), struct('pr', ones (9, 1), 'dims', [3 3])}
@@ -176,7 +176,7 @@ function test_native_sparse_matrix_is_refused_when_it_is_used ()
 end
 
 function test_matrix_that_does_not_fit_is_refused_and_the_vector_kept ()
-  short = csc (unsymmetric ());
+  short = matrix_lines (unsymmetric ());
   outside = short;
   outside.ir(2) = int32 (3);
   backwards = short;

@@ -10,7 +10,7 @@ function test_a_complex_residual_vector_is_refused ()
   expect_refused (@() quarn ('residual', complex (1, 0), k, 1, 1, 1), 'Real numbers for r', 'KORV:quarn:Invalid');
   expect_refused (@() quarn ('residual', 1 + 2i, k, 1, 1, 1, [0 0], []), 'Real numbers for r', 'KORV:quarn:Invalid');
   expect_refused (@() quarn ('residual', sparse (1i), k, 1, 1, 1), 'Real numbers for r', 'KORV:quarn:Invalid');
-  h = quarn ('chandleset', 1, csc (sparse (1)));
+  h = quarn ('chandleset', 1, matrix_lines (sparse (1)));
   expect_refused (@() quarn ('residual', 1i, chandle (h), 1, 1, 1), 'Real numbers for r', 'KORV:quarn:Invalid');
 end
 
@@ -88,16 +88,16 @@ function test_a_rayleigh_source_wins_over_an_empty_acceleration ()
 end
 
 function test_the_pair_reaches_handles ()
-  m = quarn ('chandleset', 2, csc (sparse (2)));
-  k = quarn ('chandleset', 1, csc (sparse (5)));
+  m = quarn ('chandleset', 2, matrix_lines (sparse (2)));
+  k = quarn ('chandleset', 1, matrix_lines (sparse (5)));
   r = zeros (1, 1);
   quarn ('residual', r, chandle ([m k]), 1, 10, 100, [0.25 2]);
   expect_equal (r, 200 + 0.25 * 2 * 10 + 5 + 2 * 5 * 10);
 end
 
 function test_the_size_is_the_row_count_of_u ()
-  k = csc (sparse ([1 2 3; 4 5 6; 7 8 9]));
-  zero = csc (sparse (3, 3));
+  k = matrix_lines (sparse ([1 2 3; 4 5 6; 7 8 9]));
+  zero = matrix_lines (sparse (3, 3));
   r = zeros (3, 1);
   quarn ('residual', r, {zero, zero, k}, [1 1 1] + 0, zeros (3, 1), zeros (3, 1));
   expect_equal (r, [12; 0; 0]);
@@ -107,7 +107,7 @@ function test_the_size_is_the_row_count_of_u ()
 end
 
 function test_an_empty_u_evaluates_nothing ()
-  k = csc (speye (3));
+  k = matrix_lines (speye (3));
   r = zeros (3, 1) + 2;
   quarn ('residual', r, {k, k, k}, zeros (0, 1), zeros (0, 1), zeros (0, 1));
   expect_equal (r, [2; 2; 2]);
@@ -141,13 +141,13 @@ function r = contribution (a, varargin)
 end
 
 function k = one_by_one ()
-  k = {csc(sparse (2)), csc(sparse (3)), csc(sparse (5))};
+  k = {matrix_lines(sparse (2)), matrix_lines(sparse (3)), matrix_lines(sparse (5))};
 end
 
 % One mode and one element whose force goes to place 1 of the force store.
 function run = element_run ()
   run = small_run ();
-  element = power_element (csc (sparse ([1 0 0]), true), csc (sparse ([1 0 0]), true), 1);
+  element = power_element (matrix_lines (sparse ([1 0 0]), true), matrix_lines (sparse ([1 0 0]), true), 1);
   element.type = 1003;
   element.iopt = int32 ([1; 0; 0; 0; 0]);
   run.list = {run.list{1}, element};

@@ -6,24 +6,24 @@ end
 function test_a_result_that_is_not_zero_is_added_to ()
   a = sparse ([1 2 0; 0 3 4; 5 0 6]);
   y = [100; 200; 300] + zeros (3, 1);
-  quarn ('tbbp', csc (a), [1; 10; 100], y);
+  quarn ('tbbp', matrix_lines (a), [1; 10; 100], y);
   expect_equal (y, [100; 200; 300] + a.' * [1; 10; 100]);
 end
 
 function test_lines_are_the_stored_columns ()
   a = sparse ([1 2 3; 0 0 0; 0 0 0]);
   y = zeros (3, 1);
-  quarn ('tbbp', csc (a), [1; 0; 0], y);
+  quarn ('tbbp', matrix_lines (a), [1; 0; 0], y);
   expect_equal (y, [1; 2; 3]);
   y = zeros (3, 1);
-  quarn ('tbbp', csc (a, true), [1; 1; 1], y);
+  quarn ('tbbp', matrix_lines (a, true), [1; 1; 1], y);
   expect_equal (y, [6; 0; 0]);
 end
 
 function test_a_matrix_without_values_changes_nothing ()
   y = [1; 2; 3] * sqrt (2);
   kept = y + 0;
-  m = csc (speye (3));
+  m = matrix_lines (speye (3));
   quarn ('tbbp', rmfield (m, 'pr'), [1; 1; 1], y);
   expect_equal (y, kept);
   quarn ('tbbp', struct (), [1; 1; 1], y);
@@ -33,12 +33,12 @@ end
 function test_a_matrix_without_entries_changes_nothing ()
   y = [1; 2; 3] * sqrt (2);
   kept = y + 0;
-  quarn ('tbbp', csc (sparse (3, 3)), [1; 1; 1], y);
+  quarn ('tbbp', matrix_lines (sparse (3, 3)), [1; 1; 1], y);
   expect_equal (y, kept);
 end
 
 function test_no_lines_change_nothing ()
-  m = csc (speye (3));
+  m = matrix_lines (speye (3));
   y = [1; 2; 3] * sqrt (2);
   kept = y + 0;
   quarn ('tbbp', m, zeros (0, 1), y);
@@ -51,40 +51,40 @@ end
 function test_an_empty_line_adds_nothing ()
   a = sparse ([0 0 0 1; 0 2 0 0; 0 0 0 0; 0 4 0 0]);
   y = (1:4).' * pi;
-  quarn ('tbbp', csc (a), [1; 1; 1; 1], y);
+  quarn ('tbbp', matrix_lines (a), [1; 1; 1; 1], y);
   expect_equal (y, [pi; 2 * pi + 6; 3 * pi; 4 * pi + 1]);
 end
 
 function test_the_line_count_is_the_row_count_of_x ()
   a = sparse ([1 2 3; 4 5 6; 7 8 9]);
   y = zeros (3, 1);
-  quarn ('tbbp', csc (a), [1 1 1] + 0, y);
+  quarn ('tbbp', matrix_lines (a), [1 1 1] + 0, y);
   expect_equal (y, [12; 0; 0]);
   y = zeros (3, 1);
-  quarn ('tbbp', csc (a), [1 0; 1 0] + 0, y);   % two lines; the entries find their factors in all four values
+  quarn ('tbbp', matrix_lines (a), [1 0; 1 0] + 0, y);   % two lines; the entries find their factors in all four values
   expect_equal (y, [5; 7; 0]);
   y = zeros (1, 3);
-  quarn ('tbbp', csc (a), [1; 1; 1], y);
+  quarn ('tbbp', matrix_lines (a), [1; 1; 1], y);
   expect_equal (y, [12 15 18]);
 end
 
 function test_values_behind_the_last_line_stay ()
   y = (1:6).' + 0.5;
-  quarn ('tbbp', csc (speye (3)), [10; 20; 30], y);
+  quarn ('tbbp', matrix_lines (speye (3)), [10; 20; 30], y);
   expect_equal (y, [11.5; 22.5; 33.5; 4.5; 5.5; 6.5]);
 end
 
 function test_not_a_number_and_infinity_stay_in_their_lines ()
   a = sparse ([1 0 0; 0 1 0; 0 0 1]);
   y = zeros (3, 1);
-  quarn ('tbbp', csc (a), [NaN; 1; -Inf], y);
+  quarn ('tbbp', matrix_lines (a), [NaN; 1; -Inf], y);
   expect_equal (y, [NaN; 1; -Inf]);
 end
 
 function test_each_line_is_summed_before_it_is_added ()
   a = sparse ([1 0; 1 0]);
   y = 1e16 * ones (2, 1);
-  quarn ('tbbp', csc (a), [1; 1], y);
+  quarn ('tbbp', matrix_lines (a), [1; 1], y);
   expect_equal (y, [1e16 + 2; 1e16]);
 end
 
@@ -95,7 +95,7 @@ function test_a_large_product_of_whole_numbers_is_exact ()
   x = ceil (100 * rand (n, 1));
   y = ceil (100 * rand (n, 1));
   wanted = y + a.' * x;
-  quarn ('tbbp', csc (a), x, y);
+  quarn ('tbbp', matrix_lines (a), x, y);
   expect_equal (y, wanted);
 end
 
@@ -131,7 +131,7 @@ function test_the_residual_of_matrices_and_handles_has_the_bits_of_the_product (
   product = zeros (n, 1);
   quarn ('tbbp', m, x, product);
   r = zeros (n, 1);
-  none = csc (sparse (n, n));
+  none = matrix_lines (sparse (n, n));
   quarn ('residual', r, {none, none, m}, x, zeros (n, 1), zeros (n, 1));
   expect_equal (r, product);
   r = zeros (n, 1);
@@ -164,7 +164,7 @@ function test_a_longer_line_does_not_disturb_its_neighbours ()
   a(3, :) = 2;
   x = ones (n, 1);
   y = zeros (n, 1);
-  quarn ('tbbp', csc (a), x, y);
+  quarn ('tbbp', matrix_lines (a), x, y);
   wanted = 2 * ones (n, 1);
   wanted(17) = n + 1;
   expect_equal (y, wanted);
@@ -175,7 +175,7 @@ function [m, x, n] = large_case ()
   randn ('twister', 7);
   n = 20000;
   a = sparse (ceil (n * rand (12 * n, 1)), ceil (n * rand (12 * n, 1)), randn (12 * n, 1), n, n);
-  m = csc (a);
+  m = matrix_lines (a);
   x = randn (n, 1) .* 10 .^ (6 * randn (n, 1));   % badly scaled: another order of summation shows in the last bits
 end
 

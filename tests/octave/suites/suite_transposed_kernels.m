@@ -9,11 +9,11 @@ end
 
 function test_product_with_a_transposed_sparse_matrix_takes_its_stored_lines_as_rows ()
   a = sparse ([1 0 2; 0 3 0; 4 5 6; 0 0 0]);
-  expect_equal (observed (csc (a, true), [1; 10; 100], 4), a * [1; 10; 100]);
+  expect_equal (observed (matrix_lines (a, true), [1; 10; 100], 4), a * [1; 10; 100]);
 end
 
 function test_product_leaves_the_values_behind_its_rows_at_zero ()
-  expect_equal (observed (csc (sparse ([1 2; 3 4]), true), [1; 10], 4), [21; 43; 0; 0]);
+  expect_equal (observed (matrix_lines (sparse ([1 2; 3 4]), true), [1; 10], 4), [21; 43; 0; 0]);
   expect_equal (observed ([1 2; 3 4], [1; 10], 4), [21; 43; 0; 0]);
 end
 
@@ -23,11 +23,11 @@ end
 
 function test_product_uses_the_leading_columns_of_u ()
   expect_equal (observed ([1 2; 4 5], [1; 10; NaN], 2), [21; 54]);
-  expect_equal (observed (csc (sparse ([1 2; 4 5]), true), [1; 10; NaN], 2), [21; 54]);
+  expect_equal (observed (matrix_lines (sparse ([1 2; 4 5]), true), [1; 10; NaN], 2), [21; 54]);
 end
 
 function test_product_discards_what_was_observed_before ()
-  forms = {[1 2; 3 4], csc(sparse ([1 2; 3 4]), true)};
+  forms = {[1 2; 3 4], matrix_lines(sparse ([1 2; 3 4]), true)};
   for k = 1:2
     h = quarn ('chandleset', 1003, power_element (forms{k}, [], 2));
     apply (h, [5; 7], 2);
@@ -39,7 +39,7 @@ function test_product_discards_what_was_observed_before ()
 end
 
 function test_product_with_a_sparse_matrix_as_stored_is_refused ()
-  expect_refused (@() observed (csc (sparse ([1 2; 3 4])), [1; 10], 2), 'Prod_Mt_u implemented for transposed sparse matrices');
+  expect_refused (@() observed (matrix_lines (sparse ([1 2; 3 4])), [1; 10], 2), 'Prod_Mt_u implemented for transposed sparse matrices');
 end
 
 function test_product_with_a_native_sparse_matrix_is_refused ()
@@ -59,13 +59,13 @@ function test_product_of_random_matrices_agrees_with_the_host ()
     n = ceil (30 * rand ());
     a = sprandn (m, n, 0.3);
     u = randn (n, 1);
-    expect_equal (observed (csc (a, true), u, m), full (a * u), 1e-13);
+    expect_equal (observed (matrix_lines (a, true), u, m), full (a * u), 1e-13);
     expect_equal (observed (full (a) + 1, u, m), (full (a) + 1) * u, 1e-13);
   end
 end
 
 function test_product_that_would_leave_its_vectors_is_refused ()
-  c = csc (sparse ([1 2; 3 4]), true);
+  c = matrix_lines (sparse ([1 2; 3 4]), true);
   expect_refused (@() observed (c, 1, 2), '~^quarn residual : ');           % columns beyond u
   expect_refused (@() observed (c, [1; 10], 1), '~^quarn residual : ');     % rows beyond the observed values
   expect_refused (@() observed ([1 2; 3 4], 1, 2), '~^quarn residual : ');
@@ -81,28 +81,28 @@ end
 
 function test_sum_gathers_the_stored_lines ()
   b = sparse ([1 2 0; 0 3 4; 5 0 6]);
-  expect_equal (spread (csc (b), [1; 10; 100], [7; 8; 9]), [7; 8; 9] + b.' * [1; 10; 100]);
+  expect_equal (spread (matrix_lines (b), [1; 10; 100], [7; 8; 9]), [7; 8; 9] + b.' * [1; 10; 100]);
 end
 
 function test_sum_leaves_the_residual_where_a_line_is_empty ()
   b = sparse ([1 0 0; 0 0 4; 5 0 6]);
-  r = spread (csc (b), [1; 10; 100], [0.1; 0.2; 0.3]);
+  r = spread (matrix_lines (b), [1; 10; 100], [0.1; 0.2; 0.3]);
   expect_equal (r(2), 0.2);
   expect_equal (r([1 3]), [0.1; 0.3] + [501; 640]);
 end
 
 function test_sum_takes_as_many_stored_lines_as_rows ()
   b = sparse ([1 2 9; 3 4 9]);   % three lines stored, two rows
-  expect_equal (spread (csc (b), [1; 10], [0; 0; 0]), [31; 42; 0]);
+  expect_equal (spread (matrix_lines (b), [1; 10], [0; 0; 0]), [31; 42; 0]);
 end
 
 function test_sum_with_more_rows_than_lines_is_refused ()
-  expect_refused (@() spread (csc (sparse ([1 2; 3 4; 5 6])), [1; 10; 100], [0; 0; 0]), '~^quarn residual : ');
+  expect_refused (@() spread (matrix_lines (sparse ([1 2; 3 4; 5 6])), [1; 10; 100], [0; 0; 0]), '~^quarn residual : ');
 end
 
 function test_sum_scatters_the_lines_of_a_transposed_matrix ()
   b = sparse ([1 0 2 0; 0 3 4 0]);
-  expect_equal (spread (csc (b, true), [1; 10], [7; 8; 9; 0.1]), [8; 38; 51; 0.1]);
+  expect_equal (spread (matrix_lines (b, true), [1; 10], [7; 8; 9; 0.1]), [8; 38; 51; 0.1]);
 end
 
 function test_sum_of_a_transposed_matrix_without_rows_adds_nothing ()
@@ -112,12 +112,12 @@ end
 
 function test_scattered_terms_are_collected_before_they_are_added ()
   b = sparse ([1 0; 1 0]);
-  expect_equal (spread (csc (b, true), [1; 1], [1e16; 3] + 0), [1e16 + 2; 3]);
+  expect_equal (spread (matrix_lines (b, true), [1; 1], [1e16; 3] + 0), [1e16 + 2; 3]);
 end
 
 function test_gathered_terms_are_collected_before_they_are_added ()
   b = sparse ([1 0; 1 0]);
-  expect_equal (spread (csc (b), [1; 1], [1e16; 3] + 0), [1e16 + 2; 3]);
+  expect_equal (spread (matrix_lines (b), [1; 1], [1e16; 3] + 0), [1e16 + 2; 3]);
 end
 
 function test_sum_of_a_dense_row_flagged_transposed_uses_the_first_force_only ()
@@ -157,14 +157,14 @@ function test_sum_of_a_native_sparse_matrix_is_refused ()
 end
 
 function test_sum_of_a_matrix_without_values_adds_nothing ()
-  expect_equal (spread (rmfield (csc (speye (2)), 'pr'), [1; 10], [0.1; 0.2]), [0.1; 0.2]);
+  expect_equal (spread (rmfield (matrix_lines (speye (2)), 'pr'), [1; 10], [0.1; 0.2]), [0.1; 0.2]);
   expect_equal (spread ([], [1; 10], [0.1; 0.2]), [0.1; 0.2]);
 end
 
 function test_sum_through_a_v_handle ()
   b = sparse ([1 2; 3 4]);
-  expect_equal (spread (v_handle (csc (b)), [1; 10], [0; 0]), [31; 42]);
-  expect_equal (spread (v_handle (csc (b, true)), [1; 10], [0; 0]), [31; 42]);
+  expect_equal (spread (v_handle (matrix_lines (b)), [1; 10], [0; 0]), [31; 42]);
+  expect_equal (spread (v_handle (matrix_lines (b, true)), [1; 10], [0; 0]), [31; 42]);
 end
 
 function test_sum_of_random_matrices_agrees_with_the_host ()
@@ -176,19 +176,19 @@ function test_sum_of_random_matrices_agrees_with_the_host ()
     b = sprandn (m, n, 0.3);
     f = randn (m, 1);
     r = randn (n, 1);
-    expect_equal (spread (csc (b, true), f, r), r + full (b.' * f), 1e-13);
+    expect_equal (spread (matrix_lines (b, true), f, r), r + full (b.' * f), 1e-13);
     s = sprandn (m, m, 0.3);
     r = randn (m, 1);
-    expect_equal (spread (csc (s), f, r), r + full (s.' * f), 1e-13);
+    expect_equal (spread (matrix_lines (s), f, r), r + full (s.' * f), 1e-13);
   end
 end
 
 function test_sum_that_would_leave_its_vectors_is_refused ()
   b = sparse ([1 2; 3 4]);
-  expect_refused (@() spread (csc (b, true), 1, [0; 0]), '~^quarn residual : ');      % more rows than forces
-  expect_refused (@() spread (csc (b), 1, [0; 0]), '~^quarn residual : ');            % index beyond the forces
-  expect_refused (@() spread (csc (b, true), [1; 10], 0), '~^quarn residual : ');     % more columns than the residual
-  expect_refused (@() spread (csc (b), [1; 10], 0), '~^quarn residual : ');           % more rows than the residual
+  expect_refused (@() spread (matrix_lines (b, true), 1, [0; 0]), '~^quarn residual : ');      % more rows than forces
+  expect_refused (@() spread (matrix_lines (b), 1, [0; 0]), '~^quarn residual : ');            % index beyond the forces
+  expect_refused (@() spread (matrix_lines (b, true), [1; 10], 0), '~^quarn residual : ');     % more columns than the residual
+  expect_refused (@() spread (matrix_lines (b), [1; 10], 0), '~^quarn residual : ');           % more rows than the residual
   short = struct ('pr', [1 2], 'dims', [1 3], 'trans', 1);
   expect_refused (@() spread (short, 1, [0; 0; 0]), '~^quarn residual : ');
   long = struct ('pr', [1 2 3], 'dims', [1 3], 'trans', 1);
@@ -197,7 +197,7 @@ function test_sum_that_would_leave_its_vectors_is_refused ()
 end
 
 function broken_lines (use)
-  good = csc (sparse ([1 2; 3 4]), true);
+  good = matrix_lines (sparse ([1 2; 3 4]), true);
   changes = {'jc', int32([0; 2]); 'jc', int32([0; 3; 2]); 'jc', int32([0; 2; 5]); 'jc', int32([-1; 2; 4]); 'jc', [0; 2; 4]; ...
              'ir', int32([0; 1; 0; 2]); 'ir', int32([0; -1; 0; 1]); 'ir', int32([0; 1; 0]); 'ir', [0; 1; 0; 1]; 'pr', [1; 2; 3]; ...
              'pr', single([1; 2; 3; 4]); 'dims', [3 2]; 'dims', 2; 'dims', [NaN 2]; 'trans', {1}};
@@ -226,7 +226,7 @@ function r = spread (b, forces, r)
   r = fresh (r);
   u = zeros (max (n, numel (r)), 1);
   u(1:n) = forces;
-  h = quarn ('chandleset', 1003, power_element (csc (speye (n), true), b, n));
+  h = quarn ('chandleset', 1003, power_element (matrix_lines (speye (n), true), b, n));
   quarn ('residual', r, chandle (h), u, zeros (size (u)), zeros (size (u)));
 end
 

@@ -7,7 +7,7 @@ end
 
 function test_product_with_a_transposed_sparse_matrix_is_added_to_what_is_there ()
   a = sparse ([1 2; 3 4]);
-  expect_equal (observed (csc (a, true), [1; 10], [100; 200]), [121; 243]);
+  expect_equal (observed (matrix_lines (a, true), [1; 10], [100; 200]), [121; 243]);
 end
 
 function test_product_with_a_full_matrix_discards_what_is_there ()
@@ -21,7 +21,7 @@ function test_product_with_a_full_matrix_leaves_the_values_behind_its_rows ()
 end
 
 function test_velocities_are_observed_alike ()
-  e = element (csc (sparse ([1 2; 3 4]), true), [], [0; 0]);
+  e = element (matrix_lines (sparse ([1 2; 3 4]), true), [], [0; 0]);
   e.vnl = zeros (2, 1);
   e.vnl0 = [100; 200];
   evaluate (e, [1; 10], [2; 20], zeros (2, 1));
@@ -30,7 +30,7 @@ function test_velocities_are_observed_alike ()
 end
 
 function test_product_with_a_sparse_matrix_as_stored_is_refused ()
-  expect_refused (@() observed (csc (sparse ([1 2; 3 4])), [1; 10], [0; 0]), 'Prod_Mt_u implemented for transposed sparse matrices');
+  expect_refused (@() observed (matrix_lines (sparse ([1 2; 3 4])), [1; 10], [0; 0]), 'Prod_Mt_u implemented for transposed sparse matrices');
 end
 
 function test_native_sparse_matrices_are_refused ()
@@ -40,20 +40,20 @@ end
 
 function test_sum_gathers_the_stored_lines ()
   b = sparse ([1 2 0; 0 3 4; 5 0 6]);
-  expect_equal (spread (csc (b), [1; 10; 100], [7; 8; 9]), [7; 8; 9] + b.' * [1; 10; 100]);
+  expect_equal (spread (matrix_lines (b), [1; 10; 100], [7; 8; 9]), [7; 8; 9] + b.' * [1; 10; 100]);
 end
 
 function test_sum_leaves_the_residual_where_a_line_is_empty ()
-  expect_equal (spread (csc (sparse ([1 0; 0 0])), [1; 10], [0.1; 0.2]), [1.1; 0.2]);
+  expect_equal (spread (matrix_lines (sparse ([1 0; 0 0])), [1; 10], [0.1; 0.2]), [1.1; 0.2]);
 end
 
 function test_sum_scatters_the_lines_of_a_transposed_matrix ()
   b = sparse ([1 0 2 0; 0 3 4 0]);
-  expect_equal (spread (csc (b, true), [1; 10], [7; 8; 9; 0.1]), [8; 38; 51; 0.1]);
+  expect_equal (spread (matrix_lines (b, true), [1; 10], [7; 8; 9; 0.1]), [8; 38; 51; 0.1]);
 end
 
 function test_scattered_terms_are_collected_before_they_are_added ()
-  expect_equal (spread (csc (sparse ([1 0; 1 0]), true), [1; 1], [1e16; 3]), [1e16 + 2; 3]);
+  expect_equal (spread (matrix_lines (sparse ([1 0; 1 0]), true), [1; 1], [1e16; 3]), [1e16 + 2; 3]);
 end
 
 function test_sum_of_a_transposed_matrix_without_rows_adds_nothing ()
@@ -81,18 +81,18 @@ end
 
 function test_vectors_and_lines_that_do_not_fit_are_refused ()
   a = sparse ([1 2; 3 4]);
-  expect_refused (@() observed (csc (a, true), 1, [0; 0]), '~^quarn residual : ');
-  expect_refused (@() observed (csc (a, true), [1; 10], 0), '~^quarn residual : ');
+  expect_refused (@() observed (matrix_lines (a, true), 1, [0; 0]), '~^quarn residual : ');
+  expect_refused (@() observed (matrix_lines (a, true), [1; 10], 0), '~^quarn residual : ');
   expect_refused (@() observed ([1 2; 3 4], 1, [0; 0]), '~^quarn residual : ');
   expect_refused (@() observed ([1 2; 3 4], [1; 10], 0), '~^quarn residual : ');
-  expect_refused (@() spread (csc (a, true), 1, [0; 0]), '~^quarn residual : ');
-  expect_refused (@() spread (csc (a, true), [1; 10], 0), '~^quarn residual : ');
-  expect_refused (@() spread (csc (a), 1, [0; 0]), '~^quarn residual : ');
-  expect_refused (@() spread (csc (a), [1; 10], 0), '~^quarn residual : ');
+  expect_refused (@() spread (matrix_lines (a, true), 1, [0; 0]), '~^quarn residual : ');
+  expect_refused (@() spread (matrix_lines (a, true), [1; 10], 0), '~^quarn residual : ');
+  expect_refused (@() spread (matrix_lines (a), 1, [0; 0]), '~^quarn residual : ');
+  expect_refused (@() spread (matrix_lines (a), [1; 10], 0), '~^quarn residual : ');
   changes = {'jc', int32([0; 2]); 'jc', int32([0; 3; 2]); 'jc', int32([0; 2; 5]); 'ir', int32([0; 1; 0; 2]); 'ir', int32([0; -1; 0; 1]); ...
              'pr', [1; 2; 3]};
   for k = 1:size (changes, 1)
-    m = csc (a, true);
+    m = matrix_lines (a, true);
     m.(changes{k, 1}) = changes{k, 2};
     expect_refused (@() observed (m, [1; 10], [0; 0]), '~^quarn residual : ');
     expect_refused (@() spread (m, [1; 10], [0; 0]), '~^quarn residual : ');
@@ -100,7 +100,7 @@ function test_vectors_and_lines_that_do_not_fit_are_refused ()
 end
 
 function test_a_refusal_after_a_callback_that_used_the_module_names_the_command ()
-  e = element ([], csc (speye (2)), [0; 0]);
+  e = element ([], matrix_lines (speye (2)), [0; 0]);
   e.Fu = @(varargin) quarn ('omp');   % one force where two are spread
   expect_refused (@() evaluate (e, [1; 10], [0; 0], zeros (2, 1)), '~^quarn residual : ');
 end
@@ -130,7 +130,7 @@ function e = element (c, b, like)
 end
 
 function evaluate (e, u, v, r)
-  none = csc (sparse (numel (u), numel (u)));
+  none = matrix_lines (sparse (numel (u), numel (u)));
   model = struct ('K', {{none, none, none}}, 'NL', {{'element', 1, e}});
   quarn ('residual', r, model, u, v, zeros (size (u)), [0 0], []);
 end

@@ -4,7 +4,7 @@ function tests = suite_view_refusals ()
 end
 
 function test_line_pointers_must_be_there ()
-  broken (rmfield (csc (speye (3)), 'jc'));
+  broken (rmfield (matrix_lines (speye (3)), 'jc'));
   broken (with ('jc', zeros (0, 1, 'int32')));
 end
 
@@ -40,7 +40,7 @@ end
 
 function test_more_entries_than_the_line_pointers_use_are_not_looked_at ()
   y = zeros (3, 1);
-  m = csc (speye (3));
+  m = matrix_lines (speye (3));
   m.ir = [m.ir; int32(-5); int32(1000)];
   m.pr = [m.pr; NaN];
   quarn ('tbbp', m, [1; 2; 3], y);
@@ -61,7 +61,7 @@ end
 function test_one_bad_index_in_a_large_matrix_is_found ()
   n = 50000;
   for bad = [1, 999, 1001, 25000, n]
-    m = csc (speye (n));
+    m = matrix_lines (speye (n));
     m.ir(bad) = n;
     y = zeros (n, 1);
     expect_refused (@() quarn ('tbbp', m, ones (n, 1), y), '~^quarn tbbp : ');
@@ -111,11 +111,11 @@ function test_matrices_of_another_class_are_refused ()
 end
 
 function test_a_v_handle_holding_a_v_handle_is_refused ()
-  broken (v_handle (v_handle (csc (speye (3)))));
+  broken (v_handle (v_handle (matrix_lines (speye (3)))));
 end
 
 function test_vectors_of_another_class_are_refused ()
-  m = csc (speye (3));
+  m = matrix_lines (speye (3));
   values = {single([1; 2; 3]), int32([1; 2; 3]), true(3, 1), ['a'; 'b'; 'c'], {1; 2; 3}, repmat(struct('x', 1), 3, 1), @sin, ...
             sparse([1; 2; 3]), complex([1; 2; 3], 1), v_handle([1; 2; 3]), containers.Map(), buffer_holder([])};
   for k = 1:numel (values)
@@ -125,17 +125,17 @@ function test_vectors_of_another_class_are_refused ()
 end
 
 function test_a_result_shorter_than_the_lines_is_refused ()
-  m = csc (speye (3));
+  m = matrix_lines (speye (3));
   expect_refused (@() quarn ('tbbp', m, ones (3, 1), zeros (2, 1)), '~^quarn tbbp : ');
   expect_refused (@() quarn ('tbbp', m, ones (3, 1), []), '~^quarn tbbp : ');
 end
 
 function test_more_rows_of_x_than_lines_are_refused ()
-  expect_refused (@() quarn ('tbbp', csc (speye (3)), ones (4, 1), zeros (4, 1)), '~^quarn tbbp : ');
+  expect_refused (@() quarn ('tbbp', matrix_lines (speye (3)), ones (4, 1), zeros (4, 1)), '~^quarn tbbp : ');
 end
 
 function s = with (name, value)
-  s = csc (speye (3));
+  s = matrix_lines (speye (3));
   s.(name) = value;
 end
 

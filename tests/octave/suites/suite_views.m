@@ -37,14 +37,14 @@ function test_dims_as_a_column_are_read_alike ()
 end
 
 function test_trans_zero_leaves_the_orientation ()
-  c = csc (sparse ([1 2; 3 4]));
+  c = matrix_lines (sparse ([1 2; 3 4]));
   expect_refused (@() observed (c, [1; 10], 2), 'Prod_Mt_u implemented for transposed sparse matrices');
   c.trans = -0;
   expect_refused (@() observed (c, [1; 10], 2), 'Prod_Mt_u implemented for transposed sparse matrices');
 end
 
 function test_a_missing_or_empty_trans_is_zero ()
-  c = rmfield (csc (sparse ([1 2; 3 4])), 'trans');
+  c = rmfield (matrix_lines (sparse ([1 2; 3 4])), 'trans');
   expect_refused (@() observed (c, [1; 10], 2), 'Prod_Mt_u implemented for transposed sparse matrices');
   c.trans = [];
   expect_refused (@() observed (c, [1; 10], 2), 'Prod_Mt_u implemented for transposed sparse matrices');
@@ -53,40 +53,40 @@ end
 function test_trans_not_zero_transposes ()
   values = {1, -1, 2, 0.25, 1e-300, NaN, Inf, -Inf, [3 0], [NaN; 0]};
   for k = 1:numel (values)
-    c = csc (sparse ([1 2; 3 4]), true);
+    c = matrix_lines (sparse ([1 2; 3 4]), true);
     c.trans = values{k};
     expect_equal (observed (c, [1; 10], 2), [21; 43]);
   end
 end
 
 function test_only_the_first_value_of_trans_counts ()
-  c = csc (sparse ([1 2; 3 4]), true);
+  c = matrix_lines (sparse ([1 2; 3 4]), true);
   c.trans = [0 1];
   expect_refused (@() observed (c, [1; 10], 2), 'Prod_Mt_u implemented for transposed sparse matrices');
 end
 
 function test_without_dims_a_column_jc_gives_a_square_view ()
   a = sparse ([1 2 0; 0 3 4; 5 0 6]);
-  c = rmfield (csc (a, true), 'dims');
+  c = rmfield (matrix_lines (a, true), 'dims');
   expect_equal (observed (c, [1; 10; 100], 3), a * [1; 10; 100]);
 end
 
 function test_without_dims_the_rows_of_jc_count_and_not_its_elements ()
   a = sparse ([1 2 0; 0 3 4; 5 0 6]);
-  c = rmfield (csc (a, true), 'dims');
+  c = rmfield (matrix_lines (a, true), 'dims');
   c.jc = [c.jc c.jc];
   expect_equal (observed (c, [1; 10; 100], 3), a * [1; 10; 100]);
 end
 
 function test_without_dims_a_row_jc_gives_an_empty_view ()
-  c = rmfield (csc (sparse ([1 2 0; 0 3 4; 5 0 6]), true), 'dims');
+  c = rmfield (matrix_lines (sparse ([1 2 0; 0 3 4; 5 0 6]), true), 'dims');
   c.jc = c.jc.';
   expect_equal (observed (c, [1; 10; 100], 3), zeros (3, 1));
 end
 
 function test_with_dims_jc_may_be_a_row ()
   a = sparse ([1 2 0; 0 3 4; 5 0 6]);
-  c = csc (a, true);
+  c = matrix_lines (a, true);
   c.jc = c.jc.';
   c.ir = c.ir.';
   c.pr = c.pr.';
@@ -95,14 +95,14 @@ end
 
 function test_a_struct_array_is_read_at_its_first_element ()
   a = sparse ([1 2 0; 0 3 4; 5 0 6]);
-  m = [csc(a), csc(2 * a)];
+  m = [matrix_lines(a), matrix_lines(2 * a)];
   y = zeros (3, 1);
   quarn ('tbbp', m, [1; 10; 100], y);
   expect_equal (y, a.' * [1; 10; 100]);
 end
 
 function test_a_struct_without_values_is_no_matrix ()
-  m = rmfield (csc (speye (3)), 'pr');
+  m = rmfield (matrix_lines (speye (3)), 'pr');
   y = [1; 2; 3] + 0.5;
   quarn ('tbbp', m, [1; 1; 1], y);
   expect_equal (y, [1.5; 2.5; 3.5]);
@@ -127,9 +127,9 @@ end
 function test_a_v_handle_is_read_through_its_file ()
   a = sparse ([1 2 0; 0 3 4; 5 0 6]);
   y = zeros (3, 1);
-  quarn ('tbbp', v_handle (csc (a)), [1; 10; 100], y);
+  quarn ('tbbp', v_handle (matrix_lines (a)), [1; 10; 100], y);
   expect_equal (y, a.' * [1; 10; 100]);
-  expect_equal (observed (v_handle (csc (a, true)), [1; 10; 100], 3), a * [1; 10; 100]);
+  expect_equal (observed (v_handle (matrix_lines (a, true)), [1; 10; 100], 3), a * [1; 10; 100]);
 end
 
 function test_a_v_handle_may_hold_a_full_matrix ()
@@ -155,9 +155,9 @@ end
 
 function test_a_view_borrows_and_leaves_the_matrix_alone ()
   a = sparse ([1 2 0; 0 3 4; 5 0 6]);
-  m = csc (a, true);
+  m = matrix_lines (a, true);
   quarn ('tbbp', m, [1; 10; 100], zeros (3, 1));
-  expect_equal (m, csc (a, true));
+  expect_equal (m, matrix_lines (a, true));
 end
 
 function test_an_object_holding_no_address_is_refused_as_a_writable_array ()
@@ -183,6 +183,6 @@ function seen = observed (c, u, n)
 end
 
 function residual_into (r)
-  k = csc (speye (3));
+  k = matrix_lines (speye (3));
   quarn ('residual', r, {k, k, k}, ones (3, 1), ones (3, 1), ones (3, 1));
 end

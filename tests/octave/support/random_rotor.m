@@ -16,8 +16,8 @@ function e = random_rotor (n, rows, offset)
   c{10, 2} = randn (3, 1);
   if rows >= 11, c{11, 2} = int32 (offset + [2 0 1]); end
   if rows >= 17
-    c{15, 2} = csc (randn (3, n) .* (rand (3, n) < 0.6), true);
-    c{17, 2} = csc (randn (3, n) .* (rand (3, n) < 0.6), true);
+    c{15, 2} = matrix_lines (randn (3, n) .* (rand (3, n) < 0.6), true);
+    c{17, 2} = matrix_lines (randn (3, n) .* (rand (3, n) < 0.6), true);
     c(5:8, 2) = {[]};
   end
   e = struct ('type', 'rotcenter', 'Cell', {c}, 'Fu', table (), 'Fv', table (), 'cur_u', zeros (3, 1), 'cur_v', zeros (3, 1));

@@ -3,7 +3,7 @@
 % ARGS is a cell {model, u, v, a, opt, mem, out}. After the error u, v, a, the work memory and the outputs are as before, and a handle
 % registered beforehand still answers.
 function refused_cleanly (list, args, id, text)
-  witness = quarn ('chandleset', 1, csc (sparse ([1 2 2], [1 1 2], [4 3 7], 2, 2)));
+  witness = quarn ('chandleset', 1, matrix_lines (sparse ([1 2 2], [1 1 2], [4 3 7], 2, 2)));
   before = fresh (args);
   expect_error (@() quarn ('chandlediagnewmark', list, args{:}), id, text);
   if ~isequaln (args, before), error ('something was written before the error "%s"', text); end

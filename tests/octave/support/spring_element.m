@@ -4,7 +4,7 @@
 function e = spring_element (rows, weights, ndof, opt, iopt)
   line = zeros (1, ndof);
   line(rows) = weights;
-  e = struct ('type', 1003, 'c', csc (line, true), 'b', csc (line, true), 'opt', opt(:));
+  e = struct ('type', 1003, 'c', matrix_lines (line, true), 'b', matrix_lines (line, true), 'opt', opt(:));
   e.unl = zeros (1, 1);
   e.vnl = zeros (1, 1);
   e.snl = zeros (1, 1);

@@ -5,7 +5,7 @@
 % v; unl and vnl have PAGES pages (1). Force k goes to row k of the residual.
 function e = state_element (word, parameters, iopt, page, pages)
   if nargin < 5, pages = 1; end
-  line = csc (eye (page), true);
+  line = matrix_lines (eye (page), true);
   e = struct ('type', 1003, 'c', line, 'b', line, 'opt', [law_code(word); 0; parameters(:)], 'iopt', int32 (iopt(:)));
   e.unl = zeros (page, 1, pages);
   e.vnl = zeros (page, 1, pages);

@@ -1,6 +1,6 @@
-% S = CSC (A)        int32 matrix structure of a sparse or full matrix A, stored column by column (trans = 0)
-% S = CSC (A, true)  the transposed form: the lines of S are the rows of A, dims are those of A (trans = 1)
-function s = csc (a, transposed)
+% S = MATRIX_LINES (A)        int32 matrix structure of a sparse or full matrix A, stored column by column (trans = 0)
+% S = MATRIX_LINES (A, true)  the transposed form: the lines of S are the rows of A, dims are those of A (trans = 1)
+function s = matrix_lines (a, transposed)
   if nargin < 2, transposed = false; end
   stored = a;
   if transposed, stored = a.'; end

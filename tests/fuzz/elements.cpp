@@ -1,0 +1,100 @@
+// Nonlinear elements: every law with parameters that fit, mostly.
+#include <algorithm>
+
+#include "models.h"
+
+namespace fuzz {
+
+namespace {
+
+constexpr const char* lawWords[] = {"Power", "Maxw", "Table", "Expon", "DahlC", "Clima2", "sts"};
+
+double lawCode(const char* word) {
+  double code = 0.0;
+  double place = 1.0;
+  for (; *word; ++word, place *= 256.0) code += place * static_cast<double>(*word);
+  return code;
+}
+
+struct Law {
+  std::vector<double> opt;
+  std::vector<int> iopt;
+  std::size_t page;
+  std::size_t pages;
+};
+
+/// Appends an ascending table of nx knots and ny columns and its record; returns its place.
+void addTable(Bytes& in, Law& law, int nx, int ny) {
+  const int table = static_cast<int>(law.opt.size());
+  double x = in.number();
+  for (int k = 0; k < nx; ++k) {
+    law.opt.push_back(x);
+    x += static_cast<double>(in.below(4)) * 0.25;
+  }
+  for (int k = 0; k < nx * ny; ++k) law.opt.push_back(in.number());
+  const int record = static_cast<int>(law.opt.size());
+  for (int k = 0; k < 3; ++k) law.opt.push_back(in.number());
+  law.iopt.insert(law.iopt.end(), {table, record, nx, ny});
+}
+
+/// -1 ... usual-2, now and then far outside.
+int offset(Bytes& in, std::size_t usual) {
+  const int i = in.index(usual);
+  return i > -2147483647 ? i - 1 : i;
+}
+
+Law makeLaw(Bytes& in, const char* word, std::size_t which) {
+  Law law{{lawCode(word)}, {offset(in, 6), offset(in, 4), in.index(2), in.index(3), in.index(3)}, 1 + in.below(4), 1 + in.below(4)};
+  for (int k = 1; k < 7; ++k) law.opt.push_back(in.number());
+  if (which == 1) {  // Maxw
+    const int q = in.rarely(8) ? in.index(4) : 1;
+    const int m = in.rarely(4) ? in.index(4) : q;
+    const int elements = 1 + static_cast<int>(in.below(3));
+    law.iopt = {offset(in, 6), offset(in, 4), q, m, elements};
+    law.page = static_cast<std::size_t>(elements) * (1 + static_cast<std::size_t>(q > 0 && q < 9 ? q : 1)) + in.below(3);
+    law.pages = 3 - in.below(2) * in.below(2);
+    law.opt[3] = in.rarely(6) ? -1.0 : 1.0 + static_cast<double>(in.below(5));
+    while (law.opt.size() < 40) law.opt.push_back(in.number());
+  }
+  if (which == 2) addTable(in, law, static_cast<int>(in.below(6)), static_cast<int>(in.below(3)));
+  if (which == 4 || which == 5) law.pages = 2 + in.below(3);
+  if (which == 5) {
+    law.page = 5 * (1 + in.below(2));
+    addTable(in, law, 1 + static_cast<int>(in.below(5)), 2);
+  }
+  return law;
+}
+
+/// What runs for ever is no fault to be found: sub-steps and blocks are counts that the user asks for.
+void bound(mxArray* opt, mxArray* iopt) {
+  double* values = ordinary(opt);
+  if (values && mxGetNumberOfElements(opt) > 3 && values[3] > 100.0) values[3] = 100.0;
+  if (iopt && mxIsInt32(iopt) && mxGetNumberOfElements(iopt) > 4) {
+    int& blocks = static_cast<int*>(mxGetData(iopt))[4];
+    if (blocks > 4096) blocks = 4096;
+  }
+}
+
+}  // namespace
+
+mxArray* elementValue(Maker& make, std::size_t n) {
+  Bytes& in = make.in;
+  const std::size_t which = in.below(sizeof lawWords / sizeof *lawWords);
+  const Law law = makeLaw(in, lawWords[which], which);
+  const std::size_t observed = in.rarely(6) ? in.below(8) : law.page;
+  const std::size_t forces = law.page * (which == 2 ? 2 : 1);
+  mxArray* opt = make.doubles(law.opt.size());
+  if (double* values = ordinary(opt)) std::copy_n(law.opt.begin(), std::min(law.opt.size(), mxGetNumberOfElements(opt)), values);
+  mxArray* iopt = make.int32s(law.iopt);
+  bound(opt, iopt);
+  return make.structure({{"type", make.number(1003)},
+                         {"c", make.matrix(n, observed, true)},
+                         {"b", in.rarely(8) ? make.doubles(1, n) : make.matrix(n, law.page, !in.rarely(4))},
+                         {"unl", make.doubles(law.page, 1, law.pages)},
+                         {"vnl", in.rarely(6) ? nullptr : make.doubles(law.page, 1, law.pages)},
+                         {"snl", in.rarely(3) ? nullptr : make.doubles(forces)},
+                         {"opt", opt},
+                         {"iopt", in.rarely(10) ? nullptr : iopt}});
+}
+
+}  // namespace fuzz

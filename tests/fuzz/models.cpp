@@ -1,0 +1,205 @@
+#include "models.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace fuzz {
+
+namespace {
+
+mxArray* functionHandle(Maker& make) {
+  const std::size_t how = make.in.below(5);
+  const double value = make.in.number();
+  const std::size_t rows = make.in.below(4);
+  return standin::functionHandle([=](int, const standin::Arguments& args) -> std::vector<mxArray*> {
+    if (how == 1) standin::raise("law:failed", "no force");
+    if (how == 2) return {};
+    mxArray* F = mxCreateDoubleMatrix(rows, 1, mxREAL);
+    for (std::size_t k = 0; k < rows; ++k) mxGetPr(F)[k] = value;
+    if (how == 3) {
+      const char* names[] = {"snl"};
+      mxArray* s = mxCreateStructMatrix(1, 1, 1, names);
+      mxSetField(s, 0, "snl", F);
+      return {s};
+    }
+    if (how == 4 && !args.empty() && mxIsStruct(args[0])) return {mxGetField(args[0], 0, "unl")};
+    return {F};
+  });
+}
+
+mxArray* rotcenterCell(Maker& make, std::size_t n) {
+  Bytes& in = make.in;
+  const std::size_t rows = in.rarely(3) ? 17 : in.rarely(4) ? 9 + in.below(9) : 11;
+  const std::size_t points = in.below(3);
+  const auto dof = [&] { return 1.0 + in.index(n); };
+  std::vector<mxArray*> c(2 * rows, nullptr);
+  const auto put = [&](std::size_t row, mxArray* value) {
+    if (row <= rows) c[rows + row - 1] = value;
+  };
+  const auto ints = [&](std::size_t limit) {
+    mxArray* a = mxCreateDoubleMatrix(points, 1, mxREAL);
+    for (std::size_t k = 0; k < points; ++k) mxGetPr(a)[k] = 1.0 + in.index(limit);
+    return make.changed(a);
+  };
+  put(1, make.number(dof()));
+  put(2, make.doubles(3, 3));
+  put(3, make.doubles(3));
+  put(4, make.doubles(3));
+  put(5, ints(n));
+  put(6, ints(3));
+  put(7, ints(n));
+  put(8, ints(3));
+  put(10, make.doubles(3));
+  put(11, make.int32s({in.index(4), in.index(4), in.index(4)}));
+  if (rows > 14) put(15, make.matrix(n, 3, true));
+  put(17, make.matrix(n, 3, true));
+  return make.cell(rows, 2, c);
+}
+
+mxArray* ascendingTable(Maker& make) {
+  const std::size_t knots = make.in.below(5);
+  mxArray* a = make.doubles(knots, 2);
+  if (double* abscissae = ordinary(a)) {
+    for (std::size_t k = 0; k < std::min(knots, mxGetNumberOfElements(a)); ++k) abscissae[k] = static_cast<double>(k);
+  }
+  return a;
+}
+
+}  // namespace
+
+mxArray* handleValue(Maker& make, int type, std::size_t n) {
+  if (type == 1003) return elementValue(make, n);
+  if (type == 2000) return integratorValue(make, n, 1 + make.in.below(4));
+  mxArray* m = make.matrix(n, n);
+  if (!m || !mxIsStruct(m)) return m;
+  Fields fields{{"type", make.number(type)}};
+  for (const char* name : {"pr", "ir", "jc", "dims", "trans"}) {
+    const mxArray* value = mxGetNumberOfElements(m) > 0 ? mxGetField(m, 0, name) : nullptr;
+    if (value) fields.emplace_back(name, standin::share(value));
+  }
+  return make.structure(fields);
+}
+
+mxArray* integratorValue(Maker& make, std::size_t n, std::size_t steps) {
+  Bytes& in = make.in;
+  const std::size_t loads = in.below(3);
+  mxArray* tft = make.doubles(loads + 1, steps + 1);
+  double* table = in.rarely(8) ? nullptr : ordinary(tft);
+  for (std::size_t j = 0; table && j <= steps && j * (loads + 1) < mxGetNumberOfElements(tft); ++j) {
+    table[j * (loads + 1)] = 0.5 * static_cast<double>(j);
+  }
+  return make.structure({{"type", make.number(2000)},
+                         {"r", make.doubles(n, loads + 2)},
+                         {"tft", tft},
+                         {"data", make.doubles(6)},
+                         {"iopt", in.rarely(3) ? make.int32s({in.index(4)}) : nullptr}});
+}
+
+mxArray* listElement(Maker& make, std::size_t n) {
+  Bytes& in = make.in;
+  const std::size_t forces = 1 + in.below(3);
+  const std::size_t pages = in.rarely(3) ? 1 + in.below(4) : 1;
+  const std::size_t law = in.below(6);
+  Fields fields{{"c", make.matrix(n, forces, true)},
+                {"b", make.matrix(n, forces, !in.rarely(4))},
+                {"unl", make.doubles(forces, 1, pages)},
+                {"vnl", in.rarely(3) ? nullptr : make.doubles(forces, 1, pages)},
+                {"unl0", in.rarely(3) ? make.doubles(forces) : nullptr},
+                {"vnl0", in.rarely(3) ? make.doubles(forces) : nullptr},
+                {"snl", in.rarely(3) ? make.doubles(forces) : nullptr},
+                {"opt", make.doubles(2)},
+                {"StoreFNL", make.number(1)},
+                {"FInd", make.int32s({in.index(4)})}};
+  if (law == 0) fields.emplace_back("Fu", functionHandle(make));
+  if (law == 1) fields.emplace_back("type", functionHandle(make));
+  if (law == 2) fields.emplace_back("type", make.text("someword"));
+  if (law == 3) fields.insert(fields.end(), {{"type", make.text("mocirc2")}, {"cta", make.matrix(n, 1 + in.below(3))}});
+  if (law == 4) {
+    fields.insert(fields.end(), {{"type", make.text("rotcenter")},
+                                 {"Cell", rotcenterCell(make, n)},
+                                 {"Fu", ascendingTable(make)},
+                                 {"Fv", ascendingTable(make)},
+                                 {"cur_u", make.doubles(3)},
+                                 {"cur_v", make.doubles(3)}});
+  }
+  if (law == 5) fields.emplace_back("type", make.anything());
+  return make.structure(fields);
+}
+
+mxArray* matrixCell(Maker& make, std::size_t n) {
+  mxArray* damping = make.in.rarely(3) ? make.structure({{"def", make.doubles(n, 2)}, {"data", make.doubles(4)}, {"K", make.matrix(n, n)}})
+                                       : make.matrix(n, n);
+  return make.cell(1, make.in.rarely(30) ? make.in.below(5) : 3, {make.matrix(n, n), damping, make.matrix(n, n)});
+}
+
+standin::Arguments residualArguments(Maker& make, std::size_t n, mxArray* handles) {
+  Bytes& in = make.in;
+  mxArray* model = handles;
+  const std::size_t kind = in.below(3);
+  if (kind == 1) model = matrixCell(make, n);
+  if (kind == 2) {
+    const std::size_t rows = in.below(3);
+    std::vector<mxArray*> list(3 * rows, nullptr);
+    for (std::size_t j = 0; j < rows; ++j) list[2 * rows + j] = listElement(make, n);
+    model = make.structure({{"K", matrixCell(make, n)}, {"NL", make.changed(make.cell(rows, 3, list))}, {"FNL", make.doubles(4)}});
+  }
+  mxArray* opt = in.rarely(3) ? make.structure({{"Rayleigh", make.doubles(2)}, {"tc", make.number(0)}}) : make.doubles(2);
+  standin::Arguments args{make.doubles(n), make.changed(model), make.doubles(n), make.doubles(n), in.rarely(5) ? make.doubles(0, 0) : make.doubles(n),
+                          opt, make.doubles(1)};
+  if (in.rarely(20)) args.resize(in.below(args.size()));
+  return args;
+}
+
+standin::Arguments newmarkArguments(Maker& make, std::size_t n, mxArray* handles) {
+  Bytes& in = make.in;
+  mxArray* list = handles;
+  if (!in.rarely(3)) {
+    const std::size_t extra = in.below(3);
+    std::vector<mxArray*> elements{integratorValue(make, n, 1 + in.below(5))};
+    for (std::size_t k = 0; k < extra; ++k) elements.push_back(handleValue(make, in.rarely(3) ? static_cast<int>(1 + in.below(3)) : 1003, n));
+    list = make.cell(1, elements.size(), elements);
+  }
+  const std::size_t saved = in.below(5);
+  mxArray* mem = make.structure({{"uva", make.structure({{"uva", make.doubles(4 * n + in.below(3) * 4)}, {"FNL", make.doubles(4)}})}});
+  mxArray* times = make.doubles(saved);
+  if (double* at = ordinary(times)) {
+    for (std::size_t k = 0; k < std::min(saved, mxGetNumberOfElements(times)); ++k) at[k] = 0.5 * static_cast<double>(k + 1);
+  }
+  mxArray* out = make.structure({{"data", times},
+                                 {"def", in.rarely(6) ? nullptr : make.doubles(n, saved)},
+                                 {"FNL", in.rarely(2) ? make.structure({{"data", make.doubles(saved)}, {"def", make.doubles(4, saved)}}) : nullptr}});
+  mxArray* model = make.structure({{"FNL", make.doubles(4)}});
+  standin::Arguments args{list, model, make.doubles(n), make.doubles(n), make.doubles(n), make.doubles(2), mem, out};
+  if (in.rarely(30)) args.resize(in.below(args.size()));
+  return args;
+}
+
+standin::Arguments matrixArguments(Maker& make, const char* command) {
+  Bytes& in = make.in;
+  const std::size_t n = make.size();
+  const std::size_t m = in.rarely(4) ? make.size() : n;
+  const std::size_t columns = in.below(4);
+  const auto is = [command](const char* word) { return std::strcmp(command, word) == 0; };
+  const auto base = [&](std::size_t rows) { return in.rarely(3) ? make.complexDoubles(rows, columns) : make.doubles(rows, columns); };
+  standin::Arguments args;
+  if (is("tbbp")) args = {make.matrix(n, n), make.doubles(n), make.doubles(n)};
+  if (is("setsparse")) args = {make.matrix(m, n), make.int32s({in.index(5), in.index(5)}), make.doubles(0), make.doubles(in.below(4))};
+  if (is("c<-a'*b")) {
+    args = {make.doubles(m, columns), make.matrix(m, n, in.rarely(4))};
+    if (in.rarely(2)) args.push_back(make.doubles(columns, n));
+  }
+  if (is("abc")) args = {base(n), make.matrix(n, m), base(m), make.int32s({1, 0, 0})};
+  if (is("dtkt")) args = {make.doubles(n, columns), make.nativeSparse(n, n)};
+  if (is("ta'*k*tb")) args = {make.doubles(n, columns), make.nativeSparse(n, m), make.doubles(m, columns)};
+  if (is("directzr")) {
+    args = {make.complexDoubles(n, n), make.cell(1, columns, {make.doubles(n, n), make.doubles(n, n)}), make.complexDoubles(n, columns),
+            in.rarely(2) ? make.complexDoubles(m, n) : make.doubles(m, n)};
+  }
+  if (is("igsm")) args = {make.doubles(n, in.below(2)), make.nativeSparse(m, n)};
+  if (is("nlv1")) args = {make.structure({{"unl", make.doubles(n)}})};
+  if (in.rarely(20)) args.resize(in.below(args.size() + 1));
+  if (in.rarely(40)) args.push_back(make.anything());
+  return args;
+}
+
+}  // namespace fuzz

@@ -1,0 +1,36 @@
+#include "failing_new.h"
+
+#include <cstdlib>
+#include <new>
+#include <thread>
+
+#include "standin.h"
+
+namespace {
+
+long failing = 0;
+long counted = 0;
+const std::thread::id tester = std::this_thread::get_id();
+
+void* allocate(std::size_t n) {
+  if (failing > 0 && std::this_thread::get_id() == tester && standin::moduleAtWork() && ++counted == failing) throw std::bad_alloc();
+  void* memory = std::malloc(n > 0 ? n : 1);
+  if (!memory) throw std::bad_alloc();
+  return memory;
+}
+
+}  // namespace
+
+void failNew(long k) {
+  failing = k;
+  counted = 0;
+}
+
+long newCalls() { return counted; }
+
+void* operator new(std::size_t n) { return allocate(n); }
+void* operator new[](std::size_t n) { return allocate(n); }
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete[](void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }

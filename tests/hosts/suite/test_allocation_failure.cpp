@@ -1,0 +1,151 @@
+// Every allocation of a call fails once: the call ends with the host's error, nothing stays behind, and the handles are as they were.
+#include <functional>
+
+#include "failing_new.h"
+#include "fixture.h"
+#include "setups.h"
+
+namespace {
+
+using namespace build;
+
+class AllocationFailure : public OnMatlab {
+ protected:
+  using Arguments = std::function<standin::Arguments()>;
+
+  /// Runs the command with its 1st, 2nd, ... allocation failing until it succeeds. added: handles that it registers.
+  void failEach(const char* command, const Arguments& arguments, int nlhs = 1, std::size_t added = 0) {
+    SCOPED_TRACE(command);
+    const Values keys = values(run("chandleget"));
+    const standin::Live before = standin::live();
+    long failures = 0;
+    for (long k = 1;; ++k) {
+      ASSERT_LT(k, 1000);
+      const standin::Arguments args = arguments();
+      standin::failAllocation(k);
+      const standin::Result result = quarn(nlhs, command, args);
+      const bool reached = standin::allocations() >= k;
+      standin::failAllocation(0);
+      if (!reached) {
+        EXPECT_FALSE(result.failed) << result.text;
+        break;
+      }
+      ++failures;
+      EXPECT_TRUE(result.failed) << "allocation " << k;
+      EXPECT_EQ(result.identifier, "MATLAB:nomem");
+      EXPECT_EQ(result.text, "Out of memory.");
+      EXPECT_EQ(values(run("chandleget")), keys) << "after allocation " << k;
+      EXPECT_EQ(standin::live().persistentArrays, before.persistentArrays) << "after allocation " << k;
+      EXPECT_EQ(standin::live().persistentBlocks, before.persistentBlocks) << "after allocation " << k;
+    }
+    EXPECT_GT(failures, 0) << "the command allocates nothing: there is nothing to see";
+    EXPECT_EQ(values(run("chandleget")).size(), keys.size() + added);
+    EXPECT_EQ(standin::live().persistentArrays, before.persistentArrays + added);
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(Errors, AllocationFailure, testing::Values(standin::Errors::unwind, standin::Errors::jump),
+                         [](const auto& p) { return p.param == standin::Errors::jump ? "Jumping" : "Unwinding"; });
+
+mxArray* stiffness() { return tridiagonal(3, 2, -1); }
+
+TEST_P(AllocationFailure, OfServiceCommands) {
+  for (const char* command : {"ismex", "cvs", "omp"}) failEach(command, [] { return standin::Arguments{}; });
+}
+
+TEST_P(AllocationFailure, OfRegistryCommands) {
+  set(1, stiffness());
+  failEach("chandleget", [] { return standin::Arguments{}; });
+  failEach("chandleget", [] { return standin::Arguments{scalar(0)}; });
+  standin::define("first", [](int, const standin::Arguments& args) -> std::vector<mxArray*> { return {const_cast<mxArray*>(args[0])}; });
+  failEach("chandleget", [] { return standin::Arguments{text("first"), scalar(0), zeros(2)}; });
+  failEach("chandleset", [] { return standin::Arguments{scalar(2), stiffness()}; }, 1, 1);
+  failEach("chandleset", [] { return standin::Arguments{scalar(3), standin::object("thing", {{"a", cell(1, 2, {zeros(3), nullptr})}})}; }, 1, 1);
+  EXPECT_EQ(values(field(run("chandleget", {scalar(0)}), "pr")), values(field(stiffness(), "pr")));
+}
+
+TEST_P(AllocationFailure, OfResiduals) {
+  const double index = set(1003, element("Power", 3, {2, 3}, {{"unl", zeros(1)}, {"snl", zeros(1)}}));
+  const double second = set(2, stiffness());
+  keptValues = 1;
+  failEach("residual", [&] { return standin::Arguments{zeros(3), handles({index, second}), zeros(3), zeros(3), zeros(3)}; }, 0);
+  failEach("residual",
+           [&] {
+             mxArray* K = standin::object("v_handle", {{"file", stiffness()}});
+             return standin::Arguments{zeros(3), cell(1, 3, {stiffness(), nullptr, K}), zeros(3), zeros(3), zeros(3)};
+           },
+           2);
+  standin::define("hapsel", [](int, const standin::Arguments&) -> std::vector<mxArray*> { return {}; });
+  failEach("residual",
+           [&] {
+             const Values first{1, 0, 0};
+             mxArray* e = structure({{"c", compressed(3, 1, first, true)},
+                                     {"b", compressed(3, 1, first, true)},
+                                     {"unl", zeros(1)},
+                                     {"type", text("someword")}});
+             mxArray* model = structure({{"K", cell(1, 3, {})}, {"NL", cell(1, 3, {nullptr, nullptr, e})}});
+             return standin::Arguments{zeros(3), model, zeros(3), zeros(3), zeros(3), zeros(0), zeros(0)};
+           },
+           0);
+}
+
+TEST_P(AllocationFailure, OfTheIntegrator) {
+  failEach("chandlediagnewmark",
+           [] {
+             const NewmarkRun n = newmarkRun(2, 5);
+             mxArray* nl = element("Power", 2, {1, 3}, {{"unl", zeros(1)}, {"snl", zeros(1)}});
+             return n.arguments(cell(1, 3, {n.integrator, listMatrix(1, {1, 4}), nl}));
+           },
+           0);
+  const NewmarkRun n = newmarkRun(2, 5);
+  const double integrator = set(2000, n.integrator);
+  const double matrix = set(1, listMatrix(1, {1, 4}));
+  failEach("chandlediagnewmark", [&] { return newmarkRun(2, 5).arguments(handles({integrator, matrix})); }, 0);
+}
+
+TEST_P(AllocationFailure, OfMatrixCommands) {
+  failEach("c<-a'*b", [] { return standin::Arguments{zeros(3, 2), stiffness()}; });
+  failEach("c<-a'*b",
+           [] {
+             mxArray* square = zeros(3, 3);
+             return standin::Arguments{square, stiffness(), square};
+           },
+           0);
+  failEach("abc", [] { return standin::Arguments{zeros(3, 2), stiffness(), complexMatrix(3, 2, {}, {}), int32s({1, 0, 0})}; });
+  failEach("directzr", [] {
+    return standin::Arguments{complexMatrix(1, 1, {1}, {1}), cell(1, 1, {zeros(1)}), complexMatrix(1, 1, {1}, {1}), zeros(1)};
+  });
+  failEach("dtkt", [] { return standin::Arguments{zeros(2, 0), nativeSparse({1, 2})}; });
+  failEach("igsm", [] { return standin::Arguments{zeros(2, 0), nativeSparse({1, 2})}; });
+  failEach("tbbp", [] { return standin::Arguments{standin::object("v_handle", {{"file", stiffness()}}), zeros(3), zeros(3)}; }, 0);
+  failEach("setsparse", [] { return standin::Arguments{standin::object("v_handle", {{"file", stiffness()}}), int32s({0})}; }, 0);
+}
+
+TEST_P(AllocationFailure, OfTheRegistrysOwnNodes) {
+  set(1, stiffness());
+  failNew(1);
+  const standin::Result result = quarn(1, "chandleset", {scalar(1), stiffness()});
+  ASSERT_EQ(newCalls(), 1);
+  failNew(0);
+  EXPECT_TRUE(result.failed);
+  EXPECT_EQ(result.text, "quarn chandleset : out of memory");
+  EXPECT_EQ(standin::live().persistentArrays, 1u);
+  EXPECT_EQ(standin::live().persistentBlocks, 1u);
+  failNew(1);
+  expectError("", "quarn chandleget : out of memory", "chandleget", {scalar(50)}, 1);  // a lookup inserts its key
+  failNew(0);
+  EXPECT_EQ(values(run("chandleget")), (Values{0}));
+  EXPECT_EQ(set(1, stiffness()), 2.0);  // the index of the failed call is used up
+}
+
+TEST_P(AllocationFailure, OfThePresenceCall) {
+  run("ismex");
+  standin::failAllocation(1);
+  const standin::Result result = module(1, {});
+  standin::failAllocation(0);
+  EXPECT_TRUE(result.failed);
+  EXPECT_EQ(result.text, "Out of memory.");
+  EXPECT_EQ(mxGetScalar(module(1, {}).out[0]), 1.0001);
+}
+
+}  // namespace

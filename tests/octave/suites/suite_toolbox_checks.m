@@ -1,0 +1,139 @@
+function tests = suite_toolbox_checks ()
+  use_toolbox ();
+  tests = localfunctions ();
+end
+
+function says (found, level, pattern)
+  for k = 1:numel (found)
+    if strcmp (found(k).level, level) && ~isempty (regexp (found(k).text, pattern, 'once')), return, end
+  end
+  error ('no %s "%s" among: %s', level, pattern, strjoin (arrayfun (@(f) [f.level ': ' f.text], found, 'uniformoutput', false), ' | '));
+end
+
+function model = oscillator ()
+  model = qn.modal (4e4, 1);
+end
+
+function test_a_sound_set_up_needs_no_change ()
+  model = oscillator ();
+  sim = qn.simulation (model, 'step', 1e-4, 'until', 1, 'v0', 1, 'elements', {qn.gap('gap', 0.01, 'stiffness', 1e5), qn.observe(model, 1)});
+  expect_equal (numel (qn.check (sim)), 0);
+  expect_equal (evalc ('qn.check (sim)'), sprintf ('nothing to change\n'));
+end
+
+% The limit that the check names is the one of the module: just below it a run stays bounded, just above it grows.
+function test_the_stability_limit_of_the_scheme_is_the_modules ()
+  model = oscillator ();
+  for ratio = [0.98 1.02]
+    sim = qn.simulation (model, 'step', ratio * sqrt (12) / 200, 'steps', 2000, 'q0', 1, 'scheme', 'linear');
+    res = qn.run (sim);
+    found = qn.check (sim);
+    if ratio > 1
+      says (found, 'error', 'too long for mode 1 .*below 0.0173');
+      if max (abs (res.q)) < 100, error ('the run stays bounded'); end
+    else
+      if any (strcmp ({found.level}, 'error')), error ('refused: %s', found(1).text); end
+      if max (abs (res.q)) > 10, error ('the run grows to %g', max (abs (res.q))); end
+    end
+  end
+end
+
+% The same for an element's stiffness: h sqrt (k / m) = 2 with the mass that the element meets.
+function test_the_stability_limit_of_an_element_is_the_modules ()
+  model = qn.modal (1e4 * [2 -1; -1 1], diag ([1 3]), 'damping', 0.05);
+  row = qn.observe (model, 2);
+  for scheme = {'average', 'linear'}
+    s = qn.scheme (scheme{1});
+    h = 1e-3;
+    mass = 1 / (row * (row.' ./ (1 + s.beta * h ^ 2 * model.stiffness + 0.5 * h * model.damping)));
+    for ratio = [0.97 1.03]
+      law = qn.law ('power', 'stiffness', ratio * 4 * mass / h ^ 2, 'exponent', 1);
+      sim = qn.simulation (model, 'step', h, 'steps', 3000, 'v0', [0; 1], 'scheme', scheme{1}, 'elements', {law, row});
+      warning ('off', 'qn:diverged');
+      res = qn.run (sim);
+      warning ('on', 'qn:diverged');
+      found = qn.check (sim);
+      if ratio > 1
+        says (found, 'error', 'too stiff for the step of 0.001 s');
+        if max (abs (res.q(:))) < 1e3, error ('the run stays bounded'); end
+      else
+        says (found, 'warning', 'steps pass in half a period');
+        if max (abs (res.q(:))) > 10, error ('the run grows to %g', max (abs (res.q(:)))); end
+      end
+    end
+  end
+end
+
+function test_what_is_too_coarse_is_named ()
+  model = oscillator ();
+  row = qn.observe (model, 1);
+  with = @(law, h) qn.check (qn.simulation (model, 'step', h, 'until', 1, 'v0', 1, 'elements', {law, row}));
+  says (qn.check (qn.simulation (model, 'step', 5e-3, 'until', 1, 'v0', 1)), 'warning', 'mode 1 .* gets 6.3 steps a period');
+  says (with (qn.gap ('gap', 0, 'stiffness', 1e7), 1e-4), 'warning', 'element 1 \(stop behind a gap of 0 m\): only 9 steps');
+  says (with (qn.maxwell ('springs', 100, 'times', 1e-3), 1e-3), 'warning', 'shortest relaxation time is only 1.0 steps');
+  says (with (qn.maxwell ('springs', 100, 'times', 1e-4), 1e-3), 'error', 'grows without bound; take at most 1e-05 s');
+  says (with (qn.law ('power', 'stiffness', 1, 'exponent', 1.5), 1e-3), 'warning', 'not a whole number');
+  says (with (qn.law ('stickslip', 'contact', 1, 'slip', 2), 1e-3), 'warning', 'whole newtons');
+  says (qn.check (qn.simulation (model, 'step', 1e-3, 'until', 0.01, 'v0', 1)), 'note', 'shorter than the period');
+  says (qn.check (qn.simulation (model, 'step', 1e-3, 'until', 1)), 'warning', 'neither a load nor an initial motion');
+  says (qn.check (qn.simulation (model, 'step', 1e-3, 'until', 1, 'load', {1, [0 0.5; 0 1]})), 'note', 'covers 0 to 0.5 s of a run from 0 to 1');
+  says (qn.check (qn.simulation (model, 'step', 1e-3, 'until', 1, 'v0', 1, 'elements', {qn.cubic('stiffness', 1), 0})), 'warning', 'does nothing');
+end
+
+function test_motion_beyond_a_table_is_found_after_the_run ()
+  model = oscillator ();
+  law = qn.law ('table', 'displacement', [-1e-3 0 1e-3], 'force', [-1 0 1]);
+  sim = qn.simulation (model, 'step', 1e-3, 'until', 1, 'v0', 1, 'elements', {law, qn.observe(model, 1)});
+  expect_equal (numel (qn.check (sim)), 0);
+  says (qn.check (sim, qn.run (sim)), 'note', 'beyond it the end segments go on');
+  stop = qn.simulation (model, 'step', 1e-3, 'until', 1, 'v0', 1, 'elements', {qn.stop('gap', 1e-4, 'stiffness', 1e3), qn.observe(model, 1)});
+  expect_equal (numel (qn.check (stop, qn.run (stop))), 0);
+end
+
+function test_what_was_changed_by_hand_is_looked_over ()
+  model = oscillator ();
+  good = qn.simulation (model, 'step', 1e-3, 'until', 1, 'load', {1, @(t) t}, 'elements', {qn.stop('gap', 1, 'stiffness', 1), 1});
+  s = good;
+  s.time = single (s.time);
+  says (qn.check (s), 'error', 'doubles that ascend');
+  s = good;
+  s.loads(3) = NaN;
+  says (qn.check (s), 'error', 'finite and real');
+  s = good;
+  s.loads = s.loads(1:5);
+  says (qn.check (s), 'error', 'one row of 1001 loads');
+  s = good;
+  s.start.u = [0; 0];
+  says (qn.check (s), 'error', '"u" must be 1 finite');
+  s = good;
+  s.elements.law.parameters.displacement = [0 3 2 4];
+  says (qn.check (s), 'error', 'must ascend; sort it');
+  s = good;
+  s.elements.observe = [1 2];
+  says (qn.check (s), 'error', 'rows of 1 modal values');
+end
+
+% Linear oscillator: the error that the adviser names is the real one, and the step that it advises keeps the tolerance.
+function test_the_advised_step_keeps_the_tolerance ()
+  model = oscillator ();
+  set_up = @(h) qn.simulation (model, 'step', h, 'until', 0.5, 'v0', 1);
+  off = @(h) error_of (qn.run (set_up (h)));
+  advice = qn.advise (set_up (1e-3), 'tolerance', 1e-3, 'order', true);
+  expect_equal (advice.order, 2, 0.02);
+  expect_equal (advice.error / off (1e-3), 1, 0.05);
+  expect_equal (advice.error_half / off (5e-4), 1, 0.05);
+  if off (0.5 / ceil (0.5 / advice.advised)) > 1.02e-3, error ('the advised step misses the tolerance'); end
+  if off (0.5 / ceil (0.25 / advice.advised)) < 1e-3, error ('the advised step is far too short'); end
+  damped = qn.simulation (model, 'step', 2e-5, 'until', 0.1, 'v0', 1, 'scheme', {'damped', 0.5});
+  expect_equal (getfield (qn.advise (damped, 'order', true), 'order'), 1, 0.1);
+end
+
+function e = error_of (res)
+  e = max (abs (res.q - sin (200 * res.time) / 200)) * 200;
+end
+
+function test_the_adviser_says_what_it_cannot_do ()
+  model = oscillator ();
+  expect_error (@() qn.advise (qn.simulation (model, 'step', 1e-3, 'steps', 2, 'load', {1, [1 2 3]})), 'qn:input', '~given step by step');
+  expect_error (@() qn.advise (qn.simulation (model, 'step', 1e-3, 'steps', 2)), 'qn:input', '~nothing moves');
+end

@@ -1,0 +1,146 @@
+function tests = suite_toolbox_help ()
+  use_toolbox ();
+  tests = localfunctions ();
+end
+
+function folder = toolbox ()
+  folder = fileparts (fileparts (which ('qn.run')));
+end
+
+% Files that users call, as {name, file}.
+function list = public_functions ()
+  folders = {'', ''; '+qn', 'qn.'; fullfile('+qn', '+plot'), 'qn.plot.'};
+  list = {'chandle', fullfile(toolbox (), '@chandle', 'chandle.m'); 'v_handle', fullfile(toolbox (), '@v_handle', 'v_handle.m'); ...
+          'delete', fullfile(toolbox (), '@chandle', 'delete.m')};
+  for k = 1:size (folders, 1)
+    files = dir (fullfile (toolbox (), folders{k, 1}, '*.m'));
+    for f = files.'
+      list(end + 1, :) = {[folders{k, 2} f.name(1:end - 2)], fullfile(toolbox (), folders{k, 1}, f.name)};
+    end
+  end
+end
+
+% Help text of a file: its first block of comments, without the signs.
+function lines = help_of (file)
+  lines = strsplit (fileread (file), sprintf ('\n'));
+  last = find (cellfun (@(l) isempty (l) || l(1) ~= '%', lines), 1) - 1;
+  lines = regexprep (lines(1:last), '^% ?', '');
+end
+
+% Lines of a section: from its heading to the next line that is not indented.
+function body = section (lines, heading)
+  body = {};
+  at = find (strncmp (lines, heading, numel (heading)), 1);
+  if isempty (at), return, end
+  for k = at + 1:numel (lines)
+    if ~isempty (lines{k}) && lines{k}(1) ~= ' ', break, end
+    body{end + 1} = lines{k};
+  end
+end
+
+function test_every_function_has_all_sections_of_help ()
+  list = public_functions ();
+  if size (list, 1) < 45, error ('only %d functions found', size (list, 1)); end
+  for k = 1:size (list, 1)
+    if strcmp (list{k, 1}, 'quarn'), continue, end
+    lines = help_of (list{k, 2});
+    for heading = {'Purpose', 'Calls', 'Input', 'Errors', 'Example', 'See also'}
+      if ~any (strncmp (lines, heading{1}, numel (heading{1}))) && ~strcmp ([list{k, 1} heading{1}], 'qn.plot.pageInput')
+        error ('%s: no section "%s"', list{k, 1}, heading{1});
+      end
+    end
+    names_itself = ~isempty (strfind (lower (lines{1}), list{k, 1}));
+    if ~names_itself, error ('%s: the first line of its help is "%s"', list{k, 1}, lines{1}); end
+    code = fileread (list{k, 2});
+    first = regexp (code, '(^|\n)function [^\n]*', 'match', 'once');
+    gives = any (first == '=');
+    if gives && ~any (strncmp (lines, 'Output', 6)), error ('%s: no section "Output"', list{k, 1}); end
+  end
+end
+
+function test_every_example_in_the_help_runs ()
+  list = public_functions ();
+  hidden = get (0, 'defaultfigurevisible');
+  set (0, 'defaultfigurevisible', 'off');
+  back = onCleanup (@() set (0, 'defaultfigurevisible', hidden));
+  ran = 0;
+  for k = 1:size (list, 1)
+    code = strjoin (section (help_of (list{k, 2}), 'Example'), sprintf ('\n'));
+    if isempty (strtrim (code)), error ('%s has no example', list{k, 1}); end
+    try
+      run_it (code);
+    catch err
+      error ('the example of %s fails: %s', list{k, 1}, err.message);
+    end
+    close ('all');
+    if ~isempty (quarn ('chandleget'))
+      error ('the example of %s leaves handles behind', list{k, 1});
+    end
+    ran = ran + 1;
+  end
+  expect_equal (ran, size (list, 1));
+end
+
+function run_it (code)
+  evalc (code);
+end
+
+function test_what_is_named_under_see_also_exists ()
+  list = public_functions ();
+  for k = 1:size (list, 1)
+    lines = help_of (list{k, 2});
+    at = find (strncmp (lines, 'See also', 8), 1);
+    names = strtrim (strsplit (strjoin (lines(at:end), ' ')(9:end), ','));
+    for name = names
+      if ~any (strcmp (name{1}, list(:, 1))), error ('%s: there is no %s to see', list{k, 1}, name{1}); end
+    end
+  end
+end
+
+function test_the_help_of_quarn_names_every_function ()
+  list = public_functions ();
+  text = strjoin (help_of (fullfile (toolbox (), 'quarn.m')), sprintf ('\n'));
+  for k = 1:size (list, 1)
+    if isempty (strfind (text, list{k, 1})) && ~strcmp (list{k, 1}, 'delete')
+      error ('the help of quarn does not name %s', list{k, 1});
+    end
+  end
+  commands = {'ismex', 'residual', 'chandleset', 'chandleget', 'chandleclear', 'chandlediagnewmark', 'setsparse', 'c<-a''*b', 'abc', 'cvs', 'tbbp'};
+  for command = commands
+    if isempty (strfind (strrep (text, '''''', ''''), command{1})), error ('the help of quarn does not name the command %s', command{1}); end
+  end
+end
+
+function test_the_help_file_steps_behind_the_module ()
+  code = sprintf (['addpath (''%s''); addpath (''%s''); y = zeros (1, 1); quarn (''tbbp'', qn.pack (3), 2 + 0, y); ' ...
+                   'if y ~= 6 || quarn () ~= 1.0001, exit (3); end'], fileparts (which ('quarn')), toolbox ());
+  expect_equal (system (sprintf ('octave-cli --no-history -qf --eval "%s"', code)), 0);
+  alone = sprintf ('addpath (''%s''); try, quarn (); catch e, if isempty (strfind (e.message, ''not on the path'')), exit (3); end, end', toolbox ());
+  expect_equal (system (sprintf ('octave-cli --no-history -qf --eval "%s"', alone)), 0);
+end
+
+% What only one of the two hosts understands.
+function test_the_code_keeps_to_syntax_that_both_hosts_share ()
+  files = [dir_of('+qn'); dir_of(fullfile ('+qn', '+impl')); dir_of(fullfile ('+qn', '+plot')); dir_of('@chandle'); dir_of('@v_handle'); dir_of('')];
+  if numel (files) < 70, error ('only %d files found', numel (files)); end
+  patterns = {'^\s*end(if|for|while|function|switch|_try_catch)\>', '(^|[^%''])!=?\s*[\w(]', '[+*/-]=[^=]', '\<printf\>', '"[^"]*"\s*[,);]', ...
+              'unwind_protect', '^\s*#', '\+\+', '\)\s*\(', '\<strjust\>|\<columns \(|\<rows \('};
+  for k = 1:numel (files)
+    lines = strsplit (fileread (files{k}), sprintf ('\n'));
+    if numel (lines) > 150, error ('%s has %d lines', files{k}, numel (lines)); end
+    for j = 1:numel (lines)
+      if ~isempty (regexp (lines{j}, '^\s*%', 'once')), continue, end
+      if numel (lines{j}) > 140, error ('%s:%d has %d columns', files{k}, j, numel (lines{j})); end
+      code = regexprep (lines{j}, '''[^'']*''', '''''');
+      code = regexprep (code, '%.*$', '');
+      for p = patterns
+        if ~isempty (regexp (code, p{1}, 'once')), error ('%s:%d: "%s" matches %s', files{k}, j, lines{j}, p{1}); end
+      end
+    end
+  end
+end
+
+function files = dir_of (folder)
+  found = dir (fullfile (toolbox (), folder, '*.m'));
+  files = cellfun (@(name) fullfile (toolbox (), folder, name), {found.name}.', 'uniformoutput', false);
+end

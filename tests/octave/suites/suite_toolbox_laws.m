@@ -1,0 +1,129 @@
+function tests = suite_toolbox_laws ()
+  use_toolbox ();
+  tests = localfunctions ();
+end
+
+function test_memoryless_laws_give_their_formula ()
+  x = [-0.3 0 0.1 0.25];
+  expect_equal (qn.force (qn.law ('power', 'stiffness', 20, 'exponent', 2), x), 20 * x .^ 2, 1e-15);
+  expect_equal (qn.force (qn.law ('exponential', 'scale', 3, 'base', 5), x), 3 * 5 .^ x, 1e-15);
+  expect_equal (qn.force (qn.law ('table', 'displacement', [0 0.1 0.2], 'force', [0 1 4]), x), [-3 0 1 5.5], 1e-12);
+end
+
+function test_names_of_parameters_ignore_case_and_defaults_fill_in ()
+  law = qn.law ('dahl', 'Stiffness', 5, 'SLIP', 2);
+  expect_equal (law.parameters.exponent, 1);
+  expect_equal (law.parameters.slip, 2);
+end
+
+function test_mistakes_in_laws_are_explained ()
+  expect_error (@() qn.law ('spring'), 'qn:input', '~no law called "spring"; there are power');
+  expect_error (@() qn.law ('power', 'stiffness', 1), 'qn:input', '~parameter "exponent" is missing');
+  expect_error (@() qn.law ('power', 'k', 1), 'qn:input', '~no parameter called "k"; there are stiffness, exponent');
+  expect_error (@() qn.law ('power', 'stiffness', [1 2], 'exponent', 1), 'qn:input', '~one finite real number');
+  expect_error (@() qn.law ('table', 'displacement', [0 2 1], 'force', [0 1 2]), 'qn:input', '~must ascend');
+  expect_error (@() qn.law ('table', 'displacement', [0 2], 'force', [0 1 2]), 'qn:input', '~has 2 values and "force" has 3');
+  expect_error (@() qn.slider ('slip', 0, 'stiffness', 1), 'qn:input', '~must be above 0');
+  expect_error (@() qn.maxwell ('springs', [1 2], 'times', 1), 'qn:input', '~2 springs and 1 times');
+  expect_error (@() qn.gap ('gap', 1), 'qn:input', '~"stiffness" is missing');
+  expect_error (@() qn.element (qn.law ('dahl', 'stiffness', 1, 'slip', 1), [1 0]), 'qn:input', '~needs the time step');
+  expect_error (@() qn.element (qn.slider ('slip', 1, 'stiffness', 1), eye (2), 'step', 1, 'state', 3), 'qn:input', '~observes 1 rows, got 2');
+  expect_error (@() qn.force (qn.slider ('slip', 1, 'stiffness', 1), 1), 'qn:input', '~has a memory');
+end
+
+function test_recipes_have_the_stated_forces ()
+  expect_equal (qn.force (qn.gap ('gap', 0.015, 'stiffness', 1e8, 'padding', 0.002, 'soft', 1e7), [-9 0 0.015 0.016 0.020 3]), ...
+                [0 0 0 1e4 3.2e5 2.983e8 + 2e4], 1e-12);
+  expect_equal (qn.force (qn.gap ('gap', 0.01, 'stiffness', 100, 'side', -1), [-0.03 -0.01 0 5]), [-2 0 0 0], 1e-12);
+  expect_equal (qn.force (qn.gap ('gap', -0.01, 'stiffness', 100), [-0.02 0 0.01]), [0 1 2], 1e-12);
+  expect_equal (qn.force (qn.stop ('gap', [0.01 0.02], 'stiffness', [100 200], 'inner', 10), [-0.03 -0.01 0 0.02 0.04]), ...
+                [-2.1 -0.1 0 0.2 4.2], 1e-12);
+  expect_equal (qn.force (qn.bilinear ('first', 10, 'second', 40, 'at', 0.5), [-2 -0.5 0.25 1]), [-65 -5 2.5 25], 1e-12);
+  expect_equal (qn.force (qn.cubic ('stiffness', 2), [-1 0 3]), [-2 0 54]);
+  ball = qn.bearing ('stiffness', 1e10, 'clearance', 1e-5, 'range', 1e-4);
+  x = [-6e-5 -1e-5 0 1e-5 5e-5];
+  expect_equal (qn.force (ball, x), sign (x) .* 1e10 .* max (abs (x) - 1e-5, 0) .^ 1.5, 1e-3);
+  measured = qn.bearing ('deflection', [0 1 3], 'force', [0 2 12]);
+  expect_equal (qn.force (measured, [-2 0.5 3]), [-7 1 12], 1e-12);
+end
+
+% First loading of the bank by Iwan's formula: a parabola up to the slip force, and Masing's rule for unloading.
+function test_an_iwan_bank_loads_along_a_parabola ()
+  n = 40;
+  joint = qn.iwan ('slip', 100, 'stiffness', 1e6, 'sliders', n);
+  h = 1e-3;
+  top = 2 * 100 / 1e6;
+  up = linspace (0, 1.2 * top, 1201);
+  x = [up, fliplr(up(1:end - 1))];
+  v = [0, diff(x)] / h;
+  f = qn.force (joint, x, v, h);
+  along = min (up, top);
+  expect_equal (f(1:1201), 1e6 * along - (1e6 * along) .^ 2 / (4 * 100), 2e-2);
+  back = min (up(end) - x(1201:end), 2 * top);
+  expect_equal (f(1201:end), f(1201) - 2 * (1e6 * back / 2 - (1e6 * back / 2) .^ 2 / 400), 3e-2);
+end
+
+% Dahl with exponent 1, slow pull: F = Fs (1 - exp (-k x / Fs)).
+function test_dahl_friction_approaches_its_slip_force_exponentially ()
+  x = linspace (0, 0.05, 5001);
+  f = qn.force (qn.law ('dahl', 'stiffness', 1e4, 'slip', 100), x, [0, ones(1, 5000)], 1e-5);
+  expect_equal (f, 100 * (1 - exp (-x * 100)), 5e-3);
+end
+
+function test_a_slider_is_an_elastic_spring_that_slips ()
+  n = 4000;
+  t = (0:n) / n;
+  x = 0.01 * sin (2 * pi * t);
+  f = qn.force (qn.slider ('slip', 10, 'stiffness', 1e4), x, 0.02 * pi * cos (2 * pi * t), t(2));
+  expect_equal ([max(f), min(f)], [10, -10], 1e-12);
+  inside = x(1:40) < 1e-3;
+  one_step = 1e4 * 0.02 * pi * t(2);
+  if max (abs (f(inside) - 1e4 * x(inside))) > 1.01 * one_step, error ('sticking differs from the spring by more than one step'); end
+end
+
+% Steady harmonic motion: D(w) = K + sum Kj i w tj / (1 + i w tj).
+function test_maxwell_branches_have_the_dynamic_stiffness_of_a_prony_series ()
+  k = 1e5;
+  kj = [2e5 5e4];
+  tj = [0.05 0.01];
+  w = 30;
+  h = 1e-5;
+  t = 0:h:0.6;
+  f = qn.force (qn.maxwell ('stiffness', k, 'springs', kj, 'times', tj), sin (w * t), w * cos (w * t), h);
+  d = k + sum (kj .* (1i * w * tj) ./ (1 + 1i * w * tj));
+  late = t > 0.5;
+  if max (abs (f(late) - imag (d * exp (1i * w * t(late))))) > 5e-4 * abs (d), error ('off by more than the step explains'); end
+end
+
+% Relaxation after a jump: F = K + K1 exp (-t K1 / C).
+function test_a_zener_element_relaxes ()
+  h = 1e-5;
+  t = 0:h:0.1;
+  f = qn.force (qn.zener ('stiffness', 100, 'spring', 300, 'damper', 6), ones (size (t)), zeros (size (t)), h);
+  expect_equal (f, 100 + 300 * exp (-50 * t), 1e-3);
+end
+
+function test_every_law_is_described_with_its_numbers_and_read_back_from_its_handle ()
+  laws = {qn.law('power', 'stiffness', 11, 'exponent', 3), qn.law('exponential', 'scale', 11, 'base', 7), ...
+          qn.law('table', 'displacement', [0 1 5], 'force', [0 11 12]), qn.law('maxwell', 'springs', [11 5], 'dampers', [2 1], 'stiffness', 4), ...
+          qn.law('dahl', 'stiffness', 11, 'slip', 3), qn.law('stickslip', 'contact', 11, 'slip', 30, 'stiffness', 5, 'ground', 2), ...
+          qn.law('clima2', 'displacement', [0 1], 'normal', [0 11], 'growth', [3 4], 'friction', 0.2)};
+  for k = 1:numel (laws)
+    law = laws{k};
+    text = qn.describe (law);
+    if isempty (strfind (text, '11')), error ('no number in "%s"', text); end
+    t = qn.impl.traits (law, 1);
+    e = qn.element (law, eye (max (t.rows, 1)), 'step', 0.5, 'state', 4);
+    i = quarn ('chandleset', 1003, e);
+    if isempty (strfind (qn.describe (i), text)), error ('"%s" is not in "%s"', text, qn.describe (i)); end
+    back = qn.impl.unpack_law (quarn ('chandleget', i));
+    expect_equal (struct2cell (back.parameters), struct2cell (law.parameters));
+    quarn ('chandleclear', i);
+  end
+end
+
+function test_an_integrator_is_described ()
+  sim = qn.simulation (qn.modal (4, 1), 'step', 0.01, 'steps', 10, 'scheme', 'linear');
+  text = qn.describe (qn.impl.integrator (sim, 1, 11));
+  if isempty (strfind (text, 'beta 0.166667, gamma 0.5, step 0.01 s, 1 modes')), error ('got %s', text); end
+end

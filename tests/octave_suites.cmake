@@ -1,0 +1,17 @@
+# The module in real Octave, one test a suite. The sanitizer's library must be the first in the host's process; the host's own leaks are
+# not ours to report.
+set(host_environment "")
+if(QUARN_SANITIZE)
+  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libasan.so
+                  OUTPUT_VARIABLE sanitizer_library OUTPUT_STRIP_TRAILING_WHITESPACE)
+  set(host_environment
+    LD_PRELOAD=${sanitizer_library} ASAN_OPTIONS=detect_leaks=0:quarantine_size_mb=16:malloc_context_size=1 UBSAN_OPTIONS=print_stacktrace=1 QUARN_SANITIZED=1)
+endif()
+set(octave_run ${OCTAVE_CLI} --no-history -qf ${CMAKE_CURRENT_LIST_DIR}/octave/run_suite.m)
+file(GLOB suites CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/octave/suites/suite_*.m)
+foreach(file ${suites})
+  get_filename_component(suite ${file} NAME_WE)
+  string(REGEX REPLACE "^suite_" "octave." name ${suite})
+  add_test(NAME ${name} COMMAND ${octave_run} ${suite} $<TARGET_FILE_DIR:quarn>)
+  set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${host_environment}")
+endforeach()

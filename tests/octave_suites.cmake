@@ -7,6 +7,10 @@ if(QUARN_SANITIZE)
   set(host_environment
     LD_PRELOAD=${sanitizer_library} ASAN_OPTIONS=detect_leaks=0:quarantine_size_mb=16:malloc_context_size=1 UBSAN_OPTIONS=print_stacktrace=1 QUARN_SANITIZED=1)
 endif()
+# Beside the module, where the runner looks for it.
+add_library(address_of MODULE ${CMAKE_CURRENT_LIST_DIR}/octave/address_of.c)
+target_link_libraries(address_of PRIVATE octave_mex)
+set_target_properties(address_of PROPERTIES PREFIX "" SUFFIX ".mex" LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/octave)
 set(octave_run ${OCTAVE_CLI} --no-history -qf ${CMAKE_CURRENT_LIST_DIR}/octave/run_suite.m)
 file(GLOB suites CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/octave/suites/suite_*.m)
 foreach(file ${suites})

@@ -35,13 +35,15 @@
 %   recipes        qn.gap, qn.stop, qn.bilinear, qn.cubic, qn.slider, qn.iwan, qn.zener, qn.maxwell, qn.bearing
 %   simulation     qn.scheme, qn.simulation, qn.check, qn.advise, qn.run, qn.resume
 %   results        qn.displacement, qn.velocity, qn.energies, qn.dissipated, qn.contacts, qn.spectrum, qn.srs
-%   pictures       qn.plot.history, qn.plot.phase, qn.plot.loop, qn.plot.orbit, qn.plot.waterfall
+%   pictures       qn.plot.page, qn.plot.panel, qn.plot.picture, qn.plot.series, qn.plot.phase, qn.plot.loop, qn.plot.orbit,
+%                  qn.plot.waterfall
 %   without time   qn.static, qn.harmonic, qn.backbone
+%   setting up     install_quarn, qn.selftest
 %
 % Example
 %   model = qn.modal (4e4, 1, 'damping', 0.01);
 %   stop = qn.gap ('gap', 0.002, 'stiffness', 1e6);
-%   sim = qn.simulation (model, 'step', 1e-4, 'until', 0.5, 'load', {qn.command (model, 1), @(t) 200 * sin (150 * t)}, ...
+%   sim = qn.simulation (model, 'step', 1e-4, 'until', 0.5, 'load', {qn.command(model, 1), @(t) 200 * sin (150 * t)}, ...
 %                        'elements', {stop, qn.observe(model, 1)});
 %   res = qn.run (sim);
 %   qn.contacts (res, 1)

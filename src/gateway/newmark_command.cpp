@@ -32,7 +32,7 @@ void commandDiagNewmark(int /*nlhs*/, mxArray* /*plhs*/[], int nrhs, const mxArr
   integrator->initCb(c, prhs[2], prhs[7], prhs[8], forces, n - 1);
   if (integrator->steps() == 0) return;
   integrator->checkRun(c, forces, n - 1);
-  for (int j = 0; j < integrator->steps(); ++j) integrator->doStep(forces, n - 1, j, c);
+  integrator->run(forces, n - 1, c);
 }
 
 }  // namespace quarn

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "gateway/command_table.h"
+#include "handles/hindex.h"
 #include "host/arrays.h"
 #include "host/errors.h"
 #include "sparse/sp_tbb.h"
@@ -50,6 +51,7 @@ bool run(const quarn::CommandRow& row, int nlhs, mxArray* plhs[], int nrhs, cons
 
 extern "C" [[gnu::visibility("default")]] void mexFunction(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
   registerExit();
+  quarn::cIndex.destroyRetired();
   if (nrhs == 0) {
     plhs[0] = mxCreateDoubleScalar(presence);
     return;

@@ -1,7 +1,5 @@
 #include "gateway/residual_command.h"
 
-#include <initializer_list>
-
 #include "gateway/nl_structures.h"
 #include "handles/handle_list.h"
 #include "host/errors.h"
@@ -17,26 +15,51 @@ namespace {
 void addHandles(const ROr& c, host::Doubles r, const mxArray* handles) {
   chandle** list = newHandleList(handles);
   const int n = fillVectP(list, handles);
-  for (int i = 0; i < n; ++i) {
-    if (list[i]->type >= 0) list[i]->checkSizes(c, r.count);
-  }
-  for (int i = 0; i < n; ++i) {
-    if (list[i]->type >= 0) list[i]->Residual(c, r.data);
-  }
+  addResiduals(list, n, c, r);
 }
 
 /// Half the quadratic form of a sparse matrix.
-mxArray* energy(const mxArray* matrix, double* x, std::size_t xLen, int N, const char* matrixName, const char* vectorName) {
-  mxArray* result = mxCreateDoubleMatrix(1, 1, mxREAL);
-  const SparseView m = sparseView(matrix, matrixName);
-  if (!x || !m.pr || N <= 0) return result;
-  if (!m.ir) host::fail("Implemented for sparse matrices");
-  checkLength(xLen, N, vectorName, "one for each row of u");
-  checkLines(m, N, xLen, matrixName, vectorName);
-  double* value = mxGetPr(result);
-  phi1tmphi2_mkl(x, nullptr, x, nullptr, m.pr, m.ir, m.jc, N, value, nullptr);
-  *value *= 0.5;
-  return result;
+class Energy {
+ public:
+  /// Refuses what value would read outside the arrays.
+  Energy(const mxArray* a, const char* name, const double* vector, std::size_t length, const char* vectorName, int rows)
+      : matrix(sparseView(a, name)), x(vector), N(rows) {
+    if (!x || !matrix.pr || N <= 0) {
+      matrix = {};
+      return;
+    }
+    if (!matrix.ir) host::fail("Implemented for sparse matrices");
+    checkLength(length, N, vectorName, "one for each row of u");
+    checkLines(matrix, N, length, name, vectorName);
+  }
+
+  double value() const {
+    double form = 0.0;
+    if (matrix.pr) phi1tmphi2_mkl(x, nullptr, x, nullptr, matrix.pr, matrix.ir, matrix.jc, N, &form, nullptr);
+    return 0.5 * form;
+  }
+
+ private:
+  SparseView matrix;
+  const double* x;
+  int N;
+};
+
+struct Model {
+  const mxArray* K;   ///< cell {M, C, K}
+  const mxArray* NL;  ///< list of nonlinear elements; null where there is none
+};
+
+Model readModel(const mxArray* model) {
+  const bool matrices = mxIsCell(model);
+  if (!matrices && !mxIsStruct(model)) {
+    host::refuse("the model must be a chandle vector, a cell {M, C, K} or a struct with a field \"K\", got %s", host::describe(model).text);
+  }
+  const mxArray* K = matrices ? model : host::field(model, "K");
+  if (host::cols(K) <= 2) host::fail("model.K must be a 3*1 cell array");
+  if (!mxIsCell(K)) host::refuse("model.K must be a cell {M, C, K}, got %s", host::describe(K).text);
+  const mxArray* NL = matrices ? nullptr : host::field(model, "NL");
+  return {K, NL && mxIsCell(NL) ? NL : nullptr};
 }
 
 }  // namespace
@@ -44,27 +67,25 @@ mxArray* energy(const mxArray* matrix, double* x, std::size_t xLen, int N, const
 void commandResidual(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
   const ROr c = getROr(nrhs, prhs);
   const host::Doubles r = pmatDoubles(prhs[1], "r");
-  const mxArray* model = prhs[2];
-  if (host::isClass(model, "chandle")) {
-    addHandles(c, r, model);
+  if (host::isClass(prhs[2], "chandle")) {
+    addHandles(c, r, prhs[2]);
     return;
   }
-  const bool matrices = mxIsCell(model);
-  const mxArray* K = matrices ? model : host::field(model, "K");
-  if (!matrices && !mxIsStruct(model)) {
-    host::refuse("the model must be a chandle vector, a cell {M, C, K} or a struct with a field \"K\", got %s", host::describe(model).text);
+  const Model model = readModel(prhs[2]);
+  const bool energies = nlhs == 2;
+
+  // Everything is looked at before the first write.
+  const KorvTerm terms[] = {{-2, c, model.K, r}, {-3, c, model.K, r}, {-1, c, model.K, r}};
+  const Energy kinetic(energies ? host::cell(model.K, 0) : nullptr, "the mass matrix", c.v, c.vLen, "v", c.N);
+  const Energy strain(energies ? host::cell(model.K, 2) : nullptr, "the stiffness matrix", c.u, c.uLen, "u", c.N);
+  const int checked = model.NL ? checkNlStructures(c, r, model.NL, nrhs, prhs) : 0;
+
+  for (const KorvTerm& term : terms) term.add();
+  if (energies) {
+    plhs[0] = mxCreateDoubleScalar(kinetic.value());
+    plhs[1] = mxCreateDoubleScalar(strain.value());
   }
-  if (host::cols(K) <= 2) host::fail("model.K must be a 3*1 cell array");
-  if (!mxIsCell(K)) host::refuse("model.K must be a cell {M, C, K}, got %s", host::describe(K).text);
-  const mxArray* NL = matrices ? nullptr : host::field(model, "NL");
-  const bool elements = NL && mxIsCell(NL);
-  const int checked = elements ? checkNlStructures(c, r, NL, nrhs, prhs) : 0;
-  for (const int code : {-2, -3, -1}) KorvResidual(code, c, K, r);
-  if (nlhs == 2) {
-    plhs[0] = energy(host::cell(K, 0), c.v, c.vLen, c.N, "the mass matrix", "v");
-    plhs[1] = energy(host::cell(K, 2), c.u, c.uLen, c.N, "the stiffness matrix", "u");
-  }
-  if (elements) addNlStructures(c, r, NL, nrhs, prhs, checked);
+  if (model.NL) addNlStructures(c, r, model.NL, nrhs, prhs, checked);
 }
 
 }  // namespace quarn

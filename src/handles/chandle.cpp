@@ -1,5 +1,7 @@
 #include "handles/chandle.h"
 
+#include "host/user_code.h"
+
 namespace quarn {
 
 mxArray* chandle::get_val() {
@@ -11,9 +13,12 @@ mxArray* chandle::get_val() {
 }
 
 void chandle::doFree() {
-  if (val && type != 1003) mxDestroyArray(val);
+  mxArray* old = type != 1003 ? val : nullptr;
   val = nullptr;
   type = -1;
+  if (!old) return;
+  const host::UserCode running;  // the value may hold objects with a clean-up
+  mxDestroyArray(old);
 }
 
 }  // namespace quarn

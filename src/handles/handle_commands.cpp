@@ -40,11 +40,12 @@ void commandChandleSet(int /*nlhs*/, mxArray* plhs[], int nrhs, const mxArray* p
   const int index = cIndex.get_free_index();
   if (host::isClass(prhs[2], "v_handle")) host::fail("KORV:quarn:NonHandle", "xxx");
   mxArray* value = host::duplicate(prhs[2]);
+  h->set_val(code, value);
+  plhs[0] = mxCreateDoubleScalar(index);
+  cIndex.setStack(index, h);
+  // Nothing can fail any more: what outlives the call has an index, and the caller has it.
   mexMakeArrayPersistent(value);
   mexMakeMemoryPersistent(h);
-  h->set_val(code, value);
-  cIndex.setStack(index, h);
-  plhs[0] = mxCreateDoubleScalar(index);
 }
 
 void commandChandleGet(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {

@@ -15,7 +15,10 @@ namespace {
 chandle* fromElement(const mxArray* list, std::size_t i) {
   mxArray* element = host::cell(list, i);
   const mxArray* type = host::field(element, "type");
-  if (!type) host::refuse("element %zu of the handle list must be a struct with a field \"type\", got %s", i + 1, host::describe(element).text);
+  if (!type) {
+    host::refuse("expected a struct with a field \"type\", got %s%s", host::describe(element).text,
+                 element && mxIsStruct(element) ? " without one" : "");
+  }
   int ok = 0;
   chandle* h = chandleInitByType(host::toInt(host::number(type, "field \"type\"")), &ok);
   h->set_val(host::toInt(mxGetScalar(type)), element);
@@ -42,6 +45,7 @@ chandle* fromRegistry(int key) {
 
 void gatherElements(chandle** out, const mxArray* list, std::size_t n) {
   for (std::size_t i = 0; i < n; ++i) {
+    host::setElement(static_cast<int>(i) + 1);
     out[i] = fromElement(list, i);
     out[i]->initCpt();
   }
@@ -54,6 +58,7 @@ void gatherRegistered(chandle** out, const mxArray* list, std::size_t n) {
   for (std::size_t i = 0; i < n; ++i) keys[i] = keyOf(list, place, i);
   mxDestroyArray(place);
   for (std::size_t i = 0; i < n; ++i) {
+    host::setElement(static_cast<int>(i) + 1);
     out[i] = fromRegistry(keys[i]);
     out[i]->initCpt();
   }
@@ -61,6 +66,21 @@ void gatherRegistered(chandle** out, const mxArray* list, std::size_t n) {
 }
 
 }  // namespace
+
+void addResiduals(chandle** list, int n, const ROr& c, host::Doubles r) {
+  const auto live = [](const chandle* h) { return h && h->type >= 0; };
+  for (int i = 0; i < n; ++i) {
+    host::setElement(i + 1);
+    if (live(list[i])) list[i]->checkSizes(c, r.count);
+  }
+  host::setElement(0);
+  for (int i = 0; i < n; ++i) {
+    if (live(list[i])) list[i]->takeWork();
+  }
+  for (int i = 0; i < n; ++i) {
+    if (live(list[i])) list[i]->Residual(c, r.data);
+  }
+}
 
 chandle** newHandleList(const mxArray* list) {
   return static_cast<chandle**>(mxCalloc(host::count(list) + 1, sizeof(chandle*)));
@@ -74,6 +94,7 @@ int fillVectP(chandle** out, const mxArray* list) {
   } else {
     gatherRegistered(out, list, n);
   }
+  host::setElement(0);
   return static_cast<int>(n);
 }
 

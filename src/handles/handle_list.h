@@ -2,6 +2,7 @@
 #pragma once
 
 #include "handles/chandle.h"
+#include "host/arrays.h"
 
 namespace quarn {
 
@@ -11,6 +12,10 @@ namespace quarn {
 /// Raises KORV:quarn:NonHandle "Handle does not exist" for an index without a handle, "Not a valid chandle type", and what
 /// the handles' initCpt raise.
 int fillVectP(chandle** out, const mxArray* list);
+
+/// Adds the contributions of the n handles to r, in order, after all of them have been checked. Null places and handles whose type is
+/// negative (freed ones) are passed over.
+void addResiduals(chandle** list, int n, const ROr& c, host::Doubles r);
 
 /// Room for the handles of list, in host memory of the current call.
 chandle** newHandleList(const mxArray* list);

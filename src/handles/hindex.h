@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <map>
+#include <vector>
 
 #include "handles/chandle.h"
 
@@ -20,15 +21,22 @@ class hindex {
   void setStack(int i, chandle* h) { entries[i] = h; }
   /// -1: destroys every handle; the keys stay, with null, and counter goes on. Other keys: destroys the handle, if there is one, and erases
   /// the key. When i is the index to be issued next, counter becomes i - 1.
+  /// Within a function of the user's that a command waits for, handles leave the registry but live on until destroyRetired: that
+  /// command may be at work with them.
   void free_index(int i);
+  /// Destroys handles that were freed while a command waited for the user's functions. Called at every entry of the module; does nothing
+  /// while one still waits.
+  void destroyRetired();
 
   const std::map<std::int32_t, chandle*>& all() const { return entries; }
 
  private:
   static void destroy(chandle* h);
+  void release(chandle* h);
 
   std::int32_t counter = 0;
   std::map<std::int32_t, chandle*> entries;
+  std::vector<chandle*> retired;
 };
 
 extern hindex cIndex;

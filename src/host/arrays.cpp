@@ -61,7 +61,7 @@ Ints int32s(const mxArray* a, const char* name) {
 }
 
 double number(const mxArray* a, const char* name) {
-  const bool scalar = a && (mxIsNumeric(a) || mxIsLogical(a) || mxIsChar(a)) && !mxIsSparse(a) && count(a) > 0;
+  const bool scalar = a && (mxIsNumeric(a) || mxIsLogical(a)) && !mxIsSparse(a) && count(a) > 0;
   if (!scalar) refuse("%s must be a number, got %s", name, describe(a).text);
   return mxGetScalar(a);
 }

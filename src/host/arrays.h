@@ -41,7 +41,7 @@ bool isRealDouble(const mxArray* a);
 Doubles doubles(const mxArray* a, const char* name);
 /// Data of an int32 array; refuses any other class. Null (absent) is empty.
 Ints int32s(const mxArray* a, const char* name);
-/// First value of a numeric, logical or char array; refuses anything else, and an array without elements.
+/// First value of a numeric or logical array; refuses anything else, and an array without elements.
 double number(const mxArray* a, const char* name);
 
 /// Field of element 0 of a struct; null where there is none, or where a is not a struct or has no element.

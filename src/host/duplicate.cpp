@@ -6,17 +6,23 @@
 
 #include "host/arrays.h"
 #include "host/errors.h"
+#include "host/user_code.h"
 
 namespace quarn::host {
 
 mxArray* objectField(const mxArray* object, const char* name) {
-  if (!object) return nullptr;
-  if (mxArray* property = mxGetProperty(object, 0, name)) return property;
+  if (count(object) == 0) return nullptr;
+  {
+    const UserCode running;
+    if (mxArray* property = mxGetProperty(object, 0, name)) return property;
+  }
 #ifdef QUARN_HOST_OCTAVE
-  // An object of an old-style class: its fields are reached through struct().
-  mxArray* in = const_cast<mxArray*>(object);
+  // An object of an old-style class: its fields are reached through struct(), the host's own. A method of that name could change arrays
+  // that the command has checked.
+  mxArray* in[2] = {mxCreateString("struct"), const_cast<mxArray*>(object)};
   mxArray* out = nullptr;
-  callHost(1, &out, 1, &in, "struct");
+  callHost(1, &out, 2, in, "builtin");
+  mxDestroyArray(in[0]);
   return field(out, name);
 #else
   return mxGetField(object, 0, name);
@@ -37,7 +43,12 @@ void copyBytes(void* to, const void* from, std::size_t bytes) {
 
 // Octave leaks the extents of a struct or cell that are asked for before the first look into it: the look comes first.
 
-mxArray* duplicateStruct(const mxArray* a) {
+/// Values are copied level by level on the host's stack, which Octave's own clean-up of them uses as well.
+constexpr int deepest = 1000;
+
+mxArray* duplicateLevel(const mxArray* a, int level);
+
+mxArray* duplicateStruct(const mxArray* a, int level) {
   const int fields = mxGetNumberOfFields(a);
   const std::size_t n = count(a);
   if (n > 0 && fields > 0) mxGetFieldByNumber(a, 0, 0);
@@ -48,19 +59,19 @@ mxArray* duplicateStruct(const mxArray* a) {
   for (std::size_t i = 0; i < n; ++i) {
     for (int f = 0; f < fields; ++f) {
       const auto index = static_cast<mwIndex>(i);
-      mxSetFieldByNumber(copy, index, f, duplicate(mxGetFieldByNumber(a, index, f)));
+      mxSetFieldByNumber(copy, index, f, duplicateLevel(mxGetFieldByNumber(a, index, f), level + 1));
     }
   }
   return copy;
 }
 
-mxArray* duplicateCell(const mxArray* a) {
+mxArray* duplicateCell(const mxArray* a, int level) {
   const std::size_t n = count(a);
   if (n > 0) mxGetCell(a, 0);
   mxArray* copy = mxCreateCellArray(mxGetNumberOfDimensions(a), mxGetDimensions(a));
   for (std::size_t i = 0; i < n; ++i) {
     const auto index = static_cast<mwIndex>(i);
-    mxSetCell(copy, index, duplicate(mxGetCell(a, index)));
+    mxSetCell(copy, index, duplicateLevel(mxGetCell(a, index), level + 1));
   }
   return copy;
 }
@@ -99,16 +110,19 @@ mxArray* duplicateByHost(const mxArray* a) {
   return out;
 }
 
-}  // namespace
-
-mxArray* duplicate(const mxArray* a) {
+mxArray* duplicateLevel(const mxArray* a, int level) {
   if (!a) return mxCreateDoubleMatrix(0, 0, mxREAL);
-  if (mxIsStruct(a)) return duplicateStruct(a);
-  if (mxIsCell(a)) return duplicateCell(a);
+  if (level > deepest) refuse("a value may be nested %d levels deep, this one is deeper", deepest);
+  if (mxIsStruct(a)) return duplicateStruct(a, level);
+  if (mxIsCell(a)) return duplicateCell(a, level);
   if (mxIsSparse(a)) return duplicateSparse(a);
   if (mxIsNumeric(a) || mxIsChar(a) || mxIsLogical(a)) return duplicateValues(a);
   return duplicateByHost(a);
 }
+
+}  // namespace
+
+mxArray* duplicate(const mxArray* a) { return duplicateLevel(a, 0); }
 
 #endif
 

@@ -12,17 +12,20 @@ namespace quarn::host {
 /// The command word that refuse() puts into its texts. The gateway sets it at every entry; the pointer must stay valid.
 void setCommand(const char* word) noexcept;
 
+/// The element of a handle list, counted from 1, that refuse() names behind the command; 0: none. Every entry begins with none.
+void setElement(int element) noexcept;
+
 /// Raises TEXT under IDENTIFIER.
 [[noreturn]] void fail(const char* identifier, const char* text);
 
 /// Raises TEXT without an identifier.
 [[noreturn]] void fail(const char* text);
 
-/// Raises "quarn COMMAND : <formatted text>". The text says what is wrong, what was expected and what was got.
+/// Raises "quarn COMMAND : <formatted text>", or "quarn COMMAND : element K : <formatted text>". The text says what is wrong, what was expected and what was got.
 [[noreturn]] [[gnu::format(printf, 1, 2)]] void refuse(const char* format, ...);
 
 /// Calls a function of the host's language. Its error ends the call, with identifier and text unchanged. The function may call quarn
-/// itself; afterwards texts name the command of this call again.
+/// itself; afterwards texts name the command of this call again. While it runs, the module cannot be cleared.
 void callHost(int nlhs, mxArray* plhs[], int nrhs, mxArray* prhs[], const char* function);
 
 }  // namespace quarn::host

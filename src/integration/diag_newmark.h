@@ -11,7 +11,7 @@
 
 #include "handles/chandle.h"
 #include "host/arrays.h"
-#include "integration/newmark_kernels.h"
+#include "integration/newmark_fused.h"
 
 namespace quarn {
 
@@ -39,11 +39,20 @@ class chandleDiagNewmark final : public chandle {
   /// One step, from time column j to j+1, with the nh force handles of list.
   void doStep(chandle** list, int nh, int j, ROr c);
 
+  /// All steps, with the results of doStep for each. checkRun must have passed.
+  void run(chandle** list, int nh, const ROr& c);
+
   int steps() const { return NT > 0 ? NT - 1 : 0; }
 
  private:
   void bindWork(const mxArray* mem);
   void bindOutputs(const mxArray* out);
+  void plan(const ROr& c, chandle** list, int nh);
+  void foldDiagonals(const ROr& c, chandle** list, int nh);
+  bool apart(const ROr& c) const;
+  void finishPass(const ROr& c);
+  bool saveDue(double t) const { return jSave < NSave && t >= saveTimes.data[jSave]; }
+  double time(int column) const { return tft[static_cast<std::ptrdiff_t>(Nb + 1) * column]; }
   void save(double t, const ROr& c);
   void saveStore(double t);
 
@@ -70,6 +79,12 @@ class chandleDiagNewmark final : public chandle {
   host::Doubles storeTimes;     ///< out."FNL"."data"
   host::Doubles storeDef;       ///< out."FNL"."def"
   NewmarkCoefficients coefficients{};
+
+  // How the steps of a run are done; see plan().
+  bool onePass = false;     ///< copies, predictor, load and folded diagonals in one pass over the modes
+  int folded = 0;           ///< handles at the head of the list whose forces are in that pass
+  DiagonalForces diagonals;
+  bool undisturbed = false; ///< nothing but loads and folded diagonals acts, and nothing looks at the work array between the steps
 };
 
 /// Calls the host's "drawnow", then "pause" with 1e-5 s, so that figures are drawn. No command calls it.

@@ -95,9 +95,9 @@ void chandleDiagNewmark::initCb(const ROr& c, const mxArray* model, const mxArra
 
 void chandleDiagNewmark::checkRun(const ROr& c, chandle** list, int nh) {
   const long long length = std::max(N, Ndef);
-  checkLength(c.uLen, length, "u", "one for each mode or row of def");
-  checkLength(c.vLen, length, "v", "one for each mode or row of def");
-  checkLength(c.aLen, length, "a", "one for each mode or row of def");
+  checkLength(c.uLen, length, "u", "one for each mode or row of out.def, whose columns are the save times");
+  checkLength(c.vLen, length, "v", "one for each mode or row of out.def, whose columns are the save times");
+  checkLength(c.aLen, length, "a", "one for each mode or row of out.def, whose columns are the save times");
   if (!uva && N > 0) host::refuse("mem.uva.uva, the work array, must hold %lld values, got none", 4LL * N);
   if (uva.count < 3 * static_cast<std::size_t>(Ndef) + static_cast<std::size_t>(N)) host::fail("KORV:quarn:Invalid", "wrong uva size");
   const std::size_t forceLen = uva.count - 3 * static_cast<std::size_t>(Ndef);
@@ -105,8 +105,14 @@ void chandleDiagNewmark::checkRun(const ROr& c, chandle** list, int nh) {
   NFNL = static_cast<std::int32_t>(std::min({static_cast<std::size_t>(NFNL), store.count, snapshot.count}));
   coefficients = {data[0], data[1], data[2], data[3], data[4]};
   for (int k = 0; k < nh; ++k) {
+    host::setElement(k + 2);  // the integrator is the first
     if (list[k] && list[k]->type >= 0) list[k]->checkSizes(c, forceLen);
   }
+  host::setElement(0);
+  for (int k = 0; k < nh; ++k) {
+    if (list[k] && list[k]->type >= 0) list[k]->takeWork();
+  }
+  plan(c, list, nh);
 }
 
 }  // namespace quarn

@@ -22,18 +22,26 @@ void chandleDiagNewmark::doStep(chandle** list, int nh, int j, ROr c) {
   const double t = column[rows];
   const double* loads = column + 1;
   c.t = t;
+  c.sums = onePass ? N : 0;
   data[5] = t;
 
   const auto block = static_cast<std::size_t>(Ndef);
-  copyValues(uva.data, c.u, block);
-  copyValues(uva.data + block, c.v, block);
-  copyValues(uva.data + 2 * block, c.a, block);
+  if (!onePass) {
+    copyValues(uva.data, c.u, block);
+    copyValues(uva.data + block, c.v, block);
+    copyValues(uva.data + 2 * block, c.a, block);
+  }
   if (NFNL > 0) copyValues(snapshot.data, store.data, static_cast<std::size_t>(NFNL));
   if (iopt) host::storeClipped(c.FNL, c.fnlLen, iopt[0], loads, Nb);
 
-  newmarkPredict(c.u, c.v, c.a, N, coefficients);
-  newmarkLoad(fmod, r.data + N, loads, N, Nb);
-  for (int k = 0; k < nh; ++k) {
+  if (onePass) {
+    newmarkBegin({c.u, c.v, c.a, N}, uva.data, uva.data + block, uva.data + 2 * block, fmod, r.data + N, loads, Nb, diagonals, coefficients);
+    finishPass(c);
+  } else {
+    newmarkPredict(c.u, c.v, c.a, N, coefficients);
+    newmarkLoad(fmod, r.data + N, N, loads, N, Nb);
+  }
+  for (int k = folded; k < nh; ++k) {
     if (!live(list[k])) continue;
 #ifdef QUARN_CHECKED
     list[k]->checkSizes(c, uva.count - 3 * block);
@@ -41,7 +49,7 @@ void chandleDiagNewmark::doStep(chandle** list, int nh, int j, ROr c) {
     list[k]->Residual(c, fmod);
   }
   newmarkCorrect(c.u, c.v, c.a, fmod, gain, N, coefficients);
-  for (int k = 0; k < nh; ++k) {
+  for (int k = folded; k < nh; ++k) {
     if (live(list[k])) list[k]->EndStep();
   }
   save(t, c);

@@ -19,10 +19,10 @@ void newmarkPredict(double* __restrict u, double* __restrict v, double* __restri
 }
 
 QUARN_PROCESSOR_VERSIONS
-void newmarkLoad(double* __restrict f, const double* __restrict r, const double* __restrict load, int n, int nb) {
+void newmarkLoad(double* __restrict f, const double* __restrict r, int ld, const double* __restrict load, int n, int nb) {
   for (int i = 0; i < n; ++i) f[i] = 0.0;
   for (int k = 0; k < nb; ++k) {
-    const double* column = r + static_cast<std::ptrdiff_t>(k) * n;
+    const double* column = r + static_cast<std::ptrdiff_t>(k) * ld;
     const double p = load[k];
     for (int i = 0; i < n; ++i) f[i] += column[i] * p;
   }

@@ -43,6 +43,9 @@ void checkTablePlace(const chandleNl_inout& h) {
   const long long end = nx > h.optLen ? LLONG_MAX : table + nx * (1 + ny);
   if (end > h.optLen) host::refuse("a table of %lld knots and %lld columns at opt(%lld) ends behind opt of %d values", nx, ny, table + 1, h.optLen);
   if (record + 3 > h.optLen) host::refuse("the search record at opt(%lld) ends behind opt of %d values", record + 1, h.optLen);
+  if (record < end && table < record + 3 && nx > 0) {
+    host::refuse("the search record at opt(%lld) to (%lld) lies on the table at opt(%lld) to (%lld)", record + 1, record + 3, table + 1, end);
+  }
   const double* knots = h.opt + table;
   for (long long i = 0; i + 1 < nx; ++i) {
     if (knots[i] > knots[i + 1]) {

@@ -41,9 +41,10 @@ void requireBlocks(const chandleNl_inout& h, const Layout& at) {
   requireBlock(h, "E", at.E, at.q);
 }
 
-/// Values of a committed page that can be written from offset on, at most n.
+/// Values of a committed page that can be written from offset on, at most n. An unlimited buffer has the largest total there is.
 std::ptrdiff_t room(std::size_t total, std::ptrdiff_t offset, int n) {
-  return std::clamp(static_cast<std::ptrdiff_t>(total) - offset, std::ptrdiff_t{0}, static_cast<std::ptrdiff_t>(n));
+  const auto first = static_cast<std::size_t>(offset);
+  return first < total ? static_cast<std::ptrdiff_t>(std::min(total - first, static_cast<std::size_t>(n))) : 0;
 }
 
 /// One element: u, v its values in the first pages, cu, cv the committed ones 2*unlLen further on.
@@ -104,8 +105,10 @@ void Maxw(chandleNl_inout* h, ROr ro) {
   const double dt = timeIncrement(h, ro);
   const int steps = host::toInt(h->opt[3]);
   const int elements = steps >= 1 ? h->iopt[4] : 0;
+  // "opt" may share memory with what a run writes: sub-steps can turn up where none were when the sizes were looked at.
+  if (elements > 0) checkMaxw(*h, ro);
   const Layout at(*h);
-  const std::ptrdiff_t Dv = static_cast<std::ptrdiff_t>(at.Dv);
+  const std::ptrdiff_t Dv = elements > 0 && at.q >= 0 ? static_cast<std::ptrdiff_t>(at.Dv) : 0;
   const std::ptrdiff_t committed = 2 * static_cast<std::ptrdiff_t>(h->unlLen);
   for (std::ptrdiff_t e = 0; e < elements; ++e) {
     const std::ptrdiff_t o = e * at.q;

@@ -20,8 +20,12 @@ int valuesOf(std::size_t n, const char* name) {
 /// Observed values: a page of zeros, then the product of the observation matrix.
 void observe(const SparseView& c, const double* x, double* page, int pageLen) {
   page[0] = 0.0;
-  if (pageLen > 0) std::memset(page, 0, static_cast<std::size_t>(pageLen) * sizeof(double));
+  for (int i = 1; i < pageLen; ++i) page[i] = 0.0;
   if (!c.pr) return;
+  if (c.ir && c.trans == 1) {
+    for (int i = 0; i < c.rows; ++i) page[i] += lineDot(c.ir, c.jc, c.pr, i, x);
+    return;
+  }
   const int dims[3] = {c.rows, c.cols, c.trans};
   Prod_Mt_ub(dims, c.ir, c.jc, c.pr, x, page);
 }
@@ -31,7 +35,6 @@ void observe(const SparseView& c, const double* x, double* page, int pageLen) {
 void chandleNl_inout::initCpt() {
   b = sparseView(host::field(val, "b"), "b");
   c = sparseView(host::field(val, "c"), "c");
-  bWork = nullptr;
   if (b.throughObject || c.throughObject) verified = false;
   readStates();
   readOptions();
@@ -53,6 +56,7 @@ void chandleNl_inout::readStates() {
     unlLen = valuesOf(static_cast<std::size_t>(dims[0]) * static_cast<std::size_t>(dims[1]), "unl");
     unlSlices = valuesOf(static_cast<std::size_t>(dims[2]), "unl");
   }
+  if (!unl) unlLen = 0;  // extents without values: no pages, or an object whose buffer is null
   const host::Doubles s = pmatDoubles(host::field(val, "snl"), "snl");
   snl = s ? s.data : unl;
   snlTotal = s ? s.count : unlTotal;
@@ -84,10 +88,14 @@ void chandleNl_inout::Residual(ROr ro, double* r) {
   if (vnl) observe(c, ro.v, vnl, unlLen);
   if (unl) observe(c, ro.u, unl, unlLen);
   law(this, ro);
-  if (snl && b.pr) {
-    const int dims[3] = {b.rows, b.cols, b.trans};
-    Add_Mt_ub(dims, b.ir, b.jc, b.pr, snl, r, bWork);
+  if (!snl || !b.pr) return;
+  if (bSparse && b.cols <= ro.sums) {
+    addScatteredTouched(b.rows, b.ir, b.jc, b.pr, snl, r, bWork);
+    return;
   }
+  bSparse = false;
+  const int dims[3] = {b.rows, b.cols, b.trans};
+  Add_Mt_ub(dims, b.ir, b.jc, b.pr, snl, r, bWork);
 }
 
 void chandleNl_inout::EndStep() {
@@ -109,12 +117,20 @@ std::int64_t chandleNl_inout::stateEnd() const { return ioptLen >= 4 ? static_ca
 void chandleNl_inout::checkSizes(const ROr& ro, std::size_t rLen) {
   checkViews(ro, rLen);
   check(*this, ro);
-  if (snl && b.pr && b.sparse() && b.trans == 1 && !bWork) {
-    bWork = static_cast<double*>(mxCalloc(static_cast<std::size_t>(std::max(b.cols, 1)), sizeof(double)));
-  }
+}
+
+void chandleNl_inout::takeWork() {
+  const bool scatters = snl && b.pr && b.sparse() && b.trans == 1;
+  bWork = scatters ? static_cast<double*>(mxCalloc(static_cast<std::size_t>(std::max(b.cols, 1)), sizeof(double))) : nullptr;
+  bSparse = scatters && b.rows > 0 && 8LL * (b.jc[b.rows] - b.jc[0]) <= b.cols;
 }
 
 void chandleNl_inout::checkViews(const ROr& ro, std::size_t rLen) {
+  for (const double* buffer : {unl, vnl}) {
+    if (buffer && (buffer == ro.u || buffer == ro.v || buffer == ro.a)) {
+      host::refuse("\"%s\" and u, v or a are one array: the observation would overwrite the state", buffer == unl ? "unl" : "vnl");
+    }
+  }
   if (vnl && unlLen > 0) checkLength(vnlTotal, unlLen, "vnl", "as many as a page of unl");
   if (c.pr && (vnl || unl)) checkObservation(ro);
   if (b.pr && snl) checkCommand(rLen);

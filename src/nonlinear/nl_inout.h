@@ -29,6 +29,7 @@ class chandleNl_inout final : public chandle {
   void EndStep() override;
   void Residual(ROr ro, double* r) override;
   void checkSizes(const ROr& ro, std::size_t rLen) override;
+  void takeWork() override;
   std::int64_t stateEnd() const override;
 
   SparseView c;
@@ -59,7 +60,8 @@ class chandleNl_inout final : public chandle {
 
   int cLargest = -1;
   int bLargest = -1;
-  double* bWork = nullptr;  ///< work vector of the scatter, host memory of the current call
+  double* bWork = nullptr;  ///< work vector of the scatter, host memory of the current call; zero between the steps if bSparse
+  bool bSparse = false;     ///< b touches few of its columns
 };
 
 /// Copies forces to ro.FNL (from iopt[0] on, if not negative) and state blocks to ro.u (from iopt[1] on, if positive): for each of

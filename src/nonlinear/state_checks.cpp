@@ -5,6 +5,7 @@ namespace quarn {
 
 void requireParameters(const chandleNl_inout& h, const char* law, int n) {
   if (h.optLen < n) host::refuse("\"opt\" of law \"%s\" must hold %d values or more, got %d", law, n, h.optLen);
+  if (h.unl && h.unl == h.vnl) host::refuse("\"unl\" and \"vnl\" are one array: law \"%s\" needs each with its own zeros (...)", law);
   const int needed = h.ioptLen > 1 && h.iopt[1] <= 0 ? 2 : 5;
   if (h.ioptLen < needed) host::refuse("\"iopt\" of law \"%s\" must hold %d values or more, got %d", law, needed, h.ioptLen);
 }

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <climits>
+
 #include "host/arrays.h"
 #include "nonlinear/nl_inout.h"
 
@@ -15,16 +18,19 @@ void StoreState(chandleNl_inout* h, ROr ro) {
   const long long skip = h->iopt[2];
   const long long length = h->iopt[3];
   const int blocks = h->iopt[4];
-  const auto total = static_cast<unsigned long long>(h->unlTotal);
+  const auto total = static_cast<long long>(std::min<std::size_t>(h->unlTotal, LLONG_MAX));
+  if (length <= 0) return;
+  const long long advance = skip + length;
   long long cursor = 0;
   for (int k = 0; k < blocks; ++k) {
     cursor += skip;
+    // Once the cursor has left unl for good, or has copied the same block so often that nothing changes any more, the rest is idle.
+    if ((advance > 0 && cursor >= total) || (advance < 0 && cursor + length <= 0) || (advance == 0 && k > total)) return;
     // What lies in front of unl or behind it is not there to be copied.
     const long long ahead = cursor < 0 ? -cursor : 0;
-    long long n = length - ahead;
-    if (cursor + ahead < 0 || static_cast<unsigned long long>(cursor + ahead) >= total) n = 0;
-    if (n > 0 && static_cast<unsigned long long>(cursor + ahead + n) > total) n = static_cast<long long>(total) - (cursor + ahead);
-    host::storeClipped(ro.u, ro.uLen, h->iopt[1] + ahead, h->unl + cursor + ahead, n);
+    const long long from = cursor + ahead;
+    const long long n = std::min(length - ahead, total - from);
+    if (n > 0) host::storeClipped(ro.u, ro.uLen, h->iopt[1] + ahead, h->unl + from, n);
     cursor += length;
   }
 }

@@ -10,8 +10,15 @@ namespace quarn {
 
 namespace {
 
-double lineDot(const int* ir, const int* jc, const double* pr, int i, const double* x) {
-  return cblas_ddoti(jc[i + 1] - jc[i], pr + jc[i], ir + jc[i], x);
+/// cblas_daxpyi of line i into w. A first product is rounded once, whether or not the routine fuses it with the sum.
+void addLine(const int* ir, const int* jc, const double* pr, int i, double u, double* w) {
+  const int first = jc[i];
+  const int entries = jc[i + 1] - first;
+  if (entries == 1 && u != 0.0 && w[ir[first]] == 0.0) {
+    w[ir[first]] = 0.0 + u * pr[first];
+  } else {
+    cblas_daxpyi(entries, u, pr + first, ir + first, w);
+  }
 }
 
 void addGathered(int rows, const int* ir, const int* jc, const double* pr, const double* u, double* y) {
@@ -20,7 +27,7 @@ void addGathered(int rows, const int* ir, const int* jc, const double* pr, const
 
 void addScattered(int rows, int cols, const int* ir, const int* jc, const double* pr, const double* u, double* y, double* w) {
   std::fill(w, w + std::max(cols, 0), 0.0);
-  for (int i = 0; i < rows; ++i) cblas_daxpyi(jc[i + 1] - jc[i], u[i], pr + jc[i], ir + jc[i], w);
+  for (int i = 0; i < rows; ++i) addLine(ir, jc, pr, i, u[i], w);
   for (int j = 0; j < cols; ++j) y[j] += w[j];
 }
 
@@ -38,6 +45,14 @@ void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, 
     for (int j = 0; j < cols; ++j) y[j] += pr[j] * u[0];
   } else if (rows > 0) {
     host::fail("Add_Mt_u implemented for sparse matrices");
+  }
+}
+
+void addScatteredTouched(int rows, const int* ir, const int* jc, const double* pr, const double* u, double* y, double* work) {
+  for (int i = 0; i < rows; ++i) addLine(ir, jc, pr, i, u[i], work);
+  for (int k = jc[0]; k < jc[rows]; ++k) {
+    y[ir[k]] += work[ir[k]];
+    work[ir[k]] = 0.0;
   }
 }
 

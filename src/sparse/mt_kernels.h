@@ -4,9 +4,18 @@
 // takes sparse views in both orientations, Prod only those flagged trans = 1, whose stored lines are the rows of M.
 #pragma once
 
+#include "sparse/blas.h"
 #include "sparse/sparse_view.h"
 
 namespace quarn {
+
+/// cblas_ddoti of line i. Lines of one entry, which pick a degree of freedom, are not worth the call: its sum starts from 0 as well.
+inline double lineDot(const int* ir, const int* jc, const double* pr, int i, const double* x) {
+  const int first = jc[i];
+  const int entries = jc[i + 1] - first;
+  if (entries == 1) return 0.0 + pr[first] * x[ir[first]];
+  return cblas_ddoti(entries, pr + first, ir + first, x);
+}
 
 /// Accumulates into y (in-out).
 ///   sparse, trans != 1: y[i] += line i . u                       for i < rows
@@ -18,6 +27,10 @@ void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, 
 
 /// The same with a work vector of the caller (cols values, contents lost), for callers that run many times.
 void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, const double* u, double* y, double* work);
+
+/// Add_Mt_ub for a sparse view with trans = 1 that touches few of its columns, into a y without negative zeros (of them, +0 + -0 would make 0): there the sums of
+/// the other columns, which are 0, change nothing. work: a value for each column, all zero before and after.
+void addScatteredTouched(int rows, const int* ir, const int* jc, const double* pr, const double* u, double* y, double* work);
 
 /// Product into y.
 ///   dense:              y = A*u, overwrites y (rows values)

@@ -1,6 +1,7 @@
 #include "sparse/projection_kernels.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "host/processor.h"
 #include "sparse/blas.h"
@@ -44,17 +45,32 @@ void lineProducts(double* g, const SparseLines& s, std::size_t i, const double* 
   for (; j < n; ++j) g[j] = cblas_ddoti(entries, val, ind, base + j * ld);
 }
 
+/// Neighbours in a row of a tile, which a compiler keeps in registers; it splits them where the processor's are shorter.
+constexpr std::size_t kLane = 4;
+using Lane [[gnu::vector_size(kLane * sizeof(double))]] = double;
+
 /// acc(a, b) += sum of g(l, a) * t(l, b) over the lines l in ascending order, for one tile.
 QUARN_PROCESSOR_VERSIONS
 void addTile(double* acc, std::size_t ldAcc, const double* g, std::size_t ldG, const double* t, std::size_t ldT, std::size_t lines) {
-  double sum[kTileA][kTileB];
-  for (std::size_t a = 0; a < kTileA; ++a) std::copy(acc + a * ldAcc, acc + a * ldAcc + kTileB, sum[a]);
-  for (std::size_t l = 0; l < lines; ++l) {
+  Lane low[kTileA];
+  Lane high[kTileA];
+  static_assert(kTileB == 2 * kLane);
+  for (std::size_t a = 0; a < kTileA; ++a) {
+    std::memcpy(&low[a], acc + a * ldAcc, sizeof(Lane));
+    std::memcpy(&high[a], acc + a * ldAcc + kLane, sizeof(Lane));
+  }
+  for (std::size_t l = 0; l < lines; ++l, g += ldG, t += ldT) {
+    Lane b[2];
+    std::memcpy(b, t, sizeof b);
     for (std::size_t a = 0; a < kTileA; ++a) {
-      for (std::size_t b = 0; b < kTileB; ++b) sum[a][b] += g[l * ldG + a] * t[l * ldT + b];
+      low[a] += g[a] * b[0];
+      high[a] += g[a] * b[1];
     }
   }
-  for (std::size_t a = 0; a < kTileA; ++a) std::copy(sum[a], sum[a] + kTileB, acc + a * ldAcc);
+  for (std::size_t a = 0; a < kTileA; ++a) {
+    std::memcpy(acc + a * ldAcc, &low[a], sizeof(Lane));
+    std::memcpy(acc + a * ldAcc + kLane, &high[a], sizeof(Lane));
+  }
 }
 
 /// One sum over the lines for all pairs: acc(a, b) += sign * (column b of base) . (line products of column a).

@@ -16,6 +16,7 @@ namespace {
 
 constexpr int threads = 8;
 constexpr int grain = 1000;  // lines; a range of at most that many is never split
+constexpr int fewEntries = 30000;  // sooner done on the calling thread than workers are woken (some 10 microseconds)
 
 std::atomic<bool> workersStarted{false};
 
@@ -70,10 +71,9 @@ void runTasks(const Lines& all, const Body& body) {
 }
 
 template <class Body>
-void forLines(int n, const Body& body) {
-  if (n <= 0) return;
+void forLines(int n, int entries, const Body& body) {
   const Lines all(0, n, grain);
-  if (!all.is_divisible()) {
+  if (!all.is_divisible() || entries < fewEntries) {
     body(all);
     return;
   }
@@ -86,14 +86,14 @@ void forLines(int n, const Body& body) {
 }  // namespace
 
 void SparseMatVec(double* y, const double* x, const double* val, const int* ir, const int* jc, int n) {
-  if (!val) return;
-  forLines(n, iSparseMatVec{val, y, x, jc, ir});
+  if (!val || n <= 0) return;
+  forLines(n, jc[n] - jc[0], iSparseMatVec{val, y, x, jc, ir});
 }
 
 int SparseMatVecTested(double* y, const double* x, const double* val, const int* ir, const int* jc, int n, unsigned xLen) {
-  if (!val) return -1;
+  if (!val || n <= 0) return -1;
   std::atomic<int> badLine{-1};
-  forLines(n, TestedSparseMatVec{{val, y, x, jc, ir}, xLen, &badLine});
+  forLines(n, jc[n] - jc[0], TestedSparseMatVec{{val, y, x, jc, ir}, xLen, &badLine});
   return badLine.load();
 }
 

@@ -6,7 +6,7 @@ namespace fuzz {
 
 namespace {
 
-constexpr mxClassID numeric[] = {mxDOUBLE_CLASS, mxINT32_CLASS, mxSINGLE_CLASS, mxLOGICAL_CLASS, mxCHAR_CLASS,
+constexpr mxClassID numeric[] = {mxDOUBLE_CLASS, mxINT32_CLASS,  mxSINGLE_CLASS, mxLOGICAL_CLASS, mxCHAR_CLASS,
                                  mxINT8_CLASS,   mxUINT16_CLASS, mxUINT64_CLASS, mxINT64_CLASS};
 
 }  // namespace
@@ -34,12 +34,21 @@ mxArray* Maker::values(const std::vector<mwSize>& dims, mxClassID id, bool isCom
 mxArray* Maker::changed(mxArray* a) {
   if (!a || !in.rarely(50)) return a;
   switch (in.below(6)) {
-    case 0: return anything(1);
-    case 1: return nullptr;
-    case 2: return pool.empty() ? a : standin::share(pool[in.below(pool.size())]);
-    case 3: return standin::object("v_handle", {{"file", a}});
-    case 4: return standin::oldObject("v_handle", {{"file", a}});
-    default: return standin::object("thing", {{in.rarely(3) ? "c" : "d", a}});
+    case 0:
+      return anything(1);
+    case 1:
+      return nullptr;
+    case 2:
+      return pool.empty() ? a : standin::share(pool[in.below(pool.size())]);
+    case 3:
+      return standin::object("v_handle", {{"file", a}}, in.rarely(8) ? 0 : 1);
+    case 4:
+      return standin::oldObject("v_handle", {{"file", a}});
+    default: {
+      // An address in the property "c" is taken at its word, so the only one to be forged is null.
+      const bool address = in.rarely(3);
+      return standin::object("thing", {{address ? "c" : "d", address ? mxCreateNumericMatrix(1, 1, mxUINT64_CLASS, mxREAL) : a}});
+    }
   }
 }
 
@@ -134,17 +143,28 @@ mxArray* Maker::structure(const Fields& fields) {
 
 mxArray* Maker::anything(int depth) {
   switch (in.below(depth > 3 ? 5 : 11)) {
-    case 0: return values({in.below(4), in.below(4)}, numeric[in.below(sizeof numeric / sizeof *numeric)], in.rarely(4));
-    case 1: return values({in.below(3), in.below(3), in.below(4)}, mxDOUBLE_CLASS, false);
-    case 2: return values({in.rarely(2) ? std::size_t{1} << (in.byte() % 60) : 0, 0}, mxDOUBLE_CLASS, false);
-    case 3: return nativeSparse(in.below(4), in.below(4));
-    case 4: return mxCreateString(in.rarely(2) ? "rotcenter" : "");
-    case 5: return cell(in.below(3), in.below(4), {anything(depth + 1), anything(depth + 1)});
-    case 6: return structure({{"pr", anything(depth + 1)}, {"unl", anything(depth + 1)}, {"type", anything(depth + 1)}});
-    case 7: return standin::object("thing", {{"x", anything(depth + 1)}});
-    case 8: return standin::object("v_handle", {{"file", anything(depth + 1)}});
-    case 9: return standin::functionHandle([](int, const standin::Arguments&) -> std::vector<mxArray*> { return {}; });
-    default: return matrix(size(), size(), in.rarely(2));
+    case 0:
+      return values({in.below(4), in.below(4)}, numeric[in.below(sizeof numeric / sizeof *numeric)], in.rarely(4));
+    case 1:
+      return values({in.below(3), in.below(3), in.below(4)}, mxDOUBLE_CLASS, false);
+    case 2:
+      return values({in.rarely(2) ? std::size_t{1} << (in.byte() % 60) : 0, 0}, mxDOUBLE_CLASS, false);
+    case 3:
+      return nativeSparse(in.below(4), in.below(4));
+    case 4:
+      return mxCreateString(in.rarely(2) ? "rotcenter" : "");
+    case 5:
+      return cell(in.below(3), in.below(4), {anything(depth + 1), anything(depth + 1)});
+    case 6:
+      return structure({{"pr", anything(depth + 1)}, {"unl", anything(depth + 1)}, {"type", anything(depth + 1)}});
+    case 7:
+      return standin::object("thing", {{"x", anything(depth + 1)}});
+    case 8:
+      return standin::object("v_handle", {{"file", anything(depth + 1)}});
+    case 9:
+      return standin::functionHandle([](int, const standin::Arguments&) -> std::vector<mxArray*> { return {}; });
+    default:
+      return matrix(size(), size(), in.rarely(2));
   }
 }
 

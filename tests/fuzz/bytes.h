@@ -28,9 +28,21 @@ class Bytes {
 
   /// Small fractions, and now and then what breaks arithmetic.
   double number() {
-    static const double odd[] = {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(),
-                                 -std::numeric_limits<double>::infinity(), 1e300, -1e300, 5e-324, -0.0, 2147483647.0, 2147483648.0,
-                                 -2147483649.0, 9007199254740992.0, 1e18, -1.0, 1e-16, 4294967296.0};
+    static const double odd[] = {std::numeric_limits<double>::quiet_NaN(),
+                                 std::numeric_limits<double>::infinity(),
+                                 -std::numeric_limits<double>::infinity(),
+                                 1e300,
+                                 -1e300,
+                                 5e-324,
+                                 -0.0,
+                                 2147483647.0,
+                                 2147483648.0,
+                                 -2147483649.0,
+                                 9007199254740992.0,
+                                 1e18,
+                                 -1.0,
+                                 1e-16,
+                                 4294967296.0};
     const std::uint8_t b = byte();
     if (b < 220) return (static_cast<double>(b % 110) - (b < 110 ? 0.0 : 55.0)) / 16.0;
     if (b < 250) return odd[b % (sizeof odd / sizeof *odd)];

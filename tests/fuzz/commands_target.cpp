@@ -3,9 +3,17 @@
 
 namespace {
 
-constexpr const char* words[] = {"residual", "chandlediagnewmark", "residual", "chandlediagnewmark", "chandleset", "chandleget",
-                                 "chandleclear", "tbbp", "setsparse", "c<-a'*b", "abc", "dtkt", "ta'*k*tb", "directzr", "igsm", "nlv1",
-                                 "ismex", "cvs", "omp", "", "residuals"};
+constexpr const char* words[] = {"residual",     "chandlediagnewmark",
+                                 "residual",     "chandlediagnewmark",
+                                 "chandleset",   "chandleget",
+                                 "chandleclear", "tbbp",
+                                 "setsparse",    "c<-a'*b",
+                                 "abc",          "dtkt",
+                                 "ta'*k*tb",     "directzr",
+                                 "igsm",         "nlv1",
+                                 "ismex",        "cvs",
+                                 "omp",          "",
+                                 "residuals"};
 constexpr int types[] = {1003, 1, 2, 3, 2000};
 
 void oneCommand(fuzz::Session& session, std::size_t n) {
@@ -38,7 +46,9 @@ void oneCommand(fuzz::Session& session, std::size_t n) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   fuzz::Bytes in(data, size);
   fuzz::Session session(in);
-  const std::size_t n = 1 + in.below(5) - in.below(2) * in.below(2);
+  // Mostly small; blocks of modes and lines that are split among threads want more.
+  const std::size_t many = in.rarely(32) ? 64 * (1 + in.below(24)) : 0;
+  const std::size_t n = many + 1 + in.below(5) - in.below(2) * in.below(2);
   for (int call = 0; call < 12; ++call) {
     oneCommand(session, n);
     if (in.empty()) break;

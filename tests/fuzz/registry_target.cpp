@@ -74,7 +74,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         model.clear(index);
         break;
       case 3:
-        session.call("chandleclear", in.rarely(2) ? standin::Arguments{} : standin::Arguments{mxCreateDoubleMatrix(0, in.below(3), mxREAL)}, 0);
+        session.call("chandleclear", in.rarely(2) ? standin::Arguments{} : standin::Arguments{mxCreateDoubleMatrix(0, in.below(3), mxREAL)},
+                     0);
         model.clear(-1);
         break;
       case 4: {
@@ -85,7 +86,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(result.failed != model.find(index), "a handle was gathered or not");
         break;
       }
-      default: checkKeys(session, model);
+      default:
+        checkKeys(session, model);
     }
   }
   checkKeys(session, model);

@@ -25,7 +25,7 @@ void forgetHandles() {
 }  // namespace
 
 Session::Session(Bytes& source) : make(source), in(source) {
-  standin::setMemoryLimit(std::size_t{1} << 24);
+  standin::setMemoryLimit(std::size_t{1} << 26);
   standin::setErrors(in.rarely(2) ? standin::Errors::jump : standin::Errors::unwind);
   standin::define("hapsel", [](int, const standin::Arguments&) -> std::vector<mxArray*> { return {}; });
   standin::define("first", [](int, const standin::Arguments& args) -> std::vector<mxArray*> { return {const_cast<mxArray*>(args.at(0))}; });

@@ -31,8 +31,8 @@ struct mxArray_tag {
   std::vector<mwSize> dims;
   mwSize nzmax = 0;
   standin::Data re, im, ir, jc;
-  std::vector<std::string> names;   ///< fields or properties
-  std::vector<mxArray*> elements;   ///< of a cell; of a struct or object element by element, names.size() each
+  std::vector<std::string> names;  ///< fields or properties
+  std::vector<mxArray*> elements;  ///< of a cell; of a struct or object element by element, names.size() each
   standin::Function function;
   standin::Frame* frame = nullptr;  ///< who reclaims it; null for an element of another array
 

@@ -15,14 +15,18 @@ std::size_t elementSize(mxClassID id) {
   switch (id) {
     case mxLOGICAL_CLASS:
     case mxINT8_CLASS:
-    case mxUINT8_CLASS: return 1;
+    case mxUINT8_CLASS:
+      return 1;
     case mxCHAR_CLASS:
     case mxINT16_CLASS:
-    case mxUINT16_CLASS: return 2;
+    case mxUINT16_CLASS:
+      return 2;
     case mxSINGLE_CLASS:
     case mxINT32_CLASS:
-    case mxUINT32_CLASS: return 4;
-    default: return 8;
+    case mxUINT32_CLASS:
+      return 4;
+    default:
+      return 8;
   }
 }
 
@@ -106,8 +110,9 @@ bool mxIsNumeric(const mxArray* a) {
 }
 
 const char* mxGetClassName(const mxArray* a) {
-  static const char* const names[] = {"unknown", "cell",  "struct", "logical", "char",   "void",  "double",          "single", "int8", "uint8",
-                                      "int16",   "uint16", "int32",  "uint32",  "int64", "uint64", "function_handle", "opaque", "object"};
+  static const char* const names[] = {"unknown", "cell",   "struct",          "logical", "char",   "void",  "double",
+                                      "single",  "int8",   "uint8",           "int16",   "uint16", "int32", "uint32",
+                                      "int64",   "uint64", "function_handle", "opaque",  "object"};
   const mxArray& array = deref(a, "mxGetClassName");
   return array.className.empty() ? names[array.id] : array.className.c_str();
 }
@@ -139,18 +144,30 @@ double mxGetScalar(const mxArray* a) {
   const mxArray& array = values(a, "mxGetScalar");
   if (!array.re) misuse("mxGetScalar of an array without values");
   switch (array.id) {
-    case mxLOGICAL_CLASS: return firstOf<bool>(array);
-    case mxCHAR_CLASS: return firstOf<mxChar>(array);
-    case mxSINGLE_CLASS: return firstOf<float>(array);
-    case mxINT8_CLASS: return firstOf<std::int8_t>(array);
-    case mxUINT8_CLASS: return firstOf<std::uint8_t>(array);
-    case mxINT16_CLASS: return firstOf<std::int16_t>(array);
-    case mxUINT16_CLASS: return firstOf<std::uint16_t>(array);
-    case mxINT32_CLASS: return firstOf<std::int32_t>(array);
-    case mxUINT32_CLASS: return firstOf<std::uint32_t>(array);
-    case mxINT64_CLASS: return firstOf<std::int64_t>(array);
-    case mxUINT64_CLASS: return firstOf<std::uint64_t>(array);
-    default: return firstOf<double>(array);
+    case mxLOGICAL_CLASS:
+      return firstOf<bool>(array);
+    case mxCHAR_CLASS:
+      return firstOf<mxChar>(array);
+    case mxSINGLE_CLASS:
+      return firstOf<float>(array);
+    case mxINT8_CLASS:
+      return firstOf<std::int8_t>(array);
+    case mxUINT8_CLASS:
+      return firstOf<std::uint8_t>(array);
+    case mxINT16_CLASS:
+      return firstOf<std::int16_t>(array);
+    case mxUINT16_CLASS:
+      return firstOf<std::uint16_t>(array);
+    case mxINT32_CLASS:
+      return firstOf<std::int32_t>(array);
+    case mxUINT32_CLASS:
+      return firstOf<std::uint32_t>(array);
+    case mxINT64_CLASS:
+      return firstOf<std::int64_t>(array);
+    case mxUINT64_CLASS:
+      return firstOf<std::uint64_t>(array);
+    default:
+      return firstOf<double>(array);
   }
 }
 

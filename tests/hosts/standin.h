@@ -43,7 +43,7 @@ struct Result {
   bool failed = false;
   std::string identifier;
   std::string text;
-  std::vector<mxArray*> out;      ///< as many as were asked for, one at least; null where nothing was stored
+  std::vector<mxArray*> out;        ///< as many as were asked for, one at least; null where nothing was stored
   std::size_t reclaimedArrays = 0;  ///< what the call had left behind
   std::size_t reclaimedBlocks = 0;
 };
@@ -98,8 +98,8 @@ mxArray* functionHandle(Function function);
 // Memory --------------------------------------------------------------------------------------------------------------------
 
 struct Live {
-  std::size_t arrays;      ///< all arrays, elements of others included
-  std::size_t blocks;      ///< memory of mxCalloc and its like
+  std::size_t arrays;            ///< all arrays, elements of others included
+  std::size_t blocks;            ///< memory of mxCalloc and its like
   std::size_t persistentArrays;  ///< arrays made persistent, elements not included
   std::size_t persistentBlocks;
 };

@@ -1,7 +1,20 @@
 // The unit tests on the stand-in host.
 #include <gtest/gtest.h>
 
+#include "host_output.h"
 #include "standin.h"
+
+HostOutput hostOutput(const std::function<void()>& code) {
+  HostOutput out;
+  standin::printed();
+  try {
+    code();
+  } catch (const standin::Error& e) {
+    out.error = e.text;
+  }
+  out.printed = standin::printed();
+  return out;
+}
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);

@@ -6,6 +6,9 @@ args = argv ();
 suite = args{1};
 here = fileparts (mfilename ('fullpath'));
 addpath (args{2});
+% What the tests need compiled lies in the build directory, beside the module's folder.
+compiled = fullfile (args{2}, '..', 'tests', 'octave');
+if exist (compiled, 'dir'), addpath (compiled); end
 addpath (fullfile (here, 'support'));
 addpath (fullfile (here, 'models'));
 addpath (fullfile (here, 'suites'));

@@ -5,6 +5,7 @@
 
 #include "handles/handle_types.h"
 #include "handles/hindex.h"
+#include "host_output.h"
 
 namespace quarn {
 namespace {
@@ -82,12 +83,21 @@ TEST(Hindex, KeysAscendWhateverTheirOrder) {
   EXPECT_EQ(keys(registry), (std::vector<int>{-3, 0, 5, 9}));
 }
 
-TEST(Chandle, AbsentValueIsReplacedByAnEmptyMatrix) {
+TEST(Chandle, AbsentValueIsReplacedByAnEmptyMatrixAndSaysSoOnce) {
   chandle h;
-  mxArray* value = h.get_val();
+  mxArray* value = nullptr;
+  EXPECT_EQ(hostOutput([&] { value = h.get_val(); }).printed, "Empty value\n");
   ASSERT_NE(value, nullptr);
   EXPECT_EQ(mxGetNumberOfElements(value), 0);
-  EXPECT_EQ(h.get_val(), value);
+  EXPECT_EQ(hostOutput([&] { EXPECT_EQ(h.get_val(), value); }).printed, "");
+}
+
+TEST(EmptyStack, SaysSoAndClearsAll) {
+  const int key = cIndex.get_free_index();
+  cIndex.setStack(key, newHandle());
+  EXPECT_EQ(hostOutput(emptyStack).printed, "Emptying quarn stack\n");
+  EXPECT_EQ(cIndex.getStack(key), nullptr);
+  cIndex.free_index(key);
 }
 
 TEST(Chandle, FreeingForgetsTheValueAndTheType) {

@@ -63,7 +63,7 @@ function advice = advise (sim, varargin)
   text = sprintf (['step %.3g s: error %.2g of the greatest displacement; step %.3g s: %.2g (order %.2f). For %.2g take a step of ' ...
                    '%.2g s'], sim.step, e, sim.step / 2, e / 2 ^ p, p, o.tolerance, advised);
   if between > 0.5
-    text = [text '. The two runs have little in common: shorten the step first, or the motion is chaotic and only its statistics can be compared'];
+    text = [text '. The two runs have little in common: shorten the step first; chaotic motion can only be compared by statistics'];
   end
   advice = struct ('step', sim.step, 'error', e, 'error_half', e / 2 ^ p, 'order', p, 'advised', advised, 'text', text);
   if nargout == 0

@@ -30,6 +30,7 @@ function law = bilinear (varargin)
   qn.impl.scalar (who, 'first', o.first);
   qn.impl.scalar (who, 'second', o.second);
   qn.impl.scalar (who, 'at', o.at, realmin ());
-  law = qn.law ('table', 'displacement', o.at * [-2; -1; 1; 2], 'force', o.at * [-o.first - o.second; -o.first; o.first; o.first + o.second]);
+  f = o.at * [o.first; o.first + o.second];
+  law = qn.law ('table', 'displacement', o.at * [-2; -1; 1; 2], 'force', [-flipud(f); f]);
   law.note = sprintf ('bilinear spring, %g and %g N/m', o.first, o.second);
 end

@@ -25,13 +25,13 @@
 function text = describe (x)
   if isa (x, 'chandle')
     lines = cell (1, numel (x));
-    for k = 1:numel (x), lines{k} = handle (remi (x, k)); end
+    for k = 1:numel (x), lines{k} = one_handle (remi (x, k)); end
   elseif isstruct (x) && isfield (x, 'kind')
     lines = arrayfun (@qn.impl.law_text, x, 'uniformoutput', false);
   elseif isstruct (x) || isa (x, 'v_handle')
     lines = {qn.impl.value_text(x)};
   elseif isnumeric (x) && numel (x) == 1
-    lines = {handle(x)};
+    lines = {one_handle(x)};
   else
     error ('qn:input', 'qn.describe: a law, a handle or its value expected, got an array of class %s', class (x));
   end
@@ -43,7 +43,7 @@ function text = describe (x)
   end
 end
 
-function text = handle (i)
+function text = one_handle (i)
   if any (quarn ('chandleget') == i)
     text = sprintf ('handle %d: %s', i, qn.impl.value_text (quarn ('chandleget', i)));
   else

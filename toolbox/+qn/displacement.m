@@ -23,7 +23,7 @@
 %   res = qn.run (qn.simulation (model, 'step', 1e-3, 'steps', 500, 'v0', [0; 1]));
 %   tip = qn.displacement (res, 2);
 %
-% See also qn.velocity, qn.observe, qn.plot.history
+% See also qn.velocity, qn.observe, qn.plot.series
 function u = displacement (res, c)
   u = qn.impl.looked_at (res.sim.model, c) * res.q;
 end

@@ -28,20 +28,23 @@
 %
 % See also qn.law, qn.element, qn.plot.loop
 function f = force (law, x, v, h)
-  f = 0;
+  memory = false;
   for k = 1:numel (law)
     t = qn.impl.traits (law(k), 1);
-    if ~t.memory
-      f = f + at_once (law(k), x);
-    else
-      if nargin < 4, error ('qn:input', 'qn.force: the law "%s" has a memory: velocities and a time step are needed', law(k).kind); end
-      if ~isequal (size (v), size (x)) || size (x, 1) ~= t.rows
-        error ('qn:input', 'qn.force: displacements and velocities of %d rows expected, got %s and %s', t.rows, mat2str (size (x)), ...
-               mat2str (size (v)));
-      end
-      f = f + step_by_step (law(k), t, x, v, h);
-    end
+    memory = memory || t.memory;
   end
+  if ~memory
+    f = 0;
+    for k = 1:numel (law), f = f + at_once (law(k), x); end
+    return
+  end
+  if nargin < 4, error ('qn:input', 'qn.force: the law "%s" has a memory: velocities and a time step are needed', law(end).kind); end
+  rows = max (t.rows, 1);
+  if ~isequal (size (v), size (x)) || size (x, 1) ~= rows
+    error ('qn:input', 'qn.force: displacements and velocities of %d rows expected, got %s and %s', rows, mat2str (size (x)), ...
+           mat2str (size (v)));
+  end
+  f = step_by_step (law, rows, x, v, h);
 end
 
 function f = at_once (law, x)
@@ -54,19 +57,27 @@ function f = at_once (law, x)
   f = reshape (f, size (x));
 end
 
-function f = step_by_step (law, t, x, v, h)
-  e = qn.element (law, eye (t.rows), 'step', h, 'state', t.rows + 1);
-  handle = chandle (quarn ('chandleset', 1003, e));
-  free = onCleanup (@() delete (handle));
-  n = e.c.dims(2);
-  f = zeros (t.rows, size (x, 2));
-  state = zeros (n - t.rows, 1);
+% All laws in one call a step; behind the displacements, the memory of each.
+function f = step_by_step (law, rows, x, v, h)
+  states = zeros (1, numel (law));
+  for k = 1:numel (law), states(k) = getfield (qn.impl.traits (law(k), rows), 'states'); end
+  n = rows + sum (states);
+  values = cell (numel (law), 2);
+  for k = 1:numel (law)
+    place = rows + 1 + sum (states(1:k - 1));
+    values(k, :) = {1003, qn.element(law(k), [eye(rows), zeros(rows, n - rows)], 'step', h, 'state', place)};
+  end
+  handles = qn.impl.register (values);
+  free = onCleanup (@() delete (handles));
+  f = zeros (rows, size (x, 2));
+  state = zeros (n - rows, 1);
+  rest = zeros (n - rows, 1);
   none = zeros (n, 1);
   for k = 1:size (x, 2)
     u = [x(:, k); state];
     r = zeros (n, 1);
-    quarn ('residual', r, handle, u, [v(:, k); none(t.rows + 1:end)], none);
-    f(:, k) = r(1:t.rows);
-    state = u(t.rows + 1:end);
+    quarn ('residual', r, handles, u, [v(:, k); rest], none);
+    f(:, k) = r(1:rows);
+    state = u(rows + 1:end);
   end
 end

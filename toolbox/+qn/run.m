@@ -31,7 +31,9 @@
 %
 % Errors
 %   Those of the module. A run whose motion grows beyond all numbers is ended with the warning qn:diverged. The handles of the run
-%   are freed in every case.
+%   are freed in every case; by the module's rule the values of its nonlinear elements, a few kilobytes, stay in memory until the
+%   host ends.
+%   qn:input  the file of 'save' cannot be written (asked before the run)
 %
 % Example
 %   model = qn.modal (4e4, 1, 'damping', 0.02);
@@ -39,7 +41,7 @@
 %   res = qn.run (sim);
 %   u = qn.displacement (res, qn.observe (model, 1));
 %
-% See also qn.simulation, qn.resume, qn.check, qn.displacement, qn.plot.history
+% See also qn.simulation, qn.resume, qn.check, qn.displacement, qn.plot.series
 function res = run (sim, varargin)
   m = numel (sim.model.w);
   k = numel (sim.saved);

@@ -34,7 +34,7 @@
 %
 % Example
 %   model = qn.modal (4e4, 1, 'damping', 0.02);
-%   sim = qn.simulation (model, 'step', 1e-3, 'until', 1, 'load', {qn.command (model, 1), @(t) 100 * (t < 0.1)}, ...
+%   sim = qn.simulation (model, 'step', 1e-3, 'until', 1, 'load', {qn.command(model, 1), @(t) 100 * (t < 0.1)}, ...
 %                        'elements', {qn.cubic('stiffness', 1e8), qn.observe(model, 1)});
 %   res = qn.run (sim);
 %

@@ -1,10 +1,12 @@
 % CHANDLE  vector of registered handles of quarn
 %
-%   H = chandle (I)
+% Purpose
+%   A handle is an object that the compiled module keeps alive between calls: a matrix, a nonlinear element or an
+%   integrator. The module knows it by an index. A chandle vector is how a list of them is passed to quarn ('residual', ...)
+%   and quarn ('chandlediagnewmark', ...); it holds the indices only, so copies stand for the same objects.
 %
-% A handle is an object that the compiled module keeps alive between calls: a matrix, a nonlinear element or an integrator.
-% The module knows it by an index. A chandle vector is how a list of them is passed to quarn ('residual', ...) and
-% quarn ('chandlediagnewmark', ...); it holds the indices only, so copies stand for the same objects.
+% Calls
+%   H = chandle (I)
 %
 % Input
 %   I   indices as quarn ('chandleset', type, value) returned them, in the order in which the handles are to be called;
@@ -18,13 +20,19 @@
 %   H(k), [H G]   part of a vector, vectors behind one another
 %   remi (H, k)   index of element k
 %   H             at the prompt: what each handle is
-% Nothing is freed when H is cleared: quarn ('chandleclear', remi (H, k)) frees a handle.
+%   delete (H)    frees the handles; nothing is freed when H is only cleared
+%
+% Errors
+%   I is not an array of real numbers. Whether the handles exist is asked when the vector is used.
 %
 % Example
 %   k = struct ('ir', int32 ([0; 1]), 'jc', int32 ([0; 1; 2]), 'pr', [100; 200], 'dims', [2 2], 'trans', 0);
 %   h = chandle (quarn ('chandleset', 1, k));
 %   r = zeros (2, 1);
 %   quarn ('residual', r, h, ones (2, 1), zeros (2, 1), [], [0 0]);   % r is now [100; 200]
+%   delete (h);
+%
+% See also quarn, v_handle, qn.describe
 function h = chandle (i)
   if nargin < 1, i = []; end
   if isa (i, 'chandle')

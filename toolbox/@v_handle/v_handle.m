@@ -1,9 +1,11 @@
 % V_HANDLE  object that stands for a matrix held in its field "file"
 %
-%   V = v_handle (FILE)
+% Purpose
+%   Wherever quarn takes a matrix it takes a v_handle instead and works on what the field "file" holds. Copies of the object share
+%   that data: what quarn ('setsparse', V, ...) writes shows in all of them.
 %
-% Wherever quarn takes a matrix it takes a v_handle instead and works on what the field "file" holds. Copies of the object
-% share that data: what quarn ('setsparse', V, ...) writes shows in all of them.
+% Calls
+%   V = v_handle (FILE)
 %
 % Input
 %   FILE   matrix: a structure as qn.pack gives it, or a full double matrix

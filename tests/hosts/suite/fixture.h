@@ -33,7 +33,7 @@ class OnMatlab : public testing::TestWithParam<standin::Errors> {
   std::size_t keptValues = 0;
 };
 
-#define ON_MATLAB(name)                                                                                                    \
-  class name : public OnMatlab {};                                                                                         \
-  INSTANTIATE_TEST_SUITE_P(Errors, name, testing::Values(standin::Errors::unwind, standin::Errors::jump),                  \
+#define ON_MATLAB(name)                                                                                   \
+  class name : public OnMatlab {};                                                                        \
+  INSTANTIATE_TEST_SUITE_P(Errors, name, testing::Values(standin::Errors::unwind, standin::Errors::jump), \
                            [](const auto& p) { return p.param == standin::Errors::jump ? "Jumping" : "Unwinding"; })

@@ -19,10 +19,11 @@ NewmarkRun newmarkRun(mwSize modes, mwSize steps, double dt) {
     table[2 * j + 1] = std::sin(table[2 * j]);
   }
   NewmarkRun run;
-  run.integrator = structure({{"type", scalar(2000)},
-                              {"r", matrix(modes, 3, r)},
-                              {"tft", matrix(2, steps + 1, table)},
-                              {"data", column({dt, (0.5 - beta) * dt * dt, (1 - gamma) * dt, gamma / (beta * dt), 1 / (beta * dt * dt), 0})}});
+  run.integrator =
+      structure({{"type", scalar(2000)},
+                 {"r", matrix(modes, 3, r)},
+                 {"tft", matrix(2, steps + 1, table)},
+                 {"data", column({dt, (0.5 - beta) * dt * dt, (1 - gamma) * dt, gamma / (beta * dt), 1 / (beta * dt * dt), 0})}});
   run.model = structure({{"FNL", zeros(4)}});
   run.u = zeros(modes);
   run.v = zeros(modes);
@@ -40,10 +41,7 @@ mxArray* element(const char* law, mwSize n, const Values& parameters, const Fiel
   opt.insert(opt.end(), parameters.begin(), parameters.end());
   Values first(n, 0.0);
   first[0] = 1.0;
-  Fields fields{{"type", scalar(1003)},
-                {"c", compressed(n, 1, first, true)},
-                {"b", compressed(n, 1, first, true)},
-                {"opt", column(opt)}};
+  Fields fields{{"type", scalar(1003)}, {"c", compressed(n, 1, first, true)}, {"b", compressed(n, 1, first, true)}, {"opt", column(opt)}};
   fields.insert(fields.end(), more.begin(), more.end());
   return structure(fields);
 }

@@ -59,8 +59,18 @@ TEST_P(AllocationFailure, OfRegistryCommands) {
   failEach("chandleget", [] { return standin::Arguments{scalar(0)}; });
   standin::define("first", [](int, const standin::Arguments& args) -> std::vector<mxArray*> { return {const_cast<mxArray*>(args[0])}; });
   failEach("chandleget", [] { return standin::Arguments{text("first"), scalar(0), zeros(2)}; });
-  failEach("chandleset", [] { return standin::Arguments{scalar(2), stiffness()}; }, 1, 1);
-  failEach("chandleset", [] { return standin::Arguments{scalar(3), standin::object("thing", {{"a", cell(1, 2, {zeros(3), nullptr})}})}; }, 1, 1);
+  failEach(
+      "chandleset",
+      [] {
+        return standin::Arguments{scalar(2), stiffness()};
+      },
+      1, 1);
+  failEach(
+      "chandleset",
+      [] {
+        return standin::Arguments{scalar(3), standin::object("thing", {{"a", cell(1, 2, {zeros(3), nullptr})}})};
+      },
+      1, 1);
   EXPECT_EQ(values(field(run("chandleget", {scalar(0)}), "pr")), values(field(stiffness(), "pr")));
 }
 
@@ -68,57 +78,79 @@ TEST_P(AllocationFailure, OfResiduals) {
   const double index = set(1003, element("Power", 3, {2, 3}, {{"unl", zeros(1)}, {"snl", zeros(1)}}));
   const double second = set(2, stiffness());
   keptValues = 1;
-  failEach("residual", [&] { return standin::Arguments{zeros(3), handles({index, second}), zeros(3), zeros(3), zeros(3)}; }, 0);
-  failEach("residual",
-           [&] {
-             mxArray* K = standin::object("v_handle", {{"file", stiffness()}});
-             return standin::Arguments{zeros(3), cell(1, 3, {stiffness(), nullptr, K}), zeros(3), zeros(3), zeros(3)};
-           },
-           2);
+  failEach(
+      "residual",
+      [&] {
+        return standin::Arguments{zeros(3), handles({index, second}), zeros(3), zeros(3), zeros(3)};
+      },
+      0);
+  failEach(
+      "residual",
+      [&] {
+        mxArray* K = standin::object("v_handle", {{"file", stiffness()}});
+        return standin::Arguments{zeros(3), cell(1, 3, {stiffness(), nullptr, K}), zeros(3), zeros(3), zeros(3)};
+      },
+      2);
   standin::define("hapsel", [](int, const standin::Arguments&) -> std::vector<mxArray*> { return {}; });
-  failEach("residual",
-           [&] {
-             const Values first{1, 0, 0};
-             mxArray* e = structure({{"c", compressed(3, 1, first, true)},
-                                     {"b", compressed(3, 1, first, true)},
-                                     {"unl", zeros(1)},
-                                     {"type", text("someword")}});
-             mxArray* model = structure({{"K", cell(1, 3, {})}, {"NL", cell(1, 3, {nullptr, nullptr, e})}});
-             return standin::Arguments{zeros(3), model, zeros(3), zeros(3), zeros(3), zeros(0), zeros(0)};
-           },
-           0);
+  failEach(
+      "residual",
+      [&] {
+        const Values first{1, 0, 0};
+        mxArray* e = structure(
+            {{"c", compressed(3, 1, first, true)}, {"b", compressed(3, 1, first, true)}, {"unl", zeros(1)}, {"type", text("someword")}});
+        mxArray* model = structure({{"K", cell(1, 3, {})}, {"NL", cell(1, 3, {nullptr, nullptr, e})}});
+        return standin::Arguments{zeros(3), model, zeros(3), zeros(3), zeros(3), zeros(0), zeros(0)};
+      },
+      0);
 }
 
 TEST_P(AllocationFailure, OfTheIntegrator) {
-  failEach("chandlediagnewmark",
-           [] {
-             const NewmarkRun n = newmarkRun(2, 5);
-             mxArray* nl = element("Power", 2, {1, 3}, {{"unl", zeros(1)}, {"snl", zeros(1)}});
-             return n.arguments(cell(1, 3, {n.integrator, listMatrix(1, {1, 4}), nl}));
-           },
-           0);
+  failEach(
+      "chandlediagnewmark",
+      [] {
+        const NewmarkRun n = newmarkRun(2, 5);
+        mxArray* nl = element("Power", 2, {1, 3}, {{"unl", zeros(1)}, {"snl", zeros(1)}});
+        return n.arguments(cell(1, 3, {n.integrator, listMatrix(1, {1, 4}), nl}));
+      },
+      0);
   const NewmarkRun n = newmarkRun(2, 5);
   const double integrator = set(2000, n.integrator);
   const double matrix = set(1, listMatrix(1, {1, 4}));
-  failEach("chandlediagnewmark", [&] { return newmarkRun(2, 5).arguments(handles({integrator, matrix})); }, 0);
+  failEach(
+      "chandlediagnewmark",
+      [&] {
+        return newmarkRun(2, 5).arguments(handles({integrator, matrix}));
+      },
+      0);
 }
 
 TEST_P(AllocationFailure, OfMatrixCommands) {
   failEach("c<-a'*b", [] { return standin::Arguments{zeros(3, 2), stiffness()}; });
-  failEach("c<-a'*b",
-           [] {
-             mxArray* square = zeros(3, 3);
-             return standin::Arguments{square, stiffness(), square};
-           },
-           0);
+  failEach(
+      "c<-a'*b",
+      [] {
+        mxArray* square = zeros(3, 3);
+        return standin::Arguments{square, stiffness(), square};
+      },
+      0);
   failEach("abc", [] { return standin::Arguments{zeros(3, 2), stiffness(), complexMatrix(3, 2, {}, {}), int32s({1, 0, 0})}; });
   failEach("directzr", [] {
     return standin::Arguments{complexMatrix(1, 1, {1}, {1}), cell(1, 1, {zeros(1)}), complexMatrix(1, 1, {1}, {1}), zeros(1)};
   });
   failEach("dtkt", [] { return standin::Arguments{zeros(2, 0), nativeSparse({1, 2})}; });
   failEach("igsm", [] { return standin::Arguments{zeros(2, 0), nativeSparse({1, 2})}; });
-  failEach("tbbp", [] { return standin::Arguments{standin::object("v_handle", {{"file", stiffness()}}), zeros(3), zeros(3)}; }, 0);
-  failEach("setsparse", [] { return standin::Arguments{standin::object("v_handle", {{"file", stiffness()}}), int32s({0})}; }, 0);
+  failEach(
+      "tbbp",
+      [] {
+        return standin::Arguments{standin::object("v_handle", {{"file", stiffness()}}), zeros(3), zeros(3)};
+      },
+      0);
+  failEach(
+      "setsparse",
+      [] {
+        return standin::Arguments{standin::object("v_handle", {{"file", stiffness()}}), int32s({0})};
+      },
+      0);
 }
 
 TEST_P(AllocationFailure, OfTheRegistrysOwnNodes) {

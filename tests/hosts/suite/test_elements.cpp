@@ -85,6 +85,17 @@ TEST_P(Elements, LawsErrorTexts) {
           structure({{"opt", column({lawCode("Power"), 1, 1})}, {"unl", zeros(1)}, {"b", zeros(1)}}));
 }
 
+TEST_P(Elements, WithoutValuesInUnlAddNothing) {
+  mxArray* nothing = mxCreateNumericMatrix(1, 1, mxUINT64_CLASS, mxREAL);  // the address null
+  mxArray* r = column({1});
+  for (mxArray* unl : {zeros(0), pages(2, 1, 0, {}), standin::object("buffer", {{"c", nothing}})}) {
+    const double index = set(1003, element("Power", 1, {1, 1}, {{"unl", unl}, {"snl", zeros(3)}}));
+    run("residual", {r, handles({index}), scalar(1), scalar(1), zeros(0)}, 0);
+  }
+  EXPECT_EQ(values(r), (Values{1}));
+  keptValues = 3;
+}
+
 TEST_P(Elements, OfAListAreComputedByFunctions) {
   int calls = 0;
   const auto law = [&](int nlhs, const standin::Arguments& args) -> std::vector<mxArray*> {
@@ -119,7 +130,8 @@ TEST_P(Elements, OfAListAreComputedByFunctions) {
 }
 
 TEST_P(Elements, ErrorsOfTheirFunctionsArriveUnchanged) {
-  mxArray* fails = standin::functionHandle([](int, const standin::Arguments&) -> std::vector<mxArray*> { standin::raise("law:bad", "no force"); });
+  mxArray* fails =
+      standin::functionHandle([](int, const standin::Arguments&) -> std::vector<mxArray*> { standin::raise("law:bad", "no force"); });
   mxArray* list = cell(1, 3, {nullptr, nullptr, structure({{"Fu", fails}, {"StoreFNL", scalar(0)}})});
   mxArray* model = structure({{"K", cell(1, 3, {})}, {"NL", list}});
   expectError("law:bad", "no force", "residual", {zeros(2), model, zeros(2), zeros(2), zeros(2), zeros(0), zeros(0)});

@@ -33,9 +33,7 @@ TEST_P(Gateway, NoCommandMatchesByPrefixOrInAnotherCase) {
   EXPECT_EQ(module(0, {zeros(2)}).text, "quarn : Unknown command");
 }
 
-TEST_P(Gateway, WordsOfAThousandCharactersAreUnknown) {
-  expectError("", "quarn : Unknown command", std::string(1000, 'a').c_str());
-}
+TEST_P(Gateway, WordsOfAThousandCharactersAreUnknown) { expectError("", "quarn : Unknown command", std::string(1000, 'a').c_str()); }
 
 TEST_P(Gateway, NlV1RefusesWhatHasNoUnl) {
   expectRefusal("expected a struct with a field \"unl\"", "nlv1");

@@ -12,8 +12,9 @@ const Values identity{1, 0, 0, 0, 1, 0, 0, 0, 1};
 
 TEST_P(Laws, MaxwellAddsElasticAndViscousParts) {
   // opt: code, -, h, sub-steps, -, Cu (2), Dv (2), B, A, E
-  mxArray* value = element("Maxw", 1, {0, 0.5, 1, 0, 2, 3, 5, 7, 11, 13, 17},
-                           {{"unl", pages(2, 1, 3, {})}, {"vnl", pages(2, 1, 3, {})}, {"snl", zeros(2)}, {"iopt", int32s({-1, 0, 1, 1, 1})}});
+  mxArray* value =
+      element("Maxw", 1, {0, 0.5, 1, 0, 2, 3, 5, 7, 11, 13, 17},
+              {{"unl", pages(2, 1, 3, {})}, {"vnl", pages(2, 1, 3, {})}, {"snl", zeros(2)}, {"iopt", int32s({-1, 0, 1, 1, 1})}});
   keptValues = 1;
   const double index = set(1003, value);
   mxArray* r = zeros(1);
@@ -44,9 +45,7 @@ TEST_P(Laws, Clima2AddsTwoBranchesAndTheTabulatedForce) {
 }
 
 /// NL of one element and the model around it.
-mxArray* modelOf(mxArray* e) {
-  return structure({{"K", cell(1, 3, {})}, {"NL", cell(1, 3, {nullptr, nullptr, e})}, {"FNL", zeros(3)}});
-}
+mxArray* modelOf(mxArray* e) { return structure({{"K", cell(1, 3, {})}, {"NL", cell(1, 3, {nullptr, nullptr, e})}, {"FNL", zeros(3)}}); }
 
 mxArray* rotcenterElement(int rows, int unset = 0) {
   std::vector<mxArray*> cells(static_cast<std::size_t>(2 * rows), nullptr);

@@ -34,11 +34,20 @@ TEST_P(Reload, SurvivesEveryKindOfLastCall) {
   mxArray* A = longDiagonal(5000);
   for (int round = 0; round < 100; ++round) {
     switch (round % 5) {
-      case 0: module(1, {}); break;
-      case 1: run("cvs"); break;
-      case 2: expectError("", "quarn : Unknown command", "nothing"); break;
-      case 3: expectRefusal("must hold", "tbbp", {A, zeros(5000), zeros(3)}); break;
-      default: run("tbbp", {A, zeros(5000), zeros(5000)}, 0);
+      case 0:
+        module(1, {});
+        break;
+      case 1:
+        run("cvs");
+        break;
+      case 2:
+        expectError("", "quarn : Unknown command", "nothing");
+        break;
+      case 3:
+        expectRefusal("must hold", "tbbp", {A, zeros(5000), zeros(3)});
+        break;
+      default:
+        run("tbbp", {A, zeros(5000), zeros(5000)}, 0);
     }
     module.clear();
   }

@@ -52,7 +52,8 @@ TEST_P(Residual, OfAnUnknownHandleIsRefusedBeforeAnythingIsAdded) {
   mxArray* r = column({5, 5, 5});
   const double good = set(1, stiffness());
   for (const double bad : {17.0, std::nan(""), -1.0, 1e99}) {
-    expectError("KORV:quarn:NonHandle", "Handle does not exist", "residual", {r, handles({good, bad}), column({1, 2, 3}), zeros(3), zeros(3)});
+    expectError("KORV:quarn:NonHandle", "Handle does not exist", "residual",
+                {r, handles({good, bad}), column({1, 2, 3}), zeros(3), zeros(3)});
   }
   mxArray* freed = handles({good});
   run("chandleclear", {scalar(good)}, 0);
@@ -91,8 +92,9 @@ TEST_P(Residual, OfUnsetCellsAddsNothing) {
   ASSERT_FALSE(result.failed) << result.text;
   EXPECT_EQ(mxGetScalar(result.out[0]), 0.0);
   EXPECT_EQ(values(r), (Values{1, 2, 3}));
-  run("residual", {r, structure({{"K", cell(1, 3, {nullptr, nullptr, nullptr})}, {"NL", cell(2, 3, {})}, {"FNL", nullptr}}), zeros(3), zeros(3),
-                   zeros(0), structure({{"Rayleigh", nullptr}})},
+  run("residual",
+      {r, structure({{"K", cell(1, 3, {nullptr, nullptr, nullptr})}, {"NL", cell(2, 3, {})}, {"FNL", nullptr}}), zeros(3), zeros(3),
+       zeros(0), structure({{"Rayleigh", nullptr}})},
       0);
   EXPECT_EQ(values(r), (Values{1, 2, 3}));
 }
@@ -117,14 +119,17 @@ TEST_P(Residual, ReachesMatricesThroughObjects) {
   EXPECT_EQ(values(r), (Values{0, 0, 8}));
   expectRefusal("without a field \"file\"", "residual",
                 {r, cell(1, 3, {nullptr, nullptr, standin::object("v_handle", {})}), zeros(3), zeros(3), zeros(0)});
+  expectRefusal("without a field \"file\"", "residual",
+                {r, cell(1, 3, {nullptr, nullptr, standin::oldObject("v_handle", {})}), zeros(3), zeros(3), zeros(0)});
+  expectRefusal("without a field \"file\"", "tbbp", {standin::object("v_handle", {{"file", stiffness()}}, 0), zeros(3), zeros(3)});
 }
 
 TEST_P(Residual, WritesThroughTheAddressThatAnObjectHolds) {
   Values buffer{1, 2, 3};
   mxArray* address = mxCreateNumericMatrix(1, 1, mxUINT64_CLASS, mxREAL);
   *static_cast<std::uint64_t*>(mxGetData(address)) = reinterpret_cast<std::uintptr_t>(buffer.data());
-  run("residual", {standin::object("buffer", {{"c", address}}), cell(1, 3, {nullptr, nullptr, stiffness()}), column({1, 2, 3}), zeros(3), zeros(0)},
-      0);
+  run("residual",
+      {standin::object("buffer", {{"c", address}}), cell(1, 3, {nullptr, nullptr, stiffness()}), column({1, 2, 3}), zeros(3), zeros(0)}, 0);
   EXPECT_EQ(buffer, (Values{1, 2, 7}));
   expectRefusal("holds no 64-bit address", "residual", {standin::object("buffer", {}), cell(1, 3, {}), zeros(3), zeros(3), zeros(0)});
 }
@@ -142,8 +147,8 @@ TEST_P(Residual, ErrorsOfItsArguments) {
   expectRefusal("u must be a full real double array", "residual", {zeros(1), model, cell(1, 1, {}), zeros(1), zeros(1)});
   expectRefusal("must hold 3 values", "residual", {zeros(2), model, zeros(3), zeros(3), zeros(3)});
   expectRefusal("an index of column", "residual",
-                {zeros(1), cell(1, 3, {nullptr, nullptr, structure({{"pr", column({1})}, {"ir", int32s({9})}, {"jc", int32s({0, 1})}})}), zeros(1), zeros(1),
-                 zeros(0)});
+                {zeros(1), cell(1, 3, {nullptr, nullptr, structure({{"pr", column({1})}, {"ir", int32s({9})}, {"jc", int32s({0, 1})}})}),
+                 zeros(1), zeros(1), zeros(0)});
 }
 
 }  // namespace

@@ -179,3 +179,48 @@ function test_sizes_that_do_not_fit_are_refused ()
     expect_equal (r, ones (2, 1) * 3);
   end
 end
+
+function test_a_refusal_names_the_element_of_the_list ()
+  run = small_run ();
+  run.list{4} = spring_element (1, 1, 3, [law_code('Power') 2 1]);
+  run.list{5} = spring_element (1, 1, 3, [law_code('Expon') 2]);
+  expect_error (@() run_small (run), '', '~^quarn chandlediagnewmark : element 5 : opt must hold 3 values');
+  run.list{5} = 7;
+  expect_error (@() run_small (run), '', '~^quarn chandlediagnewmark : element 5 : expected a struct with a field "type", got double 1x1$');
+  run.list{5} = struct ('opt', 1);
+  expect_error (@() run_small (run), '', '~got struct 1x1 without one$');
+end
+
+function test_one_array_for_unl_and_vnl_is_refused_where_a_law_has_states ()
+  run = small_run ();
+  e = spring_element (1, 1, 3, [law_code('DahlC') 1e-3 1 1 1 1 1]);
+  shared = zeros (2, 1, 2);
+  e.unl = shared;
+  e.vnl = shared;
+  e.iopt = int32 ([-1 0 0 0 0]);
+  run.list{4} = e;
+  expect_error (@() run_small (run), '', '~element 4 : "unl" and "vnl" are one array');
+end
+
+function test_an_observation_buffer_that_is_the_state_is_refused ()
+  run = small_run ();
+  e = spring_element (1, 1, 3, [law_code('Power') 2 1]);
+  e.unl = run.u;
+  run.list{4} = e;
+  before = run.u + 0;
+  expect_error (@() quarn ('chandlediagnewmark', run.list, run.model, run.u, run.v, run.a, run.opt, run.mem, run.out), '', ...
+                '~element 4 : "unl" and u, v or a are one array');
+  expect_equal (run.u, before);
+end
+
+function test_a_search_record_on_the_table_is_refused ()
+  run = small_run ();
+  e = spring_element (1, 1, 3, [law_code('Table') 0 1 0 1 0 0 0]);
+  e.iopt = int32 ([-1 0 0 0 0 1 4 2 1]);
+  run.list{4} = e;
+  expect_error (@() run_small (run), '', '~element 4 : the search record at opt\(5\) to \(7\) lies on the table at opt\(2\) to \(5\)');
+end
+
+function run_small (run)
+  quarn ('chandlediagnewmark', run.list, run.model, run.u, run.v, run.a, run.opt, run.mem, run.out);
+end

@@ -49,6 +49,16 @@ function test_a_freed_handle_is_refused ()
   expect_error (@() added (chandle (h)), 'KORV:quarn:NonHandle', 'Handle does not exist');
 end
 
+function test_a_method_that_returns_no_index_is_refused ()
+  h = chandle (quarn ('chandleset', 1, matrix_lines (sparse (3))));
+  silent = fullfile (fileparts (which ('registered')), 'silent');
+  addpath (silent);
+  undo = onCleanup (@() rmpath (silent));
+  expect_refused (@() added (h), 'Handle does not exist', 'KORV:quarn:NonHandle');
+  clear undo
+  expect_equal (added (h), 3);
+end
+
 function test_an_index_is_truncated ()
   h = quarn ('chandleset', 1, matrix_lines (sparse (3)));
   expect_equal (added (chandle (h + 0.75)), 3);

@@ -156,7 +156,7 @@ function test_short_arrays_are_refused ()
   u = [0; 0];
   e = element ();
   e.opt = e.opt(1:6);
-  expect_error (@() evaluate_law (e, u, u), '', '~^quarn residual : "opt" of law "DahlC" must hold 7 values or more, got 6$');
+  expect_error (@() evaluate_law (e, u, u), '', '~^quarn residual : element 1 : "opt" of law "DahlC" must hold 7 values or more, got 6$');
   expect_error (@() evaluate_law (rmfield (element (), 'iopt'), u, u), '', '~"iopt" of law "DahlC" must hold 5 values or more, got 0');
   expect_error (@() evaluate_law (rmfield (element (), 'vnl'), u, u), '', '~"vnl" of law "DahlC" must hold 1 values or more, got 0');
   e = element ([0.5 10 1 2 4], 4);

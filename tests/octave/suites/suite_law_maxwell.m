@@ -166,7 +166,7 @@ function test_short_options_are_refused ()
   count = numel (e.opt);
   u = [0; 0];
   e.opt = e.opt(1:count - 1);
-  expect_error (@() evaluate_law (e, u, u), '', '~^quarn residual : "opt" of law "Maxw" must hold values 21 to 22 \(block E\), got 21');
+  expect_error (@() evaluate_law (e, u, u), '', '~^quarn residual : element 1 : "opt" of law "Maxw" must hold values 21 to 22 \(block E\), got 21');
   e.opt = e.opt(1:19);
   expect_error (@() evaluate_law (e, u, u), '', '~\(block A\), got 19');
   e.opt = e.opt(1:18);

@@ -108,7 +108,7 @@ function test_short_arrays_are_refused ()
   u = [0; 0];
   e = element ();
   e.opt = e.opt(1:6);
-  expect_error (@() evaluate_law (e, u, u), '', '~^quarn residual : "opt" of law "sts" must hold 7 values or more, got 6$');
+  expect_error (@() evaluate_law (e, u, u), '', '~^quarn residual : element 1 : "opt" of law "sts" must hold 7 values or more, got 6$');
   expect_error (@() evaluate_law (rmfield (element (), 'iopt'), u, u), '', '~"iopt" of law "sts" must hold 5 values or more, got 0');
   expect_error (@() evaluate_law (rmfield (element (), 'vnl'), u, u), '', '~"vnl" of law "sts" must hold 1 values or more, got 0');
   expect_error (@() evaluate_law (element ([0.5 3 10 2.5 0], 3), zeros (3, 1), zeros (3, 1)), '', ...

@@ -177,6 +177,13 @@ function test_list_that_is_not_a_cell_or_not_there_adds_nothing ()
   end
 end
 
+function test_a_matrix_cell_has_no_nonlinear_list ()
+  K = matrices ();
+  s = state ();
+  other = nl_model (struct ('Fu', @(varargin) error ('called'), 'StoreFNL', 0));
+  expect_equal (residual_of (K, s{:}, other, other), residual_of (K, s{:}));
+end
+
 function test_rayleigh_sources_and_tc_share_one_structure ()
   K = matrices ();
   s = state ();

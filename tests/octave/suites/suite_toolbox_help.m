@@ -90,7 +90,8 @@ function test_what_is_named_under_see_also_exists ()
   for k = 1:size (list, 1)
     lines = help_of (list{k, 2});
     at = find (strncmp (lines, 'See also', 8), 1);
-    names = strtrim (strsplit (strjoin (lines(at:end), ' ')(9:end), ','));
+    text = strjoin (lines(at:end), ' ');
+    names = strtrim (strsplit (text(9:end), ','));
     for name = names
       if ~any (strcmp (name{1}, list(:, 1))), error ('%s: there is no %s to see', list{k, 1}, name{1}); end
     end

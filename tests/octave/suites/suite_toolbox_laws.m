@@ -49,8 +49,7 @@ end
 
 % First loading of the bank by Iwan's formula: a parabola up to the slip force, and Masing's rule for unloading.
 function test_an_iwan_bank_loads_along_a_parabola ()
-  n = 40;
-  joint = qn.iwan ('slip', 100, 'stiffness', 1e6, 'sliders', n);
+  joint = qn.iwan ('slip', 100, 'stiffness', 1e6, 'sliders', 40);
   h = 1e-3;
   top = 2 * 100 / 1e6;
   up = linspace (0, 1.2 * top, 1201);
@@ -63,10 +62,19 @@ function test_an_iwan_bank_loads_along_a_parabola ()
   expect_equal (f(1201:end), f(1201) - 2 * (1e6 * back / 2 - (1e6 * back / 2) .^ 2 / 400), 3e-2);
 end
 
+function test_a_bank_may_mix_laws_with_and_without_memory ()
+  x = 1e-3 * sin (0:0.1:3);
+  v = [0, diff(x)];
+  slider = qn.slider ('slip', 1, 'stiffness', 5e3);
+  zener = qn.zener ('stiffness', 10, 'spring', 1e3, 'damper', 4e3);
+  alone = qn.force (slider, x, v, 1) + qn.force (zener, x, v, 1) + qn.force (qn.cubic ('stiffness', 1e9), x);
+  expect_equal (qn.force ([slider, zener, qn.cubic('stiffness', 1e9)], x, v, 1), alone, 1e-13);
+end
+
 % Dahl with exponent 1, slow pull: F = Fs (1 - exp (-k x / Fs)).
 function test_dahl_friction_approaches_its_slip_force_exponentially ()
-  x = linspace (0, 0.05, 5001);
-  f = qn.force (qn.law ('dahl', 'stiffness', 1e4, 'slip', 100), x, [0, ones(1, 5000)], 1e-5);
+  x = linspace (0, 0.05, 2001);
+  f = qn.force (qn.law ('dahl', 'stiffness', 1e4, 'slip', 100), x, [0, ones(1, 2000)], 2.5e-5);
   expect_equal (f, 100 * (1 - exp (-x * 100)), 5e-3);
 end
 
@@ -87,17 +95,17 @@ function test_maxwell_branches_have_the_dynamic_stiffness_of_a_prony_series ()
   kj = [2e5 5e4];
   tj = [0.05 0.01];
   w = 30;
-  h = 1e-5;
+  h = 5e-5;
   t = 0:h:0.6;
   f = qn.force (qn.maxwell ('stiffness', k, 'springs', kj, 'times', tj), sin (w * t), w * cos (w * t), h);
   d = k + sum (kj .* (1i * w * tj) ./ (1 + 1i * w * tj));
   late = t > 0.5;
-  if max (abs (f(late) - imag (d * exp (1i * w * t(late))))) > 5e-4 * abs (d), error ('off by more than the step explains'); end
+  if max (abs (f(late) - imag (d * exp (1i * w * t(late))))) > 2e-3 * abs (d), error ('off by more than the step explains'); end
 end
 
 % Relaxation after a jump: F = K + K1 exp (-t K1 / C).
 function test_a_zener_element_relaxes ()
-  h = 1e-5;
+  h = 2e-5;
   t = 0:h:0.1;
   f = qn.force (qn.zener ('stiffness', 100, 'spring', 300, 'damper', 6), ones (size (t)), zeros (size (t)), h);
   expect_equal (f, 100 + 300 * exp (-50 * t), 1e-3);

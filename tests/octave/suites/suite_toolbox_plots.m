@@ -68,6 +68,21 @@ function test_a_waterfall_has_one_line_a_spectrum ()
   expect_error (@() qn.plot.waterfall (1:10, rand (3, 10), 'along', 1), 'qn:input', '~spectra of 1 x 10');
 end
 
+function test_panels_divide_the_page_without_overlap ()
+  fig = qn.plot.page (1000, 800);
+  clean = onCleanup (@() close (fig));
+  places = zeros (4, 4);
+  for k = 1:4, places(k, :) = get (qn.plot.panel (2, 2, k), 'position'); end
+  for j = 1:4
+    for k = j + 1:4
+      apart = places(j, 1:2) + places(j, 3:4) <= places(k, 1:2) | places(k, 1:2) + places(k, 3:4) <= places(j, 1:2);
+      if ~any (apart), error ('panels %d and %d overlap', j, k); end
+    end
+  end
+  if any (places(:) < 0) || any (any (places(:, 1:2) + places(:, 3:4) > 1)), error ('a panel leaves the page'); end
+  expect_error (@() qn.plot.panel (2, 2, 5), 'qn:input', '~numbered from 1 to 4');
+end
+
 % The file must be a picture of the page's size on which something is drawn.
 function test_pictures_are_written_in_the_size_of_the_page ()
   [model, res] = orbiting ();

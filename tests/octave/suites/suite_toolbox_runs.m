@@ -75,6 +75,11 @@ function test_a_state_file_written_in_passing_can_be_resumed ()
   same_results (qn.resume (copy), qn.run (rich ()));
 end
 
+function test_a_file_that_cannot_be_written_is_refused_before_the_run ()
+  nowhere = fullfile (tempname (), 'x.mat');
+  expect_error (@() qn.run (rich (), 'save', nowhere, 'stop', @(r) error ('it ran')), 'qn:input', '~cannot write');
+end
+
 function stop = keep (r, file, copy)
   stop = false;
   if r.time_end > 0.35 && ~exist (copy, 'file'), copyfile (file, copy); end
@@ -154,6 +159,19 @@ function test_the_initial_acceleration_balances_all_forces ()
   expect_equal (sim.start.FNL, 200, 1e-12);
   given = qn.simulation (model, 'step', 1e-3, 'steps', 1, 'a0', 5);
   expect_equal (given.start.a, 5);
+end
+
+function test_a_long_run_says_how_far_it_is ()
+  sim = qn.simulation (qn.modal (100, 1), 'step', 1e-3, 'steps', 1000, 'v0', 1);
+  text = evalc ('qn.run (sim, ''piece'', 250, ''stop'', @wait);');
+  if isempty (regexp (text, '75 %  step 750 of 1000, 1 s, 0 s left', 'once')), error ('it said "%s"', text); end
+  quiet = evalc ('qn.run (sim, ''piece'', 500, ''progress'', false, ''stop'', @wait);');
+  expect_equal (quiet, '');
+end
+
+function stop = wait (res)
+  pause (0.7);
+  stop = false;
 end
 
 function test_a_run_that_diverges_ends_with_a_warning ()

@@ -2,6 +2,7 @@
 function res = advance (res, o)
   sim = res.sim;
   last = numel (sim.time);
+  if ~isempty (o.save), can_write (o.save); end
   h = qn.impl.register (res.final.values);
   free = onCleanup (@() delete (h));
   begun = tic ();
@@ -13,7 +14,10 @@ function res = advance (res, o)
   if ~isempty (o.piece), chunk = o.piece; end
   while res.final.column < last
     piece_begun = tic ();
-    res = qn.impl.piece (res, h, min (res.final.column + chunk, last));
+    [res.final, part, wanted] = qn.impl.piece (sim, res.final, h, min (res.final.column + chunk, last));
+    res.q(:, wanted) = part.q;
+    res.state(:, wanted) = part.state;
+    res.force(:, wanted) = part.force;
     if isempty (o.piece)
       chunk = max (100, min (10 * chunk, round (chunk * 0.5 / max (toc (piece_begun), 1e-3))));
     end
@@ -25,6 +29,7 @@ function res = advance (res, o)
       done = res.final.column - 1;
       fprintf ('  %3.0f %%  step %d of %d, %.0f s, %.0f s left\n', 100 * done / (last - 1), done, last - 1, told, ...
                told * (last - res.final.column) / (res.final.column - from));
+      if exist ('OCTAVE_VERSION', 'builtin'), fflush (stdout ()); end
     end
     lost = any (~isfinite (res.final.u));
     stop = lost || (~isempty (o.stop) && o.stop (res));
@@ -41,6 +46,14 @@ function res = advance (res, o)
   end
 end
 
+% Asked before the run, not after it.
+function can_write (file)
+  [id, why] = fopen ([file '.part'], 'w');
+  if id < 0, error ('qn:input', 'qn.run: cannot write %s: %s', file, why); end
+  fclose (id);
+  delete ([file '.part']);
+end
+
 % The elements with their present memory.
 function values = current (values, h)
   for k = 3:size (values, 1), values{k, 2} = quarn ('chandleget', remi (h, k)); end
@@ -50,7 +63,7 @@ end
 function keep (res, file)
   res.sim.options = [];
   part = [file '.part'];
-  save ('-v7', part, '-struct', 'res');
+  save (part, '-struct', 'res', '-v7');
   [done, why] = movefile (part, file, 'f');
   if ~done, error ('qn:input', 'qn.run: cannot write %s: %s', file, why); end
 end

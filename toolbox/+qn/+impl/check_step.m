@@ -9,8 +9,8 @@ function found = check_step (sim)
       ['the step of %g s is too long for mode %d (%g Hz): with %s it must stay below %g s; shorten it, keep fewer modes or take the ' ...
        'scheme ''average'''], h, top, w / (2 * pi), s.name, s.limit / w));
   elseif w * h > 2 * pi / 10
-    text = sprintf (['mode %d (%g Hz) gets %.1f steps a period; its period will come out %.0f %% too long. Where it matters, take a step ' ...
-                     'of %.2g s'], top, w / (2 * pi), 2 * pi / (w * h), 100 * (w * h) ^ 2 * (s.beta - 1 / 12) / 2, 2 * pi / (20 * w));
+    text = sprintf (['mode %d (%g Hz) gets %.1f steps a period; its period will come out %.0f %% too long. Where it matters, take a ' ...
+                     'step of %.2g s'], top, w / (2 * pi), 2 * pi / (w * h), 100 * (w * h) ^ 2 * (s.beta - 1 / 12) / 2, 2 * pi / (20 * w));
     found(end + 1) = struct ('level', 'warning', 'text', text);
   end
   low = sim.model.w(sim.model.w > 0);

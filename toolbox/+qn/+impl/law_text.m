@@ -16,7 +16,7 @@ function text = law_text (law)
       end
     case 'maxwell'
       branches = sprintf (', %g N/m with %g N s/m', [p.springs, p.dampers].');
-      text = sprintf ('spring of %g N/m beside %d Maxwell branches%s', p.stiffness, numel (p.springs), strrep (branches, ' 1 Maxwell branches', ' 1 Maxwell branch'));
+      text = sprintf ('spring of %g N/m beside Maxwell branches (%d)%s', p.stiffness, numel (p.springs), branches);
     case 'dahl'
       text = sprintf ('Dahl friction, %g N/m, slip force %g N, exponent %g', p.stiffness, p.slip, p.exponent);
     case 'stickslip'

@@ -4,7 +4,8 @@ function [shapes, loads, notes] = loads (model, list, time)
   m = numel (model.w);
   notes = {};
   if ~iscell (list) || (~isempty (list) && size (list, 2) ~= 2)
-    error ('qn:input', '%s: "load" is a cell {shape, signal; ...} with two columns, got %s of class %s', who, mat2str (size (list)), class (list));
+    error ('qn:input', '%s: "load" is a cell {shape, signal; ...} with two columns, got %s of class %s', who, mat2str (size (list)), ...
+           class (list));
   end
   n = size (list, 1);
   shapes = zeros (m, n);

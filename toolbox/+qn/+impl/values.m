@@ -10,8 +10,9 @@ function v = values (sim, step)
     damping(1:numel (c)) = c;
     v(2, :) = {3, diagonal(damping)};
   else
-    c(n, n) = 0;
-    v(2, :) = {3, every_entry(c.')};
+    padded = zeros (n, n);
+    padded(1:size (c, 1), 1:size (c, 1)) = c;
+    v(2, :) = {3, every_entry(padded.')};
   end
   for k = 1:numel (sim.elements)
     e = sim.elements(k);

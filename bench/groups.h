@@ -1,0 +1,17 @@
+// The groups of benchmarks.
+#pragma once
+
+namespace quarn::bench {
+
+void benchProduct();      ///< parallel sparse product
+void benchModes();        ///< integrator without forces
+void benchHandles();      ///< integrator with force handles
+void benchLaws();         ///< force laws
+void benchTables();       ///< table look-up
+void benchProjections();  ///< projections of a sparse matrix
+void benchEquations();    ///< time to solution against other integrators
+
+/// Runs the group of that name; false if there is none.
+bool runGroup(const char* name);
+
+}  // namespace quarn::bench

@@ -1,0 +1,95 @@
+#include "harness.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <limits>
+#include <map>
+
+#include "results.h"
+
+namespace quarn::bench {
+
+namespace {
+
+/// Best and median time of the repetitions of each benchmark, by name.
+class Collector final : public benchmark::BenchmarkReporter {
+ public:
+  bool ReportContext(const Context& /*context*/) override { return true; }
+  void ReportRuns(const std::vector<Run>& runs) override {
+    for (const Run& r : runs) {
+      if (r.run_type != Run::RT_Iteration || r.error_occurred) continue;
+      const std::string& name = r.run_name.function_name;
+      times[name].push_back(threaded[name] ? r.GetAdjustedRealTime() : r.GetAdjustedCPUTime());
+    }
+  }
+  std::map<std::string, bool> threaded;
+  std::map<std::string, std::vector<double>> times;
+};
+
+double median(std::vector<double> x) {
+  std::sort(x.begin(), x.end());
+  return x[x.size() / 2];
+}
+
+/// Largest difference relative to the largest reference number; infinite where sizes differ or a number is not one.
+double difference(const std::vector<double>& wanted, const std::vector<double>& got) {
+  if (wanted.size() != got.size()) return std::numeric_limits<double>::infinity();
+  double largest = 0.0;
+  double off = 0.0;
+  for (std::size_t i = 0; i < wanted.size(); ++i) {
+    largest = std::max(largest, std::fabs(wanted[i]));
+    const double d = std::fabs(wanted[i] - got[i]);
+    if (!(d <= std::numeric_limits<double>::max())) return std::numeric_limits<double>::infinity();
+    off = std::max(off, d);
+  }
+  return off == 0.0 ? 0.0 : off / largest;
+}
+
+std::map<std::string, double> compareNumbers(const Case& c) {
+  std::map<std::string, double> off;
+  std::vector<double> wanted;
+  for (const Program& p : c.programs) {
+    if (!p.numbers) continue;
+    const std::vector<double> got = p.numbers();
+    if (wanted.empty()) wanted = got;
+    off[p.name] = difference(wanted, got);
+    if (!(off[p.name] <= c.tolerance)) {
+      std::fprintf(stderr, "DIFFERENT NUMBERS: %s/%s/%lld: %s is off by %g, accepted %g\n", c.group.c_str(), c.variant.c_str(), c.size,
+                   p.name.c_str(), off[p.name], c.tolerance);
+      fail();
+    }
+  }
+  return off;
+}
+
+}  // namespace
+
+void use(const void* p) { benchmark::DoNotOptimize(p); }
+
+void run(const Case& c) {
+  const auto off = compareNumbers(c);
+  for (const Program& p : c.programs) {
+    benchmark::RegisterBenchmark(p.name.c_str(), [&p](benchmark::State& state) {
+      for (auto _ : state) p.run();
+    })->UseRealTime()->Unit(benchmark::kSecond);
+  }
+  Collector collector;
+  for (const Program& p : c.programs) collector.threaded[p.name] = p.threaded;
+  benchmark::RunSpecifiedBenchmarks(&collector, ".*");
+  benchmark::ClearRegisteredBenchmarks();
+  for (const Program& p : c.programs) {
+    const auto& times = collector.times.at(p.name);
+    const double best = *std::min_element(times.begin(), times.end());
+    std::vector<std::pair<std::string, double>> more{{"median", median(times)}, {"units", c.units}};
+    if (off.count(p.name)) more.emplace_back("difference", off.at(p.name));
+    note(c.group, c.variant, c.size, p.name, best, more);
+    std::printf("%-11s %-22s %8lld  %-26s %12.1f ns %10.4f ns/%s\n", c.group.c_str(), c.variant.c_str(), c.size, p.name.c_str(),
+                best * 1e9, best / c.units * 1e9, c.unit.c_str());
+  }
+  std::fflush(stdout);
+}
+
+}  // namespace quarn::bench

@@ -1,0 +1,20 @@
+// The bare formulas of the force laws, in loops over groups of observed values and states.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace quarn::bench {
+
+/// Arrays of a law over many groups, laid out as an element has them.
+struct LawArrays {
+  std::vector<double> unl;
+  std::vector<double> vnl;
+  std::vector<double> snl;
+  std::vector<double> opt;
+};
+
+/// One evaluation of the law of that name; false if there is no loop for it.
+bool lawLoop(const std::string& law, LawArrays& a);
+
+}  // namespace quarn::bench

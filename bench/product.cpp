@@ -1,0 +1,77 @@
+// The parallel sparse product against the loop it parallelises, a plain C loop, MKL, Eigen and memory bandwidth.
+#include <functional>
+#include <memory>
+
+#include "grid_matrix.h"
+#include "groups.h"
+#include "harness.h"
+#include "product_peers.h"
+#include "sparse/blas.h"
+#include "sparse/sp_tbb.h"
+
+namespace quarn::bench {
+
+namespace {
+
+void dotLoop(const GridMatrix& g, const double* x, double* y) {
+  for (int i = 0; i < g.n; ++i) {
+    const int k = g.jc[static_cast<std::size_t>(i)];
+    y[i] += cblas_ddoti(g.jc[static_cast<std::size_t>(i) + 1] - k, g.pr.data() + k, g.ir.data() + k, x);
+  }
+}
+
+void plainLoop(const GridMatrix& g, const double* x, double* y) {
+  const int* jc = g.jc.data();
+  const int* ir = g.ir.data();
+  const double* pr = g.pr.data();
+  for (int i = 0; i < g.n; ++i) {
+    double sum = 0.0;
+    for (int k = jc[i]; k < jc[i + 1]; ++k) sum += pr[k] * x[ir[k]];
+    y[i] += sum;
+  }
+}
+
+/// Adds a program that accumulates A*x into y.
+void add(Case& c, const std::string& name, std::vector<double>& y, const std::function<void(double*)>& product, bool threaded) {
+  c.programs.push_back({name, [&y, product] { product(y.data()); },
+                        [&y, product] {
+                          std::vector<double> fresh(y.size(), 0.5);
+                          product(fresh.data());
+                          return fresh;
+                        },
+                        threaded});
+}
+
+void oneMatrix(int entries, int lines) {
+  const GridMatrix g = gridMatrix(entries, lines);
+  const std::vector<double> x = wave(static_cast<std::size_t>(g.n), 1.0);
+  std::vector<double> y(x.size());
+  Case c{"product", std::to_string(entries), g.n, g.bytes(), "byte", 1e-13, {}};
+  add(c, "quarn", y, [&](double* out) { SparseMatVec(out, x.data(), g.pr.data(), g.ir.data(), g.jc.data(), g.n); }, g.n > 1000);
+  add(c, "quarn, indices tested", y, [&](double* out) {
+    SparseMatVecTested(out, x.data(), g.pr.data(), g.ir.data(), g.jc.data(), g.n, static_cast<unsigned>(g.n));
+  }, g.n > 1000);
+  add(c, "serial ddoti loop", y, [&](double* out) { dotLoop(g, x.data(), out); }, false);
+  add(c, "plain C loop", y, [&](double* out) { plainLoop(g, x.data(), out); }, false);
+  const auto peers = productPeers(g);
+  for (const ProductPeer& p : peers) add(c, p.name, y, [&](double* out) { p.product(x.data(), out); }, p.threaded);
+  // The triad moves as many bytes as the product, through as many threads.
+  const std::shared_ptr<Triad> triad = makeTriad(g.bytes());
+  c.programs.push_back({"triad, 8 threads", [triad] { triad->run(); }, {}, true});
+  run(c);
+}
+
+}  // namespace
+
+void benchProduct() {
+  // Up to a gigabyte and a half of matrix.
+  constexpr int most[] = {3'000'000, 3'000'000, 1'000'000};
+  constexpr int entries[] = {7, 27, 81};
+  for (int e = 0; e < 3; ++e) {
+    for (const int lines : {100, 300, 1'000, 3'000, 10'000, 30'000, 100'000, 300'000, 1'000'000, 3'000'000}) {
+      if (lines <= (quick() ? 3000 : most[e])) oneMatrix(entries[e], lines);
+    }
+  }
+}
+
+}  // namespace quarn::bench

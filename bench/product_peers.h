@@ -1,0 +1,36 @@
+// Other programs' sparse products, and the bandwidth triad.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "grid_matrix.h"
+
+namespace quarn::bench {
+
+struct ProductPeer {
+  std::string name;
+  std::function<void(const double* x, double* y)> product;  ///< y += A*x
+  bool threaded;
+};
+
+/// Those that were found when the benchmarks were built. They borrow g, or hold copies of it.
+std::vector<ProductPeer> productPeers(const GridMatrix& g);
+
+/// a = b + s*c over arrays that move bytes bytes (8 written, 16 read for each element), on the product's scheduler.
+class Triad {
+ public:
+  explicit Triad(double bytes);
+  void run();
+
+ private:
+  std::vector<double> a;
+  std::vector<double> b;
+  std::vector<double> c;
+};
+
+inline std::shared_ptr<Triad> makeTriad(double bytes) { return std::make_shared<Triad>(bytes); }
+
+}  // namespace quarn::bench

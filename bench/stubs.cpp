@@ -1,0 +1,2 @@
+#include "groups.h"
+namespace quarn::bench { void benchEquations(){} }

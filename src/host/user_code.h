@@ -1,0 +1,29 @@
+// The user's functions that run while a command runs: callbacks, methods of objects, and clean-ups of values that are destroyed. They may
+// call quarn, free handles that the command works with, and clear quarn itself.
+#pragma once
+
+#include "host/mex_api.h"
+
+namespace quarn::host {
+
+/// Alive around everything that may run the user's functions. Keeps the module loaded: MATLAB leaves a running function in memory by
+/// itself, Octave would unload this one at `clear quarn` and load it a second time within the call.
+/// On MATLAB, where an error may leave it undestroyed, it does nothing.
+class UserCode {
+ public:
+#ifdef QUARN_HOST_OCTAVE
+  UserCode();
+  ~UserCode();
+#else
+  UserCode() {}
+  ~UserCode() {}
+#endif
+  UserCode(const UserCode&) = delete;
+  UserCode& operator=(const UserCode&) = delete;
+};
+
+/// Whether a command waits for the user's functions: the current call comes from them, and that command may hold handles. Always false on
+/// MATLAB.
+bool insideUserCode() noexcept;
+
+}  // namespace quarn::host

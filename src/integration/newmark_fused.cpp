@@ -1,0 +1,132 @@
+#include "integration/newmark_fused.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "host/processor.h"
+
+namespace quarn {
+
+namespace {
+
+/// Modes that take all steps together: their arrays stay in the first-level cache.
+constexpr int kBlock = 256;
+
+enum class With { nothing, stiffness, both };
+
+/// Modal force of one mode behind its load.
+template <With with>
+[[gnu::always_inline]] inline double addForces(double f, double u, double v, double k, double beta, double c) {
+  if constexpr (with != With::nothing) f += k * (u + beta * v);
+  if constexpr (with == With::both) f += c * v;
+  return f;
+}
+
+template <With with>
+[[gnu::always_inline]] inline void begin(double* __restrict u, double* __restrict v, double* __restrict a, double* __restrict copyU,
+                                         double* __restrict copyV, double* __restrict copyA, double* __restrict f,
+                                         const double* __restrict column, double p, int n, const DiagonalForces& forces,
+                                         const NewmarkCoefficients& in) {
+  const NewmarkCoefficients x = in;
+  const double beta = forces.beta;
+  const double* k = forces.k;
+  const double* c = forces.c;
+  for (int i = 0; i < n; ++i) {
+    const double u0 = u[i];
+    const double v0 = v[i];
+    const double a0 = a[i];
+    copyU[i] = u0;
+    copyV[i] = v0;
+    copyA[i] = a0;
+    const double up = (x.uFromA * a0 + x.dt * v0) + u0;
+    const double vp = x.vFromA * a0 + v0;
+    u[i] = up;
+    v[i] = vp;
+    a[i] = 0.0;
+    const double load = 0.0 + column[i] * p;
+    f[i] = addForces<with>(load, up, vp, with == With::nothing ? 0.0 : k[i], beta, with == With::both ? c[i] : 0.0);
+  }
+}
+
+/// steps steps of up to kBlock modes with the loads p[0], p[stride], ...
+template <With with>
+[[gnu::always_inline]] inline void steps(double* __restrict u, double* __restrict v, double* __restrict a, const double* __restrict column,
+                                         const double* __restrict gain, int n, const double* p, int stride, int count,
+                                         const DiagonalForces& forces, const NewmarkCoefficients& in) {
+  const NewmarkCoefficients x = in;
+  const double beta = forces.beta;
+  const double* __restrict k = forces.k;
+  const double* __restrict c = forces.c;
+  for (int j = 0; j < count; ++j, p += stride) {
+    const double load = *p;
+    for (int i = 0; i < n; ++i) {
+      const double up = (x.uFromA * a[i] + x.dt * v[i]) + u[i];
+      const double vp = x.vFromA * a[i] + v[i];
+      const double first = 0.0 + column[i] * load;
+      const double f = addForces<with>(first, up, vp, with == With::nothing ? 0.0 : k[i], beta, with == With::both ? c[i] : 0.0);
+      const double d = f * gain[i];
+      u[i] = up - d;
+      v[i] = vp - x.vFromD * d;
+      a[i] = 0.0 - d * x.aFromD;
+    }
+  }
+}
+
+#define QUARN_NEWMARK_VARIANT(name, with)                                                                                              \
+  QUARN_PROCESSOR_VERSIONS                                                                                                             \
+  void begin##name(const ModalState& s, double* cu, double* cv, double* ca, double* f, const double* column, double p,                 \
+                   const DiagonalForces& forces, const NewmarkCoefficients& k) {                                                       \
+    begin<with>(s.u, s.v, s.a, cu, cv, ca, f, column, p, s.n, forces, k);                                                              \
+  }                                                                                                                                    \
+  QUARN_PROCESSOR_VERSIONS                                                                                                             \
+  void steps##name(const ModalState& s, const double* column, const double* gain, const double* p, int stride, int count,              \
+                   const DiagonalForces& forces, const NewmarkCoefficients& k) {                                                       \
+    steps<with>(s.u, s.v, s.a, column, gain, s.n, p, stride, count, forces, k);                                                        \
+  }
+QUARN_NEWMARK_VARIANT(Free, With::nothing)
+QUARN_NEWMARK_VARIANT(Elastic, With::stiffness)
+QUARN_NEWMARK_VARIANT(Damped, With::both)
+#undef QUARN_NEWMARK_VARIANT
+
+void blockSteps(const ModalState& s, const double* column, const double* gain, const double* p, int stride, int count,
+                const DiagonalForces& forces, const NewmarkCoefficients& k) {
+  (forces.c ? stepsDamped : forces.k ? stepsElastic : stepsFree)(s, column, gain, p, stride, count, forces, k);
+}
+
+}  // namespace
+
+void newmarkBegin(const ModalState& x, double* copyU, double* copyV, double* copyA, double* f, const double* r, const double* loads, int nb,
+                  const DiagonalForces& forces, const NewmarkCoefficients& k) {
+  const auto variant = forces.c ? beginDamped : forces.k ? beginElastic : beginFree;
+  if (nb == 1) {
+    variant(x, copyU, copyV, copyA, f, r, loads[0], forces, k);
+    return;
+  }
+  double load[kBlock];
+  for (int first = 0; first < x.n; first += kBlock) {
+    const int n = std::min(kBlock, x.n - first);
+    newmarkLoad(load, r + first, x.n, loads, n, nb);
+    const DiagonalForces part{forces.k ? forces.k + first : nullptr, forces.beta, forces.c ? forces.c + first : nullptr};
+    variant({x.u + first, x.v + first, x.a + first, n}, copyU + first, copyV + first, copyA + first, f + first, load, 1.0, part, k);
+  }
+}
+
+void newmarkSteps(const ModalState& x, const double* r, const double* gain, const double* loads, int stride, int nb, int steps,
+                  const DiagonalForces& forces, const NewmarkCoefficients& k) {
+  double load[kBlock];
+  for (int first = 0; first < x.n; first += kBlock) {
+    const ModalState s{x.u + first, x.v + first, x.a + first, std::min(kBlock, x.n - first)};
+    const DiagonalForces part{forces.k ? forces.k + first : nullptr, forces.beta, forces.c ? forces.c + first : nullptr};
+    if (nb == 1) {
+      blockSteps(s, r + first, gain + first, loads, stride, steps, part, k);
+      continue;
+    }
+    const double one = 1.0;
+    for (int j = 0; j < steps; ++j) {
+      newmarkLoad(load, r + first, x.n, loads + static_cast<std::ptrdiff_t>(stride) * j, s.n, nb);
+      blockSteps(s, load, gain + first, &one, 0, 1, part, k);
+    }
+  }
+}
+
+}  // namespace quarn

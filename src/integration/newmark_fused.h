@@ -1,0 +1,36 @@
+// The same formulas as newmark_kernels.h with fewer passes over the modes, for arrays that lie apart from each other.
+//
+// Results have the bits of newmarkPredict, newmarkLoad, the diagonal handles' residuals and newmarkCorrect, one after the other.
+#pragma once
+
+#include "integration/newmark_kernels.h"
+
+namespace quarn {
+
+/// Diagonal forces that come right behind the modal load: f += k*(u + beta*v), then f += c*v. Either may be absent (null), c where
+/// k is.
+struct DiagonalForces {
+  const double* k = nullptr;
+  double beta = 0.0;
+  const double* c = nullptr;
+};
+
+/// u, v, a of n modes (in-out). Nothing else may overlap them.
+struct ModalState {
+  double* u;
+  double* v;
+  double* a;
+  int n;
+};
+
+/// Keeps u, v and a in copyU, copyV, copyA (out, n values each), predicts them, and starts the modal force f (out):
+/// load vectors times loads in column order, then the diagonal forces. r holds nb columns of n values.
+void newmarkBegin(const ModalState& x, double* copyU, double* copyV, double* copyA, double* f, const double* r, const double* loads, int nb,
+                  const DiagonalForces& forces, const NewmarkCoefficients& k);
+
+/// Whole steps of a state on which only the loads and the diagonal forces act. loads: steps columns of nb values, stride values
+/// apart. A few hundred modes at a time go through all steps, since modes do not act on each other.
+void newmarkSteps(const ModalState& x, const double* r, const double* gain, const double* loads, int stride, int nb, int steps,
+                  const DiagonalForces& forces, const NewmarkCoefficients& k);
+
+}  // namespace quarn

@@ -1,0 +1,80 @@
+% LAW = RANDOM_LAW (WORD, N)  random sizes, parameters and places of the force law WORD for an element on N rows of u
+%
+% Fields
+%   parameters  "opt" from its second entry on, behind the law code
+%   page, pages extents of "unl" and "vnl"
+%   places      "iopt" from its second entry on; the state block fits into N rows
+%   forces      fewest values of a "snl"; 0 where the law may write its forces over the observations
+function law = random_law (word, n)
+  law = struct ('word', word, 'page', randi (7), 'pages', randi (3), 'places', zeros (1, 4), 'forces', 0);
+  law = feval (['random_' lower(word)], law, n);
+end
+
+function law = random_power (law, n)
+  exponents = [0 1 2 3 -1 3*rand];
+  law.parameters = [randn; exponents(randi (6))];
+end
+
+function law = random_expon (law, n)
+  law.parameters = [randn; 3 * rand];
+end
+
+function law = random_table (law, n)
+  knots = randi (6);
+  law.parameters = [0; random_knots(knots); randn(knots, 1); randi([-1, knots + 2]); 0; 0];
+  law.places = [0 0 0 0, 2, 2 + 2 * knots, knots, 1];
+end
+
+function law = random_maxw (law, n)
+  q = randi ([0, 4]);
+  m = randi ([0, min(3, n)]);
+  elements = randi ([0, 3]);
+  law.page = max (q * elements + randi ([0, 2]), 1);
+  % The committed values of the last element must lie inside the array.
+  last = 2 * law.page + max (elements - 1, 0) * q + max (q, m) + 1;
+  law.pages = max (3, ceil (last / law.page)) + (rand < 0.2);
+  weights = 0.5 * randn (2 * (q + m) * q + q * m + m * m + q + q + 2, 1);
+  law.parameters = [0; increment(0.02); randi([0, 3]) + rand / 2; 0; weights];
+  law.places = [randi([0, 1]), q, m, elements];
+  if law.places(1) + m > n + 1, law.places(1) = 0; end
+end
+
+function law = random_dahlc (law, n)
+  law.pages = 1 + randi (2);
+  exponents = [0 1 2 2*rand];
+  law.parameters = [0; increment(0.1); 50 * rand; exponents(randi (4)); 0.5 + rand; 2 * rand];
+  law.places = random_store (n);
+end
+
+function law = random_sts (law, n)
+  if law.pages == 1, law.page = 2 * ceil (law.page / 2); end
+  law.parameters = [0; increment(0.1); 5 * rand; 5 * rand; 6 * rand; 3 * rand * (rand < 0.7)];
+  law.places = random_store (n);
+end
+
+function law = random_clima2 (law, n)
+  law.page = randi (11);
+  law.pages = max (2, ceil (5 * ceil (law.page / 5) / law.page));
+  knots = randi (6);
+  columns = randi (3);
+  table = [random_knots(knots); randn(knots * columns, 1) + 1];
+  law.parameters = [0; increment(0.1); rand; 2 * rand; rand; randn; table; randi([-1, knots + 2]); 0; 0];
+  law.places = [random_store(n), 7, 7 + numel(table), knots, columns];
+  if law.page < 3, law.forces = 3; end
+end
+
+% Some of them doubled: jumps in the table.
+function x = random_knots (n)
+  x = sort (round (4 * randn (n, 1)) / 2);
+end
+
+% The time increment of a law, sometimes left to the first step time.
+function h = increment (most)
+  h = most * rand * (rand < 0.7);
+end
+
+% [place in u, skip, length, blocks] of the state store; the place and the block fit into n rows.
+function p = random_store (n)
+  p = [randi([-1, n]), randi([0, 3]), 0, randi([0, 3])];
+  if p(1) > 0, p(3) = randi ([0, n + 1 - p(1)]); end
+end

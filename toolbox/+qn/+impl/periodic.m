@@ -1,0 +1,79 @@
+% B = PERIODIC (WHO, MODEL, LOAD, ELEMENTS, H, N)  harmonic-balance equations of a modal model
+%
+% Unknowns z: for every mode in turn [c0; c1; s1; ...; cH; sH]. B has the functions
+%   equations (z, omega)  residual, Jacobian, and derivative for omega
+%   linear (omega)        answer without elements
+%   result (y)            structure of qn.harmonic from columns [z; omega]
+% and the handles of the elements' laws, which the caller deletes. Every law is evaluated at all N points of a period in one call
+% of "residual", as N springs side by side.
+function b = periodic (who, model, load, elements, harmonics, n)
+  m = numel (model.w);
+  if numel (load) ~= m, error ('qn:input', '%s: a modal force of %d values expected, got %d', who, m, numel (load)); end
+  if n <= 4 * harmonics, error ('qn:input', '%s: %d harmonics need more than %d samples', who, harmonics, 4 * harmonics); end
+  e = qn.impl.elements (model, elements);
+  index = zeros (1, numel (e));
+  for k = 1:numel (e)
+    t = qn.impl.traits (e(k).law, 1);
+    if t.memory || size (e(k).observe, 1) > 1
+      error ('qn:input', '%s: element %d must have a law without memory and one observation row', who, e(k).item);
+    end
+  end
+  for k = 1:numel (e), index(k) = quarn ('chandleset', 1003, qn.element (e(k).law, eye (n))); end
+  b = struct ('handles', chandle (index));
+  p = 2 * harmonics + 1;
+  angle = 2 * pi * (0:n - 1) / n;
+  series = ones (p, n);
+  back = ones (n, p) / n;
+  turn = zeros (p, p);
+  for k = 1:harmonics
+    series(2 * k:2 * k + 1, :) = [cos(k * angle); sin(k * angle)];
+    back(:, 2 * k:2 * k + 1) = 2 / n * series(2 * k:2 * k + 1, :).';
+    turn(2 * k:2 * k + 1, 2 * k:2 * k + 1) = [0 k; -k 0];
+  end
+  push = zeros (p, m);
+  if harmonics > 0, push(2, :) = load(:).'; end
+  damping = model.damping;
+  if size (damping, 2) == 1, damping = diag (damping); end
+  % In one period x = series.' * z; its rate is omega * turn * z.
+  linear = @(w) kron (diag (model.stiffness), eye (p)) + w * kron (damping, turn) + w ^ 2 * kron (eye (m), turn ^ 2);
+  by_omega = @(w) kron (damping, turn) + 2 * w * kron (eye (m), turn ^ 2);
+  b.linear = @(w) linear (w) \ push(:);
+  b.equations = @(z, w) equations (z, w, linear, by_omega, push, e, index, series, back, p, m, n);
+  b.result = @(y) result (y, series, harmonics, m);
+end
+
+function [g, j, slope] = equations (z, w, linear, by_omega, push, e, index, series, back, p, m, n)
+  j = linear (w);
+  g = j * z - push(:);
+  q = reshape (z, p, m);
+  for k = 1:numel (e)
+    x = (q * e(k).observe.').' * series;
+    h = chandle (index(k));
+    width = 1e-6 * max (max (abs (x)), 1e-9);
+    f = evaluate (h, x, n);
+    stiffness = (evaluate (h, x + width, n) - evaluate (h, x - width, n)) / (2 * width);
+    g = g + kron (e(k).command.', (f * back).');
+    j = j + kron (e(k).command.' * e(k).observe, back.' * bsxfun (@times, stiffness.', series.'));
+  end
+  slope = by_omega (w) * z;
+end
+
+function f = evaluate (h, x, n)
+  f = zeros (n, 1);
+  none = zeros (n, 1);
+  quarn ('residual', f, h, qn.impl.fresh (x(:)), none, none);
+  f = f.';
+end
+
+function r = result (y, series, harmonics, m)
+  k = size (y, 2);
+  p = 2 * harmonics + 1;
+  r = struct ('hertz', y(end, :) / (2 * pi), 'cosines', zeros (m, k, harmonics + 1), 'sines', zeros (m, k, harmonics + 1), ...
+              'amplitude', zeros (m, k));
+  for i = 1:m
+    z = y((i - 1) * p + (1:p), :);
+    r.cosines(i, :, :) = reshape (z([1, 2:2:p], :).', [1, k, harmonics + 1]);
+    r.sines(i, :, 2:end) = reshape (z(3:2:p, :).', [1, k, harmonics]);
+    r.amplitude(i, :) = max (abs (series.' * z), [], 1);
+  end
+end

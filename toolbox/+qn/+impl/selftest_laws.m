@@ -1,0 +1,112 @@
+% CHECKS = SELFTEST_LAWS ()  the checks of qn.selftest that compare runs and force laws with their formulas
+function checks = selftest_laws ()
+  checks = {'linear run', @linear_run; 'law Power', @power; 'law Expon', @expon; 'law Table', @table; 'law Maxw', @maxw; ...
+            'law DahlC', @dahl; 'law sts', @stick_slip; 'law Clima2', @clima};
+end
+
+% A free oscillation: average acceleration turns every step by the angle 2 atan (w h / 2) and keeps the amplitude.
+function [good, text] = linear_run ()
+  w = 2 * pi * 5;
+  h = 1e-3;
+  n = 2000;
+  t = (0:n) * h;
+  newmark = struct ('type', 2000, 'r', [0, 1 / (4 / h ^ 2 + w ^ 2)], 'tft', t, 'data', [h, h ^ 2 / 4, h / 2, 2 / h, 4 / h ^ 2, 0]);
+  spring = struct ('type', 1, 'pr', w ^ 2, 'ir', int32 (0), 'jc', int32 ([0; 1]));
+  out = struct ('data', t(2:end).', 'def', zeros (1, n));
+  u = 0.01 + zeros (1, 1);
+  v = zeros (1, 1);
+  a = -w ^ 2 * u;
+  quarn ('chandlediagnewmark', {newmark, spring}, struct (), u, v, a, [0 0], struct ('uva', struct ('uva', zeros (4, 1))), out);
+  exact = 0.01 * cos (2 * atan (w * h / 2) * (1:n));
+  difference = max (abs (out.def - exact)) / 0.01;
+  good = all (abs (out.def - exact) <= 1e-11);
+  text = sprintf ('%d steps, relative difference to the closed form %.1e (below 1e-9)', n, difference);
+end
+
+function [good, text] = power ()
+  x = [-2; -0.5; 0; 1; 3];
+  [good, text] = judged (evaluated (element (5, 'Power', [7; 3]), x, zeros (5, 1), 1), 7 * x .^ 3);
+end
+
+function [good, text] = expon ()
+  x = [-2; -0.5; 0; 1; 3];
+  [good, text] = judged (evaluated (element (5, 'Expon', [7; 3]), x, zeros (5, 1), 1), 7 * 3 .^ x);
+end
+
+function [good, text] = table ()
+  knots = [-1; 0; 2; 5];
+  forces = [-30; 0; 4; 64];
+  x = [-2; -0.5; 0.3; 3; 6];
+  e = element (5, 'Table', [knots; forces; zeros(3, 1)]);
+  e.iopt = int32 ([-1 0 0 0 0 1 9 4 1]);
+  [good, text] = judged (evaluated (e, x, zeros (5, 1), 1), interp1 (knots, forces, x, 'linear', 'extrap'));
+end
+
+% A standard linear solid, stretched and held: the branch relaxes by the same factor in each step.
+function [good, text] = maxw ()
+  h = 1e-3;
+  e = element (2, 'Maxw', [0; h; 1; 0; 70; -60; zeros(4, 1); zeros(6, 1); 40; 0; -40; 0; 0]);
+  e.c = struct ('ir', int32 (0), 'jc', int32 ([0; 1; 1]), 'pr', 1, 'dims', [2 1], 'trans', 1);
+  e.iopt = int32 ([-1 0 2 1 1]);
+  e.unl = zeros (2, 1, 3);
+  e.vnl = zeros (2, 1, 3);
+  e.vnl(2, 1, 3) = 40;
+  e.snl = evaluated (e, 1, 0, 50);
+  [good, text] = judged (e.snl(1), 10 + 60 * (1 - 40 * h) ^ 50);
+end
+
+% A stroke at constant velocity: the distance to the limit of 1000 N shrinks by the same factor in each step.
+function [good, text] = dahl ()
+  h = 1e-3;
+  [~, u] = evaluated (with_state (element (2, 'DahlC', [0; h; 1e5; 1; 0.5; 2000]), 2), [0; 0], [0.2; 0], 100);
+  [good, text] = judged (u(2), 1000 * (1 - (1 - 1e5 * 0.2 * h / 1000) ^ 100));
+end
+
+% A trial of 5 N against 3 N slips to the other side of the observed point.
+function [good, text] = stick_slip ()
+  [f, u] = evaluated (with_state (element (2, 'sts', [0; 1e-3; 4; 10; 3; 0]), 2), [0.5; 0], [0; 0], 1);
+  [good, text] = judged ([f(1); u(2)], [-3 + 4 * 0.5; 0.5 + 3 / 10]);
+end
+
+function [good, text] = clima ()
+  e = with_state (element (5, 'Clima2', [0; 0.5; 3; 1; 0.5; 0.25; 0; 2; 10; 30; 4; 8; zeros(3, 1)]), 4);
+  e.iopt = int32 ([-1 3 3 2 1 7 13 2 2]);
+  x = [0.1; 0.2; 1; 2; -3];
+  f = evaluated (e, x, [0.5; -0.25; 0; 0; 0], 1);
+  limit = 0.5 * 20;
+  f1 = x(4) + 0.5 * 0.5 * 6 * (1 - x(4) / limit) - 3 * x(1);
+  f2 = x(5) - 0.25 * 0.5 * 6 * (1 + x(5) / limit) - 3 * x(2);
+  [good, text] = judged (f(1:3), [f1; f2; 20 - 3 * x(3) - 0.25]);
+end
+
+% An element that observes N values as they are.
+function e = element (n, law, parameters)
+  lines = struct ('ir', int32 ((0:n - 1).'), 'jc', int32 ((0:n).'), 'pr', ones (n, 1), 'dims', [n n], 'trans', 1);
+  e = struct ('type', 1003, 'c', lines, 'opt', [sum(double (law) .* 256 .^ (0:numel (law) - 1)); parameters], 'unl', zeros (n, 1), ...
+              'snl', zeros (n, 1));
+end
+
+% Its state, row ROW, is written back to u, where the next step observes it.
+function e = with_state (e, row)
+  n = numel (e.unl);
+  e.iopt = int32 ([-1 row-1 row-1 1 1]);
+  e.unl = zeros (n, 1, 2);
+  e.vnl = zeros (n, 1, 2);
+end
+
+% Forces and displacements after STEPS steps of an integrator that moves nothing and so only evaluates.
+function [f, u] = evaluated (e, x, speed, steps)
+  n = numel (x);
+  still = struct ('type', 2000, 'r', zeros (n, 2), 'tft', (0:steps) * 1, 'data', zeros (1, 6));
+  u = x + zeros (n, 1);
+  v = speed + zeros (n, 1);
+  a = zeros (n, 1);
+  quarn ('chandlediagnewmark', {still, e}, struct ('K', []), u, v, a, [0 0], struct ('uva', struct ('uva', zeros (4 * n, 1))), struct ());
+  f = e.snl;
+end
+
+function [good, text] = judged (got, wanted)
+  difference = max (abs (got - wanted)) / max (abs (wanted));
+  good = all (abs (got - wanted) <= 1e-12 * max (abs (wanted)));
+  text = sprintf ('%.9g, by the formula %.9g; relative difference %.1e', got(end), wanted(end), difference);
+end

@@ -1,0 +1,34 @@
+% QN.PLOT.PICTURE  writes a figure to a picture file
+%
+% Purpose
+%   The picture has the size of the page in pixels.
+%
+% Calls
+%   qn.plot.picture (FIG, FILE)
+%
+% Input
+%   FIG    from qn.plot.page
+%   FILE   name of the file; its ending says the format: png, pdf, svg or eps
+%
+% Errors
+%   qn:input  another ending
+%
+% Example
+%   fig = qn.plot.page ();
+%   plot (0:10, (0:10) .^ 2);
+%   file = [tempname() '.png'];
+%   qn.plot.picture (fig, file);
+%   close (fig);
+%   delete (file);
+%
+% See also qn.plot.page
+function picture (fig, file)
+  [unused, unused2, ending] = fileparts (file);
+  devices = {'.png', '-dpng'; '.pdf', '-dpdf'; '.svg', '-dsvg'; '.eps', '-depsc'};
+  k = find (strcmpi (ending, devices(:, 1)));
+  if isempty (k), error ('qn:input', 'qn.plot.picture: a name that ends in png, pdf, svg or eps expected, got %s', file); end
+  place = get (fig, 'position');
+  dpi = 120;
+  set (fig, 'paperunits', 'inches', 'papersize', place(3:4) / dpi, 'paperposition', [0, 0, place(3:4) / dpi]);
+  print (fig, file, devices{k, 2}, sprintf ('-r%d', dpi));
+end

@@ -1,0 +1,53 @@
+% QN.PLOT.SERIES  time history of displacements or forces
+%
+% Purpose
+%   Draws into the current axes, in units that suit the size of the motion.
+%
+% Calls
+%   qn.plot.series (RES, C)
+%   qn.plot.series (RES, C, NAMES)
+%   qn.plot.series (RES, 'force', ROWS, NAMES)
+%
+% Input
+%   RES     from qn.run
+%   C       p x m observation rows, or the number of one degree of freedom
+%   ROWS    rows of RES.force instead
+%   NAMES   cell of p texts for the legend
+%
+% Errors
+%   qn:input  the rows do not fit the model
+%
+% Example
+%   model = qn.modal (1e4 * [2 -1; -1 1], eye (2), 'damping', 0.02);
+%   res = qn.run (qn.simulation (model, 'step', 1e-3, 'steps', 1000, 'v0', [0; 1]));
+%   fig = qn.plot.page ();
+%   qn.plot.series (res, qn.observe (model, [1 2]), {'middle', 'tip'});
+%   close (fig);
+%
+% See also qn.plot.phase, qn.plot.loop, qn.plot.page
+function series (res, c, varargin)
+  if ischar (c)
+    if ~strcmp (c, 'force') || isempty (varargin)
+      error ('qn:input', 'qn.plot.series: observation rows or ''force'' and its rows expected');
+    end
+    y = res.force(varargin{1}, :);
+    varargin(1) = [];
+    [factor, unit] = qn.impl.prefixed (y(:), 'N');
+    what = 'Force';
+  else
+    y = qn.displacement (res, c);
+    [factor, unit] = qn.impl.prefixed (y(:), 'm');
+    what = 'Displacement';
+  end
+  names = {};
+  if ~isempty (varargin), names = varargin{1}; end
+  k = qn.impl.thinned (numel (res.time), 6000);
+  [by, seconds] = qn.impl.prefixed (res.time, 's');
+  for j = 1:size (y, 1)
+    plot (by * res.time(k), factor * y(j, k), '-', 'color', qn.impl.colours (j), 'linewidth', qn.impl.width ());
+    hold on;
+  end
+  hold off;
+  set (gca (), 'xlim', by * res.time([1 end]));
+  qn.impl.style (sprintf ('%s history', what), sprintf ('Time [%s]', seconds), sprintf ('%s [%s]', what, unit), names);
+end

@@ -1,0 +1,72 @@
+% QN.PLOT.WATERFALL  spectra behind one another
+%
+% Purpose
+%   Shows how the frequencies in a signal change: over the time of one run-up, or from run to run.
+%
+% Calls
+%   qn.plot.waterfall (TIME, SIGNAL, ...)
+%   qn.plot.waterfall (HERTZ, SPECTRA, 'along', VALUES, ...)
+%
+% Input
+%   TIME      1 x k times, evenly spaced [s], and
+%   SIGNAL    1 x k; it is cut into overlapping parts of one length, or
+%   HERTZ     1 x n frequencies [Hz], and
+%   SPECTRA   p x n amplitudes, one row a spectrum, with the VALUES (p) that belong to them: speeds, loads
+%   Names and values
+%     'parts'   number of parts of the signal (24)
+%     'hertz'   [low high] frequencies to show (all)
+%     'along'   values of the spectra
+%     'label'   text for the axis along them ('Time [s]')
+%     'unit'    unit of the signal ('m')
+%
+% Errors
+%   qn:input  lengths differ
+%
+% Example
+%   t = 0:1e-3:10;
+%   fig = qn.plot.page ();
+%   qn.plot.waterfall (t, sin (2 * pi * (5 + 4 * t) .* t), 'hertz', [0 120]);
+%   close (fig);
+%
+% See also qn.spectrum, qn.plot.series
+function waterfall (x, y, varargin)
+  who = 'qn.plot.waterfall';
+  o = qn.impl.options (who, struct ('parts', 24, 'hertz', [], 'along', [], 'label', 'Time [s]', 'unit', 'm'), varargin);
+  if isempty (o.along)
+    if numel (x) ~= numel (y), error ('qn:input', '%s: %d times, %d values', who, numel (x), numel (y)); end
+    [x, y, o.along] = parts (x, reshape (y, 1, []), o.parts);
+  elseif size (y, 1) ~= numel (o.along) || size (y, 2) ~= numel (x)
+    error ('qn:input', '%s: spectra of %d x %d expected, got %s', who, numel (o.along), numel (x), mat2str (size (y)));
+  end
+  if isempty (o.hertz), o.hertz = x([1 end]); end
+  shown = x >= o.hertz(1) & x <= o.hertz(2);
+  [f, unit] = qn.impl.prefixed (y(:), o.unit);
+  x = x(shown);
+  y = f * abs (y(:, shown));
+  % From the back to the front, each line hiding what is behind it; the lines lie on a plane, so that it prints anywhere.
+  [along, order] = sort (o.along(:), 'descend');
+  top = max (y(:)) + (max (y(:)) == 0);
+  rise = max (along(1) - along(end), eps) * 4 / max (numel (along) - 1, 4) / top;
+  for k = 1:numel (along)
+    z = along(k) + rise * y(order(k), :);
+    patch ([x(1), x, x(end)], [along(k), z, along(k)], [1 1 1], 'edgecolor', 'none');
+    hold on;
+    plot (x, z, '-', 'color', qn.impl.colours (1), 'linewidth', qn.impl.width ());
+  end
+  hold off;
+  axis ([x([1 end]), along(end), along(1) + 1.05 * rise * top]);
+  qn.impl.style (sprintf ('Waterfall, highest peak %.3g %s', top, unit), 'Frequency [Hz]', o.label, {});
+end
+
+function [hertz, spectra, along] = parts (time, signal, count)
+  n = numel (signal);
+  width = floor (2 * n / (count + 1));
+  spectra = [];
+  along = zeros (count, 1);
+  for k = 1:count
+    piece = round ((k - 1) * (n - width) / max (count - 1, 1)) + (1:width);
+    [hertz, s] = qn.spectrum (time(piece), signal(piece));
+    spectra(k, :) = abs (s);
+    along(k) = mean (time(piece));
+  end
+end

@@ -1,0 +1,71 @@
+% QN.BACKBONE  frequency of free vibration against its amplitude
+%
+% Purpose
+%   Follows one mode of the undamped structure with its nonlinear elements from small to large amplitudes (nonlinear normal mode),
+%   by harmonic balance on the module's "residual". Resonances of the damped, driven structure lie along this curve.
+%
+% Calls
+%   [HERTZ, R] = qn.backbone (MODEL, ELEMENTS, AMPLITUDE, ...)
+%
+% Input
+%   MODEL      from qn.modal; its damping is left out
+%   ELEMENTS   {LAW, C; ...} as for qn.simulation; laws without memory
+%   AMPLITUDE  1 x k, ascending: displacement of the observed point at its turning point [m]
+%   Names and values
+%     'mode'       number of the mode to follow (1)
+%     'row'        observation row, or a degree of freedom, whose amplitude is meant (C of the first element)
+%     'harmonics'  number of harmonics (7)
+%     'samples'    points of one period (256)
+%
+% Output
+%   HERTZ      1 x k frequencies [Hz]
+%   R          struct as of qn.harmonic
+%
+% Errors
+%   qn:input     sizes do not fit, or a law has a memory
+%   qn:diverged  the curve cannot be followed; take amplitudes closer to one another
+%
+% Example
+%   model = qn.modal (1, 1);
+%   a = 0.1:0.1:2;
+%   hertz = qn.backbone (model, {qn.cubic('stiffness', 1), qn.observe(model, 1)}, a);
+%   plot (hertz, a);
+%
+% See also qn.harmonic, qn.cubic, qn.static
+function [hertz, r] = backbone (model, elements, amplitude, varargin)
+  who = 'qn.backbone';
+  o = qn.impl.options (who, struct ('mode', 1, 'row', [], 'harmonics', 7, 'samples', 256), varargin);
+  m = numel (model.w);
+  if ~any (o.mode == 1:m), error ('qn:input', '%s: modes are numbered from 1 to %d', who, m); end
+  if isempty (o.row), o.row = elements{1, 2}; end
+  row = qn.impl.looked_at (model, o.row);
+  model.damping = zeros (m, 1);
+  b = qn.impl.periodic (who, model, zeros (m, 1), elements, o.harmonics, o.samples);
+  free = onCleanup (@() delete (b.handles));
+  % Free undamped motion can start at a turning point: cosines only.
+  p = 2 * o.harmonics + 1;
+  kept = bsxfun (@plus, [1, 2:2:p].', p * (0:m - 1));
+  kept = kept(:);
+  peak = kron (row, ones (1, o.harmonics + 1));
+  y = zeros (numel (kept) + 1, 1);
+  y(o.harmonics * (o.mode - 1) + o.mode + 1) = amplitude(1) / row(o.mode);
+  y(end) = model.w(o.mode);
+  points = zeros (m * p + 1, numel (amplitude));
+  for k = 1:numel (amplitude)
+    if k > 1, y(1:end - 1) = y(1:end - 1) * (amplitude(k) / amplitude(k - 1)); end
+    [y, good] = qn.impl.newton (@(y) free_motion (b, y, kept, m * p, peak, amplitude(k)), y);
+    if ~good, error ('qn:diverged', '%s: lost the curve at an amplitude of %g m', who, amplitude(k)); end
+    points(kept, k) = y(1:end - 1);
+    points(end, k) = y(end);
+  end
+  r = b.result (points);
+  hertz = r.hertz;
+end
+
+function [g, j] = free_motion (b, y, kept, n, peak, amplitude)
+  z = zeros (n, 1);
+  z(kept) = y(1:end - 1);
+  [g, j, slope] = b.equations (z, y(end));
+  g = [g(kept); peak * y(1:end - 1) - amplitude];
+  j = [j(kept, kept), slope(kept); peak, 0];
+end

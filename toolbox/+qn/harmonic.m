@@ -1,0 +1,84 @@
+% QN.HARMONIC  steady response to a harmonic load, by harmonic balance and continuation
+%
+% Purpose
+%   Finds periodic answers to LOAD * cos (2 pi f t) over a range of frequencies, stable or not, and follows the curve around its
+%   folds (arc-length continuation). The forces of the elements are evaluated by the module's "residual" at the points of one period
+%   and brought back to harmonics (alternating frequency and time, Cameron and Griffin, 1989).
+%
+% Calls
+%   R = qn.harmonic (MODEL, LOAD, ELEMENTS, HERTZ, ...)
+%
+% Input
+%   MODEL     from qn.modal, m modes
+%   LOAD      m x 1 modal force amplitude (qn.command times forces) [N]
+%   ELEMENTS  {LAW, C; ...} as for qn.simulation; laws without memory
+%   HERTZ     [first last] frequency, in the direction to follow the curve [Hz]
+%   Names and values
+%     'harmonics'  number of harmonics (5)
+%     'samples'    points of one period (128)
+%     'points'     greatest number of points on the curve (400)
+%     'step'       first step along the curve, relative (0.02)
+%
+% Output
+%   R     struct: hertz      1 x k frequencies along the curve
+%                 cosines    m x k x (H+1), cosine coefficients of the modal answer, harmonic 0 first
+%                 sines      m x k x (H+1)
+%                 amplitude  m x k, greatest value of each mode over a period
+%
+% Errors
+%   qn:input     sizes do not fit, or a law has a memory
+%   qn:diverged  no answer at the first frequency
+%
+% Example
+%   model = qn.modal (1, 1, 'damping', 0.05);
+%   r = qn.harmonic (model, 0.2, {qn.cubic('stiffness', 0.5), qn.observe(model, 1)}, [0.05 0.3]);
+%   plot (r.hertz, r.amplitude);
+%
+% See also qn.backbone, qn.static, qn.run
+function r = harmonic (model, load, elements, hertz, varargin)
+  who = 'qn.harmonic';
+  o = qn.impl.options (who, struct ('harmonics', 5, 'samples', 128, 'points', 400, 'step', 0.02), varargin);
+  if numel (hertz) ~= 2, error ('qn:input', '%s: [first last] frequency expected, got %d values', who, numel (hertz)); end
+  b = qn.impl.periodic (who, model, load, elements, o.harmonics, o.samples);
+  free = onCleanup (@() delete (b.handles));
+  omega = 2 * pi * hertz;
+  % First point: Newton at a fixed frequency, from the linear answer.
+  z = b.linear (omega(1));
+  [z, good] = qn.impl.newton (@(z) fixed (b, z, omega(1)), z);
+  if ~good, error ('qn:diverged', '%s: no answer at %g Hz; begin farther from the resonances', who, hertz(1)); end
+  size_of = max (norm (z), realmin ());
+  % Both amplitude and frequency count along the curve, each in its own measure.
+  y = [z / size_of; omega(1) / abs(omega(2) - omega(1))];
+  unit = [size_of * ones(numel (z), 1); abs(omega(2) - omega(1))];
+  ahead = zeros (size (y));
+  ahead(end) = sign (omega(2) - omega(1));
+  curve = y;
+  step = o.step;
+  while size (curve, 2) < o.points
+    guess = y + step * ahead;
+    [next, good, rounds] = qn.impl.newton (@(x) on_arc (b, x, guess, ahead, unit), guess);
+    if ~good || (next - y).' * ahead < 0
+      step = step / 2;
+      if step < 1e-6, break, end
+      continue
+    end
+    ahead = (next - y) / norm (next - y);
+    y = next;
+    curve(:, end + 1) = y;
+    if rounds < 4, step = min (1.5 * step, 5 * o.step); end
+    f = y(end) * unit(end);
+    if (f - omega(2)) * sign (omega(2) - omega(1)) >= 0 || (omega(1) - f) * sign (omega(2) - omega(1)) > 1e-9 * omega(1), break, end
+  end
+  r = b.result (bsxfun (@times, curve, unit));
+end
+
+function [g, j] = fixed (b, z, omega)
+  [g, j] = b.equations (z, omega);
+end
+
+function [g, j] = on_arc (b, x, guess, ahead, unit)
+  y = x .* unit;
+  [g, j, slope] = b.equations (y(1:end - 1), y(end));
+  g = [g; ahead.' * (x - guess)];
+  j = [bsxfun(@times, [j, slope], unit.'); ahead.'];
+end

@@ -5,7 +5,7 @@ if(QUARN_SANITIZE)
   execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libasan.so
                   OUTPUT_VARIABLE sanitizer_library OUTPUT_STRIP_TRAILING_WHITESPACE)
   set(host_environment
-    LD_PRELOAD=${sanitizer_library} ASAN_OPTIONS=detect_leaks=0:quarantine_size_mb=16:malloc_context_size=1 UBSAN_OPTIONS=print_stacktrace=1 QUARN_SANITIZED=1)
+    LD_PRELOAD=${sanitizer_library} ASAN_OPTIONS=detect_leaks=0:quarantine_size_mb=1:thread_local_quarantine_size_kb=64:malloc_context_size=1 UBSAN_OPTIONS=print_stacktrace=1 QUARN_SANITIZED=1)
 endif()
 # Beside the module, where the runner looks for it.
 add_library(address_of MODULE ${CMAKE_CURRENT_LIST_DIR}/octave/address_of.c)

@@ -43,6 +43,7 @@ function folder = install_quarn (folder, keep)
   before = path ();
   addpath (toolbox);
   addpath (found);
+  drop_relative ({toolbox, found});
   try
     check_answer (found, name);
   catch err
@@ -71,6 +72,9 @@ function found = find_module (toolbox, name)
 end
 
 function check_answer (folder, name)
+  if exist (fullfile (pwd (), 'quarn.m'), 'file') && ~has_file (pwd (), name)
+    error ('install_quarn: the current folder holds quarn.m, which hides the compiled module; change to another folder first');
+  end
   try
     x = quarn ();
   catch err
@@ -93,13 +97,15 @@ end
 
 % Relative names would lead elsewhere after the next cd.
 function folder = absolute (folder)
-  here = pwd ();
-  try
-    cd (folder);
-    folder = pwd ();
-    cd (here);
-  catch err
-    cd (here);
-    error ('qn:install', 'install_quarn: the folder %s cannot be entered: %s', folder, err.message);
+  [found, info] = fileattrib (folder);
+  if ~found, error ('qn:install', 'install_quarn: there is no folder %s', folder); end
+  folder = info.Name;
+end
+
+% The same folders under relative names, from addpath ('toolbox') say: they are on the path already, and must not be saved.
+function drop_relative (folders)
+  for entry = strsplit (path (), pathsep ())
+    [found, info] = fileattrib (entry{1});
+    if found && ~strcmp (entry{1}, '.') && any (strcmp (info.Name, folders)) && ~any (strcmp (entry{1}, folders)), rmpath (entry{1}); end
   end
 end

@@ -61,7 +61,7 @@ void checkBuffer(const NlElement& e, const Buffer& b, bool keep, host::Doubles s
     }
   }
   const mxArray* c = e.needed("c");
-  if (!mxIsSparse(c)) checkProd(sparseView(c, "the element's c"), state.count, b.n, "the element's c");
+  if (!mxIsSparse(c)) checkProd(sparseView(c, "the element's c"), state.count, b.data.count, "the element's c");
 }
 
 void refresh(const NlElement& e, const Buffer& b, bool keep, host::Doubles state) {
@@ -78,7 +78,7 @@ void refresh(const NlElement& e, const Buffer& b, bool keep, host::Doubles state
   } else {
     std::fill_n(b.data.data, b.n, 0.0);
   }
-  Prod_Mt_u(e.needed("c"), state, {b.data.data, b.n}, "the element's c");
+  Prod_Mt_u(e.needed("c"), state, b.data, "the element's c");
 }
 
 struct Buffers {

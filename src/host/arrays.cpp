@@ -4,6 +4,7 @@
 #include <climits>
 #include <cstdio>
 #include <cstring>
+#include <functional>
 
 #include "host/errors.h"
 
@@ -84,6 +85,11 @@ void storeClipped(double* dst, std::size_t dstCount, long long offset, const dou
   const long long last = std::min(n, size - offset);
   if (first >= last) return;
   std::memmove(dst + offset + first, src + first, static_cast<std::size_t>(last - first) * sizeof(double));
+}
+
+bool overlap(const double* a, std::size_t nA, const double* b, std::size_t nB) {
+  const std::less<const double*> before;  // also for pointers into different arrays
+  return a && b && nA > 0 && nB > 0 && before(a, b + nB) && before(b, a + nA);
 }
 
 }  // namespace quarn::host

@@ -58,4 +58,7 @@ mxArray* duplicate(const mxArray* a);
 /// outside is left out. Returns nothing. offset may be negative or beyond the end.
 void storeClipped(double* dst, std::size_t dstCount, long long offset, const double* src, long long n);
 
+/// Whether nA values from a on share memory with nB values from b on. Null and no values share nothing.
+bool overlap(const double* a, std::size_t nA, const double* b, std::size_t nB);
+
 }  // namespace quarn::host

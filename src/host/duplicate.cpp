@@ -44,7 +44,7 @@ void copyBytes(void* to, const void* from, std::size_t bytes) {
 // Octave leaks the extents of a struct or cell that are asked for before the first look into it: the look comes first.
 
 /// Values are copied level by level on the host's stack, which Octave's own clean-up of them uses as well.
-constexpr int deepest = 1000;
+constexpr int deepest = 2000;
 
 mxArray* duplicateLevel(const mxArray* a, int level);
 

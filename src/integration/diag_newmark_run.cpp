@@ -1,6 +1,5 @@
 // All steps of a run, in as few passes over the modes as the arguments allow.
-#include <functional>
-
+#include "host/arrays.h"
 #include "integration/diag_newmark.h"
 
 namespace quarn {
@@ -14,11 +13,6 @@ struct Range {
   const double* data;
   std::size_t count;
 };
-
-bool overlap(const Range& a, const Range& b) {
-  const std::less<const double*> before;
-  return a.data && b.data && a.count > 0 && b.count > 0 && before(a.data, b.data + b.count) && before(b.data, a.data + a.count);
-}
 
 }  // namespace
 
@@ -42,7 +36,7 @@ bool chandleDiagNewmark::apart(const ROr& c) const {
   constexpr int all = sizeof ranges / sizeof ranges[0];
   for (int i = 0; i < written; ++i) {
     for (int k = i + 1; k < all; ++k) {
-      if (overlap(ranges[i], ranges[k])) return false;
+      if (host::overlap(ranges[i].data, ranges[i].count, ranges[k].data, ranges[k].count)) return false;
     }
   }
   return true;

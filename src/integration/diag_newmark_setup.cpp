@@ -1,5 +1,6 @@
 // Reading the integrator's value and binding the arrays of a run.
 #include <algorithm>
+#include <cstring>
 
 #include "host/errors.h"
 #include "integration/diag_newmark.h"
@@ -14,7 +15,8 @@ SparseView fullField(const mxArray* value, const char* field, const char* name) 
   const mxArray* a = host::field(value, field);
   if (!a) host::refuse("the integrator needs a field \"%s\"", field);
   SparseView v = sparseView(a, name);
-  if (v.ir) host::fail("KORV:quarn:Invalid", "Full r expected");
+  if (v.ir && std::strcmp(field, "r") == 0) host::fail("KORV:quarn:Invalid", "Full r expected");
+  if (v.ir) host::refuse("%s must be a full matrix, got a sparse one", name);
   checkDense(v, name);
   return v;
 }

@@ -9,7 +9,7 @@ namespace quarn {
 namespace {
 
 void copyValues(double* to, const double* from, std::size_t n) {
-  if (to && from && n > 0) std::memcpy(to, from, n * sizeof(double));
+  if (to && from && n > 0) std::memmove(to, from, n * sizeof(double));  // a caller's arrays may share memory
 }
 
 bool live(const chandle* h) { return h && h->type >= 0; }

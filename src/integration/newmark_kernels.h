@@ -3,7 +3,7 @@
 
 namespace quarn {
 
-/// The six coefficients that the caller sets, numbered from 0 here; beta and gamma are Newmark's parameters.
+/// What the caller sets in the first five places of "data"; beta and gamma are Newmark's parameters.
 struct NewmarkCoefficients {
   double dt;               ///< dt
   double uFromA;           ///< (1/2 - beta) dt^2

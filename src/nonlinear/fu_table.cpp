@@ -3,8 +3,8 @@
 #include <climits>
 #include <cstdint>
 #include <cstring>
-#include <functional>
 
+#include "host/arrays.h"
 #include "host/errors.h"
 #include "nonlinear/laws.h"
 #include "nonlinear/lin_interp.h"
@@ -13,11 +13,6 @@
 namespace quarn {
 
 namespace {
-
-bool overlap(const double* a, long long na, const double* b, long long nb) {
-  const std::less<const double*> before;
-  return na > 0 && nb > 0 && before(a, b + nb) && before(b, a + na);
-}
 
 using Bits = std::array<std::uint64_t, 3>;
 
@@ -62,13 +57,14 @@ void checkTable(const chandleNl_inout& h, const ROr& /*ro*/) {
 
 void FuTable(chandleNl_inout* h, ROr ro) {
   const TablePlace t = tablePlace(*h);
-  const long long queries = h->unlLen;
-  const long long results = queries * (t.ny > 0 ? t.ny : 1);
-  const long long size = static_cast<long long>(t.nx) * (1 + t.ny);
+  const auto queries = static_cast<std::size_t>(h->unlLen);
+  const std::size_t results = queries * static_cast<std::size_t>(t.ny > 0 ? t.ny : 1);
+  const std::size_t size = static_cast<std::size_t>(t.nx) * (1 + static_cast<std::size_t>(t.ny));
+  const auto options = static_cast<std::size_t>(h->optLen);
   // The call is repeated once for each observed value. With nothing shared between its arguments, a repetition that ends with
   // the record it began with would only repeat itself.
-  const bool apart = !overlap(h->unl, queries, h->snl, results) && !overlap(h->snl, results, h->opt, h->optLen) &&
-                     !overlap(t.table, size, t.record, 3) && !overlap(h->unl, queries, h->opt, h->optLen);
+  const bool apart = !host::overlap(h->unl, queries, h->snl, results) && !host::overlap(h->snl, results, h->opt, options) &&
+                     !host::overlap(t.table, size, t.record, 3) && !host::overlap(h->unl, queries, h->opt, options);
   for (int repetition = 0; repetition < h->unlLen; ++repetition) {
     const Bits before = bitsOf(t.record);
     vorel_LinInterp(t.table, h->unl, t.record, h->snl, t.nx, t.ny, h->unlLen, 1, nullptr, nullptr);

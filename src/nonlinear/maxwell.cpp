@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <climits>
 
 #include "host/convert.h"
 #include "host/errors.h"
@@ -110,9 +111,11 @@ void Maxw(chandleNl_inout* h, ROr ro) {
   const Layout at(*h);
   const std::ptrdiff_t Dv = elements > 0 && at.q >= 0 ? static_cast<std::ptrdiff_t>(at.Dv) : 0;
   const std::ptrdiff_t committed = 2 * static_cast<std::ptrdiff_t>(h->unlLen);
-  for (std::ptrdiff_t e = 0; e < elements; ++e) {
+  // Without observed values every pass forms the same force: one will do, whatever the counts say.
+  const int most = at.q > 0 ? INT_MAX : 1;
+  for (std::ptrdiff_t e = 0; e < std::min(elements, most); ++e) {
     const std::ptrdiff_t o = e * at.q;
-    for (std::ptrdiff_t s = 1; s <= steps; ++s) {
+    for (std::ptrdiff_t s = 1; s <= std::min(steps, most); ++s) {
       if (at.q > 0) {
         const Element x{h->unl + o,
                         h->vnl + o,

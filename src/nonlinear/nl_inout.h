@@ -25,8 +25,12 @@ using NlLawCheck = void (*)(const chandleNl_inout& h, const ROr& ro);
 ///   "opt"  parameters of the law, opt[0] its code; "iopt" (int32, optional) offsets and table places
 class chandleNl_inout final : public chandle {
  public:
+  /// Reads the value. Raises KORV:quarn:empty "ReportEB opt", "Unknown .opt(1) choice", "FuPower requires 3 parameters", "Incorrect unl",
+  /// KORV:quarn:conform "iopt must be int32".
   void initCpt() override;
+  /// Copies unlLen values of unl, and of vnl, from place 2*unlSlices to the front; nothing with fewer than two pages.
   void EndStep() override;
+  /// Observes ro.u and ro.v in the first pages of unl and vnl, evaluates the law, adds the forces to r (in-out, ro.N values).
   void Residual(ROr ro, double* r) override;
   void checkSizes(const ROr& ro, std::size_t rLen) override;
   void takeWork() override;

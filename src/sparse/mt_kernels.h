@@ -28,8 +28,8 @@ void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, 
 /// The same with a work vector of the caller (cols values, contents lost), for callers that run many times.
 void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, const double* u, double* y, double* work);
 
-/// Add_Mt_ub for a sparse view with trans = 1 that touches few of its columns, into a y without negative zeros (of them, +0 + -0 would make 0): there the sums of
-/// the other columns, which are 0, change nothing. work: a value for each column, all zero before and after.
+/// Add_Mt_ub for a sparse view with trans = 1 that touches few of its columns, into a y without negative zeros (-0 + 0 would make
+/// them 0): there the sums of the other columns, which are 0, change nothing. work: a value for each column, all zero before and after.
 void addScatteredTouched(int rows, const int* ir, const int* jc, const double* pr, const double* u, double* y, double* work);
 
 /// Product into y.
@@ -43,8 +43,8 @@ void Prod_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr,
 void Add_Mt_u(const mxArray* M, host::Doubles u, host::Doubles y, const char* name);
 void Prod_Mt_u(const mxArray* M, host::Doubles u, host::Doubles y, const char* name);
 
-/// Refuses a view with which the kernel above would leave u or y. largest is the view's largest index, if it is known.
-/// A combination that the kernel itself raises an error for passes: the kernel is the one to say so.
+/// Refuses a view with which the kernel above would leave u (uLen values), y (yLen values) or the matrix's own arrays. name: of the
+/// matrix, for the texts. A combination that the kernel itself raises an error for passes: the kernel is the one to say so.
 void checkAdd(const SparseView& v, std::size_t uLen, std::size_t yLen, const char* name);
 void checkProd(const SparseView& v, std::size_t uLen, std::size_t yLen, const char* name);
 

@@ -1,7 +1,6 @@
 // "c<-a'*b" and "abc": a sparse matrix projected onto dense bases.
 #include <algorithm>
 #include <cstring>
-#include <functional>
 
 #include "host/arrays.h"
 #include "host/errors.h"
@@ -16,11 +15,6 @@ namespace quarn {
 namespace {
 
 SparseLines linesOf(const SparseView& v) { return {v.ir, v.jc, v.pr}; }
-
-bool overlap(const double* a, std::size_t nA, const double* b, std::size_t nB) {
-  const std::less<const double*> before;
-  return a && b && before(a, b + nB) && before(b, a + nA);
-}
 
 double* doublesOfHost(std::size_t n) { return static_cast<double*>(mxCalloc(std::max<std::size_t>(n, 1), sizeof(double))); }
 
@@ -61,7 +55,7 @@ void commandProjectLeft(int, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
     result = mxGetPr(plhs[0]);
   }
   if (values == 0) return;
-  if (!overlap(result, values, a.re, a.rows * a.cols) && !overlap(result, values, s.pr, s.prLen)) {
+  if (!host::overlap(result, values, a.re, a.rows * a.cols) && !host::overlap(result, values, s.pr, s.prLen)) {
     projectLines(result, a, linesOf(s), lines);
     return;
   }

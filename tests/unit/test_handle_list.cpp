@@ -10,10 +10,29 @@ class Digit final : public chandle {
  public:
   explicit Digit(int value) : digit(value) { type = 1; }
   void Residual(ROr /*ctx*/, double* r) override { r[0] = 10 * r[0] + digit; }
-  void checkSizes(const ROr& /*ctx*/, std::size_t rLen) override { seen = rLen; }
+  void checkSizes(const ROr& /*ctx*/, std::size_t rLen) override {
+    seen = rLen;
+    ++checked;
+  }
+  void takeWork() override { checkedBefore = checked; }
+  static int checked;
+  int checkedBefore = 0;
   int digit;
   std::size_t seen = 0;
 };
+
+int Digit::checked = 0;
+
+TEST(AddResiduals, HandlesTakeWorkMemoryOnceAllOfThemAreChecked) {
+  Digit one(1);
+  Digit two(2);
+  chandle* list[] = {&one, &two};
+  double r[1] = {0};
+  Digit::checked = 0;
+  addResiduals(list, 2, ROr{}, {r, 1});
+  EXPECT_EQ(one.checkedBefore, 2);
+  EXPECT_EQ(two.checkedBefore, 2);
+}
 
 TEST(AddResiduals, CallsLiveHandlesInOrderAndPassesOverTheOthers) {
   Digit one(1);

@@ -25,6 +25,16 @@ TEST_P(Laws, MaxwellAddsElasticAndViscousParts) {
   EXPECT_EQ(values(field(after, "vnl")), (Values{0.25, rate, 0, 0, 0, rate}));
 }
 
+TEST_P(Laws, MaxwellWithoutObservedValuesEndsWhateverItsCounts) {
+  constexpr double most = 2147483647.0;
+  mxArray* value = element("Maxw", 1, {0, 0.5, most, 0, 2, 5},
+                           {{"unl", pages(1, 1, 2, {})}, {"vnl", pages(1, 1, 2, {})}, {"snl", zeros(1)}, {"iopt", int32s({-1, 0, 0, 0, 2147483647})}});
+  keptValues = 1;
+  mxArray* r = zeros(1);
+  run("residual", {r, handles({set(1003, value)}), scalar(0.5), scalar(0.25), zeros(0)}, 0);
+  EXPECT_EQ(values(r), (Values{2 * 0.5 + 2 * 0.25}));  // with no states, Cu and Dv begin at the same place
+}
+
 TEST_P(Laws, Clima2AddsTwoBranchesAndTheTabulatedForce) {
   // opt: code, -, h, k, e, mu, offset, table (abscissae 0 1, limits 10 20, stiffnesses 100 100), record (3)
   mxArray* value = structure({{"type", scalar(1003)},

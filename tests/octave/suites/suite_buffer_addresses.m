@@ -56,6 +56,17 @@ function test_velocities_are_observed_in_the_buffer_of_an_object ()
   expect_equal (buffer, [30; 40; -1]);
 end
 
+function test_maxwell_rates_are_committed_in_the_buffer_of_an_object ()
+  w = struct ('Cu', [7 8 9], 'Dv', [10 11 12], 'B', [2 3], 'A', 4, 'E', [5 6]);
+  e = maxwell_element (2, 1, 1, 0.5, 1, w);
+  e.vnl(5:6) = [0.3 0.4];
+  plain = evaluate_law (e, [1; 99], [2; 98]);
+  buffer = fresh (e.vnl(:));
+  e.vnl = holder (buffer);
+  evaluate_law (e, [1; 99], [2; 98]);
+  expect_equal (buffer, plain.vnl(:));
+end
+
 function test_the_integrator_takes_elements_with_buffers ()
   run = small_run ();
   plain = fresh (run);

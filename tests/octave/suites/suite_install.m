@@ -58,11 +58,31 @@ function test_a_saved_path_is_there_in_the_next_session ()
   expect_equal (status, 7);
 end
 
+% As in addpath ('toolbox') from a clone.
+function test_a_relative_name_of_the_toolbox_is_not_kept ()
+  [home, away] = new_folder ();
+  [above, name] = fileparts (toolbox ());
+  code = sprintf ('cd (''%s''); addpath (''%s''); install_quarn (''%s'', ''save''); cd (''/'');', above, name, module ());
+  [status, page] = octave_says (code, ['HOME=' home]);
+  expect_equal (status, 0);
+  if ~isempty (strfind (page, 'No such file')), error ('%s', page); end
+  [status, page] = octave_says ('disp (strrep (path (), pathsep (), char (10)));', ['HOME=' home]);
+  lines = strsplit (page, char (10));
+  if any (strcmp (lines, name)) || ~any (strcmp (lines, toolbox ())) || ~isempty (strfind (page, 'warning')), error ('%s', page); end
+end
+
+function test_a_current_folder_that_hides_the_module_is_named ()
+  code = sprintf ('cd (''%s''); try, install_quarn (''%s''); catch err, disp (err.message); exit (7); end', toolbox (), module ());
+  [status, page] = octave_says (code);
+  expect_equal (status, 7);
+  expect_in (page, 'install_quarn: the current folder holds quarn.m, which hides the compiled module; change to another folder first');
+end
+
 function test_a_folder_without_the_module_is_refused ()
   [folder, away] = new_folder ();
   before = path ();
   expect_error (@() install_quarn (folder), 'qn:install', ['install_quarn: there is no quarn.mex in the folder ' folder]);
-  expect_error (@() install_quarn ('no such folder'), 'qn:install', '~install_quarn: the folder no such folder cannot be entered');
+  expect_error (@() install_quarn ('no such folder'), 'qn:install', 'install_quarn: there is no folder no such folder');
   expect_error (@() install_quarn (3), 'qn:install', 'install_quarn: the name of a folder expected, got an array of class double');
   expect_error (@() install_quarn (module (), 'keep'), 'qn:install', 'install_quarn: the second argument is ''save'', or there is none');
   expect_equal (path (), before);
@@ -92,10 +112,9 @@ end
 function test_another_program_of_this_name_is_refused ()
   [folder, away] = new_folder ();
   put (fullfile (folder, 'quarn.mex'), '');
-  [front, away_too] = new_folder ();
-  put (fullfile (front, 'quarn.m'), 'function x = quarn (varargin), x = 3; end');
-  code = 'addpath (''%s''); cd (''%s''); try, install_quarn (''%s''); catch err, disp (err.message); exit (7); end';
-  [status, page] = octave_says (sprintf (code, toolbox (), front, folder));
+  code = ['1;' char(10) 'function x = quarn (varargin), x = 3; end' char(10) ...
+          'addpath (''%s''); try, install_quarn (''%s''); catch err, disp (err.message); exit (7); end'];
+  [status, page] = octave_says (sprintf (code, toolbox (), folder));
   expect_equal (status, 7);
   expect_in (page, 'install_quarn: quarn () answered 3.0000 instead of 1.0001:');
 end

@@ -195,3 +195,27 @@ function test_short_arrays_are_refused ()
   e.iopt(5) = int32 (2);
   expect_error (@() evaluate_law (e, u(1:2), u(1:2)), '', '~iopt\(3\) of law "Maxw" must not be negative with 2 elements, got -1');
 end
+
+% The number of sub-steps is a mode of the state, which moves away from 0 in the first step.
+function e = run_with_shared_options (values)
+  u = [law_code('Maxw'); 0; 1; 0; 0; 5];
+  v = [0; 0; 0; 10; 0; 0];
+  observed = matrix_lines (sparse (1, 6, 1, 2, 6), true);
+  e = state_element ('Maxw', 0, [-1 0 values 0 1], 2, 2);
+  e = rmfield (e, 'b');
+  e.c = observed;
+  e.snl = fresh ([7; 7]);
+  e.opt = u;
+  integrator = fresh (struct ('type', 2000, 'r', zeros (6, 2), 'tft', [0 1], 'data', [1; 0.25; 0.5; 2; 4; 0]));
+  mem = struct ('uva', struct ('uva', zeros (24, 1)));
+  quarn ('chandlediagnewmark', {integrator, e}, struct (), u, v, zeros (6, 1), [0 0], mem, struct ());
+end
+
+function test_sub_steps_that_turn_up_during_a_run_are_done ()
+  e = run_with_shared_options (0);
+  expect_equal (e.snl, [25; 7]);
+end
+
+function test_sub_steps_that_turn_up_during_a_run_stay_inside_the_arrays ()
+  expect_error (@() run_with_shared_options (1e6), '', '~of law "Maxw" must hold');
+end

@@ -99,6 +99,17 @@ function test_modal_damping_projects_scales_and_spreads ()
   expect_equal (s.data(3:4), w, 1e-15);
 end
 
+function test_modal_damping_of_a_structure_with_empty_values ()
+  v = [-1; 0.5; 4];
+  s = modal_damping ();
+  wanted = s.def * ((s.def' * v) .* [0.5; 4]);
+  for dims = {{}, {'dims', [3 3]}}
+    full = fresh (modal_damping ());
+    s = struct ('pr', zeros (0, 1), 'def', full.def, 'data', full.data, dims{1}{:});
+    expect_equal (residual_of ({[], s, []}, v, v, v, [0 0]), wanted, 1e-14);
+  end
+end
+
 function test_modal_damping_adds_a_matrix_of_its_own ()
   [m, c, k] = matrices ();
   s = modal_damping ();

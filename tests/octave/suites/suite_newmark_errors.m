@@ -55,6 +55,14 @@ function test_integer_options ()
   end
 end
 
+function test_sparse_table_and_coefficients_are_named_as_such ()
+  for name = {'tft', 'data'}
+    run = small_run ();
+    run.list{1}.(name{1}) = matrix_lines (run.list{1}.(name{1}));
+    refused (run, '', ['~' name{1} ' must be a full matrix']);
+  end
+end
+
 function test_order_of_the_checks_of_the_value ()
   run = small_run ();
   run.list{1}.iopt = 0;

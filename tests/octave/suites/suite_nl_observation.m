@@ -183,6 +183,16 @@ function test_page_length_is_rows_times_columns ()
   expect_equal (e(1).unl(:), [112; 112; 107; 108; 105; 106; 107; 108]);
 end
 
+function test_product_with_more_rows_than_a_page_goes_on_in_the_next_one ()
+  e = element ();
+  e.c = matrix_lines ([1 0 2; 0 3 0; 0 0 1], true);
+  e.unl = buffer (2, 1, 2);
+  observe (e);
+  expect_equal (e.unl(:), [7; 6; 103 + 3; 104]);
+  e.unl = buffer (2, 1, 1);
+  expect_error (@() observe (e), '', '~the observation must hold 3 values');
+end
+
 function test_further_extents_do_not_lengthen_a_page ()
   e = element ();
   e.unl = buffer (2, 1, 2, 2);

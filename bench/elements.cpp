@@ -125,14 +125,35 @@ chandle* element(const std::string& law, int groups, int columns, int first) {
   return finish(r, values, lines(values, columns, jc, ir, ones, true), lines(values, columns, jc, ir, ones, true));
 }
 
-chandle* modalElement(const std::string& law, const std::vector<double>& row) {
-  const Recipe& r = recipe(law);
+chandle* gapElement(const std::vector<double>& row, double gap, double k) {
   const int n = static_cast<int>(row.size());
-  std::vector<int> jc{0};
-  for (int i = 0; i < r.group; ++i) jc.push_back(n);
   std::vector<int> ir;
   for (int i = 0; i < n; ++i) ir.push_back(i);
-  return finish(r, r.group, lines(r.group, n, jc, ir, row, true), lines(r.group, n, jc, ir, row, true));
+  const std::vector<double> opt{codeOf("Table"), -gap - 1.0, -gap, gap, gap + 1.0, -k, 0.0, 0.0, k, 0.0, 0.0, 0.0};
+  return make<chandleNl_inout>(1003, scalarStruct({{"c", lines(1, n, {0, n}, ir, row, true)},
+                                                   {"b", lines(1, n, {0, n}, ir, row, true)},
+                                                   {"unl", matrix(1, 1)},
+                                                   {"snl", matrix(1, 1)},
+                                                   {"opt", matrix(opt.size(), 1, opt)},
+                                                   {"iopt", ints({-1, 0, 0, 0, 0, 1, 9, 4, 1})}}));
+}
+
+chandle* dahlElement(const std::vector<double>& row, int states, int state, double dt, double k, double slip) {
+  const int n = static_cast<int>(row.size());
+  std::vector<int> ir;
+  for (int i = 0; i < n; ++i) ir.push_back(i);
+  std::vector<int> observed = ir;
+  observed.push_back(state);
+  std::vector<double> values = row;
+  values.push_back(1.0);
+  const std::vector<double> opt{codeOf("DahlC"), 0.0, dt, k, 1.0, 1.0, slip};
+  return make<chandleNl_inout>(1003, scalarStruct({{"c", lines(2, n + states, {0, n, n + 1}, observed, values, true)},
+                                                   {"b", lines(2, n + states, {0, n, n}, ir, row, true)},
+                                                   {"unl", pages(2, 2)},
+                                                   {"vnl", pages(2, 2)},
+                                                   {"snl", matrix(2, 1)},
+                                                   {"opt", matrix(opt.size(), 1, opt)},
+                                                   {"iopt", ints({-1, state, 1, 1, 1})}}));
 }
 
 }  // namespace quarn::bench

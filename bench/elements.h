@@ -19,7 +19,10 @@ const std::vector<std::string>& lawNames();
 /// groups: how many observed values, or groups of observed values and states, it has. Observes column `first` and those behind it.
 chandle* element(const std::string& law, int groups, int columns, int first);
 
-/// The same with one observed value that is the product with a full row, a modal element.
-chandle* modalElement(const std::string& law, const std::vector<double>& row);
+/// A stop on either side of a modal displacement row*u: stiffness k beyond a gap, a tabulated law.
+chandle* gapElement(const std::vector<double>& row, double gap, double k);
+
+/// A Dahl slider on row*u of the first modes, its force kept in row `state` of u; states rows of u follow the modes.
+chandle* dahlElement(const std::vector<double>& row, int states, int state, double dt, double k, double slip);
 
 }  // namespace quarn::bench

@@ -85,9 +85,13 @@ void withElements(const std::string& law, int count) {
   product.add(diagonalHandle(3, loop.c));
   for (int e = 0; e < count; ++e) product.add(element(law, 1, m.n, e % (m.n - 5)));
   product.start();
-  run({"handles", "elements " + law, count, 100.0 * count, "handle and step", 0.0, {{"quarn", [&] { product.run(); }, [&] {
-                                                                                      return fresh(product);
-                                                                                    }}}});
+  run({"handles",
+       "elements " + law,
+       count,
+       100.0 * count,
+       "handle and step",
+       0.0,
+       {{"quarn", [&] { product.run(); }, [&] { return fresh(product); }}}});
 }
 
 /// The arithmetic of count cubic springs, one a mode, without any handle: observe u and v, power, add.

@@ -20,9 +20,9 @@ struct Case {
   std::string group;
   std::string variant;
   long long size;
-  double units;           ///< pieces of work in one run (bytes, mode steps, queries ...)
-  std::string unit;       ///< their name
-  double tolerance;       ///< largest accepted difference, relative to the largest reference number; 0: the same bits
+  double units;      ///< pieces of work in one run (bytes, mode steps, queries ...)
+  std::string unit;  ///< their name
+  double tolerance;  ///< largest accepted difference, relative to the largest reference number; 0: the same bits
   std::vector<Program> programs;
 };
 

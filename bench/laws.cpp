@@ -30,7 +30,8 @@ void oneLaw(const std::string& law) {
   h->check(*h, context);
   fill(h->unl, h->vnl, n);
   Case c{"laws", law, groups, groups, "group", 1e-12, {}};
-  c.programs.push_back({"quarn", [&] { h->law(h, context); }, [&] {
+  c.programs.push_back({"quarn", [&] { h->law(h, context); },
+                        [&] {
                           fill(h->unl, h->vnl, n);
                           h->law(h, context);
                           return std::vector<double>(h->snl, h->snl + n);
@@ -38,7 +39,8 @@ void oneLaw(const std::string& law) {
   LawArrays a{std::vector<double>(n), std::vector<double>(n), std::vector<double>(n), std::vector<double>(h->opt, h->opt + h->optLen)};
   fill(a.unl.data(), a.vnl.data(), n);
   if (lawLoop(law, a)) {
-    c.programs.push_back({"C loop", [&] { lawLoop(law, a); }, [&] {
+    c.programs.push_back({"C loop", [&] { lawLoop(law, a); },
+                          [&] {
                             fill(a.unl.data(), a.vnl.data(), n);
                             lawLoop(law, a);
                             return a.snl;

@@ -39,11 +39,12 @@ Modes spreadModes(int n) {
   return m;
 }
 
-ModalRun::ModalRun(const Modes& m, const std::vector<double>& loads) : modes(m), steps(static_cast<int>(loads.size())) {
+ModalRun::ModalRun(const Modes& m, const std::vector<double>& loads, int states) : modes(m), steps(static_cast<int>(loads.size())) {
   const auto n = static_cast<std::size_t>(m.n);
-  u = matrix(n, 1);
-  v = matrix(n, 1);
-  a = matrix(n, 1);
+  const std::size_t rows = n + static_cast<std::size_t>(states);
+  u = matrix(rows, 1);
+  v = matrix(rows, 1);
+  a = matrix(rows, 1);
   std::vector<double> table;
   for (std::size_t j = 0; j <= loads.size(); ++j) {
     table.push_back(static_cast<double>(j) * m.dt);
@@ -53,8 +54,8 @@ ModalRun::ModalRun(const Modes& m, const std::vector<double>& loads) : modes(m),
   value = scalarStruct({{"r", matrix(n, 3, join({filled(n, 0.0), m.shape, m.gains()}))},
                         {"tft", matrix(2, loads.size() + 1, table)},
                         {"data", matrix(6, 1, {k.dt, k.uFromA, k.vFromA, k.vFromD, k.aFromD, 0.0})}});
-  mem = scalarStruct({{"uva", scalarStruct({{"uva", matrix(4 * n, 1)}})}});
-  out = scalarStruct({{"data", matrix(0, 0)}});
+  mem = scalarStruct({{"uva", scalarStruct({{"uva", matrix(4 * rows, 1)}})}});
+  out = scalarStruct({{"def", matrix(rows, 1)}});
   model = scalarStruct({{"K", matrix(0, 0)}});
   integrator = new chandleDiagNewmark;
   integrator->set_val(2000, value);
@@ -63,7 +64,7 @@ ModalRun::ModalRun(const Modes& m, const std::vector<double>& loads) : modes(m),
 }
 
 void ModalRun::start() {
-  for (mxArray* x : {u, v, a}) std::fill_n(mxGetPr(x), modes.n, 0.0);
+  for (mxArray* x : {u, v, a}) std::fill_n(mxGetPr(x), mxGetM(x), 0.0);
   integrator->initCpt();
   for (chandle* h : handles) h->initCpt();
   const int nh = static_cast<int>(handles.size());

@@ -28,12 +28,13 @@ Modes spreadModes(int n);
 
 class ModalRun {
  public:
-  /// One step for each load: loads[j] acts in the step from column j.
-  ModalRun(const Modes& m, const std::vector<double>& loads);
+  /// One step for each load: loads[j] acts in the step from column j. states: rows of u, v and a behind the modes.
+  ModalRun(const Modes& m, const std::vector<double>& loads, int states = 0);
   void add(chandle* h) { handles.push_back(h); }
-  void start();  ///< u = v = a = 0, then binds and checks everything
-  void run();    ///< all steps, from the state that is there
-  std::vector<double> state() const;  ///< u, v, a
+  void start();                       ///< u = v = a = 0, then binds and checks everything
+  void run();                         ///< all steps, from the state that is there
+  std::vector<double> state() const;  ///< u, v, a of the modes
+  double* acceleration() { return mxGetPr(a); }
 
  private:
   Modes modes;

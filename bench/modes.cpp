@@ -24,7 +24,8 @@ void oneSize(const char* variant, int n, int steps) {
                           loopRun();
                           return loop.state();
                         }});
-  c.programs.push_back({"quarn", [&] { product.run(); }, [&] {
+  c.programs.push_back({"quarn", [&] { product.run(); },
+                        [&] {
                           product.start();
                           product.run();
                           return product.state();

@@ -63,8 +63,8 @@ void plainStep(LoopState& s, double load) {
 }
 
 void linearStep(LoopState& s, double load) {
-  linearLoop(s.u.data(), s.v.data(), s.a.data(), s.gain.data(), s.shape.data(), s.k.data(), s.c.data(), load,
-             static_cast<int>(s.u.size()), s.coefficients);
+  linearLoop(s.u.data(), s.v.data(), s.a.data(), s.gain.data(), s.shape.data(), s.k.data(), s.c.data(), load, static_cast<int>(s.u.size()),
+             s.coefficients);
 }
 
 }  // namespace quarn::bench

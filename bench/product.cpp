@@ -47,14 +47,20 @@ void oneMatrix(int entries, int lines) {
   const std::vector<double> x = wave(static_cast<std::size_t>(g.n), 1.0);
   std::vector<double> y(x.size());
   Case c{"product", std::to_string(entries), g.n, g.bytes(), "byte", 1e-13, {}};
-  add(c, "quarn", y, [&](double* out) { SparseMatVec(out, x.data(), g.pr.data(), g.ir.data(), g.jc.data(), g.n); }, g.n > 1000);
-  add(c, "quarn, indices tested", y, [&](double* out) {
-    SparseMatVecTested(out, x.data(), g.pr.data(), g.ir.data(), g.jc.data(), g.n, static_cast<unsigned>(g.n));
-  }, g.n > 1000);
-  add(c, "serial ddoti loop", y, [&](double* out) { dotLoop(g, x.data(), out); }, false);
-  add(c, "plain C loop", y, [&](double* out) { plainLoop(g, x.data(), out); }, false);
+  add(
+      c, "quarn", y, [&](double* out) { SparseMatVec(out, x.data(), g.pr.data(), g.ir.data(), g.jc.data(), g.n); }, g.n > 1000);
+  add(
+      c, "quarn, indices tested", y,
+      [&](double* out) { SparseMatVecTested(out, x.data(), g.pr.data(), g.ir.data(), g.jc.data(), g.n, static_cast<unsigned>(g.n)); },
+      g.n > 1000);
+  add(
+      c, "serial ddoti loop", y, [&](double* out) { dotLoop(g, x.data(), out); }, false);
+  add(
+      c, "plain C loop", y, [&](double* out) { plainLoop(g, x.data(), out); }, false);
   const auto peers = productPeers(g);
-  for (const ProductPeer& p : peers) add(c, p.name, y, [&](double* out) { p.product(x.data(), out); }, p.threaded);
+  for (const ProductPeer& p : peers)
+    add(
+        c, p.name, y, [&](double* out) { p.product(x.data(), out); }, p.threaded);
   // The triad moves as many bytes as the product, through as many threads.
   const std::shared_ptr<Triad> triad = makeTriad(g.bytes());
   c.programs.push_back({"triad, 8 threads", [triad] { triad->run(); }, {}, true});

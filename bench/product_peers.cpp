@@ -39,7 +39,8 @@ std::shared_ptr<sparse_matrix> mklMatrix(const GridMatrix& g, int threads) {
 
 void addMkl(std::vector<ProductPeer>& peers, const GridMatrix& g, const std::string& name, int threads) {
   const auto m = mklMatrix(g, threads);
-  peers.push_back({name, [m, threads](const double* x, double* y) {
+  peers.push_back({name,
+                   [m, threads](const double* x, double* y) {
                      const matrix_descr general{SPARSE_MATRIX_TYPE_GENERAL, SPARSE_FILL_MODE_FULL, SPARSE_DIAG_NON_UNIT};
                      mkl_set_num_threads(threads);
                      mkl_sparse_d_mv(SPARSE_OPERATION_NON_TRANSPOSE, 1.0, m.get(), general, x, 1.0, y);
@@ -52,9 +53,11 @@ void addMkl(std::vector<ProductPeer>& peers, const GridMatrix& g, const std::str
 using Matrix = Eigen::SparseMatrix<double, Eigen::RowMajor, int>;
 
 void addEigen(std::vector<ProductPeer>& peers, const GridMatrix& g, const std::string& name, int threads) {
-  peers.push_back({name, [&g, threads](const double* x, double* y) {
+  peers.push_back({name,
+                   [&g, threads](const double* x, double* y) {
                      Eigen::setNbThreads(threads);
-                     const Eigen::Map<const Matrix> a(g.n, g.n, static_cast<Eigen::Index>(g.pr.size()), g.jc.data(), g.ir.data(), g.pr.data());
+                     const Eigen::Map<const Matrix> a(g.n, g.n, static_cast<Eigen::Index>(g.pr.size()), g.jc.data(), g.ir.data(),
+                                                      g.pr.data());
                      Eigen::Map<Eigen::VectorXd>(y, g.n) += a * Eigen::Map<const Eigen::VectorXd>(x, g.n);
                    },
                    threads != 1});

@@ -39,7 +39,13 @@ void add(Case& c, const char* name, std::vector<double>& out, Work work) {
 
 void oneSided(const Problem& p) {
   std::vector<double> out(p.cols * p.n);
-  Case c{"projections", "c<-a'*b, " + std::to_string(p.cols) + " columns", p.g.n, static_cast<double>(p.cols * p.g.pr.size()), "entry", 1e-12, {}};
+  Case c{"projections",
+         "c<-a'*b, " + std::to_string(p.cols) + " columns",
+         p.g.n,
+         static_cast<double>(p.cols * p.g.pr.size()),
+         "entry",
+         1e-12,
+         {}};
   add(c, "quarn", out, [&] { projectLines(out.data(), p.base(false), p.lines(), p.n); });
 #ifdef QUARN_BENCH_EIGEN
   using Sparse = Eigen::SparseMatrix<double, Eigen::ColMajor, int>;
@@ -57,8 +63,13 @@ void oneSided(const Problem& p) {
 void realForm(const Problem& p) {
   std::vector<double> out(p.cols * p.cols);
   std::vector<double> work(bilinearWork(p.cols, p.cols));
-  Case c{"projections", "abc, " + std::to_string(p.cols) + " columns", p.g.n,
-         static_cast<double>(p.cols * p.g.pr.size() + p.n * p.cols * p.cols), "multiply-add", 1e-9, {}};
+  Case c{"projections",
+         "abc, " + std::to_string(p.cols) + " columns",
+         p.g.n,
+         static_cast<double>(p.cols * p.g.pr.size() + p.n * p.cols * p.cols),
+         "multiply-add",
+         1e-9,
+         {}};
   add(c, "quarn", out, [&] { bilinearForms(out.data(), nullptr, p.base(false), p.base(false), p.lines(), p.n, work.data()); });
   std::vector<double> kt(p.n * p.cols);
 #ifdef QUARN_BENCH_EIGEN
@@ -96,11 +107,15 @@ void realForm(const Problem& p) {
 void complexForm(const Problem& p) {
   std::vector<double> out(2 * p.cols * p.cols);
   std::vector<double> work(bilinearWork(p.cols, p.cols));
-  Case c{"projections", "abc complex, " + std::to_string(p.cols) + " columns", p.g.n,
-         static_cast<double>(2 * p.cols * p.g.pr.size() + 4 * p.n * p.cols * p.cols), "multiply-add", 1e-9, {}};
-  add(c, "quarn", out, [&] {
-    bilinearForms(out.data(), out.data() + p.cols * p.cols, p.base(true), p.base(true), p.lines(), p.n, work.data());
-  });
+  Case c{"projections",
+         "abc complex, " + std::to_string(p.cols) + " columns",
+         p.g.n,
+         static_cast<double>(2 * p.cols * p.g.pr.size() + 4 * p.n * p.cols * p.cols),
+         "multiply-add",
+         1e-9,
+         {}};
+  add(c, "quarn", out,
+      [&] { bilinearForms(out.data(), out.data() + p.cols * p.cols, p.base(true), p.base(true), p.lines(), p.n, work.data()); });
 #ifdef QUARN_BENCH_EIGEN
   using Sparse = Eigen::SparseMatrix<double, Eigen::RowMajor, int>;
   const Eigen::Map<const Sparse> a(p.g.n, p.g.n, static_cast<Eigen::Index>(p.g.pr.size()), p.g.jc.data(), p.g.ir.data(), p.g.pr.data());

@@ -40,8 +40,14 @@ void lookUp(const char* variant, int knots, const std::vector<double>& queries) 
   Case c{"tables", variant, knots, static_cast<double>(n), "query", 1e-9, {}};
   const auto product = [&] { vorel_LinInterp(table.data(), queries.data(), record, out.data(), knots, 1, n, 1, nullptr, nullptr); };
   const auto loop = [&] { halving(table, queries, out); };
-  c.programs.push_back({"search by halves", loop, [&] { loop(); return out; }});
-  c.programs.push_back({"quarn", product, [&] { product(); return out; }});
+  c.programs.push_back({"search by halves", loop, [&] {
+                          loop();
+                          return out;
+                        }});
+  c.programs.push_back({"quarn", product, [&] {
+                          product();
+                          return out;
+                        }});
   run(c);
 }
 
@@ -68,7 +74,13 @@ void benchTables() {
     const std::vector<double> x = wave(static_cast<std::size_t>(observed), 0.0);
     std::copy(x.begin(), x.end(), h->unl);
     const ROr context;
-    run({"tables", "law with many observed", observed, static_cast<double>(observed), "value", 0.0, {{"quarn", [=] { h->law(h, context); }, {}}}});
+    run({"tables",
+         "law with many observed",
+         observed,
+         static_cast<double>(observed),
+         "value",
+         0.0,
+         {{"quarn", [=] { h->law(h, context); }, {}}}});
   }
 }
 

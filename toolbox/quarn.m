@@ -34,6 +34,7 @@
 %   force laws     qn.law, qn.describe, qn.element, qn.force
 %   recipes        qn.gap, qn.stop, qn.bilinear, qn.cubic, qn.slider, qn.iwan, qn.zener, qn.maxwell, qn.bearing
 %   simulation     qn.scheme, qn.simulation, qn.check, qn.advise, qn.run, qn.resume
+%   sweeps         qn.sweep, qn.grid
 %   results        qn.displacement, qn.velocity, qn.energies, qn.dissipated, qn.contacts, qn.spectrum, qn.srs
 %   pictures       qn.plot.page, qn.plot.panel, qn.plot.picture, qn.plot.series, qn.plot.phase, qn.plot.loop, qn.plot.orbit,
 %                  qn.plot.waterfall

@@ -17,6 +17,7 @@ struct Buffer {
   std::size_t n = 0;    ///< values of a page, or of the whole buffer if it has two dimensions
   bool paged = false;   ///< three dimensions or more
   host::Doubles start;  ///< initial content of a 2-D buffer
+  SparseView c;         ///< what fills it, checked against it
 
   double* page(int k) const { return data.data + static_cast<std::size_t>(k - 1) * n; }
 };
@@ -50,7 +51,7 @@ double switchingFactor(const NlCall& call, const NlElement& e, const Buffer& vnl
   return tc ? opt.data[1] - host::number(tc, "opt.tc") : opt.data[1];
 }
 
-void checkBuffer(const NlElement& e, const Buffer& b, bool keep, host::Doubles state, const char* name) {
+void checkBuffer(const NlElement& e, Buffer& b, bool keep, host::Doubles state, const char* name) {
   if (!b.data) return;
   if (b.paged) {
     const long long pages = e.pages();
@@ -61,7 +62,9 @@ void checkBuffer(const NlElement& e, const Buffer& b, bool keep, host::Doubles s
     }
   }
   const mxArray* c = e.needed("c");
-  if (!mxIsSparse(c)) checkProd(sparseView(c, "the element's c"), state.count, b.data.count, "the element's c");
+  if (mxIsSparse(c)) return;
+  b.c = sparseView(c, "the element's c");
+  checkProd(b.c, state.count, b.data.count, "the element's c");
 }
 
 void refresh(const NlElement& e, const Buffer& b, bool keep, host::Doubles state) {
@@ -78,7 +81,12 @@ void refresh(const NlElement& e, const Buffer& b, bool keep, host::Doubles state
   } else {
     std::fill_n(b.data.data, b.n, 0.0);
   }
-  Prod_Mt_u(e.needed("c"), state, b.data, "the element's c");
+  if (!b.c.pr) {  // none, or of the host's own kind, which is an error
+    Prod_Mt_u(e.needed("c"), state, b.data, "the element's c");
+    return;
+  }
+  const int dims[3] = {b.c.rows, b.c.cols, b.c.trans};
+  Prod_Mt_ub(dims, b.c.ir, b.c.jc, b.c.pr, state.data, b.data.data);
 }
 
 struct Buffers {

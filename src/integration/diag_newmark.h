@@ -28,9 +28,9 @@ class chandleDiagNewmark final : public chandle {
   void initCpt() override;
 
   /// Binds the arrays of one run. mem: struct with "uva" = struct with "uva" (work array, 4*N values or more, layout: copies of u, v, a
-  /// of Ndef values each, then the modal force) and optional "FNL" (snapshot of the force store). out: struct with optional "data" (save times),
-  /// "def" (Ndef rows, a column a save time), "FNL" = struct with "data" and "def". All are written in place during the run.
-  /// Raises KORV:quarn:Invalid "wrong uva size", "Identical v & a", "Identical v & u", "Identical a & u", "iu+Nistate too large".
+  /// of Ndef values each, then the modal force) and optional "FNL" (snapshot of the force store). out: struct with optional "data" (save
+  /// times), "def" (Ndef rows, a column a save time), "FNL" = struct with "data" and "def". All are written in place during the run. Raises
+  /// KORV:quarn:Invalid "wrong uva size", "Identical v & a", "Identical v & u", "Identical a & u", "iu+Nistate too large".
   void initCb(const ROr& c, const mxArray* model, const mxArray* mem, const mxArray* out, chandle** list, int nh);
 
   /// Refuses what the run would read or write outside its arrays. For the force handles as well.
@@ -71,20 +71,20 @@ class chandleDiagNewmark final : public chandle {
   const double* tft = nullptr;
   double* data = nullptr;
   host::Doubles uva;
-  double* fmod = nullptr;       ///< modal force, behind the three copies in uva
-  host::Doubles snapshot;       ///< mem's copy of the force store
-  host::Doubles store;          ///< the model's "FNL"
-  host::Doubles saveTimes;      ///< out."data"
-  host::Doubles def;            ///< out."def"
-  host::Doubles storeTimes;     ///< out."FNL"."data"
-  host::Doubles storeDef;       ///< out."FNL"."def"
+  double* fmod = nullptr;    ///< modal force, behind the three copies in uva
+  host::Doubles snapshot;    ///< mem's copy of the force store
+  host::Doubles store;       ///< the model's "FNL"
+  host::Doubles saveTimes;   ///< out."data"
+  host::Doubles def;         ///< out."def"
+  host::Doubles storeTimes;  ///< out."FNL"."data"
+  host::Doubles storeDef;    ///< out."FNL"."def"
   NewmarkCoefficients coefficients{};
 
   // How the steps of a run are done; see plan().
-  bool onePass = false;     ///< copies, predictor, load and folded diagonals in one pass over the modes
-  int folded = 0;           ///< handles at the head of the list whose forces are in that pass
+  bool onePass = false;  ///< copies, predictor, load and folded diagonals in one pass over the modes
+  int folded = 0;        ///< handles at the head of the list whose forces are in that pass
   DiagonalForces diagonals;
-  bool undisturbed = false; ///< nothing but loads and folded diagonals acts, and nothing looks at the work array between the steps
+  bool undisturbed = false;  ///< nothing but loads and folded diagonals acts, and nothing looks at the work array between the steps
 };
 
 /// Calls the host's "drawnow", then "pause" with 1e-5 s, so that figures are drawn. No command calls it.

@@ -35,7 +35,8 @@ void chandleDiagNewmark::doStep(chandle** list, int nh, int j, ROr c) {
   if (iopt) host::storeClipped(c.FNL, c.fnlLen, iopt[0], loads, Nb);
 
   if (onePass) {
-    newmarkBegin({c.u, c.v, c.a, N}, uva.data, uva.data + block, uva.data + 2 * block, fmod, r.data + N, loads, Nb, diagonals, coefficients);
+    newmarkBegin({c.u, c.v, c.a, N}, uva.data, uva.data + block, uva.data + 2 * block, fmod, r.data + N, loads, Nb, diagonals,
+                 coefficients);
     finishPass(c);
   } else {
     newmarkPredict(c.u, c.v, c.a, N, coefficients);

@@ -72,16 +72,16 @@ template <With with>
   }
 }
 
-#define QUARN_NEWMARK_VARIANT(name, with)                                                                                              \
-  QUARN_PROCESSOR_VERSIONS                                                                                                             \
-  void begin##name(const ModalState& s, double* cu, double* cv, double* ca, double* f, const double* column, double p,                 \
-                   const DiagonalForces& forces, const NewmarkCoefficients& k) {                                                       \
-    begin<with>(s.u, s.v, s.a, cu, cv, ca, f, column, p, s.n, forces, k);                                                              \
-  }                                                                                                                                    \
-  QUARN_PROCESSOR_VERSIONS                                                                                                             \
-  void steps##name(const ModalState& s, const double* column, const double* gain, const double* p, int stride, int count,              \
-                   const DiagonalForces& forces, const NewmarkCoefficients& k) {                                                       \
-    steps<with>(s.u, s.v, s.a, column, gain, s.n, p, stride, count, forces, k);                                                        \
+#define QUARN_NEWMARK_VARIANT(name, with)                                                                                 \
+  QUARN_PROCESSOR_VERSIONS                                                                                                \
+  void begin##name(const ModalState& s, double* cu, double* cv, double* ca, double* f, const double* column, double p,    \
+                   const DiagonalForces& forces, const NewmarkCoefficients& k) {                                          \
+    begin<with>(s.u, s.v, s.a, cu, cv, ca, f, column, p, s.n, forces, k);                                                 \
+  }                                                                                                                       \
+  QUARN_PROCESSOR_VERSIONS                                                                                                \
+  void steps##name(const ModalState& s, const double* column, const double* gain, const double* p, int stride, int count, \
+                   const DiagonalForces& forces, const NewmarkCoefficients& k) {                                          \
+    steps<with>(s.u, s.v, s.a, column, gain, s.n, p, stride, count, forces, k);                                           \
   }
 QUARN_NEWMARK_VARIANT(Free, With::nothing)
 QUARN_NEWMARK_VARIANT(Elastic, With::stiffness)

@@ -5,11 +5,11 @@ namespace quarn {
 
 /// What the caller sets in the first five places of "data"; beta and gamma are Newmark's parameters.
 struct NewmarkCoefficients {
-  double dt;               ///< dt
-  double uFromA;           ///< (1/2 - beta) dt^2
-  double vFromA;           ///< (1 - gamma) dt
-  double vFromD;           ///< gamma / (beta dt)
-  double aFromD;           ///< 1 / (beta dt^2)
+  double dt;      ///< dt
+  double uFromA;  ///< (1/2 - beta) dt^2
+  double vFromA;  ///< (1 - gamma) dt
+  double vFromD;  ///< gamma / (beta dt)
+  double aFromD;  ///< 1 / (beta dt^2)
 };
 
 /// Predictor: u = (uFromA*a + dt*v) + u, v = vFromA*a + v, a = 0. All three in-out, n values.

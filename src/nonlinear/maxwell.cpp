@@ -1,5 +1,5 @@
 #include <algorithm>
-#include <climits>
+#include <cstring>
 
 #include "host/convert.h"
 #include "host/errors.h"
@@ -111,11 +111,10 @@ void Maxw(chandleNl_inout* h, ROr ro) {
   const Layout at(*h);
   const std::ptrdiff_t Dv = elements > 0 && at.q >= 0 ? static_cast<std::ptrdiff_t>(at.Dv) : 0;
   const std::ptrdiff_t committed = 2 * static_cast<std::ptrdiff_t>(h->unlLen);
-  // Without observed values every pass forms the same force: one will do, whatever the counts say.
-  const int most = at.q > 0 ? INT_MAX : 1;
-  for (std::ptrdiff_t e = 0; e < std::min(elements, most); ++e) {
+  bool idle = false;
+  for (std::ptrdiff_t e = 0; e < elements && !idle; ++e) {
     const std::ptrdiff_t o = e * at.q;
-    for (std::ptrdiff_t s = 1; s <= std::min(steps, most); ++s) {
+    for (std::ptrdiff_t s = 1; s <= steps && !idle; ++s) {
       if (at.q > 0) {
         const Element x{h->unl + o,
                         h->vnl + o,
@@ -127,6 +126,9 @@ void Maxw(chandleNl_inout* h, ROr ro) {
       }
       double force = 0.0;
       for (std::ptrdiff_t i = 0; i <= at.q; ++i) force += h->opt[5 + i] * h->unl[o + i] + h->opt[Dv + i] * h->vnl[o + i];
+      // Without values of an element every pass writes this one force, which may lie on unl[0]: once a pass leaves it as it was, the
+      // further ones would too, whatever the counts say.
+      idle = at.q <= 0 && std::memcmp(h->snl + o, &force, sizeof force) == 0;
       h->snl[o] = force;
     }
   }

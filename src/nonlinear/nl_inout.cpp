@@ -20,7 +20,11 @@ int valuesOf(std::size_t n, const char* name) {
 /// Observed values: a page of zeros, then the product of the observation matrix.
 void observe(const SparseView& c, const double* x, double* page, int pageLen) {
   page[0] = 0.0;
-  for (int i = 1; i < pageLen; ++i) page[i] = 0.0;
+  if (pageLen == 2) {
+    page[1] = 0.0;
+  } else if (pageLen > 2) {
+    std::memset(page, 0, static_cast<std::size_t>(pageLen) * sizeof(double));
+  }
   if (!c.pr) return;
   if (c.ir && c.trans == 1) {
     for (int i = 0; i < c.rows; ++i) page[i] += lineDot(c.ir, c.jc, c.pr, i, x);

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 
+#include "host/arrays.h"
 #include "host/mex_api.h"
 #include "sparse/projection_kernels.h"
 
@@ -16,7 +17,11 @@ inline bool isNativeSparse(const mxArray* a) { return a && mxIsSparse(a); }
 
 /// First dimension, and product of the others; a must be there.
 inline std::size_t rowsOf(const mxArray* a) { return static_cast<std::size_t>(mxGetM(a)); }
-inline std::size_t colsOf(const mxArray* a) { return static_cast<std::size_t>(mxGetN(a)); }
+inline std::size_t colsOf(const mxArray* a) {
+  // Octave's mxGetN leaks its list of dimensions once a complex array is looked into.
+  const std::size_t m = rowsOf(a);
+  return m > 0 ? host::count(a) / m : static_cast<std::size_t>(mxGetN(a));
+}
 
 /// Real and imaginary data of a full double matrix; refuses every other class. Without elements both are null.
 DenseBase denseBase(const mxArray* a, const char* name);

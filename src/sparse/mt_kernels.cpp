@@ -92,6 +92,7 @@ void Prod_Mt_u(const mxArray* M, host::Doubles u, host::Doubles y, const char* n
 }
 
 void checkAdd(const SparseView& v, std::size_t uLen, std::size_t yLen, const char* name) {
+  if (!v.pr) return;  // a matrix without entries adds nothing
   if (v.sparse() && v.trans == 1) {
     checkLines(v, v.rows, static_cast<std::size_t>(std::max(v.cols, 0)), name, "its own columns");
     checkLength(uLen, v.rows, "the force vector", "one for each line of the command matrix");
@@ -107,7 +108,7 @@ void checkAdd(const SparseView& v, std::size_t uLen, std::size_t yLen, const cha
 }
 
 void checkProd(const SparseView& v, std::size_t uLen, std::size_t yLen, const char* name) {
-  if (v.sparse() && v.trans != 1) return;
+  if (!v.pr || (v.sparse() && v.trans != 1)) return;
   if (v.sparse()) {
     checkLines(v, v.rows, uLen, name, "the observed vector");
   } else {

@@ -15,7 +15,7 @@ namespace quarn {
 namespace {
 
 constexpr int threads = 8;
-constexpr int grain = 1000;  // lines; a range of at most that many is never split
+constexpr int grain = 1000;        // lines; a range of at most that many is never split
 constexpr int fewEntries = 30000;  // sooner done on the calling thread than workers are woken (some 10 microseconds)
 
 std::atomic<bool> workersStarted{false};

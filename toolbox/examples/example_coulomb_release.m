@@ -17,8 +17,7 @@
 % Calls
 %   R = example_coulomb_release ()
 %   R = example_coulomb_release (FOLDER, SHORT)
-function r = example_coulomb_release (folder, short)
-  if nargin < 2, short = false; end
+function r = example_coulomb_release (folder, short) %#ok<INUSD> a fraction of a second needs no short form
   if nargin < 1, folder = ''; end
   model = qn.modal (1e4, 1);
   x = qn.observe (model, 1);
@@ -33,8 +32,8 @@ function r = example_coulomb_release (folder, short)
             'rest position', u(end), 0.5e-4, 1e-3; ...
             'dissipated energy over slip force times path', d(1).dissipated(end) / path, 1, 2e-3};
 
-  wide = qn.impl.width ();
   fig = qn.plot.page (1000, 430);
+  wide = qn.impl.width ();
   qn.plot.panel (1, 2, 1);
   t = 1e3 * res.time;
   k = 1:200:numel (t);
@@ -50,5 +49,5 @@ function r = example_coulomb_release (folder, short)
   plot (1e3 * u(k), f, '-', 'color', qn.impl.colours (1), 'linewidth', wide);
   axis ([-1 1 -1.4 1.4]);
   labels ('Friction force', 'Displacement [mm]', 'Force [N]');
-  r = finish ('example_coulomb_release', fig, folder, checks, struct ('turns', u(turns), 'rest', u(end), 'short', short));
+  r = finish ('example_coulomb_release', fig, folder, checks, struct ('turns', u(turns), 'rest', u(end)));
 end

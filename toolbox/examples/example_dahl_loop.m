@@ -11,8 +11,8 @@
 %   4 Fc X - 4 Fc^2/k tanh (k X/Fc).
 %
 % Checked
-%   First loading to 0.5 % of Fc, force at the turning points to 0.2 %, area to 1 %. The law advances by explicit steps, here of
-%   0.005 Fc/k (0.02 in the short form): with e = 1 the force after n of them is Fc (1 - (1 - 0.02)^n), up to 0.4 % from the
+%   First loading to 0.4 %, force at the turning points to 0.1 %, area to 0.6 %. The law advances by explicit steps, here of 0.005
+%   Fc/k (0.01 in the short form): with e = 1 the force after n of them is Fc (1 - (1 - 0.01)^n), up to 0.2 % beside the
 %   exponential, and of the area, which is a difference of nearly equal parts, twice as much may be missing.
 %
 % Calls
@@ -22,7 +22,7 @@ function r = example_dahl_loop (folder, short)
   if nargin < 2, short = false; end
   if nargin < 1, folder = ''; end
   n = 400;
-  if short, n = 100; end
+  if short, n = 200; end
   stiffness = 2e5;
   limit = 1000;
   reach = 0.01;
@@ -43,22 +43,23 @@ function r = example_dahl_loop (folder, short)
   settled = f(2, last);
   area = sum ((settled(1:end - 1) + settled(2:end)) / 2 .* diff (x(last)));
   top = limit * tanh (stiffness * reach / limit);
-  checks = {'first loading, exponent 0', f(1, up), first(1, :), 5e-3; ...
-            'first loading, exponent 1', f(2, up), first(2, :), 5e-3; ...
-            'first loading, exponent 2', f(3, up), first(3, :), 5e-3; ...
-            'force at the turning points', [max(settled), min(settled)], [top, -top], 2e-3; ...
-            'energy of a cycle', area, 4 * limit * reach - 4 * limit / stiffness * top, 0.01};
+  checks = {'first loading, exponent 0', f(1, up), first(1, :), 4e-3; ...
+            'first loading, exponent 1', f(2, up), first(2, :), 4e-3; ...
+            'first loading, exponent 2', f(3, up), first(3, :), 4e-3; ...
+            'force at the turning points', [max(settled), min(settled)], [top, -top], 1e-3; ...
+            'energy of a cycle', area, 4 * limit * reach - 4 * limit / stiffness * top, 6e-3};
 
   fig = qn.plot.page (1000, 430);
   qn.plot.panel (1, 2, 1);
-  for e = 1:3, plot (1e3 * x(last), f(e, last), '-', 'color', qn.impl.colours (e), 'linewidth', qn.impl.width ()); hold on; end
-  axis ([-12 12 -1200 1800]);
-  labels ('Settled loops', 'Displacement [mm]', 'Force [N]', {'exponent 0', 'exponent 1', 'exponent 2'}, 'north');
+  for e = 1:3, plot (1e3 * x(last), 1e-3 * f(e, last), '-', 'color', qn.impl.colours (e), 'linewidth', qn.impl.width ()); hold on; end
+  axis ([-12 12 -1.2 1.2]);
+  labels ('Settled loops', 'Displacement [mm]', 'Force [kN]');
   qn.plot.panel (1, 2, 2);
-  for e = 1:3, plot (1e3 * x(up), f(e, up), '-', 'color', qn.impl.colours (e), 'linewidth', qn.impl.width ()); hold on; end
+  for e = 1:3, plot (1e3 * x(up), 1e-3 * f(e, up), '-', 'color', qn.impl.colours (e), 'linewidth', qn.impl.width ()); hold on; end
   k = round (linspace (1, n + 1, 17));
-  for e = 1:3, plot (1e3 * x(k), first(e, k), 'o', 'color', [0 0 0], 'markersize', 6); end
-  axis ([0 10 0 1200]);
-  labels ('First loading; circles: closed form', 'Displacement [mm]', 'Force [N]');
+  for e = 1:3, plot (1e3 * x(k), 1e-3 * first(e, k), 'o', 'color', [0 0 0], 'markersize', 6); end
+  axis ([0 10 0 1.2]);
+  labels ('First loading; circles: closed form', ...
+          'Displacement [mm]', 'Force [kN]', {'exponent 0', 'exponent 1', 'exponent 2'}, 'southeast');
   r = finish ('example_dahl_loop', fig, folder, checks, struct ('area', area, 'top', max (settled)));
 end

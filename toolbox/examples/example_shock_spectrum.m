@@ -41,8 +41,8 @@ function r = example_shock_spectrum (folder, short)
             'spectrum of qn.srs', filtered ./ exact, ones(1, count), 5e-3; ...
             'greatest amplification', most(1), most(2), 2e-3};
 
-  wide = qn.impl.width ();
   fig = qn.plot.page (1000, 430);
+  wide = qn.impl.width ();
   qn.plot.panel (1, 2, 1);
   shown = sim.time < 0.06;
   [unused, k] = min (abs (hertz - 75));

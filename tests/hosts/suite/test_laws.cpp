@@ -27,8 +27,9 @@ TEST_P(Laws, MaxwellAddsElasticAndViscousParts) {
 
 TEST_P(Laws, MaxwellWithoutObservedValuesEndsWhateverItsCounts) {
   constexpr double most = 2147483647.0;
-  mxArray* value = element("Maxw", 1, {0, 0.5, most, 0, 2, 5},
-                           {{"unl", pages(1, 1, 2, {})}, {"vnl", pages(1, 1, 2, {})}, {"snl", zeros(1)}, {"iopt", int32s({-1, 0, 0, 0, 2147483647})}});
+  mxArray* value =
+      element("Maxw", 1, {0, 0.5, most, 0, 2, 5},
+              {{"unl", pages(1, 1, 2, {})}, {"vnl", pages(1, 1, 2, {})}, {"snl", zeros(1)}, {"iopt", int32s({-1, 0, 0, 0, 2147483647})}});
   keptValues = 1;
   mxArray* r = zeros(1);
   run("residual", {r, handles({set(1003, value)}), scalar(0.5), scalar(0.25), zeros(0)}, 0);

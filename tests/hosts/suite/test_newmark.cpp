@@ -107,7 +107,8 @@ TEST_P(Newmark, RefusesWhatIsNotAnIntegratorOrTooShort) {
   NewmarkRun n = newmarkRun(2, 3);
   expectRefusal("the handle list is empty", "chandlediagnewmark", n.arguments(cell(0, 0, {})));
   expectRefusal("must be the integrator", "chandlediagnewmark", n.arguments(cell(1, 1, {listMatrix(1, {1, 1})})));
-  expectRefusal("must be a struct with a field \"type\"", "chandlediagnewmark", n.arguments(cell(1, 2, {n.integrator, nullptr})));
+  expectRefusal("element 2 : expected a struct with a field \"type\"", "chandlediagnewmark",
+                n.arguments(cell(1, 2, {n.integrator, nullptr})));
   expectRefusal("expected 9 inputs", "chandlediagnewmark", {cell(1, 1, {}), n.model, n.u, n.v, n.a});
   n.v = zeros(1);
   expectRefusal("v must hold 2 values", "chandlediagnewmark", n.arguments(cell(1, 1, {newmarkRun(2, 3).integrator})));

@@ -111,9 +111,11 @@ end
 
 function test_another_program_of_this_name_is_refused ()
   [folder, away] = new_folder ();
-  put (fullfile (folder, 'quarn.mex'), '');
-  code = ['1;' char(10) 'function x = quarn (varargin), x = 3; end' char(10) ...
-          'addpath (''%s''); try, install_quarn (''%s''); catch err, disp (err.message); exit (7); end'];
+  source = fullfile (folder, 'other.c');
+  put (source, ['#include <mex.h>' char(10) 'void mexFunction(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {' char(10) ...
+                '  plhs[0] = mxCreateDoubleScalar(3);' char(10) '}' char(10)]);
+  mkoctfile ('--mex', '-o', fullfile (folder, 'quarn.mex'), source);
+  code = 'addpath (''%s''); try, install_quarn (''%s''); catch err, disp (err.message); exit (7); end';
   [status, page] = octave_says (sprintf (code, toolbox (), folder));
   expect_equal (status, 7);
   expect_in (page, 'install_quarn: quarn () answered 3.0000 instead of 1.0001:');

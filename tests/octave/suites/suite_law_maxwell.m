@@ -196,6 +196,14 @@ function test_short_arrays_are_refused ()
   expect_error (@() evaluate_law (e, u(1:2), u(1:2)), '', '~iopt\(3\) of law "Maxw" must not be negative with 2 elements, got -1');
 end
 
+% Without "snl" the force lies on unl(1), so each of the 2 x 3 passes multiplies what the one before left there.
+function test_every_pass_forms_the_force_of_an_element_without_values_again ()
+  e = rmfield (maxwell_element (0, 0, 2, 0.5, 3, struct ('Cu', [], 'Dv', [], 'B', [], 'A', [], 'E', []), 1), {'snl', 'b'});
+  e.opt(6) = 3;
+  e = evaluate_law (e, 2, 0);
+  expect_equal (e.unl(1), 2 * 3 ^ 6);
+end
+
 % The number of sub-steps is a mode of the state, which moves away from 0 in the first step.
 function e = run_with_shared_options (values)
   u = [law_code('Maxw'); 0; 1; 0; 0; 5];

@@ -140,7 +140,7 @@ end
 
 function test_random_tables_against_the_model ()
   rand ('twister', 42);
-  for k = 1:300
+  for k = 1:rounds (300)
     nx = 1 + floor (8 * rand);
     ny = 1 + floor (3 * rand);
     n = 1 + floor (4 * rand);

@@ -141,3 +141,22 @@ end
 function test_residuals_of_handles_and_matrices_half_of_them_failing ()
   flat ('residual calls', @residual_calls, @residual_idle, scaled (1e6), 1);
 end
+
+function complex_products (count)
+  t = [1 2; 3 4; 5 6] * (1 + 1i);
+  k = matrix_lines (eye (3));
+  a = magic (3) * 1i;
+  for j = 1:count
+    x = quarn ('abc', t, k, t, int32 ([1 0 0]));
+    x = quarn ('directzr', a, {1}, a, a);
+  end
+end
+
+function complex_idle (count)
+  t = [1 2; 3 4; 5 6] * (1 + 1i);
+  for j = 1:count, x = t * 1i; end
+end
+
+function test_complex_operands ()
+  flat ('products with complex operands', @complex_products, @complex_idle, scaled (3e5), 16);
+end

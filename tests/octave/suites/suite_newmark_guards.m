@@ -214,8 +214,9 @@ function test_random_nonsense_never_ends_the_host ()
   values = hostile_values ();
   names = {'list', 'model', 'u', 'v', 'a', 'opt', 'mem', 'out'};
   fields = {'r', 'tft', 'data', 'iopt'};
+  calls = rounds (1500);
   refusals = 0;
-  for k = 1:1500
+  for k = 1:calls
     run = small_run ();
     for spoiled = 1:1 + (rand < 0.3)
       x = values{1 + floor (numel (values) * rand)};
@@ -232,6 +233,6 @@ function test_random_nonsense_never_ends_the_host ()
       refusals = refusals + 1;
     end
   end
-  if refusals < 500, error ('only %d of 1500 calls were refused', refusals); end
+  if refusals < calls / 3, error ('only %d of %d calls were refused', refusals, calls); end
   expect_equal (quarn (), 1.0001);
 end

@@ -85,6 +85,19 @@ function test_matrix_without_values_leaves_the_initial_content ()
   expect_equal (e.vnl, [4; 5]);
 end
 
+function test_sparse_matrices_without_entries_observe_and_add_nothing ()
+  e = element ();
+  e.c = matrix_lines (sparse (2, 3), true);
+  e.b = matrix_lines (sparse (1, 3), true);
+  e.unl = buffer (2, 1);
+  e.Fu = @(varargin) 4;
+  e.StoreFNL = 0;
+  r = fresh ([1; 2; 3]);
+  quarn ('residual', r, nl_model (e), [1; 2; 3], [0; 0; 0], [], [], []);
+  expect_equal (e.unl, [0; 0]);
+  expect_equal (r, [1; 2; 3]);
+end
+
 function test_buffers_without_elements_need_no_matrix ()
   e = struct ('type', '', 'unl', zeros (0, 1), 'vnl', []);
   observe (e);

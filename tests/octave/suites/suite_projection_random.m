@@ -30,7 +30,7 @@ end
 function test_triple_products_of_random_bases ()
   rand ('twister', 42);
   randn ('twister', 42);
-  for round_no = 1:240
+  for round_no = 1:rounds (240)
     n = ceil (rand () * 60);
     cols = ceil (rand () * 20);
     whole = rand () < 0.5;
@@ -48,7 +48,7 @@ end
 function test_left_products_of_random_bases ()
   rand ('twister', 43);
   randn ('twister', 43);
-  for round_no = 1:240
+  for round_no = 1:rounds (240)
     n = ceil (rand () * 60);
     m = ceil (rand () * 60);
     cols = ceil (rand () * 20);

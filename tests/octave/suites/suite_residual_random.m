@@ -28,7 +28,7 @@ end
 function test_matrix_cells_of_every_kind_of_damping ()
   rand ('twister', 42);
   randn ('twister', 42);
-  for k = 1:240
+  for k = 1:rounds (240)
     c = random_case (k);
     damping = matrix_lines (c.C);
     if mod (k, 4) == 1
@@ -52,7 +52,7 @@ end
 function test_handle_vectors_of_any_order_and_number ()
   rand ('twister', 7);
   randn ('twister', 7);
-  for k = 1:240
+  for k = 1:rounds (240)
     c = random_case (k);
     quarn ('chandleclear');
     wanted = c.r;
@@ -105,7 +105,7 @@ end
 function test_structures_with_nonlinear_lists_and_energies ()
   rand ('twister', 42);
   randn ('twister', 42);
-  for k = 1:240
+  for k = 1:rounds (240)
     c = random_case (k);
     c.n = 6 + mod (k, 9);
     for f = {'M', 'C', 'K'}, c.(f{1}) = random_matrix (c.n, 0.4); end

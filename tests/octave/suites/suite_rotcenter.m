@@ -181,7 +181,7 @@ function test_random_elements_against_the_model ()
   rand ('twister', 42);
   randn ('twister', 42);
   kinds = [10 11 12 13 14 17 18 21];
-  for k = 1:400
+  for k = 1:rounds (400)
     n = 6 + mod (k, 5);
     rows = kinds(1 + mod (k, numel (kinds)));
     e = random_rotor (n, rows, 3);

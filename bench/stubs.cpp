@@ -1,2 +1,0 @@
-#include "groups.h"
-namespace quarn::bench { void benchEquations(){} }

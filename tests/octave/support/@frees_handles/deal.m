@@ -1,0 +1,4 @@
+function varargout = deal (f)
+  quarn ('chandleclear');
+  varargout = {f};
+end

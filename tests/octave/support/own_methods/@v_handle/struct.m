@@ -1,0 +1,4 @@
+function s = struct (v)
+  quarn ('chandleclear');
+  s = builtin ('struct', v);
+end

@@ -1,0 +1,73 @@
+// Compiled once for each processor version, with the kernels in a namespace of that version.
+#include "processor/kernel_numbers.h"
+
+#include <algorithm>
+
+#include "integration/newmark_fused.h"
+#include "sparse/projection_kernels.h"
+#include "unit/random_matrix.h"
+
+namespace {
+
+using Vector = std::vector<double>;
+using quarn::test::randomVector;
+
+void append(Vector& all, const Vector& more) { all.insert(all.end(), more.begin(), more.end()); }
+
+struct State {
+  explicit State(int n) : u(randomVector(n, 1)), v(randomVector(n, 2)), a(randomVector(n, 3)), f(u.size()) {}
+  Vector u;
+  Vector v;
+  Vector a;
+  Vector f;
+  void appendTo(Vector& all) const {
+    for (const Vector* x : {&u, &v, &a, &f}) append(all, *x);
+  }
+};
+
+void newmark(Vector& all, int n) {
+  const quarn::NewmarkCoefficients k{0.01, 2.5e-5, 0.005, 200.0, 4.0e4};
+  const Vector r = randomVector(3 * n, 4);
+  const Vector load = randomVector(12, 5);
+  const Vector gain = randomVector(n, 6);
+  const Vector stiffness = randomVector(n, 7);
+  const Vector damping = randomVector(n, 8);
+  State apart(n);
+  quarn::newmarkPredict(apart.u.data(), apart.v.data(), apart.a.data(), n, k);
+  quarn::newmarkLoad(apart.f.data(), r.data(), n, load.data(), n, 3);
+  quarn::newmarkCorrect(apart.u.data(), apart.v.data(), apart.a.data(), apart.f.data(), gain.data(), n, k);
+  apart.appendTo(all);
+  for (int kind = 0; kind < 3; ++kind) {
+    const quarn::DiagonalForces forces{kind > 0 ? stiffness.data() : nullptr, 0.25, kind > 1 ? damping.data() : nullptr};
+    State x(n);
+    State copy(n);
+    quarn::newmarkBegin({x.u.data(), x.v.data(), x.a.data(), n}, copy.u.data(), copy.v.data(), copy.a.data(), x.f.data(), r.data(),
+                        load.data(), 1, forces, k);
+    x.appendTo(all);
+    copy.appendTo(all);
+    quarn::newmarkSteps({x.u.data(), x.v.data(), x.a.data(), n}, r.data(), gain.data(), load.data(), 3, 3, 4, forces, k);
+    x.appendTo(all);
+  }
+}
+
+void projections(Vector& all, int n) {
+  const quarn::test::Lines m = quarn::test::randomLines(n, n, 9, 11);
+  const std::size_t cols = 7;
+  const auto lines = static_cast<std::size_t>(n);
+  const Vector re = randomVector(n * static_cast<int>(cols), 12);
+  const Vector im = randomVector(n * static_cast<int>(cols), 13);
+  const quarn::DenseBase base{re.data(), im.data(), lines, cols};
+  Vector out(2 * cols * cols);
+  Vector work(quarn::bilinearWork(cols, cols));
+  quarn::bilinearForms(out.data(), out.data() + cols * cols, base, base, {m.ir.data(), m.jc.data(), m.pr.data()}, lines, work.data());
+  append(all, out);
+}
+
+}  // namespace
+
+std::vector<double> KERNEL_NUMBERS(int n) {
+  Vector all;
+  newmark(all, n);
+  if (n > 0) projections(all, n);
+  return all;
+}

@@ -1,0 +1,114 @@
+// The one-pass kernels against the separate ones, bit for bit, signed zeros included.
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "integration/newmark_fused.h"
+#include "random_matrix.h"
+
+namespace quarn {
+namespace {
+
+using test::randomVector;
+using Vector = std::vector<double>;
+
+const NewmarkCoefficients k{0.01, 2.5e-5, 0.005, 200.0, 4.0e4};
+
+bool sameBits(const Vector& a, const Vector& b) {
+  return a.size() == b.size() && (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(double)) == 0);
+}
+
+/// A problem with n modes, nb loads and some zeros of both signs.
+struct Problem {
+  Problem(int modes, int loads)
+      : n(modes),
+        nb(loads),
+        u(withZeros(randomVector(n, 1))),
+        v(withZeros(randomVector(n, 2))),
+        a(randomVector(n, 3)),
+        r(withZeros(randomVector(n * nb, 4))),
+        gain(randomVector(n, 5)),
+        stiffness(randomVector(n, 6)),
+        damping(randomVector(n, 7)),
+        p(withZeros(randomVector(20 * (nb + 1), 8))) {}
+
+  static Vector withZeros(Vector x) {
+    for (std::size_t i = 0; i + 1 < x.size(); i += 5) {
+      x[i] = 0.0;
+      x[i + 1] = -0.0;
+    }
+    return x;
+  }
+
+  DiagonalForces forces(int kind) const { return {kind > 0 ? stiffness.data() : nullptr, 0.3, kind > 1 ? damping.data() : nullptr}; }
+
+  /// Predictor, load and diagonal forces, one after the other.
+  void beginSeparately(const double* loads, int kind) {
+    newmarkPredict(u.data(), v.data(), a.data(), n, k);
+    f.assign(u.size(), 9.0);
+    newmarkLoad(f.data(), r.data(), n, loads, n, nb);
+    for (std::size_t i = 0; kind > 0 && i < u.size(); ++i) f[i] += stiffness[i] * (u[i] + 0.3 * v[i]);
+    for (std::size_t i = 0; kind > 1 && i < u.size(); ++i) f[i] += damping[i] * v[i];
+  }
+
+  int n;
+  int nb;
+  Vector u;
+  Vector v;
+  Vector a;
+  Vector r;
+  Vector gain;
+  Vector stiffness;
+  Vector damping;
+  Vector p;
+  Vector f;
+};
+
+const int sizes[] = {0, 1, 2, 3, 4, 5, 7, 8, 15, 16, 17, 33, 100, 255, 256, 257, 600};
+
+TEST(NewmarkFused, BeginsAStepLikeTheSeparateLoops) {
+  for (const int n : sizes) {
+    for (int nb = 0; nb < 4; ++nb) {
+      for (int kind = 0; kind < 3; ++kind) {
+        Problem wanted(n, nb);
+        Problem got(n, nb);
+        wanted.beginSeparately(wanted.p.data(), kind);
+        Vector cu(got.u.size(), 7.0);
+        Vector cv(cu);
+        Vector ca(cu);
+        got.f.assign(got.u.size(), 9.0);
+        newmarkBegin({got.u.data(), got.v.data(), got.a.data(), n}, cu.data(), cv.data(), ca.data(), got.f.data(), got.r.data(),
+                     got.p.data(), nb, got.forces(kind), k);
+        const Problem start(n, nb);
+        EXPECT_TRUE(sameBits(cu, start.u) && sameBits(cv, start.v) && sameBits(ca, start.a)) << n << ' ' << nb;
+        EXPECT_TRUE(sameBits(got.u, wanted.u) && sameBits(got.v, wanted.v) && sameBits(got.a, wanted.a)) << n << ' ' << nb;
+        EXPECT_TRUE(sameBits(got.f, wanted.f)) << n << ' ' << nb << ' ' << kind;
+      }
+    }
+  }
+}
+
+TEST(NewmarkFused, DoesWholeStepsLikeTheSeparateLoops) {
+  for (const int n : sizes) {
+    for (int nb = 0; nb < 4; ++nb) {
+      for (int kind = 0; kind < 3; ++kind) {
+        Problem wanted(n, nb);
+        Problem got(n, nb);
+        const int steps = 9;
+        const int stride = nb + 1;
+        for (int j = 0; j < steps; ++j) {
+          wanted.beginSeparately(wanted.p.data() + j * stride, kind);
+          newmarkCorrect(wanted.u.data(), wanted.v.data(), wanted.a.data(), wanted.f.data(), wanted.gain.data(), n, k);
+        }
+        newmarkSteps({got.u.data(), got.v.data(), got.a.data(), n}, got.r.data(), got.gain.data(), got.p.data(), stride, nb, steps,
+                     got.forces(kind), k);
+        EXPECT_TRUE(sameBits(got.u, wanted.u)) << n << ' ' << nb << ' ' << kind;
+        EXPECT_TRUE(sameBits(got.v, wanted.v)) << n << ' ' << nb << ' ' << kind;
+        EXPECT_TRUE(sameBits(got.a, wanted.a)) << n << ' ' << nb << ' ' << kind;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quarn

@@ -1,0 +1,37 @@
+% SWEEP_CASE (JOB, K)  runs case K and leaves the file of its result or of its error
+function sweep_case (job, k)
+  if job.mark, qn.impl.sweep_keep (qn.impl.sweep_file (job, 'begun', k), struct ('case', k)); end
+  p = qn.impl.sweep_parameters (job, k);
+  before = seeded (k);
+  back = onCleanup (@() put_back (before));
+  begun = tic ();
+  try
+    result = job.f (p);
+    seconds = toc (begun);
+    qn.impl.sweep_keep (qn.impl.sweep_file (job, 'case', k), struct ('result', {result}, 'seconds', seconds));
+  catch err
+    qn.impl.sweep_keep (qn.impl.sweep_file (job, 'failed', k), struct ('identifier', err.identifier, 'message', err.message));
+  end
+  if job.mark, delete (qn.impl.sweep_file (job, 'begun', k)); end
+end
+
+% Random numbers that depend on the case alone, not on the cases that the process ran before. Gives the state until now.
+function before = seeded (k)
+  if exist ('OCTAVE_VERSION', 'builtin')
+    kinds = {@rand, @randn, @rande, @randg, @randp};
+    before = cellfun (@(kind) kind ('twister'), kinds, 'UniformOutput', false);
+    for j = 1:numel (kinds), kinds{j} ('twister', k); end
+  else
+    before = rng ();
+    rng (k, 'twister');
+  end
+end
+
+function put_back (before)
+  if exist ('OCTAVE_VERSION', 'builtin')
+    kinds = {@rand, @randn, @rande, @randg, @randp};
+    for j = 1:numel (kinds), kinds{j} ('twister', before{j}); end
+  else
+    rng (before);
+  end
+end

@@ -1,0 +1,45 @@
+% JOB = SWEEP_JOB (F, CASES, FOLDER, PROGRESS)  a sweep and its folder: a new one, or one that goes on
+%
+% JOB has f, cases, n, shape (of the results), folder and progress.
+function job = sweep_job (f, cases, folder, progress)
+  if ~isa (f, 'function_handle'), error ('qn:input', 'qn.sweep: a function expected, got an array of class %s', class (f)); end
+  if isstruct (cases) || iscell (cases)
+    shape = size (cases);
+  elseif (isnumeric (cases) || islogical (cases)) && ndims (cases) == 2
+    shape = [1, size(cases, 2)];
+  else
+    error ('qn:input', 'qn.sweep: the cases must be a struct array, a cell array or a matrix, got an array of class %s', class (cases));
+  end
+  make_folder (folder);
+  job = struct ('f', f, 'cases', {cases}, 'n', prod (shape), 'shape', shape, 'folder', absolute (folder), 'progress', progress, ...
+                'mark', false);
+  file = fullfile (job.folder, 'sweep.mat');
+  if exist (file, 'file')
+    before = load (file);
+    if ~qn.impl.alike (before.cases, cases)
+      error ('qn:input', 'qn.sweep: the folder %s belongs to a sweep with other cases; give another folder or empty it', folder);
+    end
+    if ~qn.impl.alike (before.f, f)
+      error ('qn:input', ['qn.sweep: the folder %s belongs to a sweep of another function, %s, or of one with other values in it; ' ...
+                          'give another folder or empty it'], folder, func2str (before.f));
+    end
+  elseif ~isempty (dir (fullfile (job.folder, 'case_*.mat')))
+    error ('qn:input', 'qn.sweep: the folder %s has results in it, but not the file sweep.mat that says what they belong to', folder);
+  else
+    qn.impl.sweep_keep (file, struct ('f', f, 'cases', {cases}));
+  end
+end
+
+function make_folder (folder)
+  if ~ischar (folder), error ('qn:input', 'qn.sweep: the name of a folder expected, got an array of class %s', class (folder)); end
+  if exist (folder, 'dir'), return, end
+  [made, why] = mkdir (folder);
+  if ~made, error ('qn:input', 'qn.sweep: cannot make the folder %s: %s', folder, why); end
+end
+
+% Workers may have another current folder.
+function folder = absolute (folder)
+  here = cd (folder);
+  back = onCleanup (@() cd (here));
+  folder = pwd ();
+end

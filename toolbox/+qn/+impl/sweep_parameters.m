@@ -1,0 +1,10 @@
+% P = SWEEP_PARAMETERS (JOB, K)  parameters of case K
+function p = sweep_parameters (job, k)
+  if isstruct (job.cases)
+    p = job.cases(k);
+  elseif iscell (job.cases)
+    p = job.cases{k};
+  else
+    p = job.cases(:, k);
+  end
+end

@@ -1,0 +1,74 @@
+% WAITING = SWEEP_SLURM (JOB, WORKERS, OPTIONS, PATIENT)  runs what is left of a sweep as a job array
+%
+% One array of a sweep is in the queue at a time; its number lies in the folder, so that a sweep whose first process was killed
+% finds it again. Gives whether cases are still in the queue; PATIENT waits until none is.
+function waiting = sweep_slurm (job, workers, options, patient)
+  file = fullfile (job.folder, 'slurm_job.txt');
+  if exist (file, 'file')
+    waiting = queued (job, strtrim (fileread (file)), patient);
+    if waiting, return, end
+  end
+  [done, failed] = qn.impl.sweep_state (job);
+  pending = find (~done & ~failed);
+  waiting = ~isempty (pending);
+  if waiting
+    id = hand_in (job, pending, workers, options);
+    write (file, id);
+    if job.progress, fprintf ('  %d cases in job %s; scancel %s ends it\n', numel (pending), id, id); end
+    waiting = queued (job, id, patient);
+  end
+end
+
+% Clusters take about a thousand tasks an array: more cases share a task.
+function id = hand_in (job, pending, workers, options)
+  tasks = min (numel (pending), 1000);
+  qn.impl.sweep_keep (fullfile (job.folder, 'slurm_tasks.mat'), struct ('pending', pending, 'tasks', tasks));
+  script = fullfile (job.folder, 'slurm_task.m');
+  write (script, sprintf ('cd (%s);\npath (%s);\nqn.impl.sweep_task (%s, str2double (getenv (''SLURM_ARRAY_TASK_ID'')));\n', ...
+                          text (pwd ()), text (path ()), text (job.folder)));
+  program = fullfile (OCTAVE_EXEC_HOME (), 'bin', 'octave-cli');
+  start = fullfile (job.folder, 'slurm_task.sh');
+  write (start, sprintf ('#!/bin/sh\nexec %s --no-history -qf %s\n', shell (program), shell (script)));
+  array = sprintf ('1-%d', tasks);
+  if ~isempty (workers), array = sprintf ('%s%%%d', array, workers); end
+  command = sprintf ('sbatch --parsable --job-name=qn.sweep --array=%s --output=%s %s %s', array, ...
+                     shell (fullfile (job.folder, 'slurm_%A_%a.txt')), options, shell (start));
+  [status, said] = system ([command ' 2>&1']);
+  id = regexp (said, '^\d+', 'match', 'once', 'lineanchors');
+  if status ~= 0 || isempty (id), error ('qn:engine', 'qn.sweep: sbatch did not take the job array: %s', strtrim (said)); end
+end
+
+% A queue that does not answer for a while is asked again; the array is not lost by that.
+function is = queued (job, id, patient)
+  begun = tic ();
+  silent = tic ();
+  while true
+    [status, said] = system (sprintf ('squeue --noheader --jobs=%s --format=%%i 2>&1', id));
+    gone = ~isempty (strfind (said, 'Invalid job id'));
+    is = ~gone && (status ~= 0 || ~isempty (strtrim (said)));
+    if status == 0 || gone
+      silent = tic ();
+    elseif ~patient || toc (silent) > 300
+      error ('qn:engine', 'qn.sweep: the queue does not answer: %s; call again later to collect job %s', strtrim (said), id);
+    end
+    if ~is || ~patient, return, end
+    pause (min (10, 0.5 + toc (begun) / 20));
+    qn.impl.sweep_tell (job);
+  end
+end
+
+function write (file, content)
+  [id, why] = fopen (file, 'w');
+  if id < 0, error ('qn:input', 'qn.sweep: cannot write %s: %s', file, why); end
+  fprintf (id, '%s', content);
+  fclose (id);
+end
+
+% As a text of Octave, and as a word of the shell.
+function t = text (t)
+  t = ['''' strrep(t, '''', '''''') ''''];
+end
+
+function t = shell (t)
+  t = ['''' strrep(t, '''', '''\''''') ''''];
+end

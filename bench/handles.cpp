@@ -40,9 +40,8 @@ void diagonalSystem(int n, int steps) {
 }
 
 void sparseSystem(int n, int steps) {
-  Modes m = spreadModes(n);
   const GridMatrix g = gridMatrix(7, n);
-  m = spreadModes(g.n);
+  const Modes m = spreadModes(g.n);
   const std::vector<double> loads = wave(static_cast<std::size_t>(steps), 0.0);
   std::vector<double> scaled = g.pr;
   for (double& x : scaled) x *= 1e4;
@@ -71,7 +70,7 @@ void sparseSystem(int n, int steps) {
                           loopRun();
                           return loop.state();
                         }});
-  c.programs.push_back({"quarn", [&] { product.run(); }, [&] { return fresh(product); }});
+  c.programs.push_back({"quarn", [&] { product.run(); }, [&] { return fresh(product); }, g.n > 1000});
   run(c);
 }
 

@@ -55,7 +55,8 @@ int repetitions(const Program& p) {
   const auto start = std::chrono::steady_clock::now();
   p.run();
   const double took = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-  return static_cast<int>(std::clamp(0.5 / std::max(took, 0.001), 9.0, 100.0));
+  const double most = p.threaded ? 100.0 : 9.0;
+  return static_cast<int>(std::clamp(0.5 / std::max(took, 0.001), 3.0, most));
 }
 
 std::map<std::string, double> compareNumbers(const Case& c) {
@@ -86,7 +87,7 @@ void run(const Case& c) {
       for (auto _ : state) p.run();
     });
     timed->UseRealTime()->Unit(benchmark::kSecond);
-    if (p.threaded && !quick()) timed->MinTime(0.001)->Repetitions(repetitions(p));
+    if (!quick()) timed->MinTime(p.threaded ? 0.001 : 0.02)->Repetitions(repetitions(p));
   }
   Collector collector;
   for (const Program& p : c.programs) collector.threaded[p.name] = p.threaded;

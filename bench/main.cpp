@@ -21,7 +21,7 @@ void startTimer(bool quick) {
   if (quick) {
     flags.insert(flags.end(), {"--benchmark_min_time=0.0005", "--benchmark_repetitions=1"});
   } else {
-    flags.insert(flags.end(), {"--benchmark_min_time=0.02", "--benchmark_repetitions=9", "--benchmark_enable_random_interleaving=true"});
+    flags.insert(flags.end(), {"--benchmark_enable_random_interleaving=true"});
   }
   int n = static_cast<int>(flags.size());
   benchmark::Initialize(&n, const_cast<char**>(flags.data()));

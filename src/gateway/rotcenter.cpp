@@ -89,7 +89,7 @@ void addRotCenter(const NlCall& call, const NlElement& e) {
   if (rc.store) {
     for (int i = 0; i < 3; ++i) call.ctx.FNL[rc.store[i]] = f[i];
   }
-  for (int i = 0; i < 3; ++i) g[i] = -(T[3 * i] * f[0] + T[3 * i + 1] * f[1] + T[3 * i + 2] * f[2]);
+  for (std::ptrdiff_t i = 0; i < 3; ++i) g[i] = -(T[3 * i] * f[0] + T[3 * i + 1] * f[1] + T[3 * i + 2] * f[2]);
   if (rc.obsA) {
     Add_Mt_u(rc.obsB, {f, 3}, call.r, "the element's Cell{17,2}");
     Add_Mt_u(rc.obsA, {g, 3}, call.r, "the element's Cell{15,2}");

@@ -82,9 +82,7 @@ void addResiduals(chandle** list, int n, const ROr& c, host::Doubles r) {
   }
 }
 
-chandle** newHandleList(const mxArray* list) {
-  return static_cast<chandle**>(mxCalloc(host::count(list) + 1, sizeof(chandle*)));
-}
+chandle** newHandleList(const mxArray* list) { return static_cast<chandle**>(mxCalloc(host::count(list) + 1, sizeof(chandle*))); }
 
 int fillVectP(chandle** out, const mxArray* list) {
   const std::size_t n = host::count(list);

@@ -22,12 +22,23 @@ chandle* make() {
 chandle* chandleInitByType(int code, int* ok) {
   chandle* h = nullptr;
   switch (code) {
-    case 1: h = make<chandleSparseStiffness>(); break;
-    case 2: h = make<chandleSparseMass>(); break;
-    case 3: h = make<chandleSparseDamping>(); break;
-    case 1003: h = make<chandleNl_inout>(); break;
-    case 2000: h = make<chandleDiagNewmark>(); break;
-    default: host::fail("KORV:quarn:NonHandle", "Not a valid chandle type");
+    case 1:
+      h = make<chandleSparseStiffness>();
+      break;
+    case 2:
+      h = make<chandleSparseMass>();
+      break;
+    case 3:
+      h = make<chandleSparseDamping>();
+      break;
+    case 1003:
+      h = make<chandleNl_inout>();
+      break;
+    case 2000:
+      h = make<chandleDiagNewmark>();
+      break;
+    default:
+      host::fail("KORV:quarn:NonHandle", "Not a valid chandle type");
   }
   *ok = 1;
   return h;

@@ -93,7 +93,7 @@ mxArray* duplicateValues(const mxArray* a) {
   const auto dims = mxGetNumberOfDimensions(a);
   const mwSize* extents = mxGetDimensions(a);
   const std::size_t bytes = count(a) * static_cast<std::size_t>(mxGetElementSize(a));
-  mxArray* copy = mxIsChar(a)      ? mxCreateCharArray(dims, extents)
+  mxArray* copy = mxIsChar(a) ? mxCreateCharArray(dims, extents)
                   : mxIsLogical(a) ? mxCreateLogicalArray(dims, extents)
                                    : mxCreateNumericArray(dims, extents, mxGetClassID(a), mxIsComplex(a) ? mxCOMPLEX : mxREAL);
   copyBytes(mxGetData(copy), mxGetData(a), bytes);

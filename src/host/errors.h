@@ -21,7 +21,8 @@ void setElement(int element) noexcept;
 /// Raises TEXT without an identifier.
 [[noreturn]] void fail(const char* text);
 
-/// Raises "quarn COMMAND : <formatted text>", or "quarn COMMAND : element K : <formatted text>". The text says what is wrong, what was expected and what was got.
+/// Raises "quarn COMMAND : <formatted text>", or "quarn COMMAND : element K : <formatted text>". The text says what is wrong, what was
+/// expected and what was got.
 [[noreturn]] [[gnu::format(printf, 1, 2)]] void refuse(const char* format, ...);
 
 /// Calls a function of the host's language. Its error ends the call, with identifier and text unchanged. The function may call quarn

@@ -10,9 +10,7 @@ namespace quarn {
 
 namespace {
 
-const char* nameOf(int code) {
-  return code == -2 ? "the mass matrix" : code == -3 ? "the damping matrix" : "the stiffness matrix";
-}
+const char* nameOf(int code) { return code == -2 ? "the mass matrix" : code == -3 ? "the damping matrix" : "the stiffness matrix"; }
 
 /// A struct without values that has modes: "pr" absent or empty, "def" there.
 bool isModalDamping(const mxArray* C) { return host::field(C, "def") && host::count(host::field(C, "pr")) == 0; }

@@ -10,13 +10,13 @@ namespace quarn {
 
 /// Passed by value; owns nothing, all pointers borrow arrays of the current call.
 struct ROr {
-  std::int32_t N = 0;   ///< degrees of freedom: rows of the displacement argument
-  double alpha = 0.0;   ///< Rayleigh coefficient of the mass matrix [1/s]
-  double beta = 0.0;    ///< Rayleigh coefficient of the stiffness matrix [s]
-  double t = 0.0;       ///< current time [s]; set by the integrator only
-  double* u = nullptr;  ///< displacements
-  double* v = nullptr;  ///< velocities
-  double* a = nullptr;  ///< accelerations; null when the argument is empty
+  std::int32_t N = 0;     ///< degrees of freedom: rows of the displacement argument
+  double alpha = 0.0;     ///< Rayleigh coefficient of the mass matrix [1/s]
+  double beta = 0.0;      ///< Rayleigh coefficient of the stiffness matrix [s]
+  double t = 0.0;         ///< current time [s]; set by the integrator only
+  double* u = nullptr;    ///< displacements
+  double* v = nullptr;    ///< velocities
+  double* a = nullptr;    ///< accelerations; null when the argument is empty
   double* FNL = nullptr;  ///< the model's force store "FNL", or null
 
   // Values behind the pointers, for the checks.

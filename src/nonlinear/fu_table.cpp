@@ -1,10 +1,8 @@
 // The tabulated law.
-#include <array>
 #include <climits>
-#include <cstdint>
-#include <cstring>
 
 #include "host/arrays.h"
+#include "host/convert.h"
 #include "host/errors.h"
 #include "nonlinear/laws.h"
 #include "nonlinear/lin_interp.h"
@@ -14,12 +12,8 @@ namespace quarn {
 
 namespace {
 
-using Bits = std::array<std::uint64_t, 3>;
-
-Bits bitsOf(const double* record) {
-  Bits bits{};
-  std::memcpy(bits.data(), record, sizeof bits);
-  return bits;
+bool sameRecord(const double* a, const double* b) {
+  return host::sameBits(a[0], b[0]) && host::sameBits(a[1], b[1]) && host::sameBits(a[2], b[2]);
 }
 
 }  // namespace
@@ -36,10 +30,12 @@ void checkTablePlace(const chandleNl_inout& h) {
     host::refuse("iopt(6:9) must not be negative, got %lld %lld %lld %lld", table, record, nx, ny);
   }
   const long long end = nx > h.optLen ? LLONG_MAX : table + nx * (1 + ny);
-  if (end > h.optLen) host::refuse("a table of %lld knots and %lld columns at opt(%lld) ends behind opt of %d values", nx, ny, table + 1, h.optLen);
+  if (end > h.optLen)
+    host::refuse("a table of %lld knots and %lld columns at opt(%lld) ends behind opt of %d values", nx, ny, table + 1, h.optLen);
   if (record + 3 > h.optLen) host::refuse("the search record at opt(%lld) ends behind opt of %d values", record + 1, h.optLen);
   if (record < end && table < record + 3 && nx > 0) {
-    host::refuse("the search record at opt(%lld) to (%lld) lies on the table at opt(%lld) to (%lld)", record + 1, record + 3, table + 1, end);
+    host::refuse("the search record at opt(%lld) to (%lld) lies on the table at opt(%lld) to (%lld)", record + 1, record + 3, table + 1,
+                 end);
   }
   const double* knots = h.opt + table;
   for (long long i = 0; i + 1 < nx; ++i) {
@@ -66,9 +62,9 @@ void FuTable(chandleNl_inout* h, ROr ro) {
   const bool apart = !host::overlap(h->unl, queries, h->snl, results) && !host::overlap(h->snl, results, h->opt, options) &&
                      !host::overlap(t.table, size, t.record, 3) && !host::overlap(h->unl, queries, h->opt, options);
   for (int repetition = 0; repetition < h->unlLen; ++repetition) {
-    const Bits before = bitsOf(t.record);
+    const double before[3] = {t.record[0], t.record[1], t.record[2]};
     vorel_LinInterp(t.table, h->unl, t.record, h->snl, t.nx, t.ny, h->unlLen, 1, nullptr, nullptr);
-    if (apart && bitsOf(t.record) == before) break;
+    if (apart && sameRecord(t.record, before)) break;
   }
   storeForces(*h, ro);
 }

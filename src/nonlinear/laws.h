@@ -19,9 +19,9 @@ struct LawRow {
 const LawRow* findLaw(double opt0);
 
 // Laws without states.
-void FuPower(chandleNl_inout* h, ROr ro);   ///< snl = opt[1] * pow(unl, opt[2])
-void FuExpon(chandleNl_inout* h, ROr ro);   ///< snl = opt[1] * pow(opt[2], unl)
-void FuTable(chandleNl_inout* h, ROr ro);   ///< snl interpolated in the table at opt[iopt[5]]
+void FuPower(chandleNl_inout* h, ROr ro);  ///< snl = opt[1] * pow(unl, opt[2])
+void FuExpon(chandleNl_inout* h, ROr ro);  ///< snl = opt[1] * pow(opt[2], unl)
+void FuTable(chandleNl_inout* h, ROr ro);  ///< snl interpolated in the table at opt[iopt[5]]
 
 void checkPower(const chandleNl_inout& h, const ROr& ro);
 void checkExpon(const chandleNl_inout& h, const ROr& ro);

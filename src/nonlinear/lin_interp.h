@@ -13,7 +13,7 @@ namespace quarn {
 /// mode 0: only the record is updated
 /// X2   optional second table over the same abscissae (null: none), its values go to out2
 /// out may be x itself (the values then overwrite the queries as they are found).
-void vorel_LinInterp(const double* X, const double* x, double* rec, double* out, int nx, int ny, int n, int mode,
-                     const double* X2, double* out2);
+void vorel_LinInterp(const double* X, const double* x, double* rec, double* out, int nx, int ny, int n, int mode, const double* X2,
+                     double* out2);
 
 }  // namespace quarn

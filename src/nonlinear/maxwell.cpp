@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cstring>
 
 #include "host/convert.h"
 #include "host/errors.h"
@@ -128,7 +127,7 @@ void Maxw(chandleNl_inout* h, ROr ro) {
       for (std::ptrdiff_t i = 0; i <= at.q; ++i) force += h->opt[5 + i] * h->unl[o + i] + h->opt[Dv + i] * h->vnl[o + i];
       // Without values of an element every pass writes this one force, which may lie on unl[0]: once a pass leaves it as it was, the
       // further ones would too, whatever the counts say.
-      idle = at.q <= 0 && std::memcmp(h->snl + o, &force, sizeof force) == 0;
+      idle = at.q <= 0 && host::sameBits(h->snl[o], force);
       h->snl[o] = force;
     }
   }

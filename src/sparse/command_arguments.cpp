@@ -19,7 +19,7 @@ DenseBase denseBase(const mxArray* a, const char* name) {
 }
 
 std::size_t checkedCount(std::size_t rows, std::size_t cols, const char* name) {
-  constexpr std::size_t most = PTRDIFF_MAX / (16 * 4);
+  constexpr std::size_t most = PTRDIFF_MAX / 64;
   if (rows != 0 && cols > most / rows) host::refuse("%s : %zu x %zu values are more than memory can hold", name, rows, cols);
   return rows * cols;
 }

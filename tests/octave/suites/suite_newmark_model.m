@@ -46,7 +46,8 @@ function run = random_run (k, exact)
   out.data = out.data(keep);
   if rand < 0.3, out.data = out.data + h * 0.5 * (rand (size (out.data)) < 0.3); end
   out.def = zeros (n - pick ([0 0 0 1]), max (0, pick (-1:1) + numel (out.data)));
-  run = struct ('u', 0.3 * randn (n, 1), 'v', 0.3 * randn (n, 1), 'a', randn (n, 1), 'opt', [0.1 * rand, 0.1 * rand] * pick ([0 1]), 'mem', mem);
+  run = struct ('u', 0.3 * randn (n, 1), 'v', 0.3 * randn (n, 1), 'a', randn (n, 1), 'opt', [0.1 * rand, 0.1 * rand] * pick ([0 1]), ...
+                'mem', mem);
   run.model = struct ('K', []);
   fnl = 0;
   if rand < 0.6

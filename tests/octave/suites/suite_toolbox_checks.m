@@ -137,3 +137,22 @@ function test_the_adviser_says_what_it_cannot_do ()
   expect_error (@() qn.advise (qn.simulation (model, 'step', 1e-3, 'steps', 2, 'load', {1, [1 2 3]})), 'qn:input', '~given step by step');
   expect_error (@() qn.advise (qn.simulation (model, 'step', 1e-3, 'steps', 2)), 'qn:input', '~nothing moves');
 end
+
+% The stiffness of the structure does not hold a contact down: at 1.01 times the limit the motion grows, and the check says so.
+function test_a_stiff_structure_does_not_widen_the_limit_of_a_contact ()
+  for k = [1e2 1e4 1e5]
+    model = qn.modal (k, 1);
+    row = qn.observe (model, 1);
+    spring = qn.law ('power', 'stiffness', 1e4, 'exponent', 1);
+    levels = cell (1, 2);
+    for n = 1:2
+      step = 2 * sqrt (1 / 1e4) * (0.99 + 0.02 * (n - 1));
+      sim = qn.simulation (model, 'step', step, 'until', 400 * step, 'elements', {spring, row}, 'u0', 1e-3);
+      found = qn.check (sim);
+      levels{n} = any (strcmp ({found.level}, 'error'));
+      peak(n) = max (abs (qn.displacement (qn.run (sim), row)));
+    end
+    if levels{1} || ~levels{2}, error ('k = %g: the check errs about the limit', k); end
+    if peak(1) > 2e-3 || peak(2) < 1, error ('k = %g: peaks %g below and %g above the limit', k, peak(1), peak(2)); end
+  end
+end

@@ -1,8 +1,9 @@
 % FOUND = CHECK_LAW (SIM, K, X)  element K against the step, and its table against the displacements X ([]: not known)
 %
-% An element's force is evaluated at the predictor. Against a spring k it moves like a central difference with the mass that it
-% meets: with mobility mu = C M^-1 B' (the modes' own stiffness and damping act at the end of the step and add to their mass), the
-% motion is stable below h sqrt (k mu) = 2.
+% An element's force is evaluated at the predictor. A spring kn there is stable while
+%   kn h^2 gamma/2 < m + (gamma - 1/2) h c + (beta - gamma/2) h^2 k
+% with mass m, damping c and stiffness k of the structure (docs/theory.md derives it): below h sqrt (2 gamma kn mu) = 2 with the
+% mobility mu = C M^-1 B' of the right-hand side's M.
 function found = check_law (sim, k, x)
   found = struct ('level', {}, 'text', {});
   e = sim.elements(k);
@@ -13,10 +14,11 @@ function found = check_law (sim, k, x)
   if ~any (e.observe(:)) || ~any (e.command(:)), say ('warning', 'its rows are all zero: it does nothing; see qn.observe'); end
   c = sim.model.damping;
   if size (c, 2) > 1, c = diag (c); end
-  mass = 1 + sim.scheme.beta * h ^ 2 * sim.model.stiffness + sim.scheme.gamma * h * c;
+  s = sim.scheme;
+  mass = max (eps (), 1 + (s.beta - s.gamma / 2) * h ^ 2 * sim.model.stiffness + (s.gamma - 0.5) * h * c);
   mobility = max (abs (diag (e.observe * bsxfun (@rdivide, e.command.', mass))));
   stiff = qn.impl.stiffest (e.law, x);
-  ratio = h * sqrt (stiff * mobility);
+  ratio = h * sqrt (stiff * mobility * 2 * s.gamma);
   if ratio >= 2
     say ('error', 'too stiff for the step of %g s: with %g N/m on %g kg the motion grows without bound; take at most %.2g s', h, stiff, ...
          1 / mobility, h * 0.3 / ratio);

@@ -6,7 +6,7 @@ foreach(file ${documents})
   string(REGEX REPLACE "^docs/|\\.md$" "" name ${file})
   string(REPLACE "/" "." name ${name})
   add_test(NAME document.${name} COMMAND ${octave_document} ${CMAKE_SOURCE_DIR}/${file} $<TARGET_FILE_DIR:quarn>)
-  set_tests_properties(document.${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${host_environment}")
+  set_tests_properties(document.${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${host_environment}" LABELS once)
 endforeach()
 # What the README says its example prints is what it prints.
 set_tests_properties(document.README PROPERTIES
@@ -24,3 +24,5 @@ add_test(NAME documents.no_examples_are_reported
 set_tests_properties(documents.no_examples_are_reported PROPERTIES
   PASS_REGULAR_EXPRESSION "no examples in this document" ENVIRONMENT "${host_environment}")
 add_test(NAME documents.complete COMMAND ${OCTAVE_CLI} --no-history -qf ${CMAKE_CURRENT_LIST_DIR}/octave/check_documents.m)
+set_property(TEST documents.failing_examples_are_reported documents.failing_examples_fail documents.no_examples_are_reported
+             documents.complete APPEND PROPERTY LABELS once)

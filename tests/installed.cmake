@@ -10,3 +10,4 @@ set_tests_properties(package PROPERTIES TIMEOUT 600 PROCESSORS 2)
 add_test(NAME install
          COMMAND ${CMAKE_CURRENT_LIST_DIR}/install/run ${CMAKE_BINARY_DIR} ${CMAKE_CURRENT_BINARY_DIR}/install ${CMAKE_COMMAND} ${OCTAVE_CLI})
 set_tests_properties(install PROPERTIES TIMEOUT 600)
+set_property(TEST package install APPEND PROPERTY LABELS once)

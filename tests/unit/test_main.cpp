@@ -28,7 +28,6 @@ int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   octave::interpreter interpreter;
   interpreter.initialize_history(false);
-  interpreter.initialize_load_path(false);
   interpreter.initialize();
   return RUN_ALL_TESTS();
 }

@@ -23,3 +23,6 @@ foreach(file ${suites})
     set_tests_properties(${name} PROPERTIES LABELS once)
   endif()
 endforeach()
+add_test(NAME toolbox.parses
+         COMMAND ${OCTAVE_CLI} --traditional --no-history -qf ${CMAKE_CURRENT_LIST_DIR}/octave/parse_toolbox.m ${CMAKE_SOURCE_DIR}/toolbox)
+set_tests_properties(toolbox.parses PROPERTIES LABELS once ENVIRONMENT "${host_environment}")

@@ -56,7 +56,7 @@ int repetitions(const Program& p) {
   p.run();
   const double took = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
   const double most = p.threaded ? 100.0 : 9.0;
-  return static_cast<int>(std::clamp(0.5 / std::max(took, 0.001), 3.0, most));
+  return static_cast<int>(std::clamp(0.4 / std::max(took, 0.001), 3.0, most));
 }
 
 std::map<std::string, double> compareNumbers(const Case& c) {

@@ -13,7 +13,7 @@ function text = variant_table (records, group, variant)
     text = [text, sprintf('| %d |', s)];
     for p = 1:numel (programs)
       ratio = '';
-      if p ~= ours && ~isempty (ours), ratio = sprintf (' (%.2f)', row(ours) / row(p)); end
+      if p ~= ours && ~isempty (ours), ratio = [' (' short(row(ours) / row(p)) ')']; end
       text = [text, sprintf(' %s%s |', short(row(p)), ratio)];
     end
     text = [text, sprintf('\n')];

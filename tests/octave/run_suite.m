@@ -5,9 +5,10 @@
 args = argv ();
 suite = args{1};
 here = fileparts (mfilename ('fullpath'));
-addpath (args{2});
+module = make_absolute_filename (args{2});
+addpath (module);
 % What the tests need compiled lies in the build directory, beside the module's folder.
-compiled = fullfile (args{2}, '..', 'tests', 'octave');
+compiled = fullfile (module, '..', 'tests', 'octave');
 if exist (compiled, 'dir'), addpath (compiled); end
 addpath (fullfile (here, 'support'));
 addpath (fullfile (here, 'models'));

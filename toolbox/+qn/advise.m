@@ -31,6 +31,8 @@
 %
 % See also qn.check, qn.simulation, qn.run
 function advice = advise (sim, varargin)
+  if nargin < 1, sim = []; end
+  qn.impl.made_by ('qn.advise', sim, 'qn.simulation');
   who = 'qn.advise';
   o = qn.impl.options (who, struct ('rows', [], 'tolerance', 0.01, 'until', sim.time(end), 'order', false), varargin);
   if isempty (sim.options), error ('qn:input', '%s: a set-up that continues another or comes from a file cannot be made anew', who); end
@@ -44,7 +46,7 @@ function advice = advise (sim, varargin)
     c = cat (1, sim.elements.observe);
     if isempty (c), c = eye (numel (sim.model.w)); end
   else
-    c = qn.impl.looked_at (sim.model, o.rows);
+    c = qn.impl.looked_at (sim.model, o.rows, 'qn.advise: ');
   end
   steps = round (o.until / sim.step);
   coarse = c * trial (sim, steps, 1);

@@ -33,12 +33,14 @@
 %
 % See also qn.harmonic, qn.cubic, qn.static
 function [hertz, r] = backbone (model, elements, amplitude, varargin)
+  if nargin < 1, model = []; end
+  qn.impl.made_by ('qn.backbone', model, 'qn.modal');
   who = 'qn.backbone';
   o = qn.impl.options (who, struct ('mode', 1, 'row', [], 'harmonics', 7, 'samples', 256), varargin);
   m = numel (model.w);
   if ~any (o.mode == 1:m), error ('qn:input', '%s: modes are numbered from 1 to %d', who, m); end
   if isempty (o.row), o.row = elements{1, 2}; end
-  row = qn.impl.looked_at (model, o.row);
+  row = qn.impl.looked_at (model, o.row, 'qn.backbone: ');
   model.damping = zeros (m, 1);
   b = qn.impl.periodic (who, model, zeros (m, 1), elements, o.harmonics, o.samples);
   free = onCleanup (@() delete (b.handles));

@@ -23,7 +23,10 @@
 %
 % See also qn.command, qn.simulation
 function b = base (model, push)
+  if nargin < 1, model = []; end
+  qn.impl.made_by ('qn.base', model, 'qn.modal');
   n = size (model.shapes, 1);
+  if nargin < 2, push = []; end
   if numel (push) ~= n, error ('qn:input', 'qn.base: %d values expected, one a degree of freedom, got %d', n, numel (push)); end
   b = -(model.shapes.' * (model.M * push(:)));
 end

@@ -17,7 +17,7 @@
 %   F     struct array: level ('error', 'warning', 'note') and text. Without an output argument it is printed.
 %
 % Errors
-%   None of its own for a SIM of qn.simulation, whatever was changed in it by hand.
+%   qn:input  SIM is not from qn.simulation. What was changed in it by hand is reported, not refused.
 %
 % Example
 %   model = qn.modal (4e4, 1);
@@ -26,6 +26,8 @@
 %
 % See also qn.simulation, qn.advise, qn.run
 function found = check (sim, res)
+  if nargin < 1, sim = []; end
+  qn.impl.made_by ('qn.check', sim, 'qn.simulation');
   found = struct ('level', {}, 'text', {});
   found = joined (found, qn.impl.check_arrays (sim));
   if ~any (strcmp ({found.level}, 'error'))

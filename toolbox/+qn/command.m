@@ -24,5 +24,7 @@
 %
 % See also qn.observe, qn.base, qn.simulation
 function b = command (model, varargin)
+  if nargin < 1, model = []; end
+  qn.impl.made_by ('qn.command', model, 'qn.modal');
   b = qn.observe (model, varargin{:}).';
 end

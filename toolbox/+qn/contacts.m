@@ -14,7 +14,8 @@
 %   FORCE   1 x k forces [N]; a force of the other sign is a contact on the other side, and is listed as one of its own
 %
 % Output
-%   C       struct array, in order of time: start [s], duration [s], peak [N, with its sign], impulse [N s]
+%   C       struct array, in order of time: start [s], duration [s], peak [N, with its sign], impulse [N s]. Without an
+%           output argument a table is printed.
 %
 % Errors
 %   qn:input  there is no such row, or the lengths differ
@@ -26,7 +27,9 @@
 %
 % See also qn.gap, qn.stop, qn.energies
 function c = contacts (what, force)
-  if isstruct (what)
+  if nargin < 1, what = []; end
+  if isstruct (what) || nargin < 2
+    qn.impl.made_by ('qn.contacts', what, 'qn.run');
     time = what.time;
     row = 1;
     if nargin > 1, row = force; end
@@ -50,4 +53,9 @@ function c = contacts (what, force)
     [unused, top] = max (abs (f));
     c(end + 1) = struct ('start', time(k), 'duration', numel (f) * h, 'peak', f(top), 'impulse', sum (f) * h);
   end
+  if nargout > 0, return, end
+  if isempty (c), fprintf ('no contact\n'); end
+  if ~isempty (c), fprintf ('%12s %12s %12s %12s\n', 'start [s]', 'lasts [s]', 'peak [N]', 'impulse [Ns]'); end
+  for k = 1:numel (c), fprintf ('%12.5g %12.4g %12.4g %12.4g\n', c(k).start, c(k).duration, c(k).peak, c(k).impulse); end
+  clear c
 end

@@ -5,18 +5,19 @@
 %
 % Calls
 %   U = qn.displacement (RES, C)
-%   U = qn.displacement (RES, DOF)
+%   U = qn.displacement (RES, DOFS)
 %
 % Input
 %   RES    from qn.run
 %   C      p x m observation rows, from qn.observe; m modes
-%   DOF    number of one degree of freedom instead; in a model of one mode and several degrees of freedom it takes qn.observe
+%   DOFS   distinct numbers of degrees of freedom instead: the same as qn.observe (MODEL, DOFS). As many of them as modes could be
+%          a row of modal values too and are refused; write qn.observe. Give sparse (C) for a row that is meant.
 %
 % Output
 %   U      p x k, one row an observation, one column a time of RES.time [m]
 %
 % Errors
-%   qn:input  C has another number of columns than there are modes
+%   qn:input  C has another number of columns than there are modes, or may be a row or a list of numbers
 %
 % Example
 %   model = qn.modal (1e4 * [2 -1; -1 1], eye (2));
@@ -25,5 +26,8 @@
 %
 % See also qn.velocity, qn.observe, qn.plot.series
 function u = displacement (res, c)
-  u = qn.impl.looked_at (res.sim.model, c) * res.q;
+  if nargin < 1, res = []; end
+  qn.impl.made_by ('qn.displacement', res, 'qn.run');
+  if nargin < 2, error ('qn:input', 'qn.displacement: observation rows or degrees of freedom expected; see help qn.displacement'); end
+  u = qn.impl.looked_at (res.sim.model, c, 'qn.displacement: ') * res.q;
 end

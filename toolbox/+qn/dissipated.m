@@ -11,7 +11,8 @@
 %   RES   from qn.run, with every step kept
 %
 % Output
-%   D     struct array, one an element of 'elements' in qn.simulation (a bank of laws is one):
+%   D     struct array, one an element of 'elements' in qn.simulation (a bank of laws is one). Without an output argument a
+%         table of the values at the end is printed.
 %           law         text
 %           absorbed    1 x k work done on it since the start [J]
 %           stored      1 x k change of its stored energy [J]: of memoryless laws their potential; of sliders and Dahl elements
@@ -30,6 +31,8 @@
 %
 % See also qn.energies, qn.slider, qn.plot.loop
 function d = dissipated (res)
+  if nargin < 1, res = []; end
+  qn.impl.made_by ('qn.dissipated', res, 'qn.run');
   sim = res.sim;
   if numel (sim.saved) ~= numel (sim.time), error ('qn:input', 'qn.dissipated: the energy of an element needs every step of the run'); end
   d = struct ('law', {}, 'absorbed', {}, 'stored', {}, 'dissipated', {});
@@ -55,4 +58,11 @@ function d = dissipated (res)
     n = sum ([sim.elements.item] == k);
     if n > 1, d(k).law = sprintf ('%d laws, the first: %s', n, d(k).law); end
   end
+  if nargout > 0, return, end
+  if isempty (d), fprintf ('no elements\n'); end
+  if ~isempty (d), fprintf ('%7s %14s %12s %14s  %s\n', 'element', 'absorbed [J]', 'stored [J]', 'dissipated [J]', 'law'); end
+  for k = 1:numel (d)
+    fprintf ('%7d %14.4g %12.4g %14.4g  %s\n', k, d(k).absorbed(end), d(k).stored(end), d(k).dissipated(end), d(k).law);
+  end
+  clear d
 end

@@ -36,6 +36,8 @@
 %
 % See also qn.backbone, qn.static, qn.run
 function r = harmonic (model, load, elements, hertz, varargin)
+  if nargin < 1, model = []; end
+  qn.impl.made_by ('qn.harmonic', model, 'qn.modal');
   who = 'qn.harmonic';
   o = qn.impl.options (who, struct ('harmonics', 5, 'samples', 128, 'points', 400, 'step', 0.02), varargin);
   if numel (hertz) ~= 2, error ('qn:input', '%s: [first last] frequency expected, got %d values', who, numel (hertz)); end

@@ -36,6 +36,7 @@
 %
 % See also qn.describe, qn.element, qn.force, qn.gap, qn.slider, qn.zener
 function law = law (kind, varargin)
+  if nargin < 1 || ~ischar (kind), error ('qn:input', 'qn.law: the kind of law expected, such as ''table''; see help qn.law'); end
   who = sprintf ('qn.law, ''%s''', kind);
   need = '<required>';
   switch kind

@@ -29,7 +29,8 @@
 %                  M          the mass matrix, for base motion and initial states [kg]
 %
 % Errors
-%   qn:input  sizes do not fit, the mass is not positive definite, a damping is negative
+%   qn:input  sizes do not fit, K or M is not symmetric (to 1e-6 of its greatest entry), the mass is not positive
+%             definite, a damping is negative or no number
 %
 % Example
 %   k = 1e6 * [2 -1; -1 1];
@@ -47,22 +48,27 @@ function model = modal (varargin)
   else
     args = varargin;
   end
-  if numel (args) < 2, error ('qn:input', '%s: stiffness and mass expected', who); end
+  if numel (args) < 2, error ('qn:input', '%s: stiffness and mass expected; see help qn.modal', who); end
   k = args{1};
   m = args{2};
   n = size (k, 1);
   if ~isequal (size (k), [n n]) || ~isequal (size (m), [n n]) || n == 0
     error ('qn:input', '%s: square matrices of one size expected, got K %s and M %s', who, mat2str (size (k)), mat2str (size (m)));
   end
+  symmetric (who, 'K', k);
+  symmetric (who, 'M', m);
   o = qn.impl.options (who, struct ('modes', min (n, 200), 'damping', 0, 'rayleigh', [0 0], 'C', [], 'method', 'auto'), args(3:end));
-  qn.impl.scalar (who, 'modes', o.modes, 1);
+  qn.impl.count (who, 'modes', o.modes);
   count = min (o.modes, n);
   if strcmp (o.method, 'auto')
     o.method = 'eig';
     if issparse (k) && n > 1500 && count < n / 5, o.method = 'eigs'; end
   end
   [phi, w] = qn.impl.modes (k, m, count, o.method);
-  if any (o.damping < 0) || ~any (numel (o.damping) == [1 count])
+  if ~isnumeric (o.damping)
+    error ('qn:input', '%s: "damping" is a number such as 0.02 for 2 %% of critical damping, got class %s', who, class (o.damping));
+  end
+  if any (o.damping(:) < 0) || ~any (numel (o.damping) == [1 count])
     error ('qn:input', '%s: one damping ratio or %d, none below 0, expected, got %s', who, count, mat2str (o.damping));
   end
   if numel (o.rayleigh) ~= 2, error ('qn:input', '%s: "rayleigh" takes [alpha beta], got %d values', who, numel (o.rayleigh)); end
@@ -77,4 +83,13 @@ function model = modal (varargin)
     end
   end
   model = struct ('shapes', phi, 'w', w, 'hertz', w / (2 * pi), 'stiffness', w .^ 2, 'damping', damping, 'M', m);
+end
+
+function symmetric (who, name, x)
+  if ~isnumeric (x) || any (~isfinite (nonzeros (x))), error ('qn:input', '%s: %s must be finite numbers', who, name); end
+  beside = full (max (abs (nonzeros (x - x.'))));
+  share = beside / full (max (abs (nonzeros (x))));
+  if share > 1e-6
+    error ('qn:input', '%s: %s is not symmetric: %s differs from its transpose by %.2g of its greatest entry', who, name, name, share);
+  end
 end

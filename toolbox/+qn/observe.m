@@ -28,7 +28,10 @@
 %
 % See also qn.command, qn.modal, qn.simulation
 function c = observe (model, dofs, weights)
+  if nargin < 1, model = []; end
+  qn.impl.made_by ('qn.observe', model, 'qn.modal');
   n = size (model.shapes, 1);
+  if nargin < 2, error ('qn:input', 'qn.observe: numbers of degrees of freedom, from 1 to %d, expected; see help qn.observe', n); end
   if nargin < 3 && n > 1 && size (dofs, 2) == n && (size (dofs, 1) > 1 || issparse (dofs))
     c = full (dofs * model.shapes);
     return

@@ -10,13 +10,13 @@
 % Input
 %   RES    result of qn.run with complete = false; a complete one is returned as it is
 %   FILE   .mat file that qn.run wrote with 'save'
-%   Names and values: as for qn.run
+%   Names and values: as for qn.run; 'save' is FILE unless it is given ('': none)
 %
 % Output
 %   RES    as for qn.run
 %
 % Errors
-%   qn:input  the file holds no run
+%   qn:input  there is no such file, or it holds no run
 %
 % Example
 %   model = qn.modal (4e4, 1);
@@ -26,13 +26,17 @@
 %
 % See also qn.run
 function res = resume (what, varargin)
+  if nargin < 1, what = []; end
+  file = '';
   if ischar (what)
+    if ~exist (what, 'file'), error ('qn:input', 'qn.resume: there is no file %s', what); end
+    file = what;
     res = load (what);
   else
     res = what;
   end
   if ~isstruct (res) || ~all (isfield (res, {'sim', 'final', 'q', 'complete'}))
-    error ('qn:input', 'qn.resume: the result of qn.run or its file expected');
+    error ('qn:input', 'qn.resume expects the result of qn.run or its file; see help qn.resume');
   end
-  res = qn.impl.advance (res, qn.impl.run_options ('qn.resume', varargin));
+  res = qn.impl.advance (res, qn.impl.run_options ('qn.resume', varargin, file));
 end

@@ -14,7 +14,8 @@
 %     'piece'     steps in one piece; [] makes pieces of about half a second ([])
 %     'save'      name of a .mat file for the state and the results so far ('': none). It is replaced as a whole, so that an
 %                 interruption leaves the last one.
-%     'interval'  seconds between two of those (30); it is also written at the end
+%     'interval'  seconds between two of those (30); it is also written at the end. Each writes all results so far, some
+%                 seconds for 100 MB: choose a longer one for large results.
 %     'stop'      function of the results so far, called between pieces: true ends the run ([])
 %
 % Output
@@ -43,6 +44,8 @@
 %
 % See also qn.simulation, qn.resume, qn.check, qn.displacement, qn.plot.series
 function res = run (sim, varargin)
+  if nargin < 1, sim = []; end
+  qn.impl.made_by ('qn.run', sim, 'qn.simulation');
   m = numel (sim.model.w);
   k = numel (sim.saved);
   res = struct ('time', sim.time(sim.saved), 'q', zeros (m, k), 'force', zeros (numel ([sim.elements.forces]), k), ...

@@ -17,8 +17,8 @@
 %     'load'      {SHAPE, SIGNAL; ...}: SHAPE is the modal force of a unit load (m values; see qn.command, qn.base), SIGNAL is a
 %                 function of a row of times, or a 2 x k table [times; values], linear in between and zero outside, or one value for
 %                 every time point [N, or m/s^2 for base motion]
-%     'elements'  {LAW, C; ...} or {LAW, C, B; ...}: LAW from qn.law or a recipe, C observation rows (qn.observe), B rows through
-%                 which the force acts (C). A bank of laws sits behind one C.
+%     'elements'  {LAW, C; ...} or {LAW, C, B; ...}: LAW from qn.law or a recipe, C observation rows (qn.observe) or numbers of
+%                 degrees of freedom as for qn.displacement, B rows through which the force acts (C). A bank of laws sits behind one C.
 %     'every'     results are kept at every k-th step (1), or
 %     'times'     at the steps next to these times [s]
 %     'u0', 'v0'  initial displacement and velocity of the structure [m, m/s] (0), or
@@ -41,6 +41,8 @@
 % See also qn.modal, qn.law, qn.scheme, qn.check, qn.advise, qn.run
 function sim = simulation (model, varargin)
   who = 'qn.simulation';
+  if nargin < 1, model = []; end
+  qn.impl.made_by (who, model, 'qn.modal');
   o = struct ('step', '<required>', 'until', [], 'steps', [], 'scheme', 'average', 'load', {{}}, 'elements', {{}}, 'every', 1, ...
               'times', [], 'u0', [], 'v0', [], 'q0', [], 'dq0', [], 'a0', 'consistent', 'start', []);
   o = qn.impl.options (who, o, varargin);
@@ -53,15 +55,19 @@ function sim = simulation (model, varargin)
       error ('qn:input', '%s: the earlier run ended at %g s, which is no multiple of the step', who, o.start.time_end);
     end
   end
+  if isempty (o.until) == isempty (o.steps), error ('qn:input', '%s: give "until" or "steps", one of them', who); end
   if isempty (o.steps)
-    if isempty (o.until), error ('qn:input', '%s: give "until" or "steps"', who); end
-    qn.impl.scalar (who, 'until', o.until, 0);
+    qn.impl.scalar (who, 'until', o.until);
     o.steps = round (o.until / o.step) - first;
+    if o.steps < 1
+      error ('qn:input', '%s: "until" must be at least a step after the start at %g s, got %g', who, first * o.step, o.until);
+    end
+    o.until = [];
   end
-  qn.impl.scalar (who, 'steps', o.steps, 1);
+  qn.impl.count (who, 'steps', o.steps);
   sim = struct ('model', model, 'scheme', qn.scheme (o.scheme), 'step', o.step, 'first', first, 'time', (first + (0:o.steps)) * o.step);
   if isempty (o.times)
-    qn.impl.scalar (who, 'every', o.every, 1);
+    qn.impl.count (who, 'every', o.every);
     sim.saved = 1:o.every:o.steps + 1;
   else
     sim.saved = unique (min (max (round (o.times(:).' / o.step) - first, 0), o.steps)) + 1;

@@ -27,6 +27,7 @@
 function law = slider (varargin)
   o = qn.impl.options ('qn.slider', struct ('slip', '<required>', 'stiffness', '<required>'), varargin);
   qn.impl.scalar ('qn.slider', 'stiffness', o.stiffness, realmin ());
+  qn.impl.scalar ('qn.slider', 'slip', o.slip, realmin ());
   law = qn.law ('dahl', 'stiffness', o.stiffness, 'slip', o.slip, 'exponent', 0);
   law.note = 'Coulomb slider';
 end

@@ -29,6 +29,8 @@
 %
 % See also qn.harmonic, qn.backbone, qn.law
 function [q, info] = static (model, load, elements, q)
+  if nargin < 1, model = []; end
+  qn.impl.made_by ('qn.static', model, 'qn.modal');
   who = 'qn.static';
   m = numel (model.w);
   if nargin < 4, q = zeros (m, 1); end

@@ -26,6 +26,9 @@
 function law = stop (varargin)
   who = 'qn.stop';
   o = qn.impl.options (who, struct ('gap', '<required>', 'stiffness', '<required>', 'inner', 0), varargin);
+  if ~any (numel (o.gap) == [1 2]) || ~any (numel (o.stiffness) == [1 2])
+    error ('qn:input', '%s: "gap" and "stiffness" take one value or [left right], got %d and %d', who, numel (o.gap), numel (o.stiffness));
+  end
   gap = o.gap(:) .* ones (2, 1);
   k = o.stiffness(:) .* ones (2, 1);
   for i = 1:2

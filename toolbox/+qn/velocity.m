@@ -9,7 +9,7 @@
 %
 % Input
 %   RES   from qn.run, with every step kept
-%   C     observation rows or the number of one degree of freedom, as for qn.displacement
+%   C     observation rows or numbers of degrees of freedom, as for qn.displacement
 %
 % Output
 %   V, A  p x k velocities [m/s] and accelerations [m/s^2]
@@ -24,7 +24,10 @@
 %
 % See also qn.displacement, qn.energies, qn.plot.phase
 function [v, a] = velocity (res, c)
-  c = qn.impl.looked_at (res.sim.model, c);
+  if nargin < 1, res = []; end
+  qn.impl.made_by ('qn.velocity', res, 'qn.run');
+  if nargin < 2, error ('qn:input', 'qn.velocity: observation rows or degrees of freedom expected; see help qn.velocity'); end
+  c = qn.impl.looked_at (res.sim.model, c, 'qn.velocity: ');
   [v, a] = qn.impl.rates (res);
   v = c * v;
   a = c * a;

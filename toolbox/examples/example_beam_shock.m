@@ -17,9 +17,18 @@
 % Calls
 %   R = example_beam_shock ()
 %   R = example_beam_shock (FOLDER, SHORT)
+%
+% Input
+%   FOLDER   where the picture goes, made if it is not there; '' leaves the figure open ('')
+%   SHORT    true: a shorter run, as in the tests (false)
+%
+% Output
+%   R        struct: name, checks (text, got, wanted, error, tolerance, ok), ok, numbers, picture. Without an output argument one line
+%            a check is printed.
 function r = example_beam_shock (folder, short)
   if nargin < 2, short = false; end
   if nargin < 1, folder = ''; end
+  ready (folder);
   last = 0.3;
   if short, last = 0.1; end
   elements = 20;
@@ -72,6 +81,7 @@ function r = example_beam_shock (folder, short)
   axis ([0 500 -45 5]);
   labels ('Shapes after the shock began', 'Along the beam [mm]', 'Seen from the clamp [mm]', names, 'southwest');
   r = finish ('example_beam_shock', fig, folder, checks, struct ('hertz', model.hertz, 'tip', max (abs (u))));
+  if nargout == 0, tell (r); clear r, end
 end
 
 % Damped oscillator under q'' + 2 zeta w q' + w^2 q = PEAK sin (pi t/LAST) until LAST, then 0.

@@ -17,9 +17,18 @@
 % Calls
 %   R = example_bladed_disc ()
 %   R = example_bladed_disc (FOLDER, SHORT)
+%
+% Input
+%   FOLDER   where the picture goes, made if it is not there; '' leaves the figure open ('')
+%   SHORT    true: a shorter run, as in the tests (false)
+%
+% Output
+%   R        struct: name, checks (text, got, wanted, error, tolerance, ok), ok, numbers, picture. Without an output argument one line
+%            a check is printed.
 function r = example_bladed_disc (folder, short)
   if nargin < 2, short = false; end
   if nargin < 1, folder = ''; end
+  ready (folder);
   blades = 12;
   order = 3;
   mass = 0.3;
@@ -84,6 +93,7 @@ function r = example_bladed_disc (folder, short)
   labels ('Highest point of the resonance', 'Slip force [N]', 'Amplitude of a blade [mm]', ...
           {'harmonic balance', 'twelve blades in time'}, 'northeast');
   r = finish ('example_bladed_disc', fig, folder, checks, struct ('best', limits(at), 'least', least, 'limits', limits, 'found', found));
+  if nargout == 0, tell (r); clear r, end
 end
 
 % Greatest amplitude of the first-harmonic answer, and the frequency where it is.

@@ -17,8 +17,17 @@
 % Calls
 %   R = example_coulomb_release ()
 %   R = example_coulomb_release (FOLDER, SHORT)
+%
+% Input
+%   FOLDER   where the picture goes, made if it is not there; '' leaves the figure open ('')
+%   SHORT    true: a shorter run, as in the tests (false)
+%
+% Output
+%   R        struct: name, checks (text, got, wanted, error, tolerance, ok), ok, numbers, picture. Without an output argument one line
+%            a check is printed.
 function r = example_coulomb_release (folder, short) %#ok<INUSD> a fraction of a second needs no short form
   if nargin < 1, folder = ''; end
+  ready (folder);
   model = qn.modal (1e4, 1);
   x = qn.observe (model, 1);
   friction = qn.slider ('slip', 1, 'stiffness', 4e7);
@@ -50,4 +59,5 @@ function r = example_coulomb_release (folder, short) %#ok<INUSD> a fraction of a
   axis ([-1 1 -1.4 1.4]);
   labels ('Friction force', 'Displacement [mm]', 'Force [N]');
   r = finish ('example_coulomb_release', fig, folder, checks, struct ('turns', u(turns), 'rest', u(end)));
+  if nargout == 0, tell (r); clear r, end
 end

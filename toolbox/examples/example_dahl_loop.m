@@ -18,9 +18,18 @@
 % Calls
 %   R = example_dahl_loop ()
 %   R = example_dahl_loop (FOLDER, SHORT)
+%
+% Input
+%   FOLDER   where the picture goes, made if it is not there; '' leaves the figure open ('')
+%   SHORT    true: a shorter run, as in the tests (false)
+%
+% Output
+%   R        struct: name, checks (text, got, wanted, error, tolerance, ok), ok, numbers, picture. Without an output argument one line
+%            a check is printed.
 function r = example_dahl_loop (folder, short)
   if nargin < 2, short = false; end
   if nargin < 1, folder = ''; end
+  ready (folder);
   n = 400;
   if short, n = 200; end
   stiffness = 2e5;
@@ -62,4 +71,5 @@ function r = example_dahl_loop (folder, short)
   labels ('First loading; circles: closed form', ...
           'Displacement [mm]', 'Force [kN]', {'exponent 0', 'exponent 1', 'exponent 2'}, 'southeast');
   r = finish ('example_dahl_loop', fig, folder, checks, struct ('area', area, 'top', max (settled)));
+  if nargout == 0, tell (r); clear r, end
 end

@@ -17,9 +17,18 @@
 % Calls
 %   R = example_duffing_backbone ()
 %   R = example_duffing_backbone (FOLDER, SHORT)
+%
+% Input
+%   FOLDER   where the picture goes, made if it is not there; '' leaves the figure open ('')
+%   SHORT    true: a shorter run, as in the tests (false)
+%
+% Output
+%   R        struct: name, checks (text, got, wanted, error, tolerance, ok), ok, numbers, picture. Without an output argument one line
+%            a check is printed.
 function r = example_duffing_backbone (folder, short)
   if nargin < 2, short = false; end
   if nargin < 1, folder = ''; end
+  ready (folder);
   last = 120;
   if short, last = 60; end
   w0 = 2 * pi * 10;
@@ -65,6 +74,7 @@ function r = example_duffing_backbone (folder, short)
   axis ([range, 0, 1.8]);
   labels ('Duffing resonance', 'Frequency [Hz]', 'Amplitude [mm]', {'harmonic balance', 'backbone', 'sweep up', 'sweep down'}, 'northwest');
   r = finish ('example_duffing_backbone', fig, folder, checks, struct ('tip', [forced.hertz(at), tip], 'fold', fold));
+  if nargout == 0, tell (r); clear r, end
 end
 
 % Amplitude over periods of a linear sweep, one value for each fifth of a second.

@@ -17,9 +17,18 @@
 % Calls
 %   R = example_frame_stop ()
 %   R = example_frame_stop (FOLDER, SHORT)
+%
+% Input
+%   FOLDER   where the picture goes, made if it is not there; '' leaves the figure open ('')
+%   SHORT    true: a shorter run, as in the tests (false)
+%
+% Output
+%   R        struct: name, checks (text, got, wanted, error, tolerance, ok), ok, numbers, picture. Without an output argument one line
+%            a check is printed.
 function r = example_frame_stop (folder, short)
   if nargin < 2, short = false; end
   if nargin < 1, folder = ''; end
+  ready (folder);
   last = 2.5;
   if short, last = 1.5; end
 
@@ -66,6 +75,7 @@ function r = example_frame_stop (folder, short)
   qn.plot.series (res, 'force', 1);
   title ('Force on the neighbour');
   r = finish ('example_frame_stop', fig, folder, checks, struct ('contacts', contacts, 'work', max (energy.work)));
+  if nargout == 0, tell (r); clear r, end
 end
 
 function [t, y] = reference (k, m, c, shock, last)

@@ -19,9 +19,18 @@
 % Calls
 %   R = example_isolator ()
 %   R = example_isolator (FOLDER, SHORT)
+%
+% Input
+%   FOLDER   where the picture goes, made if it is not there; '' leaves the figure open ('')
+%   SHORT    true: a shorter run, as in the tests (false)
+%
+% Output
+%   R        struct: name, checks (text, got, wanted, error, tolerance, ok), ok, numbers, picture. Without an output argument one line
+%            a check is printed.
 function r = example_isolator (folder, short)
   if nargin < 2, short = false; end
   if nargin < 1, folder = ''; end
+  ready (folder);
   mass = 200;
   w0 = 2 * pi * 5;
   stiffness = mass * w0 ^ 2;
@@ -61,6 +70,7 @@ function r = example_isolator (folder, short)
   labels ('From the floor to the machine; lines: closed form, circles: simulation', 'Frequency [Hz]', 'Transmissibility [-]', ...
           {'weak damper', 'best damper', 'strong damper', 'common point'}, 'southwest');
   r = finish ('example_isolator', fig, folder, checks, struct ('hertz', hertz, 'found', found, 'wanted', wanted));
+  if nargout == 0, tell (r); clear r, end
 end
 
 % Settles on a floor that moves by 1 mm; the last four periods are fitted.

@@ -17,9 +17,18 @@
 % Calls
 %   R = example_iwan_joint ()
 %   R = example_iwan_joint (FOLDER, SHORT)
+%
+% Input
+%   FOLDER   where the picture goes, made if it is not there; '' leaves the figure open ('')
+%   SHORT    true: a shorter run, as in the tests (false)
+%
+% Output
+%   R        struct: name, checks (text, got, wanted, error, tolerance, ok), ok, numbers, picture. Without an output argument one line
+%            a check is printed.
 function r = example_iwan_joint (folder, short)
   if nargin < 2, short = false; end
   if nargin < 1, folder = ''; end
+  ready (folder);
   slip = 5000;
   stiffness = 1e8;
   reach = 2 * slip / stiffness;
@@ -67,4 +76,5 @@ function r = example_iwan_joint (folder, short)
   ticks ([10 20 50 100], [1 10 100 1000]);
   labels ('Energy lost in a cycle', 'Amplitude [um]', 'Energy [mJ]', {'k^2 X^3 / (3 Fs)', '30 sliders'}, 'northwest');
   r = finish ('example_iwan_joint', fig, folder, checks, struct ('energy', energy, 'exact', exact));
+  if nargout == 0, tell (r); clear r, end
 end

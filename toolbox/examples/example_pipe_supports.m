@@ -18,9 +18,18 @@
 % Calls
 %   R = example_pipe_supports ()
 %   R = example_pipe_supports (FOLDER, SHORT)
+%
+% Input
+%   FOLDER   where the picture goes, made if it is not there; '' leaves the figure open ('')
+%   SHORT    true: a shorter run, as in the tests (false)
+%
+% Output
+%   R        struct: name, checks (text, got, wanted, error, tolerance, ok), ok, numbers, picture. Without an output argument one line
+%            a check is printed.
 function r = example_pipe_supports (folder, short)
   if nargin < 2, short = false; end
   if nargin < 1, folder = ''; end
+  ready (folder);
   last = 40;
   if short, last = 20; end
   l = 3;
@@ -84,6 +93,7 @@ function r = example_pipe_supports (folder, short)
   axis ([0 150]);
   labels ('Force of one guide', 'Time [ms]', 'Force [N]');
   r = finish ('example_pipe_supports', fig, folder, checks, struct ('fold', [steady.hertz(fold), top], 'sag', sag));
+  if nargout == 0, tell (r); clear r, end
 end
 
 function list = guides (model, guide, place)

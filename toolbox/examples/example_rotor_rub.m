@@ -18,9 +18,18 @@
 % Calls
 %   R = example_rotor_rub ()
 %   R = example_rotor_rub (FOLDER, SHORT)
+%
+% Input
+%   FOLDER   where the picture goes, made if it is not there; '' leaves the figure open ('')
+%   SHORT    true: a shorter run, as in the tests (false)
+%
+% Output
+%   R        struct: name, checks (text, got, wanted, error, tolerance, ok), ok, numbers, picture. Without an output argument one line
+%            a check is printed.
 function r = example_rotor_rub (folder, short)
   if nargin < 2, short = false; end
   if nargin < 1, folder = ''; end
+  ready (folder);
   up = 3;
   if short, up = 1.5; end
   mass = 2;
@@ -77,6 +86,7 @@ function r = example_rotor_rub (folder, short)
   qn.plot.orbit (entry, 1, 2, play);
   title ('The shaft enters the ring');
   r = finish ('example_rotor_rub', fig, folder, checks, struct ('radius', radius, 'free', mean (bent(late))));
+  if nargout == 0, tell (r); clear r, end
 end
 
 % x'' + 2 zeta w x' + w^2 x = P from rest, by the integral over what came before.

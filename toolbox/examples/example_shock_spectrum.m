@@ -16,9 +16,18 @@
 % Calls
 %   R = example_shock_spectrum ()
 %   R = example_shock_spectrum (FOLDER, SHORT)
+%
+% Input
+%   FOLDER   where the picture goes, made if it is not there; '' leaves the figure open ('')
+%   SHORT    true: a shorter run, as in the tests (false)
+%
+% Output
+%   R        struct: name, checks (text, got, wanted, error, tolerance, ok), ok, numbers, picture. Without an output argument one line
+%            a check is printed.
 function r = example_shock_spectrum (folder, short)
   if nargin < 2, short = false; end
   if nargin < 1, folder = ''; end
+  ready (folder);
   count = 60;
   if short, count = 20; end
   hertz = logspace (1, log10 (800), count);
@@ -64,6 +73,7 @@ function r = example_shock_spectrum (folder, short)
   labels ('Shock response spectrum', 'Frequency of the part [Hz]', 'Greatest acceleration [g]', ...
           {'closed form, undamped', 'one run of 60 modes', 'qn.srs, Q = 10'}, 'southeast');
   r = finish ('example_shock_spectrum', fig, folder, checks, struct ('hertz', hertz, 'maximax', felt, 'exact', exact));
+  if nargout == 0, tell (r); clear r, end
 end
 
 % Greatest response over pulse height; P is the frequency in units of that of the half sine.

@@ -156,3 +156,40 @@ function test_a_stiff_structure_does_not_widen_the_limit_of_a_contact ()
     if peak(1) > 2e-3 || peak(2) < 1, error ('k = %g: peaks %g below and %g above the limit', k, peak(1), peak(2)); end
   end
 end
+
+function test_a_load_that_falls_between_the_steps_is_named ()
+  model = oscillator ();
+  pulse = {1, @(t) 5 * (t > 1e-3 & t < 3e-3)};
+  says (qn.check (qn.simulation (model, 'step', 5e-3, 'until', 1, 'load', pulse)), 'warning', ...
+        'load 1 is zero at every time point; is the step longer than the pulse\?');
+  found = qn.check (qn.simulation (model, 'step', 1e-3, 'until', 1, 'load', pulse));
+  if ~isempty (strfind (strjoin ({found.text}, ' '), 'zero at every')), error ('a sampled pulse is called zero'); end
+end
+
+% The period that the check announces is the one that a free run shows.
+function test_the_announced_period_is_that_of_the_run ()
+  model = qn.modal (1, 1);
+  for scheme = {'average', 'linear', {'damped', 0.8}, [0.09 0.5]}
+    h = 2;
+    sim = qn.simulation (model, 'step', h, 'steps', 2000, 'q0', 1, 'scheme', scheme{1});
+    q = getfield (qn.run (sim), 'q');
+    % q(k+1) + p q(k-1) = s q(k) with two constants; the phase gained in one step follows from them.
+    x = [q(2:6).', -q(1:5).'] \ q(3:7).';
+    theta = acos (x(1) / (2 * sqrt (x(2))));
+    longer = 100 * (h / theta - 1);
+    side = 'long';
+    if longer < 0, side = 'short'; end
+    says (qn.check (sim), 'warning', sprintf ('come out %.0f %% too %s', abs (longer), side));
+  end
+  says (qn.check (qn.simulation (model, 'step', 2, 'steps', 100, 'q0', 1)), 'warning', ...
+        sprintf ('%.0f %% too long', 100 * (1 / atan (1) - 1)));
+end
+
+function test_a_ratio_in_percent_and_a_push_without_base_get_a_note ()
+  model = qn.modal (1e4 * [2 -1; -1 1], [2 0; 0 3], 'damping', 2);
+  says (qn.check (qn.simulation (model, 'step', 1e-3, 'until', 1, 'load', {[1; 1], @sin})), 'note', 'shape of load 1 is whole numbers');
+  says (qn.check (qn.simulation (model, 'step', 1e-3, 'until', 1, 'u0', [1; 0])), 'note', 'mode 1 has 2 of critical damping; 2 % is 0.02');
+  model = qn.modal (1e4 * [2 -1; -1 1], [2 0; 0 3], 'damping', 0.02);
+  sim = qn.simulation (model, 'step', 1e-3, 'until', 1, 'load', {qn.base(model, [1; 1]), @sin; qn.command(model, 2), @sin});
+  expect_equal (numel (qn.check (sim)), 0);
+end

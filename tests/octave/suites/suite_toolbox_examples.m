@@ -152,3 +152,20 @@ function test_every_example_says_what_it_is_and_stands_in_the_gallery ()
     if isempty (strfind (gallery, ['(images/' names{k} '.png)'])), error ('%s: its picture is not shown', names{k}); end
   end
 end
+
+function test_an_example_called_without_output_prints_one_line_a_check ()
+  folder = fullfile (tempname (), 'new');
+  text = evalc (sprintf ('example_coulomb_release (''%s'', true);', folder));
+  lines = strsplit (strtrim (text), sprintf ('\n'));
+  r = example_coulomb_release (folder, true);
+  expect_equal (numel (lines), numel (r.checks));
+  for k = 1:numel (lines)
+    good = regexp (lines{k}, '^example_coulomb_release: .* off by [-+.e\d]+, allowed [-+.e\d]+: ok$', 'once');
+    if isempty (good), error ('"%s"', lines{k}); end
+  end
+  expect_equal (exist (r.picture, 'file'), 2);
+  delete (r.picture);
+  rmdir (folder);
+  rmdir (fileparts (folder));
+  expect_error (@() example_coulomb_release (7), 'qn:input', '~folder of the picture');
+end

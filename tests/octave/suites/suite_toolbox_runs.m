@@ -5,6 +5,7 @@ end
 
 % Three modes with loads, a stop, a bank of sliders, a stick-slip contact and a Maxwell damper: every kind of memory there is.
 function sim = rich (varargin)
+  if ~any (strcmp (varargin, 'steps')), varargin = [varargin, {'steps', 1500}]; end
   k = 1e4 * [2 -1 0; -1 2 -1; 0 -1 1];
   model = qn.modal (k, diag ([1 2 1]), 'damping', 0.01);
   tip = qn.observe (model, 3);
@@ -15,7 +16,7 @@ function sim = rich (varargin)
               qn.maxwell('springs', [1e3 5e2], 'dampers', [10 40]), tip; qn.law('clima2', args{:}), qn.observe(model, [1 2 3]); ...
               qn.cubic('stiffness', 1e6), qn.observe(model, [1 2])};
   load = {qn.command(model, 3), @(t) 150 * sin(40 * t); qn.base(model, ones (3, 1)), [0 0.2 0.4; 0 20 0]};
-  sim = qn.simulation (model, 'step', 5e-4, 'steps', 1500, 'load', load, 'elements', elements, varargin{:});
+  sim = qn.simulation (model, 'step', 5e-4, 'load', load, 'elements', elements, varargin{:});
 end
 
 function same_results (got, wanted)

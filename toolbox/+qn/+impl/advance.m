@@ -63,7 +63,13 @@ end
 function keep (res, file)
   res.sim.options = [];
   part = [file '.part'];
+  tidy = onCleanup (@() remove (part));
   save (part, '-struct', 'res', '-v7');
   [done, why] = movefile (part, file, 'f');
   if ~done, error ('qn:input', 'qn.run: cannot write %s: %s', file, why); end
+end
+
+% What an interruption leaves.
+function remove (file)
+  if exist (file, 'file'), delete (file); end
 end

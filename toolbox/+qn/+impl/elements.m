@@ -16,12 +16,16 @@ function [e, states, slots] = elements (model, list)
   forces = 0;
   for k = 1:size (list, 1)
     laws = list{k, 1};
-    c = full (list{k, 2});
-    b = c;
-    if size (list, 2) > 2 && ~isempty (list{k, 3}), b = full (list{k, 3}); end
+    if isnumeric (laws) && isstruct (list{k, 2})
+      error ('qn:input', '%s: element %d has its law and its rows in the wrong order; {law, rows} is expected', who, k);
+    end
     if ~isstruct (laws) || ~isfield (laws, 'kind'), error ('qn:input', '%s: element %d needs a law, from qn.law or a recipe', who, k); end
-    if size (c, 2) ~= m || ~isequal (size (b), size (c))
-      error ('qn:input', '%s: element %d needs rows of %d modal values, got %s and %s', who, k, m, mat2str (size (c)), mat2str (size (b)));
+    where = sprintf ('%s: element %d: ', who, k);
+    c = qn.impl.looked_at (model, list{k, 2}, where);
+    b = c;
+    if size (list, 2) > 2 && ~isempty (list{k, 3}), b = qn.impl.looked_at (model, list{k, 3}, where); end
+    if ~isequal (size (b), size (c))
+      error ('qn:input', '%sas many rows to act through as to observe expected, got %d and %d', where, size (b, 1), size (c, 1));
     end
     for j = 1:numel (laws)
       t = qn.impl.traits (laws(j), size (c, 1));

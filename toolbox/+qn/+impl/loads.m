@@ -12,13 +12,26 @@ function [shapes, loads, notes] = loads (model, list, time)
   loads = zeros (n, numel (time));
   for k = 1:n
     [shape, signal] = list{k, :};
+    if ~isnumeric (shape), error ('qn:input', '%s: load %d is {shape, signal}, a shape of class %s is none', who, k, class (shape)); end
     if numel (shape) ~= m
       error ('qn:input', '%s: the shape of load %d has %d values; one a mode, %d, is expected', who, k, numel (shape), m);
     end
     shapes(:, k) = shape(:);
+    if any (shape(:)) && all (shape(:) >= 0 & shape(:) == fix (shape(:))) && ~any (ismember (model.shapes, shape(:).', 'rows'))
+      notes{end + 1} = sprintf ('the shape of load %d is whole numbers; a push or degrees of freedom need qn.base or qn.command', k);
+    end
     if isa (signal, 'function_handle')
-      f = signal (time);
-      if numel (f) == 1, f = f * ones (size (time)); end
+      try
+        f = signal (time);
+      catch err
+        error ('qn:input', '%s: the function of load %d fails for a row of times; write it with .* ./ .^ (%s)', who, k, err.message);
+      end
+      if numel (f) == 1
+        if ~isequaln (f, signal (time(1)))
+          error ('qn:input', '%s: the function of load %d adds up a row of times to one value; write it with .* ./ .^', who, k);
+        end
+        f = f * ones (size (time));
+      end
     elseif size (signal, 1) == 2 && size (signal, 2) ~= numel (time)
       if any (diff (signal(1, :)) <= 0), error ('qn:input', '%s: the times of load %d must ascend', who, k); end
       f = interp1 (signal(1, :), signal(2, :), time, 'linear', 0);

@@ -7,6 +7,7 @@ function o = options (who, defaults, args)
   if mod (numel (args), 2) ~= 0
     error ('qn:input', '%s: names and values expected in pairs, got %d arguments', who, numel (args));
   end
+  given = false (size (names));
   for k = 1:2:numel (args)
     if ~ischar (args{k})
       error ('qn:input', '%s: the name of a parameter expected, got an array of class %s', who, class (args{k}));
@@ -15,11 +16,13 @@ function o = options (who, defaults, args)
     if ~any (known)
       error ('qn:input', '%s: no parameter called "%s"; there are %s', who, args{k}, strjoin (names.', ', '));
     end
+    if given(known), error ('qn:input', '%s: the parameter "%s" is given twice', who, names{known}); end
+    given(known) = true;
     o.(names{known}) = args{k + 1};
   end
   for k = 1:numel (names)
     if ischar (o.(names{k})) && strcmp (o.(names{k}), '<required>')
-      error ('qn:input', '%s: the parameter "%s" is missing', who, names{k});
+      error ('qn:input', '%s: the parameter "%s" is missing; see help %s', who, names{k}, strtok (who, ','));
     end
   end
 end

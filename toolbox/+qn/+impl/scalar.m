@@ -4,7 +4,9 @@ function scalar (who, name, x, low)
   if ~(isnumeric (x) && isreal (x) && numel (x) == 1 && isfinite (x))
     error ('qn:input', '%s: "%s" must be one finite real number, got %s of class %s', who, name, mat2str (size (x)), class (x));
   end
-  if x < low
+  if x < low && low == realmin ()
+    error ('qn:input', '%s: "%s" must be above 0, got %g', who, name, x);
+  elseif x < low
     error ('qn:input', '%s: "%s" must be at least %g, got %g', who, name, low, x);
   end
 end

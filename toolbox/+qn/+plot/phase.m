@@ -9,7 +9,7 @@
 %
 % Input
 %   RES      from qn.run, with every step kept
-%   C        observation row, or the number of one degree of freedom
+%   C        observation row, or the number of a degree of freedom as for qn.displacement
 %   PERIOD   period of the load [s]
 %
 % Errors

@@ -10,7 +10,7 @@
 %
 % Input
 %   RES     from qn.run
-%   C       p x m observation rows, or the number of one degree of freedom
+%   C       p x m observation rows, or numbers of degrees of freedom as for qn.displacement
 %   ROWS    rows of RES.force instead
 %   NAMES   cell of p texts for the legend
 %
@@ -26,11 +26,18 @@
 %
 % See also qn.plot.phase, qn.plot.loop, qn.plot.page
 function series (res, c, varargin)
+  if nargin < 1, res = []; end
+  qn.impl.made_by ('qn.plot.series', res, 'qn.run');
+  if nargin < 2, error ('qn:input', 'qn.plot.series: observation rows or ''force'' expected; see help qn.plot.series'); end
   if ischar (c)
     if ~strcmp (c, 'force') || isempty (varargin)
       error ('qn:input', 'qn.plot.series: observation rows or ''force'' and its rows expected');
     end
-    y = res.force(varargin{1}, :);
+    rows = varargin{1};
+    if ~isnumeric (rows) || any (rows(:) < 1 | rows(:) > size (res.force, 1) | rows(:) ~= fix (rows(:)))
+      error ('qn:input', 'qn.plot.series: the result has %d rows of forces, numbered from 1', size (res.force, 1));
+    end
+    y = res.force(rows, :);
     varargin(1) = [];
     [factor, unit] = qn.impl.prefixed (y(:), 'N');
     what = 'Force';

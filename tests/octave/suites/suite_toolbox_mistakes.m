@@ -1,0 +1,120 @@
+% What a new user gets wrong, and what the toolbox says to it.
+function tests = suite_toolbox_mistakes ()
+  use_toolbox ();
+  tests = localfunctions ();
+end
+
+% Three degrees of freedom, COUNT modes.
+function [model, res, sim] = chain (count)
+  model = qn.modal (1e4 * [2 -1 0; -1 2 -1; 0 -1 1], diag ([1 2 3]), 'modes', count);
+  sim = qn.simulation (model, 'step', 1e-3, 'steps', 50, 'v0', [0; 0; 1], 'elements', {qn.cubic('stiffness', 1), qn.observe(model, 3)});
+  res = qn.run (sim);
+end
+
+function refused (f, text)
+  expect_error (f, 'qn:input', ['~' text]);
+end
+
+function test_numbers_of_degrees_of_freedom_are_never_weights_of_modes ()
+  for count = 1:3
+    [model, res] = chain (count);
+    for dofs = {3, [3 1], [2; 3], [2 1 3], [3; 1; 2]}
+      c = dofs{1};
+      element = @() qn.simulation (model, 'step', 1, 'steps', 1, 'elements', {qn.cubic('stiffness', 1), c});
+      if size (c, 2) == count
+        refused (@() qn.displacement (res, c), 'look like numbers of degrees of freedom; write qn.observe \(model, \[?\d');
+        refused (@() qn.velocity (res, c), 'look like numbers');
+        refused (@() qn.plot.series (res, c), 'look like numbers');
+        refused (element, 'element 1: these look like numbers');
+        expect_equal (qn.displacement (res, sparse (c)), c * res.q);
+      else
+        expect_equal (qn.displacement (res, c), qn.displacement (res, qn.observe (model, c)));
+        expect_equal (getfield (element (), 'elements', 'observe'), qn.observe (model, c));
+      end
+    end
+    for row = 1:3, expect_equal (qn.displacement (res, qn.observe (model, row)), model.shapes(row, :) * res.q); end
+  end
+  % A row of whole numbers that says the same as its number passes, and so do rows that cannot be numbers.
+  model = qn.modal (diag ([1 2]), eye (2));
+  res = qn.run (qn.simulation (model, 'step', 0.1, 'steps', 3, 'q0', [1; 2]));
+  expect_equal (qn.displacement (res, eye (2)), res.q);
+  expect_equal (qn.displacement (res, [0 1]), res.q(2, :));
+  expect_equal (qn.displacement (res, [1 1]), sum (res.q, 1));
+end
+
+function test_options_that_contradict_each_other_are_refused ()
+  [model, res, sim] = chain (3);
+  refused (@() qn.simulation (model, 'step', 1, 'until', 5, 'steps', 3), '"until" or "steps", one of them');
+  refused (@() qn.simulation (model, 'step', 1, 'steps', 3, 'Steps', 4), '"steps" is given twice');
+  refused (@() qn.simulation (model, 'step', 1, 'steps', 3, 'every', 1.5), '"every" must be a whole number, got 1.5');
+  refused (@() qn.simulation (model, 'step', 1, 'steps', 2.5), '"steps" must be a whole number');
+  refused (@() qn.simulation (model, 'step', 0, 'steps', 2), '"step" must be above 0, got 0');
+  refused (@() qn.simulation (model, 'step', 1, 'until', 0), '"until" must be at least a step after the start at 0 s, got 0');
+  refused (@() qn.run (sim, 'save', true), '"save" is the name of a file, got .* class logical');
+  refused (@() qn.run (sim, 'stop', 3), '"stop" is a function of the results so far');
+  refused (@() qn.simulation (model, 'step', 1, 'steps', 2, 'load', {[1 2 3], @(t) t * t}), 'load 1 fails for a row of times');
+  refused (@() qn.simulation (model, 'step', 1, 'steps', 2, 'load', {[1 2 3], @(t) t * t.'}), 'load 1 adds up a row of times');
+  sim = qn.simulation (model, 'step', 1, 'steps', 2, 'load', {[1 2 3], @(t) 7});
+  expect_equal (sim.loads, [7 7 7]);
+  refused (@() qn.simulation (model, 'step', 1, 'steps', 2, 'elements', {qn.observe(model, 1), qn.cubic('stiffness', 1)}), 'wrong order');
+  refused (@() qn.plot.series (res, 'force', 9), 'has 1 rows of forces');
+end
+
+function test_matrices_and_laws_that_cannot_be_meant_are_refused ()
+  refused (@() qn.modal ([2 -1; 0 1], eye (2)), 'K is not symmetric: K differs from its transpose by 0.5 of its greatest entry');
+  refused (@() qn.modal (eye (2), sparse ([2 0.1; 0 1])), 'M is not symmetric: .* by 0.05');
+  expect_equal (getfield (qn.modal ([2 -1; -1 - 1e-10, 1], eye (2)), 'w'), sqrt ((3 + [-1; 1] * sqrt (5)) / 2), 1e-8);
+  refused (@() qn.modal (1, 1, 'damping', '1%'), '"damping" is a number such as 0.02');
+  refused (@() qn.stop ('gap', [1 2 3], 'stiffness', 1), 'one value or \[left right\], got 3 and 1');
+  refused (@() qn.slider ('slip', NaN, 'stiffness', 1), '^qn.slider: "slip" must be one finite');
+  refused (@() qn.slider ('slip', 0, 'stiffness', 1), '^qn.slider: "slip" must be above 0');
+end
+
+function test_functions_say_whose_result_they_expect ()
+  model = qn.modal (1, 1);
+  refused (@() qn.run (model), 'qn.run expects the result of qn.simulation, got another structure; see help qn.run');
+  refused (@() qn.check (model), 'qn.check expects the result of qn.simulation');
+  refused (@() qn.observe (1), 'qn.observe expects the result of qn.modal, got \[1 1\] of class double');
+  refused (@() qn.simulation (1, 'step', 1), 'qn.simulation expects the result of qn.modal');
+  refused (@() qn.observe (model), 'see help qn.observe');
+  for name = {'run', 'check', 'simulation', 'observe', 'displacement', 'velocity', 'contacts', 'dissipated', 'energies', 'command', ...
+              'base', 'advise', 'static', 'harmonic', 'backbone', 'plot.series'}
+    refused (@() eval (sprintf ('qn.%s ();', name{1})), ...
+             sprintf ('qn.%s expects the result of .*, got nothing; see help qn.%s', name{1}, name{1}));
+  end
+  refused (@() qn.modal (), 'see help qn.modal');
+  refused (@() qn.law (), 'see help qn.law');
+  refused (@() qn.gap (), '"gap" is missing; see help qn.gap');
+  refused (@() qn.resume (), 'see help qn.resume');
+  refused (@() qn.resume ('nothere.mat'), 'there is no file nothere.mat');
+end
+
+function test_a_run_taken_up_from_its_file_goes_on_saving_there ()
+  [unused, whole, sim] = chain (3);
+  file = [tempname() '.mat'];
+  clean = onCleanup (@() delete (file));
+  qn.run (sim, 'piece', 10, 'save', file, 'stop', @(r) r.time_end > 0.015);
+  expect_equal (getfield (load (file), 'complete'), false);
+  % As an interruption in the middle of writing leaves it.
+  id = fopen ([file '.part'], 'w');
+  fprintf (id, 'half');
+  fclose (id);
+  expect_equal (getfield (qn.resume (file, 'save', ''), 'complete'), true);
+  expect_equal (getfield (load (file), 'complete'), false);
+  expect_equal (getfield (qn.resume (file), 'q'), whole.q);
+  expect_equal (getfield (load (file), 'q'), whole.q);
+  expect_equal (exist ([file '.part'], 'file'), 0);
+end
+
+function test_tables_are_printed_without_an_output_argument ()
+  res = struct ('sim', 1, 'q', 1, 'time_end', 1, 'time', 0:4, 'force', [0 2 4 0 0]);
+  lines = strsplit (strtrim (evalc ('qn.contacts (res, 1)')), sprintf ('\n'));
+  expect_equal (numel (lines), 2);
+  expect_equal (str2num (lines{2}), [1 2 4 6]);
+  expect_equal (evalc ('qn.contacts (0:2, [0 0 0])'), sprintf ('no contact\n'));
+  [model, res] = chain (2);
+  lines = strsplit (strtrim (evalc ('qn.dissipated (res)')), sprintf ('\n'));
+  d = qn.dissipated (res);
+  expect_equal (numel (lines), 2);
+  expect_equal (sscanf (lines{2}, '%g', 2), [1; d.absorbed(end)], 1e-3);
+end

@@ -1,0 +1,69 @@
+// What an element would read or write outside its arrays, the state or the residual is refused here, before it runs.
+#include <algorithm>
+
+#include "host/errors.h"
+#include "nonlinear/nl_inout.h"
+#include "sparse/line_checks.h"
+#include "sparse/mt_kernels.h"
+
+namespace quarn {
+
+void chandleNl_inout::checkSizes(const ROr& ro, std::size_t rLen) {
+  checkViews(ro, rLen);
+  check(*this, ro);
+}
+
+void chandleNl_inout::checkViews(const ROr& ro, std::size_t rLen) {
+  for (const double* buffer : {unl, vnl}) {
+    if (buffer && (buffer == ro.u || buffer == ro.v || buffer == ro.a)) {
+      host::refuse("\"%s\" and u, v or a are one array: the observation would overwrite the state", buffer == unl ? "unl" : "vnl");
+    }
+  }
+  if (vnl && unlLen > 0) checkLength(vnlTotal, unlLen, "vnl", "as many as a page of unl");
+  if (c.pr && (vnl || unl)) checkObservation(ro);
+  if (b.pr && snl) checkCommand(rLen);
+  verified = true;
+}
+
+void chandleNl_inout::checkObservation(const ROr& ro) {
+  if (!c.sparse()) {
+    if (vnl) checkProd(c, ro.vLen, vnlTotal, "c");
+    if (unl) checkProd(c, ro.uLen, unlTotal, "c");
+    return;
+  }
+  if (c.trans != 1) host::fail("Prod_Mt_u implemented for transposed sparse matrices");
+  if (!verified) {
+    checkLinePointers(c, c.rows, "c");
+    cLargest = largestIndex(c, c.rows, "c");
+  }
+  if (vnl) {
+    checkGather(cLargest, ro.vLen, "c", "v");
+    checkLength(vnlTotal, c.rows, "vnl", "one for each row of c");
+  }
+  if (unl) {
+    checkGather(cLargest, ro.uLen, "c", "u");
+    checkLength(unlTotal, c.rows, "unl", "one for each row of c");
+  }
+}
+
+void chandleNl_inout::checkCommand(std::size_t rLen) {
+  if (!b.sparse()) {
+    if (b.trans != 1 && b.rows > 0) host::fail("Add_Mt_u implemented for sparse matrices");
+    checkAdd(b, snlTotal, rLen, "b");
+    return;
+  }
+  if (!verified) {
+    checkLinePointers(b, b.rows, "b");
+    bLargest = largestIndex(b, b.rows, "b");
+  }
+  if (b.trans == 1) {
+    checkLength(snlTotal, b.rows, "snl", "one for each line of b");
+    checkGather(bLargest, static_cast<std::size_t>(std::max(b.cols, 0)), "b", "its own columns");
+    checkLength(rLen, b.cols, "the residual", "one for each column of b");
+  } else {
+    checkGather(bLargest, snlTotal, "b", "snl");
+    checkLength(rLen, b.rows, "the residual", "one for each line of b");
+  }
+}
+
+}  // namespace quarn

@@ -16,23 +16,6 @@ int valuesOf(std::size_t n, const char* name) {
   return static_cast<int>(n);
 }
 
-/// Observed values: a page of zeros, then the product of the observation matrix.
-void observe(const SparseView& c, const double* x, double* page, int pageLen) {
-  page[0] = 0.0;
-  if (pageLen == 2) {
-    page[1] = 0.0;
-  } else if (pageLen > 2) {
-    std::memset(page, 0, static_cast<std::size_t>(pageLen) * sizeof(double));
-  }
-  if (!c.pr) return;
-  if (c.ir && c.trans == 1) {
-    for (int i = 0; i < c.rows; ++i) page[i] += lineDot(c.ir, c.jc, c.pr, i, x);
-    return;
-  }
-  const int dims[3] = {c.rows, c.cols, c.trans};
-  Prod_Mt_ub(dims, c.ir, c.jc, c.pr, x, page);
-}
-
 }  // namespace
 
 void chandleNl_inout::initCpt() {
@@ -87,13 +70,31 @@ void chandleNl_inout::readOptions() {
   check = row->check;
 }
 
+/// Observed values: a page of zeros, then the product of the observation matrix.
+void chandleNl_inout::observe(const double* x, double* page) const {
+  page[0] = 0.0;
+  if (unlLen > 1) std::fill(page + 1, page + unlLen, 0.0);
+  if (!c.pr) return;
+  const int dims[3] = {c.rows, c.cols, c.trans};
+  Prod_Mt_ub(dims, c.ir, c.jc, c.pr, x, page);
+}
+
 void chandleNl_inout::Residual(ROr ro, double* r) {
-  if (vnl) observe(c, ro.v, vnl, unlLen);
-  if (unl) observe(c, ro.u, unl, unlLen);
+  if (cPicks) {
+    if (vnl) pick(unlLen, c.ir, c.jc, c.pr, ro.v, vnl);
+    if (unl) pick(unlLen, c.ir, c.jc, c.pr, ro.u, unl);
+  } else {
+    if (vnl) observe(ro.v, vnl);
+    if (unl) observe(ro.u, unl);
+  }
   law(this, ro);
   if (!snl || !b.pr) return;
   if (bSparse && b.cols <= ro.sums) {
-    addScatteredTouched(b.rows, b.ir, b.jc, b.pr, snl, r, bWork);
+    if (bPicks) {
+      spread(b.rows, b.ir, b.jc, b.pr, snl, r);
+    } else {
+      addScatteredTouched(b.rows, b.ir, b.jc, b.pr, snl, r, bWork);
+    }
     return;
   }
   bSparse = false;
@@ -121,6 +122,9 @@ void chandleNl_inout::takeWork() {
   const bool scatters = snl && b.pr && b.sparse() && b.trans == 1;
   bWork = scatters ? static_cast<double*>(mxCalloc(static_cast<std::size_t>(std::max(b.cols, 1)), sizeof(double))) : nullptr;
   bSparse = scatters && b.rows > 0 && 8LL * (b.jc[b.rows] - b.jc[0]) <= b.cols;
+  bPicks = bSparse && picksOnly(b.rows, b.jc) && distinct(b.jc[b.rows] - b.jc[0], b.ir + b.jc[0], bWork);
+  cPicks = c.pr && c.sparse() && c.trans == 1 && unlLen > 0 && c.rows == unlLen && picksOnly(c.rows, c.jc) &&
+           !host::overlap(c.pr, c.prLen, unl, unlTotal) && !host::overlap(c.pr, c.prLen, vnl, vnlTotal);
 }
 
 }  // namespace quarn

@@ -58,6 +58,7 @@ class chandleNl_inout final : public chandle {
  private:
   void readStates();
   void readOptions();
+  void observe(const double* x, double* page) const;
   void checkViews(const ROr& ro, std::size_t rLen);
   void checkObservation(const ROr& ro);
   void checkCommand(std::size_t rLen);
@@ -66,6 +67,8 @@ class chandleNl_inout final : public chandle {
   int bLargest = -1;
   double* bWork = nullptr;  ///< work vector of the scatter, host memory of the current call; zero between the steps if bSparse
   bool bSparse = false;     ///< b touches few of its columns
+  bool bPicks = false;      ///< and each of its lines at most one, another one
+  bool cPicks = false;      ///< each line of c picks at most one value
 };
 
 /// Copies forces to ro.FNL (from iopt[0] on, if not negative) and state blocks to ro.u (from iopt[1] on, if positive): for each of

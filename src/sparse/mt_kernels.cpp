@@ -56,6 +56,23 @@ void addScatteredTouched(int rows, const int* ir, const int* jc, const double* p
   }
 }
 
+bool picksOnly(int lines, const int* jc) {
+  for (int i = 0; i < lines; ++i) {
+    if (jc[i + 1] - jc[i] > 1) return false;
+  }
+  return true;
+}
+
+bool distinct(int n, const int* ir, double* marks) {
+  bool twice = false;
+  for (int k = 0; k < n; ++k) {
+    twice = twice || marks[ir[k]] != 0.0;
+    marks[ir[k]] = 1.0;
+  }
+  for (int k = 0; k < n; ++k) marks[ir[k]] = 0.0;
+  return !twice;
+}
+
 void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, const double* u, double* y) {
   const bool scatters = ir && dims[2] == 1;
   auto* work = scatters ? static_cast<double*>(mxCalloc(static_cast<std::size_t>(std::max(dims[1], 1)), sizeof(double))) : nullptr;

@@ -1,0 +1,88 @@
+% Elements whose observation and command matrices have one entry a line, or none, against the same matrices with stored zeros, which
+% take the way of full rows: the same bits.
+function tests = suite_picked_elements ()
+  tests = localfunctions ();
+end
+
+% Lines with the entry factor(i) in column at(i), none where at(i) is 0; wide: two stored zeros in other columns besides.
+function s = lines_of (at, factor, cols, wide)
+  ir = [];
+  pr = [];
+  jc = 0;
+  for i = 1:numel (at)
+    if at(i) > 0
+      ir = [ir; at(i) - 1];
+      pr = [pr; factor(i)];
+      if wide
+        ir = [ir; mod(at(i), cols); mod(at(i) + 1, cols)];
+        pr = [pr; 0; 0];
+      end
+    end
+    jc = [jc; numel(ir)];
+  end
+  s = struct ('ir', int32 (ir), 'jc', int32 (jc), 'pr', pr, 'dims', [numel(at) cols], 'trans', 1);
+end
+
+% An element with three pages of n values (its law is a power), run for some steps among 64 modes.
+function [u, v, a, e] = run_with (seen, gains, spread, loads, wide, rows)
+  n = 64;
+  e = struct ('type', 1003, 'c', lines_of (seen, gains, n, wide), 'b', lines_of (spread, loads, n, wide));
+  e.opt = [law_code('Power'); 30; 2];
+  e.unl = ones (rows, 1, 3) * 77;
+  e.vnl = ones (rows, 1, 3) * 77;
+  e.snl = ones (rows, 1) * 77;
+  e = fresh (e);
+  w = linspace (5, 90, n)';
+  [in, mem, out] = newmark_setup (ones (n, 1), 0.02 * w, w .^ 2, cos (1:n)', sin (0:20), 1e-2, 0.25, 0.5, 20);
+  list = {in, merge_type(matrix_lines (diag (w .^ 2)), 1), merge_type(matrix_lines (diag (0.02 * w)), 3), e};
+  [u, v, a] = run_newmark (list, sin (1:n)', cos (1:n)', zeros (n, 1), mem, out);
+end
+
+function s = merge_type (s, type)
+  s.type = type;
+end
+
+function expect_same_run (seen, gains, spread, loads, rows)
+  [u, v, a, e] = run_with (seen, gains, spread, loads, false, rows);
+  [u2, v2, a2, e2] = run_with (seen, gains, spread, loads, true, rows);
+  expect_equal ([u v a], [u2 v2 a2]);
+  expect_equal (e.unl, e2.unl);
+  expect_equal (e.vnl, e2.vnl);
+  expect_equal (e.snl, e2.snl);
+  expect_equal (all (isfinite (u)), true);
+end
+
+function test_random_picks_equal_full_rows ()
+  rand ('twister', 31);
+  for k = 1:60
+    rows = 1 + floor (6 * rand ());
+    seen = floor (65 * rand (rows, 1));
+    places = randperm (64);
+    spread = places(1:rows)' .* (rand (rows, 1) > 0.2);
+    expect_same_run (seen, 2 * rand (rows, 1) - 1, spread, rand (rows, 1) - 0.5, rows);
+  end
+end
+
+function test_forces_on_one_degree_of_freedom_are_summed_first ()
+  rand ('twister', 32);
+  for k = 1:20
+    expect_same_run ([3; 7; 9], rand (3, 1), [5; 5; 5], rand (3, 1) / 7, 3);
+  end
+end
+
+function test_fewer_lines_than_values_leave_zeros ()
+  [~, ~, ~, e] = run_with ([3; 7], [1; -2], [5; 6; 8; 9], [0.1; 0.7; -3; 2], false, 4);
+  expect_equal (e.snl(3:4), zeros (2, 1));
+  expect_equal (all (e.snl(1:2) ~= 0), true);
+  expect_same_run ([3; 7], [1; -2], [5; 6; 8; 9], [0.1; 0.7; -3; 2], 4);
+end
+
+function test_more_lines_than_values_reach_into_the_next_page ()
+  expect_same_run ([3; 7; 11], [1; -2; 0.25], [5; 6], [0.1; 0.7], 2);
+end
+
+function test_a_force_of_zero_adds_nothing_to_an_infinite_command ()
+  [u, ~, ~, e] = run_with ([0; 4], [1; 1], [5; 6], [Inf; 1], false, 2);
+  expect_equal (e.snl(1), 0);
+  expect_equal (all (isfinite (u)), true);
+end

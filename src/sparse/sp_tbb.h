@@ -13,6 +13,9 @@ void SparseMatVec(double* y, const double* x, const double* val, const int* ir, 
 /// must have been checked.
 int SparseMatVecTested(double* y, const double* x, const double* val, const int* ir, const int* jc, int n, unsigned xLen);
 
+/// Entries from which a product of more than 1,000 lines is sooner done by eight threads than by one, on this machine (30,000 to 480,000).
+int parallelEntries();
+
 /// Ends the worker threads, if any were started. For the module's exit: unloading the module while they live crashes the host.
 void endSparseWorkers() noexcept;
 

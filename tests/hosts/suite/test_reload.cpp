@@ -7,31 +7,33 @@ using namespace build;
 
 ON_MATLAB(Reload);
 
-/// A diagonal-like matrix of enough lines for the parallel product to be split.
-mxArray* longDiagonal(int n) {
+constexpr int lines = 2500;
+
+/// Ones, of as many entries as are shared among worker threads on any machine.
+mxArray* manyEntries() {
+  constexpr int entries = 200;
   std::vector<int> ir, jc{0};
-  for (int k = 0; k < n; ++k) {
-    ir.push_back(k);
-    jc.push_back(k + 1);
+  for (int i = 0; i < lines; ++i) {
+    for (int k = 0; k < entries; ++k) ir.push_back((i + k) % lines);
+    jc.push_back((i + 1) * entries);
   }
-  return structure({{"pr", column(Values(static_cast<std::size_t>(n), 2.0))}, {"ir", int32s(ir)}, {"jc", int32s(jc)}});
+  return structure({{"pr", column(Values(ir.size(), 1.0))}, {"ir", int32s(ir)}, {"jc", int32s(jc)}});
 }
 
 TEST_P(Reload, SurvivesThreeHundredRoundsWithParallelProducts) {
-  constexpr int n = 20000;
-  mxArray* A = longDiagonal(n);
-  mxArray* x = column(Values(n, 3.0));
-  mxArray* y = zeros(n);
+  mxArray* A = manyEntries();
+  mxArray* x = column(Values(lines, 0.5));
+  mxArray* y = zeros(lines);
   for (int round = 1; round <= 300; ++round) {
     ASSERT_EQ(run("tbbp", {A, x, y}, 0), nullptr);
-    ASSERT_EQ(mxGetPr(y)[n - 1], 6.0 * round);
+    ASSERT_EQ(mxGetPr(y)[lines - 1], 100.0 * round);
     module.clear();
     ASSERT_FALSE(module.loaded());
   }
 }
 
 TEST_P(Reload, SurvivesEveryKindOfLastCall) {
-  mxArray* A = longDiagonal(5000);
+  mxArray* A = manyEntries();
   for (int round = 0; round < 100; ++round) {
     switch (round % 5) {
       case 0:
@@ -44,10 +46,10 @@ TEST_P(Reload, SurvivesEveryKindOfLastCall) {
         expectError("", "quarn : Unknown command", "nothing");
         break;
       case 3:
-        expectRefusal("must hold", "tbbp", {A, zeros(5000), zeros(3)});
+        expectRefusal("must hold", "tbbp", {A, zeros(lines), zeros(3)});
         break;
       default:
-        run("tbbp", {A, zeros(5000), zeros(5000)}, 0);
+        run("tbbp", {A, zeros(lines), zeros(lines)}, 0);
     }
     module.clear();
   }

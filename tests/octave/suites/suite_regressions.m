@@ -6,7 +6,7 @@ end
 function x = clear_the_module (varargin)
   clear ('quarn');
   x = numel (quarn ('chandleget'));
-  multiply_in_parallel ();
+  worker_product ();
 end
 
 function clear_and_fail (varargin)
@@ -14,18 +14,11 @@ function clear_and_fail (varargin)
   error ('own:identifier', 'own text');
 end
 
-function multiply_in_parallel ()
-  n = 6000;
-  y = zeros (n, 1);
-  quarn ('tbbp', matrix_lines (speye (n)), ones (n, 1), y);
-  expect_equal (y, ones (n, 1));
-end
-
 function test_clearing_the_module_in_its_own_callback ()
   for k = 1:10
     h = quarn ('chandleset', 1, struct ('round', k));
     expect_equal (quarn ('chandleget', @clear_the_module, h), 1);
-    multiply_in_parallel ();
+    worker_product ();
     expect_equal (quarn ('chandleget', h), struct ('round', k));
     clear ('quarn');
     expect_equal (quarn ('chandleget'), zeros (0, 1));

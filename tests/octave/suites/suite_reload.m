@@ -3,17 +3,23 @@ function tests = suite_reload ()
   tests = localfunctions ();
 end
 
+function test_the_product_of_these_tests_has_worker_threads ()
+  clear ('quarn');
+  before = threads ();
+  worker_product ();
+  expect_equal (threads () > before, true);
+  clear ('quarn');
+  expect_equal (threads (), before);
+end
+
+function n = threads ()
+  n = numel (dir ('/proc/self/task'));
+end
+
 function test_load_multiply_in_parallel_clear_300_times ()
-  n = 6000;
-  a = spdiags ([-ones(n, 1), 2 * ones(n, 1), -ones(n, 1)], -1:1, n, n);
-  s = matrix_lines (a);
-  x = cos ((1:n)');
-  wanted = full (a * x);
   for k = 1:300
     if quarn ('ismex') ~= 1, error ('round %d: not loaded', k); end
-    y = zeros (n, 1);
-    quarn ('tbbp', s, x, y);
-    expect_equal (y, wanted, 1e-15);
+    worker_product ();
     clear ('quarn');
   end
 end
@@ -32,15 +38,13 @@ end
 
 function test_clear_all_with_live_handles_and_workers ()
   n = 6000;
-  s = matrix_lines (speye (n));
   for k = 1:20
     h = registered ({typed(1, speye (n)), typed(2, sparse ([1 1:n], [2 1:n], ones (1, n + 1), n, n)), spring_element(1, 1, n, [law_code('Power') 2 1])});
     r = zeros (n, 1);
     x = ones (n, 1);
     quarn ('residual', r, h, x, x, x, [0 0]);
     expect_equal (r(3), 2);
-    quarn ('tbbp', s, x, r);
-    expect_equal (r(3), 3);
+    worker_product ();
     clear ('quarn');
   end
 end

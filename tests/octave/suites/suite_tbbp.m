@@ -174,7 +174,7 @@ function [m, x, n] = large_case ()
   rand ('twister', 7);
   randn ('twister', 7);
   n = 20000;
-  a = sparse (ceil (n * rand (12 * n, 1)), ceil (n * rand (12 * n, 1)), randn (12 * n, 1), n, n);
+  a = sparse (ceil (n * rand (30 * n, 1)), ceil (n * rand (30 * n, 1)), randn (30 * n, 1), n, n);
   m = matrix_lines (a);
   x = randn (n, 1) .* 10 .^ (6 * randn (n, 1));   % badly scaled: another order of summation shows in the last bits
 end

@@ -11,7 +11,7 @@ struct NlCall {
   const ROr& ctx;
   host::Doubles r;  ///< in-out
   int nrhs;
-  const mxArray** prhs;
+  const mxArray** prhs;  ///< the arguments, as callbacks are given them
 };
 
 /// How an element's force is found.

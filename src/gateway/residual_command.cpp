@@ -1,8 +1,11 @@
 #include "gateway/residual_command.h"
 
+#include <algorithm>
+
 #include "gateway/nl_structures.h"
 #include "handles/handle_list.h"
 #include "host/errors.h"
+#include "host/user_code.h"
 #include "integration/korv_residual.h"
 #include "sparse/line_checks.h"
 #include "sparse/phi1tmphi2.h"
@@ -65,6 +68,10 @@ Model readModel(const mxArray* model) {
 }  // namespace
 
 void commandResidual(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
+  constexpr int named = 8;  // arguments that a law's function is given
+  const mxArray* callback[named] = {};
+  std::copy_n(prhs, std::min(nrhs, named), callback);
+  if (nrhs >= named && mxIsStruct(prhs[2])) callback[2] = host::forUserCode(prhs[2]);
   const ROr c = getROr(nrhs, prhs);
   const host::Doubles r = pmatDoubles(prhs[1], "r");
   if (host::isClass(prhs[2], "chandle")) {
@@ -78,14 +85,14 @@ void commandResidual(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[])
   const KorvTerm terms[] = {{-2, c, model.K, r}, {-3, c, model.K, r}, {-1, c, model.K, r}};
   const Energy kinetic(energies ? host::cell(model.K, 0) : nullptr, "the mass matrix", c.v, c.vLen, "v", c.N);
   const Energy strain(energies ? host::cell(model.K, 2) : nullptr, "the stiffness matrix", c.u, c.uLen, "u", c.N);
-  const int checked = model.NL ? checkNlStructures(c, r, model.NL, nrhs, prhs) : 0;
+  const int checked = model.NL ? checkNlStructures(c, r, model.NL, nrhs, callback) : 0;
 
   for (const KorvTerm& term : terms) term.add();
   if (energies) {
     plhs[0] = mxCreateDoubleScalar(kinetic.value());
     plhs[1] = mxCreateDoubleScalar(strain.value());
   }
-  if (model.NL) addNlStructures(c, r, model.NL, nrhs, prhs, checked);
+  if (model.NL) addNlStructures(c, r, model.NL, nrhs, callback, checked);
 }
 
 }  // namespace quarn

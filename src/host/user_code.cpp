@@ -23,7 +23,11 @@ UserCode::~UserCode() {
 
 bool insideUserCode() noexcept { return depth > 0; }
 
+const mxArray* forUserCode(const mxArray* a) { return mxDuplicateArray(a); }
+
 #else
+
+const mxArray* forUserCode(const mxArray* a) { return a; }
 
 bool insideUserCode() noexcept { return false; }
 

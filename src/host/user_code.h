@@ -22,6 +22,11 @@ class UserCode {
   UserCode& operator=(const UserCode&) = delete;
 };
 
+/// What to hand to the user's functions in place of a, of which a command will look at elements or fields. Octave hands on what has been
+/// looked into as a new value, made of all its parts for each call; a twin made before shares the data of a and costs nothing.
+/// MATLAB hands on a itself. Host memory of the call.
+const mxArray* forUserCode(const mxArray* a);
+
 /// Whether a command waits for the user's functions: the current call comes from them, and that command may hold handles. Always false on
 /// MATLAB.
 bool insideUserCode() noexcept;

@@ -255,3 +255,18 @@ function test_law_as_a_function_equals_the_same_law_built_in ()
     expect_equal (called, built, 1e-13);
   end
 end
+
+function f = forces_of_all (e, r, model, varargin)
+  f = model.NL{1,3}.unl + 10 * model.NL{2,3}.unl;
+end
+
+function test_the_model_that_a_law_is_given_shows_what_has_been_observed_so_far ()
+  first = fresh (element ());
+  second = fresh (element ());
+  second.unl = zeros (2, 1) + 0.5;
+  first.Fu = @forces_of_all;
+  second.Fu = @forces_of_all;
+  r = zeros (4, 1);
+  call (r, nl_model (first, second));
+  expect_equal (r, [1 + 5; 0; 3 + 5; 0] + [1 + 10; 0; 3 + 30; 0]);
+end

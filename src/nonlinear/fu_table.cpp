@@ -2,7 +2,6 @@
 #include <climits>
 
 #include "host/arrays.h"
-#include "host/convert.h"
 #include "host/errors.h"
 #include "nonlinear/laws.h"
 #include "nonlinear/lin_interp.h"
@@ -12,8 +11,11 @@ namespace quarn {
 
 namespace {
 
-bool sameRecord(const double* a, const double* b) {
-  return host::sameBits(a[0], b[0]) && host::sameBits(a[1], b[1]) && host::sameBits(a[2], b[2]);
+/// Segment that a pass over the queries would find first: all that it takes over from the pass before.
+double firstSegment(const TablePlace& t, const double* queries) {
+  double record[3] = {t.record[0], t.record[1], t.record[2]};
+  vorel_LinInterp(t.table, queries, record, nullptr, t.nx, t.ny, 1, 0, nullptr, nullptr);
+  return record[0];
 }
 
 }  // namespace
@@ -57,14 +59,18 @@ void FuTable(chandleNl_inout* h, ROr ro) {
   const std::size_t results = queries * static_cast<std::size_t>(t.ny > 0 ? t.ny : 1);
   const std::size_t size = static_cast<std::size_t>(t.nx) * (1 + static_cast<std::size_t>(t.ny));
   const auto options = static_cast<std::size_t>(h->optLen);
-  // The call is repeated once for each observed value. With nothing shared between its arguments, a repetition that ends with
-  // the record it began with would only repeat itself.
-  const bool apart = !host::overlap(h->unl, queries, h->snl, results) && !host::overlap(h->snl, results, h->opt, options) &&
-                     !host::overlap(t.table, size, t.record, 3) && !host::overlap(h->unl, queries, h->opt, options);
+  // The call is repeated once for each observed value. With nothing shared between its arguments, a repetition that finds the same first
+  // segment as the one before would only repeat it.
+  const bool apart = h->unlLen > 1 && !host::overlap(h->unl, queries, h->snl, results) &&
+                     !host::overlap(h->snl, results, h->opt, options) && !host::overlap(t.table, size, t.record, 3) &&
+                     !host::overlap(h->unl, queries, h->opt, options);
+  double first = apart ? firstSegment(t, h->unl) : 0.0;
   for (int repetition = 0; repetition < h->unlLen; ++repetition) {
-    const double before[3] = {t.record[0], t.record[1], t.record[2]};
     vorel_LinInterp(t.table, h->unl, t.record, h->snl, t.nx, t.ny, h->unlLen, 1, nullptr, nullptr);
-    if (apart && sameRecord(t.record, before)) break;
+    if (!apart) continue;
+    const double next = firstSegment(t, h->unl);
+    if (next == first) break;
+    first = next;
   }
   storeForces(*h, ro);
 }

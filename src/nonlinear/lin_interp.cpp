@@ -1,5 +1,6 @@
 #include "nonlinear/lin_interp.h"
 
+#include <algorithm>
 #include <cstddef>
 
 #include "host/convert.h"
@@ -41,6 +42,15 @@ int resolveJump(const double* X, int nx, int s, double xq) {
   return s;
 }
 
+/// f between column[0] and column[1] of each of ny value columns, n values apart.
+void values(const double* column, int nx, int ny, double f, double* out, std::ptrdiff_t n) {
+  for (int k = 0; k < ny; ++k) {
+    *out = f * column[1] + (1.0 - f) * column[0];
+    column += nx;
+    out += n;
+  }
+}
+
 }  // namespace
 
 void vorel_LinInterp(const double* X, const double* x, double* rec, double* out, int nx, int ny, int n, int mode, const double* X2,
@@ -50,28 +60,23 @@ void vorel_LinInterp(const double* X, const double* x, double* rec, double* out,
     const int found = walk(X, nx, host::toInt(rec[0]), xq);
     rec[0] = found;
     rec[1] = x[0];
-    int s = found == nx - 1 && nx >= 2 ? nx - 2 : found;
-    if (s < 0) s = 0;
-    if (ny == 0 && mode != 0) out[j] = s + 1;
+    const int segment = std::max(std::min(found, nx - 2), 0);
+    if (ny == 0 && mode != 0) out[j] = segment + 1;
     if (nx <= 0) continue;  // no knots, no value
     if (mode == 0) {
-      rec[2] = nx == 1 ? 1.0 : fraction(X, s, xq);
-      continue;
-    }
-    double f = 0.0;
-    if (nx > 1) {
-      s = resolveJump(X, nx, s, xq);
-      f = fraction(X, s, xq);
-    }
-    rec[2] = f;
-    const int next = nx > 1 ? s + 1 : s;
-    for (std::ptrdiff_t k = 1; k <= ny; ++k) {
-      const double* column = X + k * nx;
-      out[j + (k - 1) * n] = nx > 1 ? f * column[next] + (1.0 - f) * column[s] : column[s];
-      if (X2 && out2) {
-        const double* column2 = X2 + k * nx;
-        out2[j + (k - 1) * n] = nx > 1 ? f * column2[next] + (1.0 - f) * column2[s] : column2[s];
+      rec[2] = nx == 1 ? 1.0 : fraction(X, segment, xq);
+    } else if (nx == 1) {
+      rec[2] = 0.0;
+      for (std::ptrdiff_t k = 0; k < ny; ++k) {
+        out[j + k * n] = X[k + 1];
+        if (X2 && out2) out2[j + k * n] = X2[k + 1];
       }
+    } else {
+      const int s = resolveJump(X, nx, segment, xq);
+      const double f = fraction(X, s, xq);
+      rec[2] = f;
+      values(X + nx + s, nx, ny, f, out + j, n);
+      if (X2 && out2) values(X2 + nx + s, nx, ny, f, out2 + j, n);
     }
   }
 }

@@ -19,3 +19,10 @@ if(QUARN_SANITIZE)
   # Versions for several processors are resolved while the program loads, before a sanitizer has started.
   target_compile_definitions(quarn_flags INTERFACE QUARN_ONE_PROCESSOR_VERSION)
 endif()
+
+if(QUARN_COVERAGE)
+  # The scheduler's threads count as well. Lines of a loop are counted in one version, not once for each processor.
+  target_compile_options(quarn_flags INTERFACE --coverage -fprofile-update=atomic)
+  target_link_options(quarn_flags INTERFACE --coverage)
+  target_compile_definitions(quarn_flags INTERFACE QUARN_ONE_PROCESSOR_VERSION)
+endif()

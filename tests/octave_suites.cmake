@@ -23,6 +23,11 @@ foreach(file ${suites})
     set_tests_properties(${name} PROPERTIES LABELS once)
   endif()
 endforeach()
+# Some forty suites and two demos in one test.
+set_tests_properties(octave.demo_after_errors PROPERTIES TIMEOUT 1500)
+# The long mixed run of scripts/soak, for some seconds.
+add_test(NAME octave.soak COMMAND ${OCTAVE_CLI} --no-history -qf ${CMAKE_CURRENT_LIST_DIR}/soak/soak.m $<TARGET_FILE_DIR:quarn> 4)
+set_tests_properties(octave.soak PROPERTIES TIMEOUT 600 ENVIRONMENT "${host_environment}")
 add_test(NAME toolbox.parses
          COMMAND ${OCTAVE_CLI} --traditional --no-history -qf ${CMAKE_CURRENT_LIST_DIR}/octave/parse_toolbox.m ${CMAKE_SOURCE_DIR}/toolbox)
 set_tests_properties(toolbox.parses PROPERTIES LABELS once ENVIRONMENT "${host_environment}")

@@ -8,7 +8,7 @@
 #include "handles/hindex.h"
 #include "host/arrays.h"
 #include "host/errors.h"
-#include "sparse/sp_tbb.h"
+#include "sparse/worker_threads.h"
 
 namespace {
 

@@ -82,11 +82,14 @@ void addResiduals(chandle** list, int n, const ROr& c, host::Doubles r) {
   }
 }
 
-chandle** newHandleList(const mxArray* list) { return static_cast<chandle**>(mxCalloc(host::count(list) + 1, sizeof(chandle*))); }
+chandle** newHandleList(const mxArray* list) {
+  const std::size_t n = host::count(list);
+  if (n > INT_MAX) host::refuse("a handle list may have up to %d elements, got %zu", INT_MAX, n);
+  return static_cast<chandle**>(mxCalloc(n + 1, sizeof(chandle*)));
+}
 
 int fillVectP(chandle** out, const mxArray* list) {
   const std::size_t n = host::count(list);
-  if (n > INT_MAX) host::refuse("a handle list may have up to %d elements, got %zu", INT_MAX, n);
   if (mxIsCell(list)) {
     gatherElements(out, list, n);
   } else {

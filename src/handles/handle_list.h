@@ -6,7 +6,7 @@
 
 namespace quarn {
 
-/// Fills out (one slot an element of list) and returns their number. Every handle's initCpt is called.
+/// Fills out (as newHandleList made it for list) and returns their number. Every handle's initCpt is called.
 ///   cell           a new handle for this call from each struct, of the type in its field "type"; its arrays stay the caller's
 ///   "chandle"      the registered handles whose indices the object's method "remi" returns
 /// Raises KORV:quarn:NonHandle "Handle does not exist" for an index without a handle, "Not a valid chandle type", and what
@@ -17,7 +17,7 @@ int fillVectP(chandle** out, const mxArray* list);
 /// negative (freed ones) are passed over.
 void addResiduals(chandle** list, int n, const ROr& c, host::Doubles r);
 
-/// Room for the handles of list, in host memory of the current call.
+/// Room for the handles of list, in host memory of the current call. Refuses a list longer than a 32-bit integer counts.
 chandle** newHandleList(const mxArray* list);
 
 }  // namespace quarn

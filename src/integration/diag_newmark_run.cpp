@@ -62,6 +62,7 @@ void chandleDiagNewmark::finishPass(const ROr& c) {
     uva.data[Ndef + i] = c.v[i];
     uva.data[2 * static_cast<std::ptrdiff_t>(Ndef) + i] = c.a[i];
   }
+  if (!diagonals.k && !diagonals.c) return;  // an empty u may have two billion rows
   for (std::ptrdiff_t i = N; i < c.N; ++i) {
     if (diagonals.k) fmod[i] += diagonals.k[i] * (c.u[i] + diagonals.beta * c.v[i]);
     if (diagonals.c) fmod[i] += diagonals.c[i] * c.v[i];

@@ -16,6 +16,8 @@ constexpr std::size_t kTileA = 4;
 constexpr std::size_t kTileB = 8;
 // Lines that are handled together, so that a tile's sums stay in registers: line products and a copy of b's rows fit in cache.
 constexpr std::size_t kBlock = 64;
+// Columns that they are multiplied with at a time, so that what they gather fits in the first-level cache.
+constexpr std::size_t kColumns = 8;
 
 constexpr std::size_t padded(std::size_t n, std::size_t tile) { return (n + tile - 1) / tile * tile; }
 
@@ -102,7 +104,10 @@ void addPart(const double* part, const Term* terms, int nTerms, const DenseBase&
              double* g, double* rowsOfB, Sizes pad) {
   for (std::size_t first = 0; first < n; first += kBlock) {
     const std::size_t lines = std::min(kBlock, n - first);
-    for (std::size_t l = 0; l < lines; ++l) lineProducts(g + l * pad.padA, s, first + l, part, a.rows, a.cols);
+    for (std::size_t j = 0; j < a.cols; j += kColumns) {
+      const std::size_t columns = std::min(kColumns, a.cols - j);
+      for (std::size_t l = 0; l < lines; ++l) lineProducts(g + l * pad.padA + j, s, first + l, part + j * a.rows, a.rows, columns);
+    }
     for (int t = 0; t < nTerms; ++t) addBlock(terms[t], b, first, lines, g, rowsOfB, pad);
   }
 }

@@ -3,7 +3,6 @@
 #include <oneapi/tbb/blocked_range.h>
 #include <oneapi/tbb/global_control.h>
 #include <oneapi/tbb/parallel_for.h>
-#include <oneapi/tbb/task_arena.h>
 
 #include <algorithm>
 #include <atomic>
@@ -12,16 +11,14 @@
 #include "host/processor.h"
 #include "sparse/blas.h"
 #include "sparse/task_order.h"
+#include "sparse/worker_threads.h"
 
 namespace quarn {
 
 namespace {
 
-constexpr int threads = 8;
 constexpr int grain = 1000;         // lines; a range of at most that many is never split
 constexpr int batchEntries = 1024;  // whose indices are tested before their lines are summed
-
-std::atomic<bool> workersStarted{false};
 
 using Lines = tbb::blocked_range<int>;
 
@@ -95,22 +92,16 @@ void runTasks(const Lines& all, const Body& body) {
 #endif
 }
 
-/// One for all products: each that is made and destroyed leaves 18 KB behind, until the scheduler ends.
-tbb::task_arena& workers() {
-  static tbb::task_arena arena(threads);
-  return arena;
-}
-
 template <class Body>
 void forLines(int n, int entries, const Body& body) {
   const Lines all(0, n, grain);
-  if (!all.is_divisible() || entries < parallelEntries()) {
+  tbb::task_arena* arena = all.is_divisible() && entries >= parallelEntries() ? workers() : nullptr;
+  if (!arena) {
     body(all);
     return;
   }
-  workersStarted.store(true, std::memory_order_relaxed);
-  tbb::global_control control(tbb::global_control::max_allowed_parallelism, threads);
-  workers().execute([&] { runTasks(all, body); });
+  tbb::global_control control(tbb::global_control::max_allowed_parallelism, workerThreads);
+  arena->execute([&] { runTasks(all, body); });
 }
 
 }  // namespace
@@ -118,7 +109,7 @@ void forLines(int n, int entries, const Body& body) {
 int parallelEntries() {
   // Waking the workers takes some 10 microseconds. Where eight threads share fewer processors, they wait for one another besides: the gain
   // is smaller and the wait longer by that share.
-  static const int share = threads / std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 2, threads);
+  static const int share = workerThreads / std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 2, workerThreads);
   return 30000 * share * share;
 }
 
@@ -134,13 +125,6 @@ int SparseMatVecTested(double* y, const double* x, const double* val, const int*
   const int batch = std::clamp(batchEntries / std::max(entries / n, 1), 1, batchEntries / 4);
   forLines(n, entries, TestedSparseMatVec{{val, y, x, jc, ir}, xLen, batch, &badLine});
   return badLine.load();
-}
-
-void endSparseWorkers() noexcept {
-  if (!workersStarted.exchange(false)) return;
-  workers().terminate();
-  tbb::task_scheduler_handle handle{tbb::attach{}};
-  tbb::finalize(handle, std::nothrow);
 }
 
 }  // namespace quarn

@@ -4,8 +4,8 @@
 namespace quarn {
 
 /// y[i] += sum of val[k] * x[ir[k]], k = jc[i] ... jc[i+1]-1, for the lines i = 0 ... n-1: one cblas_ddoti a line, lines in
-/// parallel on 8 threads whatever the core count. y (in-out) must not overlap x. A null val is an absent matrix: nothing
-/// happens. The same bits as the serial loop. Trusts its arguments.
+/// parallel on 8 threads whatever the core count, on the calling thread where fewer would be slower or 8 are not to be had. y (in-out) must
+/// not overlap x. A null val is an absent matrix: nothing happens. The same bits as the serial loop. Trusts its arguments.
 void SparseMatVec(double* y, const double* x, const double* val, const int* ir, const int* jc, int n);
 
 /// The same on a matrix that has not been looked at: each line's indices are tested against xLen where they are read. A line with
@@ -15,8 +15,5 @@ int SparseMatVecTested(double* y, const double* x, const double* val, const int*
 
 /// Entries from which a product of more than 1,000 lines is sooner done by eight threads than by one, on this machine (30,000 to 480,000).
 int parallelEntries();
-
-/// Ends the worker threads, if any were started. For the module's exit: unloading the module while they live crashes the host.
-void endSparseWorkers() noexcept;
 
 }  // namespace quarn

@@ -16,6 +16,13 @@ HostOutput hostOutput(const std::function<void()>& code) {
   return out;
 }
 
+void definePrinting(const std::string& name) {
+  standin::define(name, [name](int, const standin::Arguments& args) -> std::vector<mxArray*> {
+    mexPrintf(args.empty() ? "%s\n" : "%s %g\n", name.c_str(), args.empty() ? 0.0 : mxGetScalar(args[0]));
+    return {};
+  });
+}
+
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   const int failed = RUN_ALL_TESTS();

@@ -1,4 +1,4 @@
-// What a piece of code prints and raises through the host's functions. Defined beside each main function of the unit tests.
+// What a piece of code prints, raises and calls through the host's functions. Defined beside each main function of the unit tests.
 #pragma once
 
 #include <functional>
@@ -10,3 +10,7 @@ struct HostOutput {
 };
 
 HostOutput hostOutput(const std::function<void()>& code);
+
+/// Defines a function of the host's language that prints its name and its argument, a number, if it is given one. Hides what else has the
+/// name.
+void definePrinting(const std::string& name);

@@ -92,6 +92,15 @@ TEST(Chandle, AbsentValueIsReplacedByAnEmptyMatrixAndSaysSoOnce) {
   EXPECT_EQ(hostOutput([&] { EXPECT_EQ(h.get_val(), value); }).printed, "");
 }
 
+TEST(Chandle, OfNoParticularKindHasNoStateAndNoDiagonal) {
+  chandle h;
+  h.initCpt();
+  EXPECT_EQ(h.val, nullptr);
+  EXPECT_EQ(h.type, 0);
+  EXPECT_EQ(h.stateEnd(), 0);
+  EXPECT_EQ(h.diagonalValues(), nullptr);
+}
+
 TEST(EmptyStack, SaysSoAndClearsAll) {
   const int key = cIndex.get_free_index();
   cIndex.setStack(key, newHandle());

@@ -5,6 +5,7 @@
 #include <octave/error.h>
 #include <octave/interpreter.h>
 #include <octave/pager.h>
+#include <octave/parse.h>
 
 #include "host_output.h"
 
@@ -22,6 +23,11 @@ HostOutput hostOutput(const std::function<void()>& code) {
   octave_stdout << std::flush;
   out.printed = testing::internal::GetCapturedStdout();
   return out;
+}
+
+void definePrinting(const std::string& name) {
+  const std::string words = "strjoin ([{'" + name + "'}, cellfun(@num2str, varargin, 'UniformOutput', false)])";
+  octave::feval("eval", octave_value("function " + name + " (varargin), disp (" + words + "); end"));
 }
 
 int main(int argc, char** argv) {

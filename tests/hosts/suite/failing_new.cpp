@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <new>
 #include <thread>
+#include <utility>
 
 #include "standin.h"
 
@@ -10,10 +11,14 @@ namespace {
 
 long failing = 0;
 long counted = 0;
+std::exception_ptr instead;
 const std::thread::id tester = std::this_thread::get_id();
 
 void* allocate(std::size_t n) {
-  if (failing > 0 && std::this_thread::get_id() == tester && standin::moduleAtWork() && ++counted == failing) throw std::bad_alloc();
+  if (failing > 0 && std::this_thread::get_id() == tester && standin::moduleAtWork() && ++counted == failing) {
+    if (instead) std::rethrow_exception(instead);
+    throw std::bad_alloc();
+  }
   void* memory = std::malloc(n > 0 ? n : 1);
   if (!memory) throw std::bad_alloc();
   return memory;
@@ -21,8 +26,9 @@ void* allocate(std::size_t n) {
 
 }  // namespace
 
-void failNew(long k) {
+void failNew(long k, std::exception_ptr thrown) {
   failing = k;
+  instead = std::move(thrown);
   counted = 0;
 }
 

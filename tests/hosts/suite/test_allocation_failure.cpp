@@ -1,5 +1,8 @@
 // Every allocation of a call fails once: the call ends with the host's error, nothing stays behind, and the handles are as they were.
+#include <exception>
 #include <functional>
+#include <stdexcept>
+#include <system_error>
 
 #include "failing_new.h"
 #include "fixture.h"
@@ -168,6 +171,17 @@ TEST_P(AllocationFailure, OfTheRegistrysOwnNodes) {
   failNew(0);
   EXPECT_EQ(values(run("chandleget")), (Values{0}));
   EXPECT_EQ(set(1, stiffness()), 2.0);  // the index of the failed call is used up
+}
+
+TEST_P(AllocationFailure, OtherExceptionsOfTheStandardLibraryEndTheCallWithTheirText) {
+  set(1, stiffness());
+  const auto busy = std::make_error_code(std::errc::resource_unavailable_try_again);
+  failNew(1, std::make_exception_ptr(std::length_error("more than a container holds")));
+  expectError("", "quarn chandleget : more than a container holds", "chandleget", {scalar(50)}, 1);
+  failNew(1, std::make_exception_ptr(std::system_error(busy, "no thread")));
+  expectError("", ("quarn chandleget : no thread: " + busy.message()).c_str(), "chandleget", {scalar(50)}, 1);
+  failNew(0);
+  EXPECT_EQ(values(run("chandleget")), (Values{0}));
 }
 
 TEST_P(AllocationFailure, OfThePresenceCall) {

@@ -180,6 +180,15 @@ function test_sizes_that_do_not_fit_are_refused ()
   end
 end
 
+function test_extents_that_no_integer_holds_are_refused ()
+  e = spring_element (2, 1, 2, [law_code('Power') 2 1]);
+  e.unl = zeros (65536, 65536, 0);
+  r = ones (2, 1) * 3;
+  expect_refused (@() quarn ('residual', r, registered ({e}), ones (2, 1), ones (2, 1), ones (2, 1), [0 0]), ...
+                  'quarn residual : element 1 : unl holds 4294967296 values, expected fewer than 2^31');
+  expect_equal (r, ones (2, 1) * 3);
+end
+
 function test_a_refusal_names_the_element_of_the_list ()
   run = small_run ();
   run.list{4} = spring_element (1, 1, 3, [law_code('Power') 2 1]);
@@ -219,6 +228,24 @@ function test_a_search_record_on_the_table_is_refused ()
   e.iopt = int32 ([-1 0 0 0 0 1 4 2 1]);
   run.list{4} = e;
   expect_error (@() run_small (run), '', '~element 4 : the search record at opt\(5\) to \(7\) lies on the table at opt\(2\) to \(5\)');
+end
+
+function test_a_table_outside_its_parameters_is_refused ()
+  run = small_run ();
+  wrong = {[-1 5 2 1], 'iopt(6:9) must not be negative, got -1 5 2 1'; ...
+           [1 -5 2 1], 'iopt(6:9) must not be negative, got 1 -5 2 1'; ...
+           [1 5 -2 1], 'iopt(6:9) must not be negative, got 1 5 -2 1'; ...
+           [1 5 2 -1], 'iopt(6:9) must not be negative, got 1 5 2 -1'; ...
+           [5 1 2 1], 'a table of 2 knots and 1 columns at opt(6) ends behind opt of 8 values'; ...
+           [1 5 2147483647 1], 'a table of 2147483647 knots and 1 columns at opt(2) ends behind opt of 8 values'; ...
+           [1 6 2 1], 'the search record at opt(7) ends behind opt of 8 values'};
+  for k = 1:size (wrong, 1)
+    e = spring_element (1, 1, 3, [law_code('Table') 0 1 0 1 0 0 0]);
+    e.iopt = int32 ([-1 0 0 0 0 wrong{k, 1}]);
+    run.list{4} = e;
+    refused_cleanly (run.list, {run.model, run.u, run.v, run.a, run.opt, run.mem, run.out}, '', ...
+                     ['quarn chandlediagnewmark : element 4 : ' wrong{k, 2}]);
+  end
 end
 
 function run_small (run)

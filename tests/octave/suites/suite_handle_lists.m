@@ -59,6 +59,15 @@ function test_a_method_that_returns_no_index_is_refused ()
   expect_equal (added (h), 3);
 end
 
+function test_more_handles_than_an_integer_counts_are_refused ()
+  code = 'r = 5; try, quarn (''residual'', r, chandle (2^31), 1, 1, 1); catch err, disp (err.message); disp (r); end';
+  folders = {fileparts(which ('quarn')), fullfile(fileparts (which ('registered')), 'endless')};
+  [status, text] = octave_says ([sprintf('addpath (''%s''); ', folders{:}) code]);
+  wanted = 'quarn: quarn residual : a handle list may have up to 2147483647 elements, got 2147483648';
+  expect_equal (text, sprintf ('%s\n5\n', wanted));
+  expect_equal (status, 0);
+end
+
 function test_an_index_is_truncated ()
   h = quarn ('chandleset', 1, matrix_lines (sparse (3)));
   expect_equal (added (chandle (h + 0.75)), 3);

@@ -160,3 +160,21 @@ end
 function test_complex_operands ()
   flat ('products with complex operands', @complex_products, @complex_idle, scaled (3e5), 16);
 end
+
+function parallel_products (count)
+  [s, n] = long_lines ();
+  x = ones (n, 1);
+  y = zeros (n, 1);
+  for k = 1:count, quarn ('tbbp', s, x, y); end
+end
+
+function parallel_idle (count)
+  [s, n] = long_lines ();
+  x = ones (n, 1);
+  y = zeros (n, 1);
+  for k = 1:count, y = y + x * max (k, 1); end
+end
+
+function test_products_on_worker_threads ()
+  flat ('products on worker threads', @parallel_products, @parallel_idle, scaled (1e5), 64);
+end

@@ -104,6 +104,19 @@ function test_a_function_cannot_unload_the_module_that_waits_for_it ()
   end
 end
 
+function test_a_function_that_hides_the_module_behind_a_broken_file_leaves_it_locked ()
+  code = {'function v = hide (v)', ...
+          '  mkdir (''broken'');  id = fopen (''broken/quarn.m'', ''w'');  fprintf (id, ''function quarn ('');  fclose (id);', ...
+          '  addpath (fullfile (pwd (), ''broken''));  rehash ();', ...
+          'end', ...
+          'h = quarn (''chandleset'', 1, 5);  got = quarn (''chandleget'', @hide, h);', ...
+          'rmpath (fullfile (pwd (), ''broken''));  rehash ();', ...
+          'disp (got);  disp (mislocked (''quarn''));  clear (''quarn'');  disp (quarn (''chandleget'', h));'};
+  [status, text] = octave_says (sprintf ('%s\n', sprintf ('addpath (''%s'');', fileparts (which ('quarn'))), code{:}));
+  expect_equal (text, sprintf ('5\n1\n5\n'));
+  expect_equal (status, 0);
+end
+
 function test_a_refusal_after_a_nested_call_names_its_own_command ()
   h = quarn ('chandleset', 1, 5);
   expect_refused (@() quarn ('chandleget', @(v) quarn ('tbbp'), h), '~^quarn tbbp : ');

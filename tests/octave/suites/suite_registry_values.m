@@ -38,6 +38,14 @@ function test_function_handles_and_objects_come_back_usable ()
   expect_equal (quarn ('chandleget', @(v) {class(v.m), v.b.c, v.f(2)}, h), {'v_handle', 5, 5});
 end
 
+function test_an_object_that_hands_out_no_copy_is_refused ()
+  keys = quarn ('chandleget');
+  expect_refused (@() quarn ('chandleset', 1, gives_no_copy ()), 'quarn chandleset : a value of class gives_no_copy cannot be copied');
+  nested = {1, struct('inside', gives_no_copy ())};
+  expect_refused (@() quarn ('chandleset', 1, nested), 'quarn chandleset : a value of class gives_no_copy cannot be copied');
+  expect_equal (quarn ('chandleget'), keys);
+end
+
 function test_a_value_outlives_the_variable_it_came_from ()
   h = quarn ('chandleset', 1, struct ('pr', {{rand(1000, 1) > 2, 'text'}}));
   junk = cell (1, 50);

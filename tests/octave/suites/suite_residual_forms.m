@@ -201,6 +201,20 @@ function test_dense_matrices_are_refused ()
   end
 end
 
+function test_energy_of_a_dense_mass_is_refused_where_its_residual_is_not_formed ()
+  [K, m] = matrices ();
+  s = state ();
+  K{1} = m{1};
+  expect_equal (residual_of (K, s{1}, s{2}, []), m{2} * s{2} + m{3} * s{1}, 1e-13);
+  r = zeros (3, 1) + 5;
+  expect_refused (@() energies (r, K, s{1}, s{2}, []), 'Implemented for sparse matrices');
+  expect_equal (r, [5; 5; 5]);
+end
+
+function [kinetic, potential] = energies (varargin)
+  [kinetic, potential] = quarn ('residual', varargin{:});
+end
+
 function test_native_sparse_matrices_are_refused ()
   K = matrices ();
   s = state ();

@@ -1,0 +1,55 @@
+#include "sparse/worker_threads.h"
+
+#include <oneapi/tbb/global_control.h>
+
+#include <mutex>
+#include <system_error>
+#include <thread>
+
+namespace quarn {
+
+namespace {
+
+bool started = false;
+
+/// Starts as many threads as the scheduler will, which wait for one another, and ends them.
+bool threadsToBeHad() {
+  std::mutex waiting;
+  std::thread probes[workerThreads - 1];
+  bool all = true;
+  {
+    const std::lock_guard<std::mutex> hold(waiting);
+    try {
+      for (std::thread& probe : probes) probe = std::thread([&waiting] { const std::lock_guard<std::mutex> pass(waiting); });
+    } catch (const std::system_error&) {
+      all = false;
+    }
+  }
+  for (std::thread& probe : probes) {
+    if (probe.joinable()) probe.join();
+  }
+  return all;
+}
+
+tbb::task_arena& arena() {
+  static tbb::task_arena shared(workerThreads);
+  return shared;
+}
+
+}  // namespace
+
+tbb::task_arena* workers() {
+  if (!started && !threadsToBeHad()) return nullptr;
+  started = true;
+  return &arena();
+}
+
+void endSparseWorkers() noexcept {
+  if (!started) return;
+  started = false;
+  arena().terminate();
+  tbb::task_scheduler_handle handle{tbb::attach{}};
+  tbb::finalize(handle, std::nothrow);
+}
+
+}  // namespace quarn

@@ -1,0 +1,70 @@
+% A process that has been given every malformed call of the suites in a row still runs the demo, to the bit like a fresh process.
+function tests = suite_demo_after_errors ()
+  tests = localfunctions ();
+end
+
+function test_every_suite_with_malformed_calls_then_the_demo ()
+  here = fileparts (which ('suite_demo_after_errors'));
+  [suites, count] = run_suites (here);
+  fprintf ('        %d tests of %d suites\n', count, suites);
+  if suites < 30 || count < 400, error ('too few: %d suites, %d tests', suites, count); end
+  folders = {tempname(), tempname()};
+  for k = 1:2, mkdir (folders{k}); end
+  away = onCleanup (@() cellfun (@(f) system (['rm -r ' f]), folders));
+  module = fileparts (which ('quarn'));
+  demo = fullfile (here, '..', '..', '..', 'demo', 'run_demo.m');
+
+  [status, text] = octave_says (demo_code (demo, folders{1}, module));
+  if status ~= 0, error ('in a fresh process: %s', text); end
+  text = run_here (demo, folders{2}, module);
+  expect_equal (numel (strfind (text, '  ok  ')), 7);
+  fresh_one = load (fullfile (folders{1}, 'results.mat'));
+  this_one = load (fullfile (folders{2}, 'results.mat'));
+  expect_equal (fieldnames (this_one), fieldnames (fresh_one));
+  expect_equal (size (this_one.roof_displacement_m), [1 20001]);
+  for name = fieldnames (fresh_one).', expect_equal (bits (this_one.(name{1})), bits (fresh_one.(name{1}))); end
+  expect_equal (fileread (fullfile (folders{2}, 'response.csv')), fileread (fullfile (folders{1}, 'response.csv')));
+end
+
+% Every suite of the module that checks an error, but not those of the toolbox and those that test other processes. No reload between them;
+% keys that an error left in the registry are taken out, so that each suite finds it empty, as in a process of its own.
+function [suites, count] = run_suites (folder)
+  suites = 0;
+  count = 0;
+  for file = dir (fullfile (folder, 'suite_*.m')).'
+    name = file.name(1:end - 2);
+    others = ~isempty (regexp (name, 'toolbox|install|document|leaving|demo_after_errors', 'once'));
+    malformed = ~isempty (regexp (fileread (fullfile (folder, file.name)), 'expect_error|expect_refused|own_answer|refused_cleanly', 'once'));
+    if others || ~malformed, continue; end
+    suites = suites + 1;
+    for key = quarn ('chandleget').', quarn ('chandleclear', key); end
+    for test = feval (name).'
+      test_name = regexprep (func2str (test{1}), '^@', '');
+      if isempty (regexp (test_name, '^test_', 'once')), continue; end
+      quarn ('chandleclear');
+      try
+        test{1} ();
+      catch err
+        error ('%s, %s: %s', name, test_name, err.message);
+      end
+      count = count + 1;
+    end
+  end
+end
+
+function code = demo_code (demo, folder, module)
+  code = sprintf ('setenv (''QUARN_DEMO_QUICK'', ''1''); setenv (''QUARN_DEMO_OUT'', ''%s''); addpath (''%s''); source (''%s'');', ...
+                  folder, module, demo);
+end
+
+function text = run_here (demo, folder, module)
+  text = evalc (demo_code (demo, folder, module));
+end
+
+function b = bits (x)
+  if isstruct (x)
+    b = cellfun (@bits, struct2cell (x(:)), 'UniformOutput', false);
+  else
+    b = typecast (double (x(:)), 'uint64');
+  end
+end

@@ -1,0 +1,29 @@
+% INTEGRATOR_CASES (ID)  runs of the integrator: linear ones of few and many modes, and with an element of every law
+function integrator_cases (id)
+  for n = [3 40 1000]
+    c = rand (n, 1);
+    k = 10 * rand (n, 1);
+    run (id, 'one integrator', n, c, k, {typed(1, diag (k)), typed(3, diag (c))}, 60);
+    run (id, 'one integrator', n, c, k, {typed(3, diag (c)), typed(1, diag (k)), typed(2, diag (k))}, 20);
+    if n > 40, continue; end
+    coupled = diag (k) + 0.1 * randn (n);
+    run (id, 'sum integrator', n, c, k, {typed(1, coupled), typed(3, diag (c) + 0.01 * randn (n))}, 20);
+  end
+  for w = {'Power', 'Expon', 'Table', 'Maxw', 'DahlC', 'sts', 'Clima2'}
+    for trial = 1:6
+      n = 7;
+      e = random_law_element (w{1}, n);
+      if double (e.iopt(2)) + double (e.iopt(4)) > n + 1, e.iopt(2) = 0; end
+      run (id, ['one integrator ' w{1}], n, rand (n, 1), rand (n, 1), {typed(1, diag (rand (n, 1))), e}, 10);
+    end
+  end
+end
+
+function run (id, name, n, c, k, list, steps)
+  h = 0.01;
+  [integrator, mem, out] = newmark_setup (1 + rand (n, 1), c, k, randn (n, 1), randn (1, steps), h, 0.25, 0.5, 2:3:steps);
+  mem.uva.FNL = zeros (n, 1);
+  model = struct ('FNL', zeros (n, 1));
+  recorded_call (id, name, 0, 'chandlediagnewmark', fresh ([{integrator}, list]), fresh (model), 0.1 * randn (n, 1), randn (n, 1), ...
+                 randn (n, 1), [0.1 0.01], fresh (mem), fresh (out));
+end

@@ -9,6 +9,7 @@ void benchHandles();      ///< integrator with force handles
 void benchLaws();         ///< force laws
 void benchTables();       ///< table look-up
 void benchProjections();  ///< projections of a sparse matrix
+void benchGuards();       ///< checks of arguments, and what else a call does before and behind its arithmetic
 void benchEquations();    ///< time to solution against other integrators
 
 /// Runs the group of that name; false if there is none.

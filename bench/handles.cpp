@@ -74,7 +74,8 @@ void sparseSystem(int n, int steps) {
   run(c);
 }
 
-/// 100 modes with diagonal stiffness and damping and count elements of one value or group each.
+/// 100 modes with diagonal stiffness and damping and count elements of one value or group each. The laws stand side by side in one table,
+/// as programs do elsewhere.
 void withElements(const std::string& law, int count) {
   const Modes m = spreadModes(100);
   const std::vector<double> loads = wave(100, 0.0);
@@ -84,13 +85,7 @@ void withElements(const std::string& law, int count) {
   product.add(diagonalHandle(3, loop.c));
   for (int e = 0; e < count; ++e) product.add(element(law, 1, m.n, e % (m.n - 5)));
   product.start();
-  run({"handles",
-       "elements " + law,
-       count,
-       100.0 * count,
-       "handle and step",
-       0.0,
-       {{"quarn", [&] { product.run(); }, [&] { return fresh(product); }}}});
+  run({"handles", "elements", count, 100.0 * count, "handle and step", 0.0, {{law, [&] { product.run(); }, {}}}});
 }
 
 /// The arithmetic of count cubic springs, one a mode, without any handle: observe u and v, power, add.

@@ -1,4 +1,4 @@
-// Timing of programs that compute the same numbers: checked against each other, run in turns, the best repetition counts.
+// Timing of programs that compute the same numbers: checked against each other; the best repetition counts.
 #pragma once
 
 #include <functional>
@@ -13,6 +13,7 @@ struct Program {
   std::function<void()> run;                     ///< the timed work, once
   std::function<std::vector<double>()> numbers;  ///< the work once from a fresh start, and what it computed; may be empty for a limit
   bool threaded = false;  ///< timed by the clock; others by the processor time of their thread, which other processes do not stretch
+  std::function<void()> release{};  ///< frees what the work has allocated; called in cases with threaded programs only
 };
 
 /// Programs that do the same work on the same data. The first one's numbers are the reference.

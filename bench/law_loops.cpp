@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace quarn::bench {
 
@@ -22,7 +23,7 @@ double dahl(double f, double v, double h, double k, double e, double fMax, doubl
 void dahlLoop(LawArrays& a) {
   const double* o = a.opt.data();
   const double fMax = o[5] * o[6];
-  for (std::size_t i = 0; i < a.unl.size(); i += 2) {
+  for (std::size_t i = 0; i < a.n; i += 2) {
     const double v = a.vnl[i];
     const double f = a.unl[i + 1];
     const double s = v > 0.0 ? 1.0 : -1.0;
@@ -30,9 +31,53 @@ void dahlLoop(LawArrays& a) {
   }
 }
 
+/// Elements with the observed value and one state (q = 2, m = 1), one sub-step.
+void maxwellLoop(LawArrays& a) {
+  const double* Cu = a.opt.data() + 5;
+  const double* Dv = Cu + 6;
+  const double* B = Dv + 6;
+  const double* A = B + 2;
+  const double* E = A + 1;
+  const double h = a.opt[2];
+  for (std::size_t e = 0; e < a.n; e += 2) {
+    double* u = a.unl.data() + e;
+    double* v = a.vnl.data() + e;
+    double* committedU = u + 2 * a.n;
+    double* committedV = v + 2 * a.n;
+    u[1] = committedU[1] + h * committedV[1];
+    for (int i = 0; i < 2; ++i) {
+      v[1 + i] = committedV[1 + i] = B[i] * u[0] + A[i] * u[1] + E[i] * v[0];
+      committedU[1 + i] = u[1 + i];
+    }
+    double force = 0.0;
+    for (int i = 0; i <= 2; ++i) force += Cu[i] * u[i] + Dv[i] * v[i];
+    a.snl[e] = force;
+  }
+}
+
+/// Groups of three observed values and two states; the first group's observed values are every group's in the linear terms, as the law is
+/// defined. The table of limit and stiffness has five knots.
+void climaLoop(LawArrays& a) {
+  const double* o = a.opt.data();
+  const double* knots = o + 7;
+  int segment = 0;
+  for (std::size_t i = 0; i < a.n; i += 5) {
+    double* u = a.unl.data() + i;
+    const double limit = interpolate(knots, knots + 5, 5, u[2], segment);
+    const double stiffness = interpolate(knots, knots + 10, 5, u[2], segment);
+    const double fMax = o[5] * limit;
+    for (std::size_t k = 0; k < 2; ++k) {
+      const double v = a.vnl[i + k];
+      const double z = 1.0 - (v > 0.0 ? 1.0 : -1.0) * (u[3 + k] / fMax);
+      a.snl[k] = u[3 + k] = dahl(u[3 + k], v, o[2], stiffness, o[4], fMax, z) - o[3] * a.unl[k];
+    }
+    a.snl[2] = limit - o[3] * a.unl[2] - o[6];
+  }
+}
+
 void stickSlipLoop(LawArrays& a) {
   const double* o = a.opt.data();
-  for (std::size_t i = 0; i < a.unl.size(); i += 2) {
+  for (std::size_t i = 0; i < a.n; i += 2) {
     const double trial = (a.unl[i + 1] - a.unl[i]) * o[4] + a.unl[i + 1] * o[6];
     if (o[5] > std::fabs(std::trunc(trial))) break;
     a.unl[i + 1] = ((a.unl[i] + a.vnl[i] * o[2]) * o[4] - (trial > 0.0 ? o[5] : -o[5])) / (o[4] + o[6]);
@@ -42,9 +87,9 @@ void stickSlipLoop(LawArrays& a) {
 
 }  // namespace
 
-bool lawLoop(const std::string& law, LawArrays& a) {
+void lawLoop(const std::string& law, LawArrays& a) {
   const double* o = a.opt.data();
-  const std::size_t n = a.unl.size();
+  const std::size_t n = a.n;
   if (law == "Power") {
     for (std::size_t i = 0; i < n; ++i) a.snl[i] = o[1] * std::pow(a.unl[i], o[2]);
   } else if (law == "Expon") {
@@ -56,10 +101,13 @@ bool lawLoop(const std::string& law, LawArrays& a) {
     dahlLoop(a);
   } else if (law == "sts") {
     stickSlipLoop(a);
+  } else if (law == "Maxw") {
+    maxwellLoop(a);
+  } else if (law == "Clima2") {
+    climaLoop(a);
   } else {
-    return false;
+    std::abort();
   }
-  return true;
 }
 
 }  // namespace quarn::bench

@@ -63,13 +63,24 @@ ModalRun::ModalRun(const Modes& m, const std::vector<double>& loads, int states)
   context = getROr(6, in);
 }
 
+void ModalRun::bind() {
+  integrator->initCpt();
+  for (chandle* h : handles) {
+    h->set_val(h->type, h->val);
+    h->initCpt();
+  }
+  integrator->initCb(context, model, mem, out, handles.data(), static_cast<int>(handles.size()));
+}
+
+void ModalRun::check() {
+  const std::size_t rows = mxGetM(u);
+  for (chandle* h : handles) h->checkSizes(context, rows);
+}
+
 void ModalRun::start() {
   for (mxArray* x : {u, v, a}) std::fill_n(mxGetPr(x), mxGetM(x), 0.0);
-  integrator->initCpt();
-  for (chandle* h : handles) h->initCpt();
-  const int nh = static_cast<int>(handles.size());
-  integrator->initCb(context, model, mem, out, handles.data(), nh);
-  integrator->checkRun(context, handles.data(), nh);
+  bind();
+  integrator->checkRun(context, handles.data(), static_cast<int>(handles.size()));
 }
 
 void ModalRun::run() {

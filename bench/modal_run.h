@@ -32,6 +32,8 @@ class ModalRun {
   ModalRun(const Modes& m, const std::vector<double>& loads, int states = 0);
   void add(chandle* h) { handles.push_back(h); }
   void start();                       ///< u = v = a = 0, then binds and checks everything
+  void bind();                        ///< reads the values, as at the head of a call; nothing that has been checked is known any more
+  void check();                       ///< what the force handles check at the head of a call, alone
   void run();                         ///< all steps, from the state that is there
   std::vector<double> state() const;  ///< u, v, a of the modes
   double* acceleration() { return mxGetPr(a); }

@@ -1,6 +1,9 @@
 // The parallel sparse product against the loop it parallelises, a plain C loop, MKL, Eigen and memory bandwidth.
+#include <cstdio>
+#include <fstream>
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "grid_matrix.h"
 #include "groups.h"
@@ -32,14 +35,15 @@ void plainLoop(const GridMatrix& g, const double* x, double* y) {
 }
 
 /// Adds a program that accumulates A*x into y.
-void add(Case& c, const std::string& name, std::vector<double>& y, const std::function<void(double*)>& product, bool threaded) {
+void add(Case& c, const std::string& name, std::vector<double>& y, const std::function<void(double*)>& product, bool threaded,
+         const std::function<void()>& release = {}) {
   c.programs.push_back({name, [&y, product] { product(y.data()); },
                         [&y, product] {
                           std::vector<double> fresh(y.size(), 0.5);
                           product(fresh.data());
                           return fresh;
                         },
-                        threaded});
+                        threaded, release});
 }
 
 void oneMatrix(int entries, int lines) {
@@ -60,22 +64,40 @@ void oneMatrix(int entries, int lines) {
   const auto peers = productPeers(g);
   for (const ProductPeer& p : peers)
     add(
-        c, p.name, y, [&](double* out) { p.product(x.data(), out); }, p.threaded);
+        c, p.name, y, [&](double* out) { p.product(x.data(), out); }, p.threaded, p.release);
   // The triad moves as many bytes as the product, through as many threads.
   const std::shared_ptr<Triad> triad = makeTriad(g.bytes());
   c.programs.push_back({"triad, 8 threads", [triad] { triad->run(); }, {}, true});
   run(c);
 }
 
+/// Memory that programs can have without swapping [bytes].
+double availableMemory() {
+  std::ifstream file("/proc/meminfo");
+  for (std::string line; std::getline(file, line);) {
+    double kilobytes = 0.0;
+    if (std::sscanf(line.c_str(), "MemAvailable: %lf kB", &kilobytes) == 1) return 1024.0 * kilobytes;
+  }
+  return 0.0;
+}
+
+/// The largest matrix has 3 GB, a peer's copy of it more than 5.
+bool fits(int entries, int lines) {
+  constexpr double needed = 10e9;
+  if (static_cast<double>(entries) * lines < 2e8 || availableMemory() >= needed) return true;
+  std::fprintf(stderr, "product: %d lines with %d entries left out, %.0f GB of free memory needed, %.1f there\n", lines, entries,
+               needed / 1e9, availableMemory() / 1e9);
+  return false;
+}
+
 }  // namespace
 
 void benchProduct() {
-  // Up to a gigabyte and a half of matrix.
-  constexpr int most[] = {3'000'000, 3'000'000, 1'000'000};
   constexpr int entries[] = {7, 27, 81};
-  for (int e = 0; e < 3; ++e) {
+  for (const int e : entries) {
     for (const int lines : {100, 300, 1'000, 3'000, 10'000, 30'000, 100'000, 300'000, 1'000'000, 3'000'000}) {
-      if (lines <= (quick() ? 3000 : most[e])) oneMatrix(entries[e], lines);
+      if (quick() && lines > 3000) break;
+      if (fits(e, lines)) oneMatrix(e, lines);
     }
   }
 }

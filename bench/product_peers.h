@@ -12,20 +12,22 @@ namespace quarn::bench {
 
 struct ProductPeer {
   std::string name;
-  std::function<void(const double* x, double* y)> product;  ///< y += A*x
+  std::function<void(const double* x, double* y)> product;  ///< y += A*x; the first call may copy A
   bool threaded;
+  std::function<void()> release{};  ///< frees that copy
 };
 
-/// Those that were found when the benchmarks were built. They borrow g, or hold copies of it.
+/// Those that were found when the benchmarks were built. They borrow g.
 std::vector<ProductPeer> productPeers(const GridMatrix& g);
 
 /// a = b + s*c over arrays that move bytes bytes (8 written, 16 read for each element), on the product's scheduler.
 class Triad {
  public:
-  explicit Triad(double bytes);
+  explicit Triad(double bytes) : size(static_cast<std::size_t>(bytes / 24.0) + 1) {}
   void run();
 
  private:
+  std::size_t size;
   std::vector<double> a;
   std::vector<double> b;
   std::vector<double> c;

@@ -1,9 +1,10 @@
-// Projections of a sparse matrix on dense bases against Eigen and MKL on one thread.
+// Projections of a sparse matrix on dense bases against Eigen, MKL and OpenBLAS on one thread.
 #include <memory>
 
 #include "grid_matrix.h"
 #include "groups.h"
 #include "harness.h"
+#include "openblas.h"
 #include "sparse/projection_kernels.h"
 
 #ifdef QUARN_BENCH_EIGEN
@@ -98,6 +99,11 @@ void realForm(const Problem& p) {
     cblas_dgemm(CblasColMajor, CblasTrans, CblasNoTrans, cols, cols, n, 1.0, p.re.data(), n, kt.data(), n, 0.0, out.data(), cols);
   });
 #endif
+  std::vector<double> blasWork;
+  if (openblasThere()) {
+    blasWork.resize(p.n * (p.cols + 8));
+    add(c, "OpenBLAS", out, [&] { openblasForm(out.data(), p.g, p.re, blasWork); });
+  }
   run(c);
 #ifdef QUARN_WITH_MKL
   mkl_sparse_destroy(m);

@@ -6,10 +6,8 @@
 % share of a call (reading the word, finding the command) stays below the host's.
 args = argv ();
 addpath (args{1});
-compiled = tempname ();
-mkdir (compiled);
-mkoctfile ('--mex', '-o', fullfile (compiled, 'nothing.mex'), fullfile (fileparts (mfilename ('fullpath')), 'nothing.c'));
-addpath (compiled);
+addpath (fileparts (mfilename ('fullpath')));
+compiled = compile_mex ({'nothing'});
 
 function module_call (calls), for k = 1:calls, quarn ('ismex'); end, end
 function empty_call (calls), for k = 1:calls, nothing ('ismex'); end, end

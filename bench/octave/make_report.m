@@ -12,10 +12,13 @@ fprintf (f, '# Benchmark report\n\n%s\n', regexprep (machine, '(?m)$', '  '));
 groups = {'product', 'host product', 'modes', 'newmark', 'handles', 'laws', 'tables', 'projections', 'calls'};
 for g = 1:numel (groups), report_group (f, groups{g}, records); end
 report_equations (f, records);
+fprintf (f, '\n## guards\n\n%s\n## call parts\n\n%s', parts_table (records, 'guards'), parts_table (records, 'call parts'));
 fclose (f);
 graphics_toolkit ('gnuplot');
 plot_group (out, 'product', '27', 'lines', 'ns per byte', records);
 plot_group (out, 'modes', 'modes', 'modes', 'ns per mode and step', records);
+plot_group (out, 'modes', 'steps, 100 modes', 'steps', 'ns per step', records);
+plot_group (out, 'handles', 'elements', 'elements', 'ns per element and step', records);
 plot_group (out, 'handles', 'cubic springs', 'handles', 'ns per handle and step', records);
 plot_group (out, 'tables', 'random queries', 'knots', 'ns per query', records);
 plot_equations (out, records);

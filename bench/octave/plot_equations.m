@@ -5,11 +5,13 @@ function plot_equations (out, records)
   for k = 1:numel (names)
     h = figure ('visible', 'off');
     shown = {};
+    drawn = [];
+    colours = 0.85 * hsv (numel (programs));
     for p = 1:numel (programs)
       [errors, seconds] = equation_points (records, names{k}, programs{p});
       if isempty (errors), continue; end
       [errors, order] = sort (errors);
-      loglog (errors, 1e3 * seconds(order), marks{mod(p - 1, numel (marks)) + 1}, 'linewidth', 1.5);
+      drawn(end + 1) = loglog (errors, 1e3 * seconds(order), marks{mod(p - 1, numel (marks)) + 1}, 'linewidth', 1.5, 'color', colours(p, :));
       hold on
       shown{end + 1} = programs{p};
     end
@@ -17,7 +19,7 @@ function plot_equations (out, records)
     xlabel ('error');
     ylabel ('ms');
     title (names{k});
-    legend (shown, 'location', 'eastoutside');
+    label_lines (drawn, shown);
     print (h, fullfile (out, [strrep(names{k}, ' ', '_') '.png']), '-dpng', '-S900,500');
     close (h);
   end

@@ -2,7 +2,7 @@
 %
 %   octave-cli --no-history -qf bench/octave/run_bench.m OUT.json MODULE_DIR KERNELS.json [--quick]
 %
-% KERNELS.json is what quarn_bench wrote: the references of the differential equations come from there.
+% KERNELS.json is what quarn_bench wrote: the references of the differential equations and the module's share of a call come from there.
 % Ends with status 1 where programs that are compared computed different numbers.
 args = argv ();
 here = fileparts (mfilename ('fullpath'));
@@ -12,7 +12,7 @@ addpath (fullfile (here, '..', '..', 'tests', 'octave', 'support'));
 quick = numel (args) > 3 && strcmp (args{4}, '--quick');
 reference = jsondecode (fileread (args{3}));
 if ~iscell (reference), reference = num2cell (reference); end
-notes = [newmark_bench(quick), product_bench(quick), projection_bench(quick), call_bench(quick)];
+notes = [newmark_bench(quick), product_bench(quick), projection_bench(quick), call_bench(quick), call_parts(quick, reference)];
 solved = equation_bench (quick, reference);
 out = fopen (args{1}, 'w');
 lines = cellfun (@jsonencode, [num2cell(notes), num2cell(solved)], 'UniformOutput', false);

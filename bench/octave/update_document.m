@@ -1,6 +1,7 @@
 % Puts the tables of a run into a document: octave-cli -qf update_document.m OUT_DIR DOCUMENT.md
 %
-% The document says where: a line <!-- bench: GROUP / VARIANT -->, the table, a line <!-- end -->; "machine" for what machine it was.
+% The document says where: a line <!-- bench: GROUP / VARIANT -->, the table, a line <!-- end -->. A group alone is a table of parts;
+% "machine" says what machine it was.
 args = argv ();
 addpath (fileparts (mfilename ('fullpath')));
 run_of = jsondecode (fileread (fullfile (args{1}, 'results.json')));
@@ -15,6 +16,8 @@ for k = 1:numel (marks)
     body = [run_of.machine, sprintf('\n')];
   elseif strcmp (what{1}, 'equations')
     body = equation_table (records, what{2});
+  elseif numel (what) == 1
+    body = parts_table (records, what{1});
   else
     body = variant_table (records, what{1}, what{2});
   end

@@ -13,16 +13,9 @@ function text = variant_table (records, group, variant)
     text = [text, sprintf('| %d |', s)];
     for p = 1:numel (programs)
       ratio = '';
-      if p ~= ours && ~isempty (ours), ratio = [' (' short(row(ours) / row(p)) ')']; end
-      text = [text, sprintf(' %s%s |', short(row(p)), ratio)];
+      if p ~= ours && ~isempty (ours), ratio = [' (' short_number(row(ours) / row(p)) ')']; end
+      text = [text, sprintf(' %s%s |', short_number (row(p)), ratio)];
     end
     text = [text, sprintf('\n')];
   end
-end
-
-% Three digits, without an exponent.
-function s = short (x)
-  digits = max (0, 2 - floor (log10 (abs (x))));
-  if ~isfinite (digits), digits = 0; end
-  s = sprintf ('%.*f', min (digits, 5), x);
 end

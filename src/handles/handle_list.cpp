@@ -7,6 +7,7 @@
 #include "host/arrays.h"
 #include "host/convert.h"
 #include "host/errors.h"
+#include "host/user_code.h"
 
 namespace quarn {
 
@@ -55,7 +56,10 @@ void gatherElements(chandle** out, const mxArray* list, std::size_t n) {
 void gatherRegistered(chandle** out, const mxArray* list, std::size_t n) {
   auto* keys = static_cast<int*>(mxCalloc(n + 1, sizeof(int)));
   mxArray* place = mxCreateDoubleScalar(-1.0);
-  for (std::size_t i = 0; i < n; ++i) keys[i] = keyOf(list, place, i);
+  {
+    const host::UserCode running;
+    for (std::size_t i = 0; i < n; ++i) keys[i] = keyOf(list, place, i);
+  }
   mxDestroyArray(place);
   for (std::size_t i = 0; i < n; ++i) {
     host::setElement(static_cast<int>(i) + 1);

@@ -8,13 +8,14 @@ namespace {
 int depth = 0;
 }
 
+// One lock for all of them: Octave looks the function up by its name each time.
 UserCode::UserCode() {
-  mexLock();
+  if (depth == 0) mexLock();
   ++depth;
 }
 
 UserCode::~UserCode() {
-  --depth;
+  if (--depth > 0) return;
   try {
     mexUnlock();
   } catch (...) {  // Octave no longer finds the function under its name: it stays locked, which harms nothing

@@ -1,8 +1,10 @@
 #include "sparse/line_checks.h"
 
 #include <algorithm>
+#include <climits>
 
 #include "host/errors.h"
+#include "sparse/largest.h"
 
 namespace quarn {
 
@@ -25,18 +27,15 @@ void checkLinePointers(const SparseView& v, int lines, const char* name) {
 }
 
 int largestIndex(const SparseView& v, int lines, const char* name) {
-  if (lines <= 0) return -1;
-  int largest = -1;
-  int smallest = 0;
-  for (int k = v.jc[0]; k < v.jc[lines]; ++k) {
-    largest = std::max(largest, v.ir[k]);
-    smallest = std::min(smallest, v.ir[k]);
-  }
-  if (smallest < 0) {
-    host::refuse("%s : index %d in \"ir\", expected 0 or more%s", name, smallest,
+  const int first = lines > 0 ? v.jc[0] : 0;
+  const int entries = lines > 0 ? v.jc[lines] - first : 0;
+  if (entries <= 0) return -1;
+  const unsigned largest = largestOf(v.ir + first, entries);
+  if (largest > INT_MAX) {
+    host::refuse("%s : index %d in \"ir\", expected 0 or more%s", name, *std::min_element(v.ir + first, v.ir + first + entries),
                  v.ir[0] == -1 ? " (the matrix was marked as diagonal by a handle)" : "");
   }
-  return largest;
+  return static_cast<int>(largest);
 }
 
 void checkGather(int largest, std::size_t vectorLen, const char* matrixName, const char* vectorName) {

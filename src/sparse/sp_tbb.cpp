@@ -8,8 +8,8 @@
 #include <atomic>
 #include <thread>
 
-#include "host/processor.h"
 #include "sparse/blas.h"
+#include "sparse/largest.h"
 #include "sparse/task_order.h"
 #include "sparse/worker_threads.h"
 
@@ -44,12 +44,7 @@ struct iSparseMatVec {
   }
 };
 
-QUARN_PROCESSOR_VERSIONS
-bool within(const int* ir, int n, unsigned length) {
-  unsigned largest = 0;
-  for (int k = 0; k < n; ++k) largest = std::max(largest, static_cast<unsigned>(ir[k]));
-  return n <= 0 || largest < length;
-}
+bool within(const int* ir, int n, unsigned length) { return n <= 0 || largestOf(ir, n) < length; }
 
 /// The same for indices that nothing has looked at yet: those of some lines at a time, which are in cache for the product then.
 struct TestedSparseMatVec {

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "integration/newmark_fused.h"
+#include "sparse/largest.h"
 #include "sparse/projection_kernels.h"
 #include "unit/random_matrix.h"
 
@@ -63,11 +64,19 @@ void projections(Vector& all, int n) {
   append(all, out);
 }
 
+void indices(Vector& all, int n) {
+  quarn::test::Lines m = quarn::test::randomLines(n, n, 9, 14);
+  for (int count = 0; count <= n; count += 1 + count / 3) all.push_back(quarn::largestOf(m.ir.data(), std::min(count, m.jc[n])));
+  m.ir[static_cast<std::size_t>(m.jc[n]) / 2] = -1;
+  all.push_back(quarn::largestOf(m.ir.data(), m.jc[n]));
+}
+
 }  // namespace
 
 std::vector<double> KERNEL_NUMBERS(int n) {
   Vector all;
   newmark(all, n);
   if (n > 0) projections(all, n);
+  if (n > 0) indices(all, n);
   return all;
 }

@@ -1,6 +1,7 @@
 #include "sparse/worker_threads.h"
 
 #include <oneapi/tbb/global_control.h>
+#include <unistd.h>
 
 #include <mutex>
 #include <system_error>
@@ -10,7 +11,8 @@ namespace quarn {
 
 namespace {
 
-bool started = false;
+/// Process that started the workers; 0 where none did. Its children, which fork makes, have none and cannot get any.
+pid_t owner = 0;
 
 /// Starts as many threads as the scheduler will, which wait for one another, and ends them.
 bool threadsToBeHad() {
@@ -39,14 +41,13 @@ tbb::task_arena& arena() {
 }  // namespace
 
 tbb::task_arena* workers() {
-  if (!started && !threadsToBeHad()) return nullptr;
-  started = true;
-  return &arena();
+  if (owner == 0 && threadsToBeHad()) owner = getpid();
+  return owner == getpid() ? &arena() : nullptr;
 }
 
 void endSparseWorkers() noexcept {
-  if (!started) return;
-  started = false;
+  if (owner != getpid()) return;
+  owner = 0;
   arena().terminate();
   tbb::task_scheduler_handle handle{tbb::attach{}};
   tbb::finalize(handle, std::nothrow);

@@ -71,7 +71,9 @@ void commandResidual(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[])
   constexpr int named = 8;  // arguments that a law's function is given
   const mxArray* callback[named] = {};
   std::copy_n(prhs, std::min(nrhs, named), callback);
-  if (nrhs >= named && mxIsStruct(prhs[2])) callback[2] = host::forUserCode(prhs[2]);
+  for (const int lookedInto : {2, 6}) {
+    if (nrhs >= named && mxIsStruct(prhs[lookedInto])) callback[lookedInto] = host::forUserCode(prhs[lookedInto]);
+  }
   const ROr c = getROr(nrhs, prhs);
   const host::Doubles r = pmatDoubles(prhs[1], "r");
   if (host::isClass(prhs[2], "chandle")) {
@@ -85,14 +87,14 @@ void commandResidual(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[])
   const KorvTerm terms[] = {{-2, c, model.K, r}, {-3, c, model.K, r}, {-1, c, model.K, r}};
   const Energy kinetic(energies ? host::cell(model.K, 0) : nullptr, "the mass matrix", c.v, c.vLen, "v", c.N);
   const Energy strain(energies ? host::cell(model.K, 2) : nullptr, "the stiffness matrix", c.u, c.uLen, "u", c.N);
-  const int checked = model.NL ? checkNlStructures(c, r, model.NL, nrhs, callback) : 0;
+  const int checked = model.NL ? checkNlStructures(c, r, model.NL, std::min(nrhs, named), callback) : 0;
 
   for (const KorvTerm& term : terms) term.add();
   if (energies) {
     plhs[0] = mxCreateDoubleScalar(kinetic.value());
     plhs[1] = mxCreateDoubleScalar(strain.value());
   }
-  if (model.NL) addNlStructures(c, r, model.NL, nrhs, callback, checked);
+  if (model.NL) addNlStructures(c, r, model.NL, std::min(nrhs, named), callback, checked);
 }
 
 }  // namespace quarn

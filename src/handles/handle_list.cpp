@@ -58,7 +58,10 @@ void gatherRegistered(chandle** out, const mxArray* list, std::size_t n) {
   mxArray* place = mxCreateDoubleScalar(-1.0);
   {
     const host::UserCode running;
-    for (std::size_t i = 0; i < n; ++i) keys[i] = keyOf(list, place, i);
+    for (std::size_t i = 0; i < n; ++i) {
+      host::setElement(static_cast<int>(i) + 1);
+      keys[i] = keyOf(list, place, i);
+    }
   }
   mxDestroyArray(place);
   for (std::size_t i = 0; i < n; ++i) {

@@ -18,7 +18,8 @@ UserCode::~UserCode() {
   if (--depth > 0) return;
   try {
     mexUnlock();
-  } catch (...) {  // Octave no longer finds the function under its name: it stays locked, which harms nothing
+  } catch (
+      ...) {  // the user's function took its folder from the path: Octave no longer finds it, and unloads it when the command has ended
   }
 }
 

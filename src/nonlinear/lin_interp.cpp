@@ -43,12 +43,8 @@ int resolveJump(const double* X, int nx, int s, double xq) {
 }
 
 /// f between column[0] and column[1] of each of ny value columns, n values apart.
-void values(const double* column, int nx, int ny, double f, double* out, std::ptrdiff_t n) {
-  for (int k = 0; k < ny; ++k) {
-    *out = f * column[1] + (1.0 - f) * column[0];
-    column += nx;
-    out += n;
-  }
+void values(const double* column, std::ptrdiff_t nx, int ny, double f, double* out, std::ptrdiff_t n) {
+  for (int k = 0; k < ny; ++k) out[k * n] = f * column[k * nx + 1] + (1.0 - f) * column[k * nx];
 }
 
 }  // namespace

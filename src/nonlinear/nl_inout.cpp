@@ -91,7 +91,7 @@ void chandleNl_inout::Residual(ROr ro, double* r) {
   if (!snl || !b.pr) return;
   if (bSparse && b.cols <= ro.sums) {
     if (bPicks) {
-      spread(b.rows, b.ir, b.jc, b.pr, snl, r);
+      spread(b.rows, b.ir, b.jc, b.pr, snl, r, bWork);
     } else {
       addScatteredTouched(b.rows, b.ir, b.jc, b.pr, snl, r, bWork);
     }
@@ -123,7 +123,7 @@ void chandleNl_inout::takeWork() {
   bWork = scatters ? static_cast<double*>(mxCalloc(static_cast<std::size_t>(std::max(b.cols, 1)), sizeof(double))) : nullptr;
   bSparse = scatters && b.rows > 0 && 8LL * (b.jc[b.rows] - b.jc[0]) <= b.cols;
   bPicks = bSparse && picksOnly(b.rows, b.jc) && distinct(b.jc[b.rows] - b.jc[0], b.ir + b.jc[0], bWork);
-  cPicks = c.pr && c.sparse() && c.trans == 1 && unlLen > 0 && c.rows == unlLen && picksOnly(c.rows, c.jc) &&
+  cPicks = pagesApart && c.pr && c.sparse() && c.trans == 1 && unlLen > 0 && c.rows == unlLen && picksOnly(c.rows, c.jc) &&
            !host::overlap(c.pr, c.prLen, unl, unlTotal) && !host::overlap(c.pr, c.prLen, vnl, vnlTotal);
 }
 

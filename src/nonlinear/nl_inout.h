@@ -67,6 +67,7 @@ class chandleNl_inout final : public chandle {
   int bLargest = -1;
   double* bWork = nullptr;  ///< work vector of the scatter, host memory of the current call; zero between the steps if bSparse
   bool bSparse = false;     ///< b touches few of its columns
+  bool pagesApart = false;  ///< unl and vnl lie apart from the state that they are observed from
   bool bPicks = false;      ///< and each of its lines at most one, another one
   bool cPicks = false;      ///< each line of c picks at most one value
 };

@@ -22,7 +22,13 @@ void chandleNl_inout::checkViews(const ROr& ro, std::size_t rLen) {
   if (vnl && unlLen > 0) checkLength(vnlTotal, unlLen, "vnl", "as many as a page of unl");
   if (c.pr && (vnl || unl)) checkObservation(ro);
   if (b.pr && snl) checkCommand(rLen);
-  verified = true;
+  // What had no buffer to work on was not looked at: an object may show its buffer later.
+  verified = (!c.pr || vnl || unl) && (!b.pr || snl);
+  pagesApart = true;
+  for (const double* page : {unl, vnl}) {
+    const auto length = static_cast<std::size_t>(std::max(unlLen, 0));
+    if (host::overlap(page, length, ro.u, ro.uLen) || host::overlap(page, length, ro.v, ro.vLen)) pagesApart = false;
+  }
 }
 
 void chandleNl_inout::checkObservation(const ROr& ro) {

@@ -49,10 +49,14 @@ inline void pick(int lines, const int* ir, const int* jc, const double* pr, cons
 
 /// addScatteredTouched for such lines with distinct indices. As in a sparse axpy, a force of zero adds nothing, whatever it is multiplied
 /// with.
-inline void spread(int lines, const int* ir, const int* jc, const double* pr, const double* u, double* y) {
+inline void spread(int lines, const int* ir, const int* jc, const double* pr, const double* u, double* y, double* work) {
   for (int i = 0; i < lines; ++i) {
     const int k = jc[i];
-    if (jc[i + 1] > k && u[i] != 0.0) y[ir[k]] += u[i] * pr[k];
+    if (jc[i + 1] > k) work[ir[k]] = u[i] != 0.0 ? u[i] * pr[k] : 0.0;
+  }
+  for (int k = jc[0]; k < jc[lines]; ++k) {
+    y[ir[k]] += work[ir[k]];
+    work[ir[k]] = 0.0;
   }
 }
 

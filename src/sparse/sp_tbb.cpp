@@ -65,12 +65,18 @@ struct TestedSparseMatVec {
     }
   }
 
+  /// The first of all bad lines stays, whatever the order that threads find them in.
+  void noteBad(int line) const {
+    int known = badLine->load();
+    while ((known < 0 || line < known) && !badLine->compare_exchange_weak(known, line)) continue;
+  }
+
   void eachLine(int first, int end) const {
     for (int i = first; i < end; ++i) {
       if (within(product.ir + product.jc[i], product.jc[i + 1] - product.jc[i], xLen)) {
         product(Lines(i, i + 1));
       } else {
-        badLine->store(i, std::memory_order_relaxed);
+        noteBad(i);
       }
     }
   }

@@ -4,13 +4,13 @@
 namespace quarn {
 
 /// y[i] += sum of val[k] * x[ir[k]], k = jc[i] ... jc[i+1]-1, for the lines i = 0 ... n-1: one cblas_ddoti a line, lines in
-/// parallel on 8 threads whatever the core count, on the calling thread where fewer would be slower or 8 are not to be had. y (in-out) must
+/// parallel on 8 threads whatever the core count, on the calling thread where that is sooner done or 8 are not to be had. y (in-out) must
 /// not overlap x. A null val is an absent matrix: nothing happens. The same bits as the serial loop. Trusts its arguments.
 void SparseMatVec(double* y, const double* x, const double* val, const int* ir, const int* jc, int n);
 
-/// The same on a matrix that has not been looked at: each line's indices are tested against xLen where they are read. A line with
-/// an index outside adds nothing; the number of one such line (0-based) is returned, -1 if there was none. The line pointers
-/// must have been checked.
+/// The same on a matrix that has not been looked at: the indices of some lines at a time are tested against xLen before the lines are
+/// summed. A line with an index outside adds nothing; the number of the first such line (0-based) is returned, -1 if there was none. The
+/// line pointers must have been checked.
 int SparseMatVecTested(double* y, const double* x, const double* val, const int* ir, const int* jc, int n, unsigned xLen);
 
 /// Entries from which a product of more than 1,000 lines is sooner done by eight threads than by one, on this machine (30,000 to 480,000).

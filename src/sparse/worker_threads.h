@@ -8,10 +8,9 @@ namespace quarn {
 /// Threads that share a product, the calling one included, whatever the number of processors.
 constexpr int workerThreads = 8;
 
-/// The place where products run, one for all of them: each that is made and destroyed leaves 18 KB behind until the scheduler ends, and the
-/// end of one that was used by many can wait for ever.
-/// Null where the system does not let this process have the threads (a limit of a batch system, say): the scheduler would end the host
-/// then.
+/// The place where products run, one for all of them: where each product makes and destroys one of its own, 18 KB stay behind every time,
+/// and the scheduler's end can wait for ever. Null where the system does not let this process have the threads (a limit of a batch system,
+/// say): the scheduler would end the host then.
 tbb::task_arena* workers();
 
 /// Ends the worker threads, if any were started. For the module's exit: unloading the module while they live crashes the host.

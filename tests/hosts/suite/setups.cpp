@@ -66,4 +66,14 @@ mxArray* withField(const mxArray* a, const char* name, mxArray* value) {
   return structure(fields);
 }
 
+mxArray* manyEntries() {
+  constexpr int entries = 200;
+  std::vector<int> ir, jc{0};
+  for (int i = 0; i < manyLines; ++i) {
+    for (int k = 0; k < entries; ++k) ir.push_back((i + k) % manyLines);
+    jc.push_back((i + 1) * entries);
+  }
+  return structure({{"pr", column(Values(ir.size(), 1.0))}, {"ir", int32s(ir)}, {"jc", int32s(jc)}});
+}
+
 }  // namespace build

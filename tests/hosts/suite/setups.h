@@ -23,6 +23,9 @@ NewmarkRun newmarkRun(mwSize modes = 2, mwSize steps = 20, double dt = 0.05);
 mxArray* element(const char* law, mwSize n, const Values& parameters, const Fields& more = {});
 /// A diagonal matrix as a list element of the given type.
 mxArray* listMatrix(int type, const Values& diagonal);
+/// A square matrix of ones, 200 in each of manyLines lines: as many entries as are shared among worker threads on any machine.
+constexpr int manyLines = 2500;
+mxArray* manyEntries();
 /// fields of a, shared, with one more.
 mxArray* withField(const mxArray* a, const char* name, mxArray* value);
 

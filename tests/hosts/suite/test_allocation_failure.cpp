@@ -184,6 +184,22 @@ TEST_P(AllocationFailure, OtherExceptionsOfTheStandardLibraryEndTheCallWithTheir
   EXPECT_EQ(values(run("chandleget")), (Values{0}));
 }
 
+TEST_P(AllocationFailure, OfTheWorkerThreads) {
+  mxArray* A = manyEntries();
+  mxArray* x = column(Values(manyLines, 0.5));
+  mxArray* y = zeros(manyLines);
+  double sum = 0.0;
+  for (long k = 1, calls = k; calls >= k; ++k) {
+    failNew(k);
+    run("tbbp", {A, x, y}, 0);  // threads that cannot be made are done without
+    calls = newCalls();
+    failNew(0);
+    sum += 100.0;
+    ASSERT_EQ(mxGetPr(y)[0], sum);
+    module.clear();
+  }
+}
+
 TEST_P(AllocationFailure, OfThePresenceCall) {
   run("ismex");
   standin::failAllocation(1);

@@ -1,5 +1,6 @@
 // Loading, calling and unloading the module, again and again.
 #include "fixture.h"
+#include "setups.h"
 
 namespace {
 
@@ -7,26 +8,13 @@ using namespace build;
 
 ON_MATLAB(Reload);
 
-constexpr int lines = 2500;
-
-/// Ones, of as many entries as are shared among worker threads on any machine.
-mxArray* manyEntries() {
-  constexpr int entries = 200;
-  std::vector<int> ir, jc{0};
-  for (int i = 0; i < lines; ++i) {
-    for (int k = 0; k < entries; ++k) ir.push_back((i + k) % lines);
-    jc.push_back((i + 1) * entries);
-  }
-  return structure({{"pr", column(Values(ir.size(), 1.0))}, {"ir", int32s(ir)}, {"jc", int32s(jc)}});
-}
-
 TEST_P(Reload, SurvivesThreeHundredRoundsWithParallelProducts) {
   mxArray* A = manyEntries();
-  mxArray* x = column(Values(lines, 0.5));
-  mxArray* y = zeros(lines);
+  mxArray* x = column(Values(manyLines, 0.5));
+  mxArray* y = zeros(manyLines);
   for (int round = 1; round <= 300; ++round) {
     ASSERT_EQ(run("tbbp", {A, x, y}, 0), nullptr);
-    ASSERT_EQ(mxGetPr(y)[lines - 1], 100.0 * round);
+    ASSERT_EQ(mxGetPr(y)[manyLines - 1], 100.0 * round);
     module.clear();
     ASSERT_FALSE(module.loaded());
   }
@@ -46,10 +34,10 @@ TEST_P(Reload, SurvivesEveryKindOfLastCall) {
         expectError("", "quarn : Unknown command", "nothing");
         break;
       case 3:
-        expectRefusal("must hold", "tbbp", {A, zeros(lines), zeros(3)});
+        expectRefusal("must hold", "tbbp", {A, zeros(manyLines), zeros(3)});
         break;
       default:
-        run("tbbp", {A, zeros(lines), zeros(lines)}, 0);
+        run("tbbp", {A, zeros(manyLines), zeros(manyLines)}, 0);
     }
     module.clear();
   }

@@ -85,6 +85,18 @@ function test_the_integrator_takes_elements_with_buffers ()
   expect_equal (speed, plain.list{4}.vnl);
 end
 
+function test_indices_are_looked_at_once_a_buffer_has_come ()
+  e = square_law (buffer_behind_handle (uint64 (0)), [], zeros (2, 1));
+  unlucky = e.unl;
+  e.c.ir(2) = int32 (900000000);
+  h = registered ({e});
+  u = [3; 4] * 1;
+  quarn ('residual', zeros (2, 1), h, u, u, u);
+  buffer = zeros (2, 1);
+  unlucky.c = address_of (buffer);
+  expect_refused (@() quarn ('residual', zeros (2, 1), h, u, u, u), 'quarn residual : element 1 : c : index 900000000 in "ir" reaches past u of 2 values');
+end
+
 function h = holder (buffer)
   h = buffer_holder (address_of (buffer));
 end

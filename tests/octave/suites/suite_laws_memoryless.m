@@ -177,3 +177,9 @@ function test_tables_that_do_not_lie_in_the_parameters_are_refused ()
   expect_refused (@() observed ('Table', [2 1 0 10 20 30 0 0 0], 1, [-1 0 0 0 0 1 7 3 1]), '~^quarn residual : .*ascend');
   expect_refused (@() tabulated ([x 5 5 5], [0 0 0], 3, 2, [1; 2], zeros (2, 1)), '~^quarn residual : .*snl');
 end
+
+function test_a_repetition_that_finds_another_segment_counts ()
+  % The first pass comes to the query 1 from below, where 0 times infinity is not a number; the second from above.
+  e = tabulated ([0; 1; 2; Inf; 20; 30], [0; 0; 0], 3, 1, [1; 2]);
+  expect_equal (e.snl, [20; 30]);
+end

@@ -86,3 +86,38 @@ function test_a_force_of_zero_adds_nothing_to_an_infinite_command ()
   expect_equal (e.snl(1), 0);
   expect_equal (all (isfinite (u)), true);
 end
+
+% Arrays that share memory: slices of vectors do, in Octave.
+function expect_same_with_shared (share)
+  n = 64;
+  for wide = [false true]
+    e = struct ('type', 1003, 'c', lines_of ([2; 3], [1; 1], n, wide), 'opt', [law_code('Power'); 1; 1]);
+    w = linspace (5, 90, n)';
+    [in, mem, out] = newmark_setup (ones (n, 1), 0.02 * w, w .^ 2, cos (1:n)', sin (0:3), 1e-2, 0.25, 0.5, 3);
+    u = (1:n)' * 1.5;
+    v = zeros (n, 1) + 0.25;
+    a = zeros (n, 1);
+    if strcmp (share, 'unl')
+      e.b = lines_of ([5; 6], [1; 1], n, wide);
+      e.snl = zeros (2, 1);
+      e.unl = u(2:3);
+    else
+      e.b = lines_of ([6; 5], [1; 1], n, wide);
+      e.unl = ones (2, 1) * 7;
+      work = mem.uva.uva;
+      e.snl = work(3 * n + 5:3 * n + 6);
+      clear work
+    end
+    quarn ('chandlediagnewmark', {in, e}, struct ('K', []), u, v, a, [0 0], mem, out);
+    got{1 + wide} = [u v a];
+  end
+  expect_equal (got{1}, got{2});
+end
+
+function test_observed_values_in_the_memory_of_the_state ()
+  expect_same_with_shared ('unl');
+end
+
+function test_forces_in_the_memory_of_the_residual ()
+  expect_same_with_shared ('snl');
+end

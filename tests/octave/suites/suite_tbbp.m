@@ -91,7 +91,7 @@ end
 function test_a_large_product_of_whole_numbers_is_exact ()
   rand ('twister', 42);
   n = 20000;
-  a = sparse (ceil (n * rand (9 * n, 1)), ceil (n * rand (9 * n, 1)), ceil (100 * rand (9 * n, 1)), n, n);
+  a = sparse (ceil (n * rand (30 * n, 1)), ceil (n * rand (30 * n, 1)), ceil (100 * rand (30 * n, 1)), n, n);
   x = ceil (100 * rand (n, 1));
   y = ceil (100 * rand (n, 1));
   wanted = y + a.' * x;
@@ -197,4 +197,10 @@ end
 
 function h = head_of (m, n)
   h = struct ('ir', m.ir, 'jc', m.jc(1:n + 1), 'pr', m.pr, 'dims', [m.dims(1) n], 'trans', 0);
+end
+
+function test_of_several_bad_lines_the_first_is_named ()
+  [s, n] = long_lines ();
+  for k = [n - 3, 2 * n, 100, 25 * n], s.ir(k) = int32 (n); end
+  expect_refused (@() quarn ('tbbp', s, ones (n, 1), zeros (n, 1)), 'quarn tbbp : A : an index of column 4 lies outside x of 20000 values');
 end

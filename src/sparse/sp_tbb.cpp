@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <thread>
 
 #include "sparse/blas.h"
 #include "sparse/largest.h"
@@ -96,7 +95,7 @@ void runTasks(const Lines& all, const Body& body) {
 template <class Body>
 void forLines(int n, int entries, const Body& body) {
   const Lines all(0, n, grain);
-  tbb::task_arena* arena = all.is_divisible() && entries >= parallelEntries() ? workers() : nullptr;
+  tbb::task_arena* arena = all.is_divisible() && entries >= parallelEntries ? workers() : nullptr;
   if (!arena) {
     body(all);
     return;
@@ -106,13 +105,6 @@ void forLines(int n, int entries, const Body& body) {
 }
 
 }  // namespace
-
-int parallelEntries() {
-  // Waking the workers takes some 10 microseconds. Where eight threads share fewer processors, they wait for one another besides: the gain
-  // is smaller and the wait longer by that share.
-  static const int share = workerThreads / std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 2, workerThreads);
-  return 30000 * share * share;
-}
 
 void SparseMatVec(double* y, const double* x, const double* val, const int* ir, const int* jc, int n) {
   if (!val || n <= 0) return;

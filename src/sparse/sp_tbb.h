@@ -13,8 +13,8 @@ void SparseMatVec(double* y, const double* x, const double* val, const int* ir, 
 /// line pointers must have been checked.
 int SparseMatVecTested(double* y, const double* x, const double* val, const int* ir, const int* jc, int n, unsigned xLen);
 
-/// Entries from which a product of more than 1,000 lines goes to the workers. Where they are still awake from the last product they pay from a third
-/// of that; where they have to be woken, which takes some 50 microseconds, from twice that.
+/// Entries from which a product of more than 1,000 lines goes to the workers. Where they are still awake from the last product they pay
+/// from a third of that; where they have to be woken, which takes some 50 microseconds, from twice that.
 constexpr int parallelEntries = 100000;
 
 }  // namespace quarn

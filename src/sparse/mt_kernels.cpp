@@ -10,6 +10,14 @@ namespace quarn {
 
 namespace {
 
+/// cblas_ddoti of line i. Lines of one entry, which pick a degree of freedom, are not worth the call: its sum starts from 0 as well.
+double lineDot(const int* ir, const int* jc, const double* pr, int i, const double* x) {
+  const int first = jc[i];
+  const int entries = jc[i + 1] - first;
+  if (entries == 1) return 0.0 + pr[first] * x[ir[first]];
+  return cblas_ddoti(entries, pr + first, ir + first, x);
+}
+
 /// cblas_daxpyi of line i into w. A first product is rounded once, whether or not the routine fuses it with the sum.
 void addLine(const int* ir, const int* jc, const double* pr, int i, double u, double* w) {
   const int first = jc[i];

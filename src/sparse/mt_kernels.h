@@ -4,18 +4,9 @@
 // takes sparse views in both orientations, Prod only those flagged trans = 1, whose stored lines are the rows of M.
 #pragma once
 
-#include "sparse/blas.h"
 #include "sparse/sparse_view.h"
 
 namespace quarn {
-
-/// cblas_ddoti of line i. Lines of one entry, which pick a degree of freedom, are not worth the call: its sum starts from 0 as well.
-inline double lineDot(const int* ir, const int* jc, const double* pr, int i, const double* x) {
-  const int first = jc[i];
-  const int entries = jc[i + 1] - first;
-  if (entries == 1) return 0.0 + pr[first] * x[ir[first]];
-  return cblas_ddoti(entries, pr + first, ir + first, x);
-}
 
 /// Accumulates into y (in-out).
 ///   sparse, trans != 1: y[i] += line i . u                       for i < rows

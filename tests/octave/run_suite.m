@@ -1,6 +1,6 @@
 % Runs one suite: octave-cli --no-history -qf run_suite.m SUITE MODULE_DIR [PATTERN]
 %
-% A suite is a function file suites/SUITE.m that returns localfunctions(); its local functions named test_... are the tests, each
+% A suite is a function file suites/FOLDER/SUITE.m that returns localfunctions(); its local functions named test_... are the tests, each
 % named after the behaviour that it shows. A test fails by raising an error.
 args = argv ();
 suite = args{1};
@@ -12,7 +12,7 @@ compiled = fullfile (module, '..', 'tests', 'octave');
 if exist (compiled, 'dir'), addpath (compiled); end
 addpath (fullfile (here, 'support'));
 addpath (fullfile (here, 'models'));
-addpath (fullfile (here, 'suites'));
+addpath (genpath (fullfile (here, 'suites')));
 pattern = '';
 if numel (args) > 2, pattern = args{3}; end
 warning ('off', 'Octave:classdef-to-struct');

@@ -5,7 +5,7 @@ function tests = suite_toolbox_frame ()
 end
 
 function folder = demo_folder ()
-  folder = fullfile (fileparts (fileparts (fileparts (fileparts (mfilename ('fullpath'))))), 'demo');
+  folder = fullfile (project_folder (), 'demo');
 end
 
 % The script of the toolbox beside the raw calls of the demo: the same run, in 25 lines.

@@ -4,15 +4,14 @@ function tests = suite_demo_after_errors ()
 end
 
 function test_every_suite_with_malformed_calls_then_the_demo ()
-  here = fileparts (which ('suite_demo_after_errors'));
-  [suites, count] = run_suites (here);
+  [suites, count] = run_suites (fullfile (project_folder (), 'tests', 'octave', 'suites'));
   fprintf ('        %d tests of %d suites\n', count, suites);
   if suites < 30 || count < 400, error ('too few: %d suites, %d tests', suites, count); end
   folders = {tempname(), tempname()};
   for k = 1:2, mkdir (folders{k}); end
   away = onCleanup (@() cellfun (@(f) system (['rm -r ' f]), folders));
   module = fileparts (which ('quarn'));
-  demo = fullfile (here, '..', '..', '..', 'demo', 'run_demo.m');
+  demo = fullfile (project_folder (), 'demo', 'run_demo.m');
 
   [status, text] = octave_says (demo_code (demo, folders{1}, module));
   if status ~= 0, error ('in a fresh process: %s', text); end
@@ -31,10 +30,10 @@ end
 function [suites, count] = run_suites (folder)
   suites = 0;
   count = 0;
-  for file = dir (fullfile (folder, 'suite_*.m')).'
-    name = file.name(1:end - 2);
-    others = ~isempty (regexp (name, 'toolbox|install|document|leaving|demo_after_errors', 'once'));
-    malformed = ~isempty (regexp (fileread (fullfile (folder, file.name)), 'expect_error|expect_refused|own_answer|refused_cleanly', 'once'));
+  for file = glob (fullfile (folder, '*', 'suite_*.m')).'
+    [within, name] = fileparts (file{1});
+    others = ~isempty (regexp (file{1}, '/toolbox/|install|document|leaving|demo_after_errors', 'once'));
+    malformed = ~isempty (regexp (fileread (file{1}), 'expect_error|expect_refused|own_answer|refused_cleanly', 'once'));
     if others || ~malformed, continue; end
     suites = suites + 1;
     for key = quarn ('chandleget').', quarn ('chandleclear', key); end

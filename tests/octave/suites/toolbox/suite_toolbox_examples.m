@@ -5,12 +5,8 @@ function tests = suite_toolbox_examples ()
   tests = localfunctions ();
 end
 
-function folder = root ()
-  folder = fileparts (fileparts (fileparts (fileparts (mfilename ('fullpath')))));
-end
-
 function folder = examples ()
-  folder = fullfile (root (), 'toolbox', 'examples');
+  folder = fullfile (project_folder (), 'toolbox', 'examples');
 end
 
 function names = all_examples ()
@@ -137,7 +133,7 @@ function test_a_wrong_value_fails_its_check ()
 end
 
 function test_every_example_says_what_it_is_and_stands_in_the_gallery ()
-  gallery = fileread (fullfile (root (), 'docs', 'gallery.md'));
+  gallery = fileread (fullfile (project_folder (), 'docs', 'gallery.md'));
   names = all_examples ();
   for k = 1:numel (names)
     text = fileread (fullfile (examples (), [names{k} '.m']));
@@ -147,7 +143,7 @@ function test_every_example_says_what_it_is_and_stands_in_the_gallery ()
     story = regexp (text, '\n% Story\n(.*?)\n%\n', 'tokens', 'once');
     story = regexprep (story{1}, '(^|\n)%   ', '$1');
     if isempty (strfind (gallery, story)), error ('%s: its story is not in the gallery; make it anew', names{k}); end
-    picture = dir (fullfile (root (), 'docs', 'images', [names{k} '.png']));
+    picture = dir (fullfile (project_folder (), 'docs', 'images', [names{k} '.png']));
     if isempty (picture) || picture.bytes > 120e3, error ('%s: no picture in the gallery, or one above 120 kB', names{k}); end
     if isempty (strfind (gallery, ['(images/' names{k} '.png)'])), error ('%s: its picture is not shown', names{k}); end
   end

@@ -1,6 +1,6 @@
 % The checks of the documents find what is wrong: each test breaks one thing in a small tree that has nothing wrong with it.
 function tests = suite_document_checks ()
-  addpath (fullfile (fileparts (mfilename ('fullpath')), '..', 'support', 'documents'));
+  addpath (fullfile (project_folder (), 'tests', 'octave', 'support', 'documents'));
   tests = localfunctions ();
 end
 

@@ -35,7 +35,7 @@
 %   recipes        qn.gap, qn.stop, qn.bilinear, qn.cubic, qn.slider, qn.iwan, qn.zener, qn.maxwell, qn.bearing
 %   simulation     qn.scheme, qn.simulation, qn.check, qn.advise, qn.run, qn.resume
 %   sweeps         qn.sweep, qn.grid
-%   results        qn.displacement, qn.velocity, qn.energies, qn.dissipated, qn.contacts, qn.spectrum, qn.srs
+%   results        qn.displacement, qn.velocity, qn.acceleration, qn.energies, qn.dissipated, qn.contacts, qn.spectrum, qn.srs
 %   pictures       qn.plot.page, qn.plot.panel, qn.plot.picture, qn.plot.series, qn.plot.phase, qn.plot.loop, qn.plot.orbit,
 %                  qn.plot.waterfall
 %   without time   qn.static, qn.harmonic, qn.backbone

@@ -17,6 +17,8 @@
 %     'load'      {SHAPE, SIGNAL; ...}: SHAPE is the modal force of a unit load (m values; see qn.command, qn.base), SIGNAL is a
 %                 function of a row of times, or a 2 x k table [times; values], linear in between and zero outside, or one value for
 %                 every time point [N, or m/s^2 for base motion]
+%     'base'      {PUSH, SIGNAL; ...}: motion of the base, PUSH as for qn.base, SIGNAL its acceleration [m/s^2]. The same as a load of
+%                 qn.base (MODEL, PUSH); displacements are relative to the base, and qn.acceleration knows what to add.
 %     'elements'  {LAW, C; ...} or {LAW, C, B; ...}: LAW from qn.law or a recipe, C observation rows (qn.observe) or numbers of
 %                 degrees of freedom as for qn.displacement, B rows through which the force acts (C). A bank of laws sits behind one C.
 %     'every'     results are kept at every k-th step (1), or
@@ -43,7 +45,8 @@ function sim = simulation (model, varargin)
   who = 'qn.simulation';
   if nargin < 1, model = []; end
   qn.impl.made_by (who, model, 'qn.modal');
-  o = struct ('step', '<required>', 'until', [], 'steps', [], 'scheme', 'average', 'load', {{}}, 'elements', {{}}, 'every', 1, ...
+  o = struct ('step', '<required>', 'until', [], 'steps', [], 'scheme', 'average', 'load', {{}}, 'base', {{}}, ...
+              'elements', {{}}, 'every', 1, ...
               'times', [], 'u0', [], 'v0', [], 'q0', [], 'dq0', [], 'a0', 'consistent', 'start', []);
   o = qn.impl.options (who, o, varargin);
   qn.impl.scalar (who, 'step', o.step, realmin ());
@@ -72,7 +75,8 @@ function sim = simulation (model, varargin)
   else
     sim.saved = unique (min (max (round (o.times(:).' / o.step) - first, 0), o.steps)) + 1;
   end
-  [sim.shapes, sim.loads, sim.notes] = qn.impl.loads (model, o.load, sim.time);
+  [loads, sim.base] = qn.impl.base_loads (model, o.load, o.base);
+  [sim.shapes, sim.loads, sim.notes] = qn.impl.loads (model, loads, sim.time);
   [sim.elements, sim.states, sim.slots] = qn.impl.elements (model, o.elements);
   sim.start = qn.impl.initial (sim, o);
   % What it was made of, for runs with another step.

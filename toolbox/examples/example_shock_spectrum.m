@@ -9,9 +9,9 @@
 %   Closed form of the undamped response during and after the pulse (Jacobsen and Ayre, Engineering Vibrations, 1958).
 %
 % Checked
-%   The maximax spectra of the run and of qn.srs to 0.5 %: both look for the highest of the values at the time steps; of
-%   a sine with 31 steps a period, at 800 Hz, the highest value seen may lie (pi/31)^2/2 = 0.5 % below its peak. The greatest
-%   amplification, 1.77, to 0.2 %.
+%   The maximax spectrum of the run to 0.5 %: it looks for the highest of the values at the time steps; of a sine with 31 steps a
+%   period, at 800 Hz, the highest value seen may lie (pi/31)^2/2 = 0.5 % below its peak. That of qn.srs, which looks between them,
+%   to 0.05 %. The greatest amplification, 1.77, to 0.2 %.
 %
 % Calls
 %   R = example_shock_spectrum ()
@@ -47,7 +47,7 @@ function r = example_shock_spectrum (folder, short)
   below = hertz < 150;
   most = [max(felt(below)), max(exact(below))] / peak;
   checks = {'spectrum of the run', felt ./ exact, ones(1, count), 5e-3; ...
-            'spectrum of qn.srs', filtered ./ exact, ones(1, count), 5e-3; ...
+            'spectrum of qn.srs', filtered ./ exact, ones(1, count), 5e-4; ...
             'greatest amplification', most(1), most(2), 2e-3};
 
   fig = qn.plot.page (1000, 430);

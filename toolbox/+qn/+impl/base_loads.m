@@ -1,0 +1,20 @@
+% [LIST, BASE] = BASE_LOADS (MODEL, LIST, MOTION)  loads with those of the moving base behind them
+%
+% MOTION is {PUSH, SIGNAL; ...}. BASE is [] without one, else a struct: push (n x b) and loads (their numbers among the loads).
+function [list, base] = base_loads (model, list, motion)
+  who = 'qn.simulation';
+  base = [];
+  if isempty (motion), return, end
+  if ~iscell (motion) || size (motion, 2) ~= 2
+    error ('qn:input', '%s: "base" is a cell {push, signal; ...} with two columns, got %s of class %s', who, mat2str (size (motion)), ...
+           class (motion));
+  end
+  base = struct ('push', zeros (size (model.shapes, 1), size (motion, 1)), 'loads', size (list, 1) + (1:size (motion, 1)));
+  for k = 1:size (motion, 1)
+    shape = qn.base (model, motion{k, 1});
+    base.push(:, k) = motion{k, 1}(:);
+    motion{k, 1} = shape;
+  end
+  if isempty (list), list = motion; end
+  if base.loads(1) > 1 && iscell (list) && size (list, 2) == 2, list = [list; motion]; end
+end

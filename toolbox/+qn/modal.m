@@ -18,6 +18,11 @@
 %     'C'         damping matrix [N s/m], n x n; projected onto the modes. Where that leaves more than rounding beside the
 %                 diagonal, the full modal matrix is kept.
 %     'method'    'auto', 'eig' (dense) or 'eigs' (sparse, for many degrees of freedom)
+%     'attach'    where stiff elements or point loads will act: numbers of degrees of freedom, or load shapes, n values a column or a
+%                 row. The static responses to unit forces there that the modes do not hold are added as further, orthogonal
+%                 shapes behind the modes, so that the flexibility at those places is exact (Rubin 1975; docs/theory.md). On a
+%                 structure that is free to move they are responses with inertia relief; its rigid motions must be among the
+%                 modes. With one damping ratio a mode they take the last one.
 %   The dampings add up.
 %
 % Output
@@ -27,10 +32,13 @@
 %                  stiffness  m x 1, w.^2 [1/s^2]
 %                  damping    m x 1, 2*zeta*w [1/s], or m x m
 %                  M          the mass matrix, for base motion and initial states [kg]
+%                  K          the stiffness matrix, with which qn.check finds what flexibility the modes leave out [N/m]
+%                  attached   number of shapes that are no modes: the last ones, from 'attach'
+%                  m counts them too.
 %
 % Errors
 %   qn:input  sizes do not fit, K or M is not symmetric (to 1e-6 of its greatest entry), the mass is not positive
-%             definite, a damping is negative or no number
+%             definite, a damping is negative or no number; the places of 'attach' are none, or a static response does not exist
 %
 % Example
 %   k = 1e6 * [2 -1; -1 1];
@@ -57,7 +65,8 @@ function model = modal (varargin)
   end
   symmetric (who, 'K', k);
   symmetric (who, 'M', m);
-  o = qn.impl.options (who, struct ('modes', min (n, 200), 'damping', 0, 'rayleigh', [0 0], 'C', [], 'method', 'auto'), args(3:end));
+  o = qn.impl.options (who, struct ('modes', min (n, 200), 'damping', 0, 'rayleigh', [0 0], 'C', [], 'method', 'auto', 'attach', []), ...
+                      args(3:end));
   qn.impl.count (who, 'modes', o.modes);
   count = min (o.modes, n);
   if strcmp (o.method, 'auto')
@@ -72,6 +81,9 @@ function model = modal (varargin)
     error ('qn:input', '%s: one damping ratio or %d, none below 0, expected, got %s', who, count, mat2str (o.damping));
   end
   if numel (o.rayleigh) ~= 2, error ('qn:input', '%s: "rayleigh" takes [alpha beta], got %d values', who, numel (o.rayleigh)); end
+  attached = 0;
+  if ~isempty (o.attach), [phi, w, attached] = qn.impl.attach (k, m, phi, w, o.attach); end
+  if numel (o.damping) > 1, o.damping = [o.damping(:); repmat(o.damping(end), attached, 1)]; end
   damping = 2 * o.damping(:) .* w + o.rayleigh(1) + o.rayleigh(2) * w .^ 2;
   if ~isempty (o.C)
     c = qn.project (phi, o.C);
@@ -82,7 +94,8 @@ function model = modal (varargin)
       damping = damping + diag (c);
     end
   end
-  model = struct ('shapes', phi, 'w', w, 'hertz', w / (2 * pi), 'stiffness', w .^ 2, 'damping', damping, 'M', m);
+  model = struct ('shapes', phi, 'w', w, 'hertz', w / (2 * pi), 'stiffness', w .^ 2, 'damping', damping, 'M', m, ...
+                  'K', k, 'attached', attached);
 end
 
 function symmetric (who, name, x)

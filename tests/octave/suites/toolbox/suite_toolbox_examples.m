@@ -46,6 +46,14 @@ function test_pipe_in_its_guides ()
   expect_equal (r.numbers.sag(3) / r.numbers.sag(1) < 10, true);
 end
 
+function test_contact_force_with_an_attached_shape ()
+  r = run_example ('contact_modes');
+  % Eight modes alone are about as good as three and the shape.
+  expect_equal (r.numbers.counts(2), 8);
+  expect_equal (r.numbers.alone(2), 1, 0.02);
+  expect_equal (r.numbers.attached(1), 1, 0.015);
+end
+
 function test_rotor_rubs_in_its_ring ()
   r = run_example ('rotor_rub');
   % Free rotor past its critical speed: e s^2 / |1 - s^2 + 2 i zeta s|, s = 58/50.

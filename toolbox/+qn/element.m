@@ -58,10 +58,7 @@ function e = element (law, c, varargin)
   [opt, own] = qn.impl.pack_law (law, o.step);
   place = [o.slot - 1; 0; 0; 0; 0];
   if t.states > 0, place(2:5) = [o.state - 1; t.rows; t.states; 1]; end
-  if strcmp (law.kind, 'maxwell'), place(3:5) = [t.width; t.width - 1; 1]; end
-  pages = 1;
-  if strcmp (law.kind, 'maxwell'), pages = 3; end
-  if any (strcmp (law.kind, {'dahl', 'clima2'})), pages = 2; end
+  if t.inner > 0, place(3:5) = [t.width; t.inner; 1]; end
   e = struct ('type', 1003, 'c', qn.pack (c, 'transposed'), 'b', qn.pack (b, 'transposed'), 'opt', opt, 'iopt', int32 ([place; own]), ...
-              'unl', zeros (t.width, 1, pages), 'vnl', zeros (t.width, 1, pages), 'snl', zeros (t.width, 1));
+              'unl', zeros (t.width, 1, t.pages), 'vnl', zeros (t.width, 1, t.pages), 'snl', zeros (t.width, 1));
 end

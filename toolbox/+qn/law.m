@@ -38,32 +38,13 @@
 function law = law (kind, varargin)
   if nargin < 1 || ~ischar (kind), error ('qn:input', 'qn.law: the kind of law expected, such as ''table''; see help qn.law'); end
   who = sprintf ('qn.law, ''%s''', kind);
-  need = '<required>';
-  switch kind
-    case 'power'
-      p = struct ('stiffness', need, 'exponent', need);
-    case 'exponential'
-      p = struct ('scale', need, 'base', need);
-    case 'table'
-      p = struct ('displacement', need, 'force', need);
-    case 'maxwell'
-      p = struct ('springs', need, 'dampers', need, 'stiffness', 0);
-    case 'dahl'
-      p = struct ('stiffness', need, 'slip', need, 'exponent', 1);
-    case 'stickslip'
-      p = struct ('contact', need, 'slip', need, 'stiffness', 0, 'ground', 0);
-    case 'clima2'
-      p = struct ('displacement', need, 'normal', need, 'growth', need, 'friction', need, 'exponent', 1, 'stiffness', 0, 'offset', 0);
-    otherwise
-      error ('qn:input', ['qn.law: no law called "%s"; there are power, exponential, table, maxwell, dahl, stickslip and ' ...
-                          'clima2'], kind);
-  end
-  p = qn.impl.options (who, p, varargin);
-  names = fieldnames (p);
-  lists = {'displacement', 'force', 'normal', 'growth', 'springs', 'dampers'};
+  l = qn.impl.law_of (kind);
+  names = l.parameters(:, 1);
+  lists = ~cellfun (@isempty, strfind (l.parameters(:, 3), 'list'));
+  p = qn.impl.options (who, cell2struct (l.parameters(:, 2), names, 1), varargin);
   for k = 1:numel (names)
     x = p.(names{k});
-    if any (strcmp (names{k}, lists))
+    if lists(k)
       if ~(isnumeric (x) && isreal (x) && ~isempty (x) && all (isfinite (x(:))))
         error ('qn:input', '%s: "%s" must be finite real numbers', who, names{k});
       end
@@ -73,15 +54,18 @@ function law = law (kind, varargin)
       p.(names{k}) = double (x);
     end
   end
-  same_length (who, p, intersect (lists([1 2 3 4]), names));
-  same_length (who, p, intersect (lists([5 6]), names));
-  if isfield (p, 'displacement') && any (diff (p.displacement) < 0)
-    error ('qn:input', '%s: "displacement" must ascend; sort the table by it', who);
+  same_length (who, p, sort (names(lists)));
+  for name = of_sort (l, 'ascending')
+    if any (diff (p.(name{1})) < 0), error ('qn:input', '%s: "%s" must ascend; sort the table by it', who, name{1}); end
   end
-  for name = intersect ({'slip', 'springs', 'dampers', 'friction'}, names.')
+  for name = of_sort (l, 'positive')
     if any (p.(name{1}) <= 0), error ('qn:input', '%s: "%s" must be above 0', who, name{1}); end
   end
   law = struct ('kind', kind, 'parameters', p, 'note', '');
+end
+
+function names = of_sort (l, word)
+  names = sort (l.parameters(strncmp (l.parameters(:, 3), word, numel (word)), 1)).';
 end
 
 function same_length (who, p, names)

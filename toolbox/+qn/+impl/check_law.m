@@ -27,31 +27,10 @@ function found = check_law (sim, k, x)
                      'less'], ...
          floor (pi / ratio), stiff, 1 / mobility, h * 0.3 / ratio);
   end
-  p = e.law.parameters;
-  switch e.law.kind
-    case 'maxwell'
-      fast = h * max (p.springs ./ p.dampers);
-      if fast >= 2
-        say ('error', 'its shortest relaxation time is %g s, and the step %g s: its state grows without bound; take at most %.2g s', ...
-             h / fast, h, h / fast / 10);
-      elseif fast > 0.2
-        say ('warning', 'its shortest relaxation time is only %.1f steps; take %.2g s or less', 1 / fast, h / fast / 10);
-      end
-    case 'power'
-      if p.exponent ~= fix (p.exponent) && (isempty (x) || any (x(:) < 0))
-        say ('warning', 'the exponent is not a whole number: a negative displacement gives no number; give a table instead (qn.bearing)');
-      end
-    case 'stickslip'
-      if p.slip < 10, say ('warning', 'it compares whole newtons: a slip force of %g N is too coarse; use qn.slider', p.slip); end
-    case {'table', 'clima2'}
-      % The end segments of the recipes are meant to go on; that of a bearing is only a tangent.
-      if isempty (x) || (~isempty (e.law.note) && isempty (strfind (e.law.note, 'bearing'))), return, end
-      if strcmp (e.law.kind, 'clima2'), x = x(3, :); end
-      if min (x(:)) < p.displacement(1) || max (x(:)) > p.displacement(end)
-        say ('note', ['the motion goes from %g to %g m, the table from %g to %g m; beyond it the end segments go on: add knots if ' ...
-                      'that is not meant'], ...
-             min (x(:)), max (x(:)), p.displacement([1 end]));
-      end
+  l = qn.impl.law_of (e.law.kind);
+  if ~isempty (l.check)
+    own = l.check (e.law, x, h);
+    for j = 1:size (own, 1), say (own{j, 1}, '%s', own{j, 2}); end
   end
 
   function say (level, format, varargin)

@@ -3,9 +3,10 @@ function list = without_memory (who, list)
   for k = 1:size (list, 1)
     laws = list{k, 1};
     for j = 1:numel (laws)
+      l = qn.impl.law_of (laws(j).kind);
       t = qn.impl.traits (laws(j), 1);
-      if strcmp (laws(j).kind, 'maxwell')
-        laws(j) = qn.law ('power', 'stiffness', laws(j).parameters.stiffness, 'exponent', 1);
+      if ~isempty (l.at_rest)
+        laws(j) = l.at_rest (laws(j).parameters);
       elseif t.memory
         error ('qn:input', '%s: element %d has a memory (%s), its force here depends on the past', who, k, laws(j).kind);
       end

@@ -1,0 +1,116 @@
+% What every law of the toolbox has to be: a new row of the list is tested here before anything is written for it.
+function tests = suite_toolbox_law_list ()
+  use_toolbox ();
+  rand ('twister', 12);
+  tests = localfunctions ();
+end
+
+function folder = source_root ()
+  folder = mfilename ('fullpath');
+  for up = 1:5, folder = fileparts (folder); end
+end
+
+% A law of this kind with random numbers that its sorts of parameters allow.
+function law = drawn (l)
+  args = {};
+  n = 4;
+  for k = 1:size (l.parameters, 1)
+    sort_of = l.parameters{k, 3};
+    if strcmp (sort_of, 'ascending list')
+      x = cumsum (0.1 + rand (n, 1));
+    elseif ~isempty (strfind (sort_of, 'list'))
+      x = 0.5 + rand (n, 1);
+    else
+      x = 1 + 2 * rand ();
+    end
+    args(end + (1:2)) = {l.parameters{k, 1}, x};
+  end
+  law = qn.law (l.kind, args{:});
+end
+
+function test_each_file_of_laws_is_in_the_list ()
+  files = dir (fullfile (source_root (), 'toolbox', '+qn', '+impl', '+laws', '*.m'));
+  list = qn.impl.law_list ();
+  expect_equal (sort (regexprep ({files.name}, '_law\.m$', '')), sort ({list.kind}));
+end
+
+function test_the_toolbox_knows_every_law_of_the_module ()
+  code = fileread (fullfile (source_root (), 'src', 'nonlinear', 'law_table.cpp'));
+  words = regexp (code, '\n *row\("([^"]+)"', 'tokens');
+  words = [words{:}];
+  if numel (words) < 7, error ('only %d laws found in the module''s table', numel (words)); end
+  list = qn.impl.law_list ();
+  expect_equal (sort (words), sort ({list.keyword}));
+end
+
+function test_help_and_selftest_name_every_law ()
+  file = which ('qn.law');
+  text = fileread (file);
+  text = text(1:regexp (text, '\nfunction ', 'once'));
+  checks = qn.impl.selftest_laws ();
+  for l = qn.impl.law_list ()
+    if isempty (strfind (text, ['''' l.kind ''''])), error ('help qn.law does not name the law %s', l.kind); end
+    for name = l.parameters(:, 1).'
+      if isempty (regexp (text, ['\<' name{1} '\>'], 'once')), error ('help qn.law does not name "%s" of %s', name{1}, l.kind); end
+    end
+    if ~any (strcmp (checks(:, 1), ['law ' l.keyword])), error ('qn.selftest does not check the law %s', l.keyword); end
+  end
+end
+
+function test_every_law_comes_back_from_its_element_and_says_its_numbers ()
+  for l = qn.impl.law_list ()
+    law = drawn (l);
+    t = qn.impl.traits (law, 1);
+    e = qn.element (law, eye (max (t.rows, 1)), 'step', 0.25, 'state', 4);
+    [back, step] = qn.impl.unpack_law (e);
+    expect_equal (back.kind, l.kind);
+    for name = l.parameters(:, 1).', expect_equal (back.parameters.(name{1}), law.parameters.(name{1}), 1e-12); end
+    if t.memory, expect_equal (step, 0.25); end
+    for k = find (~cellfun (@isempty, strfind (l.parameters(:, 3), 'number'))).'
+      number = sprintf ('%g', law.parameters.(l.parameters{k, 1}));
+      if isempty (strfind (qn.describe (law), number)), error ('%s of %s is not in "%s"', l.parameters{k, 1}, l.kind, qn.describe (law)); end
+    end
+  end
+end
+
+% Central differences of the module's own forces.
+function test_the_greatest_stiffness_bounds_the_slope_and_the_stored_energy_has_the_force_as_its_slope ()
+  seen = 0;
+  for l = qn.impl.law_list ()
+    law = drawn (l);
+    t = qn.impl.traits (law, 1);
+    if t.memory, continue, end
+    h = 1e-5;
+    x = 0.2 + 2 * rand (1, 40);
+    f = qn.force (law, x);
+    slope = abs (qn.force (law, x + h) - qn.force (law, x - h)) / (2 * h);
+    bound = qn.impl.stiffest (law, [x - h, x + h]);
+    if any (slope > bound * (1 + 1e-6)), error ('%s: slope %g N/m, greatest stiffness %g N/m', l.kind, max (slope), bound); end
+    v = cell (1, 2);
+    for k = 1:2
+      at = [x(1), x + (2 * k - 3) * h];      % from one place, as the energy has a constant
+      v{k} = zeros (size (x));
+      for j = 1:numel (x), pair = qn.impl.stored (law, at([1, 1 + j]), [0 0], [], 1); v{k}(j) = pair(2) - pair(1); end
+    end
+    got = (v{2} - v{1}) / (2 * h);
+    if max (abs (got - f)) > 1e-4 * max (abs (f)), error ('%s: the stored energy has another slope than the force', l.kind); end
+    seen = seen + 1;
+  end
+  if seen < 3, error ('only %d laws without memory', seen); end
+end
+
+function test_every_law_runs_in_a_simulation_and_no_bad_number_passes ()
+  model = qn.modal (diag ([1e2 2e2 3e2]), eye (3), 'damping', 0.02);
+  for l = qn.impl.law_list ()
+    law = drawn (l);
+    t = qn.impl.traits (law, 1);
+    sim = qn.simulation (model, 'step', 1e-4, 'steps', 50, 'v0', [1; 1; 1], 'elements', {law, eye(3)(1:max (t.rows, 1), :)});
+    res = qn.run (sim, 'progress', false);
+    if ~all (isfinite (res.q(:))) || ~any (res.force(:)), error ('the law %s does nothing in a run', l.kind); end
+    for k = 1:size (l.parameters, 1)
+      args = [l.parameters(:, 1), struct2cell(law.parameters)].';
+      args{2, k} = NaN;
+      expect_error (@() qn.law (l.kind, args{:}), 'qn:input', ['~"' l.parameters{k, 1} '" must be']);
+    end
+  end
+end

@@ -1,0 +1,42 @@
+% L = POWER_LAW ()  force = stiffness * x^exponent; the fields are those of qn.impl.law_list
+function l = power_law ()
+  parameters = {'stiffness', '<required>', 'number'
+                'exponent', '<required>', 'number'};
+  l = struct ('kind', 'power', 'keyword', 'Power', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
+              'stiffest', @stiffest, 'traits', [], 'stored', @stored, 'check', @check, 'at_rest', []);
+end
+
+function [opt, own] = pack (p, step)
+  opt = [qn.impl.keyword('Power'); p.stiffness; p.exponent];
+  own = zeros (0, 1);
+end
+
+function p = unpack (opt, iopt)
+  p = struct ('stiffness', opt(2), 'exponent', opt(3));
+end
+
+function text = words (p)
+  text = sprintf ('power law, force = %g * x^%g', p.stiffness, p.exponent);
+end
+
+function k = stiffest (p, x)
+  k = 0;
+  if p.exponent == 1
+    k = abs (p.stiffness);
+  elseif ~isempty (x)
+    k = abs (p.stiffness * p.exponent) * max (abs (x(:))) ^ (p.exponent - 1);
+  end
+end
+
+function v = stored (p, x, f, state, h)
+  v = p.stiffness * x .^ (p.exponent + 1) / (p.exponent + 1);
+end
+
+function found = check (law, x, h)
+  found = cell (0, 2);
+  exponent = law.parameters.exponent;
+  if exponent ~= fix (exponent) && (isempty (x) || any (x(:) < 0))
+    found = {'warning', ['the exponent is not a whole number: a negative displacement gives no number; give a table instead ' ...
+                         '(qn.bearing)']};
+  end
+end

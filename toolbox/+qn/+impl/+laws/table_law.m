@@ -1,0 +1,54 @@
+% L = TABLE_LAW ()  force between knots, the end segments go on; the fields are those of qn.impl.law_list
+function l = table_law ()
+  parameters = {'displacement', '<required>', 'ascending list'
+                'force', '<required>', 'list'};
+  l = struct ('kind', 'table', 'keyword', 'Table', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
+              'stiffest', @stiffest, 'traits', [], 'stored', @stored, 'check', @check, 'at_rest', []);
+end
+
+function [opt, own] = pack (p, step)
+  opt = [qn.impl.keyword('Table'); zeros(3, 1); p.displacement; p.force];
+  own = [4; 1; numel(p.displacement); 1];
+end
+
+function p = unpack (opt, iopt)
+  t = qn.impl.table_of (opt, iopt, 1);
+  p = struct ('displacement', t(:, 1), 'force', t(:, 2));
+end
+
+function text = words (p)
+  if numel (p.displacement) == 1
+    text = sprintf ('constant force of %g N', p.force);
+  else
+    slope = diff (p.force) ./ diff (p.displacement);
+    text = sprintf ('table of %d knots from %g to %g m, forces from %g to %g N; goes on with %g N/m below and %g N/m above', ...
+                    numel (p.displacement), p.displacement([1 end]), min (p.force), max (p.force), slope([1 end]));
+  end
+end
+
+function k = stiffest (p, x)
+  slope = abs (diff (p.force)) ./ max (diff (p.displacement), realmin ());
+  slope(diff (p.displacement) == 0) = 0;
+  k = max ([0; slope]);
+end
+
+% The integral of the force from the first knot.
+function v = stored (p, x, f, state, h)
+  knots = p.displacement;
+  values = p.force;
+  if numel (knots) == 1
+    v = values * x;
+    return
+  end
+  at_knot = [0; cumsum((values(1:end - 1) + values(2:end)) / 2 .* diff (knots))];
+  q = x(:);
+  k = ones (size (q));
+  for j = 2:numel (knots) - 1, k = k + (q > knots(j)); end
+  slope = (values(k + 1) - values(k)) ./ max (knots(k + 1) - knots(k), realmin ());
+  force = values(k) + slope .* (q - knots(k));
+  v = reshape (at_knot(k) + (values(k) + force) / 2 .* (q - knots(k)), size (x));
+end
+
+function found = check (law, x, h)
+  found = qn.impl.beyond_table (law, x);
+end

@@ -1,0 +1,25 @@
+% LIST = LAW_LIST ()  every force law that the toolbox knows: one struct array, one element a law, each from a file of +laws
+%
+%   kind        word in qn.law
+%   keyword     word by which the module knows it
+%   parameters  rows {name, default, sort}; a default of '<required>' has to be given. Sort is 'number', 'positive' (a number above 0),
+%               'list', 'ascending list' or 'positive list'; the lists of a law have one length
+%   pack        [OPT, OWN] = pack (P, STEP): "opt" with the keyword's code in front, and what follows the five common values of "iopt"
+%   unpack      P = unpack (OPT, IOPT): the parameters again; [] where qn.law cannot give such an element
+%   words       TEXT = words (P): the law with its numbers, one line
+%   stiffest    K = stiffest (P, X): greatest stiffness, among the displacements X where they are known ([]: not) [N/m]
+%   traits      T = traits (P): what it needs otherwise than a law without memory, fields of qn.impl.traits
+%   stored      V = stored (P, X, F, STATE, H): energy in it along a history, up to a constant (qn.impl.stored) [J]
+%   check       FOUND = check (LAW, X, H): what a user should know before a run with the step H, rows {level, text} (qn.check)
+%   at_rest     LAW = at_rest (P): the law without memory that it becomes when nothing moves
+%
+% The last four may be []: no needs of its own, nothing stored, nothing to check, no force at rest without its past. The list is made
+% once a session: "clear all" after a change to a law.
+function list = law_list ()
+  persistent made
+  if isempty (made)
+    made = [qn.impl.laws.power_law(), qn.impl.laws.exponential_law(), qn.impl.laws.table_law(), qn.impl.laws.maxwell_law(), ...
+            qn.impl.laws.dahl_law(), qn.impl.laws.stickslip_law(), qn.impl.laws.clima2_law()];
+  end
+  list = made;
+end

@@ -55,7 +55,7 @@ function f = fraction (x, xq, s, nx, one_knot)
 end
 
 function i = start_index (r)
-  i = fix (r);
+  i = fix (r) + 0;   % an integer has no negative zero
   if ~(i >= 0 && i < 2147483648), i = 0; end
 end
 

@@ -1,4 +1,4 @@
-% EXPECT_EQUAL (GOT, WANTED)            the same class, size and bits
+% EXPECT_EQUAL (GOT, WANTED)            the same class, size and bits (see SAME_BITS)
 % EXPECT_EQUAL (GOT, WANTED, TOLERANCE) the same size, every difference at most TOLERANCE times max (1, |WANTED|)
 function expect_equal (got, wanted, tolerance)
   if ~isequal (size (got), size (wanted))
@@ -6,9 +6,7 @@ function expect_equal (got, wanted, tolerance)
   end
   if nargin < 3
     if ~strcmp (class (got), class (wanted)), error ('expected class %s, got %s', class (wanted), class (got)); end
-    if ~isequaln (got, wanted)
-      error ('expected %s, got %s', shorten (wanted), shorten (got));
-    end
+    if ~same_bits (got, wanted), error ('expected %s, got %s', shorten (wanted), shorten (got)); end
   else
     off = abs (got(:) - wanted(:)) ./ max (1, abs (wanted(:)));
     if any (~(off <= tolerance))

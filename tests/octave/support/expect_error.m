@@ -1,6 +1,6 @@
 % EXPECT_ERROR (FN, ID, TEXT)  FN must raise TEXT (after the host's "quarn: " prefix) under identifier ID ('' for none).
 %
-% EXPECT_ERROR (FN, ID, '~PATTERN') compares with a regular expression instead.
+% EXPECT_ERROR (FN, ID, '~PATTERN') compares with a regular expression instead, which must say more than "quarn COMMAND : ".
 function expect_error (fn, id, text)
   raised = false;
   try
@@ -11,7 +11,10 @@ function expect_error (fn, id, text)
   if ~raised, error ('expected the error "%s", nothing was raised', text); end
   got = regexprep (err.message, '^quarn: ', '');
   if ~isempty (text) && text(1) == '~'
-    same = ~isempty (regexp (got, text(2:end), 'once'));
+    matches = @(said) ~isempty (regexp (said, text(2:end), 'once', 'emptymatch'));
+    prefix = regexp (got, '^(quarn [^:]* : )?', 'match', 'once');
+    if matches (prefix) || matches ([prefix '#']), error ('the pattern "%s" matches any text; the text was "%s"', text(2:end), got); end
+    same = matches (got);
   else
     same = strcmp (got, text);
   end

@@ -96,11 +96,15 @@ function test_missing_arguments ()
   run = small_run ();
   args = {run.list, run.model, run.u, run.v, run.a, run.opt, run.mem, run.out};
   for n = 0:7
-    expect_refused (@() quarn ('chandlediagnewmark', args{1:n}), '~^quarn chandlediagnewmark : ');
+    text = 'expected 9 inputs (command, list, model, u, v, a, opt, mem, out)';
+    expect_refused (@() quarn ('chandlediagnewmark', args{1:n}), sprintf ('quarn chandlediagnewmark : %s, got %d', text, n + 1));
   end
   k = matrix_lines (speye (3));
   args = {zeros(3, 1), {k, k, k}, ones(3, 1), ones(3, 1), ones(3, 1)};
-  for n = 0:4, expect_refused (@() quarn ('residual', args{1:n}), '~^quarn residual : '); end
+  for n = 0:4
+    text = 'expected at least 6 inputs (command, r or handles, model, u, v, a)';
+    expect_refused (@() quarn ('residual', args{1:n}), sprintf ('quarn residual : %s, got %d', text, n + 1));
+  end
 end
 
 function matrix_fields (m)

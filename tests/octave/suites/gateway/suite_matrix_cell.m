@@ -40,11 +40,15 @@ function test_marked_matrix_is_refused ()
   marked.ir(1) = int32 (-1);
   plain = matrix_lines (diag ([1 2 3]));
   x = ones (3, 1);
+  names = {'mass', 'damping', 'stiffness'};
+  vectors = 'avu';
   for place = 1:3
     k = {plain, plain, plain};
     k{place} = marked;
     r = ones (3, 1) * 5;
-    expect_error (@() quarn ('residual', r, k, x, x, x, [0 0]), '', '~^quarn residual : ');
+    wanted = sprintf (['quarn residual : the %s matrix : an index of column 1 lies outside %s of 3 values ', ...
+                       '(the matrix was marked as diagonal by a handle)'], names{place}, vectors(place));
+    expect_error (@() quarn ('residual', r, k, x, x, x, [0 0]), '', wanted);
   end
 end
 
@@ -139,9 +143,14 @@ function test_modal_damping_that_does_not_fit_is_refused ()
   tall.def = ones (4, 2);
   alien = modal_damping ();
   alien.def = int32 (alien.def);
-  for s = {short, none, tall, alien}
+  texts = {'field "data" of the damping must hold 4 values (twice the number of modes), got 3', ...
+           'field "data" of the damping must hold 4 values (twice the number of modes), got 0', ...
+           'v must hold 4 values (one for each row of "def"), got 3', ...
+           'field "def" of the damping must be a full real double array, got int32 3x2'};
+  for s = [{short, none, tall, alien}; texts]
     r = ones (3, 1) * 5;
-    expect_error (@() quarn ('residual', r, {matrix_lines(m), s{1}, matrix_lines(k)}, x, x, x, [0 0]), '', '~^quarn residual : ');
+    wanted = ['quarn residual : ' s{2}];
+    expect_error (@() quarn ('residual', r, {matrix_lines(m), s{1}, matrix_lines(k)}, x, x, x, [0 0]), '', wanted);
     expect_equal (r, ones (3, 1) * 5);
   end
 end

@@ -35,6 +35,7 @@ function test_residual_is_added_to_what_the_vector_holds ()
   K = matrices ();
   s = state ();
   models = {K, struct('K', {K}), handles()};
+  names = {'u', 'v', 'a'};
   for k = 1:3
     once = residual_of (models{k}, s{:});
     r = zeros (3, 1) + 64;
@@ -229,18 +230,27 @@ function test_vectors_shorter_than_u_are_refused_and_r_is_kept ()
   K = matrices ();
   s = state ();
   models = {K, struct('K', {K}), handles()};
+  names = {'u', 'v', 'a'};
   for k = 1:3
     r = zeros (2, 1) + 5;
-    expect_refused (@() quarn ('residual', r, models{k}, s{:}), '~^quarn residual : ');
+    expect_refused (@() quarn ('residual', r, models{k}, s{:}), short_text (k, 'r', 1));
     expect_equal (r, [5; 5]);
     for short = 2:3
       args = s;
       args{short} = [1; 2];
       r = zeros (3, 1) + 5;
-      expect_refused (@() quarn ('residual', r, models{k}, args{:}), '~^quarn residual : ');
+      expect_refused (@() quarn ('residual', r, models{k}, args{:}), short_text (k, names{short}, 4 - short));
       if short == 3 || k == 3, expect_equal (r, [5; 5; 5]); end
     end
   end
+end
+
+% What the model form K says of a vector of 2 values: lists of handles name the element that needs it, and what r is in an integration.
+function text = short_text (k, name, element)
+  place = '';
+  if k == 3, place = sprintf ('element %d : ', element); end
+  if k == 3 && strcmp (name, 'r'), name = 'the residual (in an integration, the part of uva behind the copies of u, v and a)'; end
+  text = ['quarn residual : ' place name ' must hold 3 values (one for each row of u), got 2'];
 end
 
 function test_accumulators_of_other_classes_are_refused ()

@@ -74,7 +74,7 @@ function test_an_index_is_truncated ()
 end
 
 function test_an_index_that_is_no_number_is_refused ()
-  expect_refused (@() added (chandle ({5})), '~^quarn residual : ');
+  expect_refused (@() added (chandle ({5})), 'quarn residual : element 1 : the index that "remi" returned must be a number, got cell 1x1');
 end
 
 function test_a_vector_may_mix_all_types ()

@@ -119,8 +119,8 @@ end
 
 function test_a_refusal_after_a_nested_call_names_its_own_command ()
   h = quarn ('chandleset', 1, 5);
-  expect_refused (@() quarn ('chandleget', @(v) quarn ('tbbp'), h), '~^quarn tbbp : ');
-  expect_refused (@() quarn ('chandleget', [], h, @(v) quarn ('omp')), '~.');
+  expect_refused (@() quarn ('chandleget', @(v) quarn ('tbbp'), h), 'quarn tbbp : expected 4 inputs (command, A, x, y), got 1');
+  expect_refused (@() quarn ('chandleget', [], h, @(v) quarn ('omp')), '~function handle');
 end
 
 function test_a_call_does_not_let_the_function_change_the_handle ()
@@ -132,27 +132,27 @@ end
 
 function test_setting_without_a_value_is_refused_and_leaves_the_counter ()
   clear quarn
-  expect_error (@() quarn ('chandleset'), '', '~^quarn chandleset : ');
-  expect_error (@() quarn ('chandleset', 1), '', '~^quarn chandleset : ');
+  expect_error (@() quarn ('chandleset'), '', 'quarn chandleset : expected 3 inputs (command, type, value), got 1');
+  expect_error (@() quarn ('chandleset', 1), '', 'quarn chandleset : expected 3 inputs (command, type, value), got 2');
   expect_equal (quarn ('chandleset', 1, 5), 0);
 end
 
 function test_type_codes_that_are_no_numbers_are_refused ()
   values = {[], {}, {1}, '', struct('x', 1), @sin, sparse(1), chandle(1), v_handle(1), containers.Map()};
   for k = 1:numel (values)
-    expect_refused (@() quarn ('chandleset', values{k}, 5), '~^quarn chandleset : ');
+    expect_refused (@() quarn ('chandleset', values{k}, 5), '~^quarn chandleset : the handle''s type must be a number, got ');
   end
 end
 
 function test_indices_that_are_no_numbers_are_refused ()
   values = {[], {}, {1}, '', struct('x', 1), @sin, sparse(1), chandle(1), v_handle(1), containers.Map()};
   for k = 1:numel (values)
-    expect_refused (@() quarn ('chandleget', values{k}), '~^quarn chandleget : ');
-    expect_refused (@() quarn ('chandleget', @isempty, values{k}), '~^quarn chandleget : ');
+    expect_refused (@() quarn ('chandleget', values{k}), '~^quarn chandleget : the handle''s index must be a number, got ');
+    expect_refused (@() quarn ('chandleget', @isempty, values{k}), '~^quarn chandleget : the handle''s index must be a number, got ');
   end
   values = {{1}, struct('x', 1), @sin, sparse(1), chandle(1), v_handle(1), containers.Map()};
   for k = 1:numel (values)
-    expect_refused (@() quarn ('chandleclear', values{k}), '~^quarn chandleclear : ');
+    expect_refused (@() quarn ('chandleclear', values{k}), '~^quarn chandleclear : the handle''s index must be a number, got ');
   end
 end
 

@@ -168,11 +168,20 @@ function test_matrices_that_do_not_fit_the_state ()
   alien.ir = int64 (alien.ir);
   sizes = matrix_lines (full_matrix);
   sizes.dims = 3;
-  for s = {outside, negative, backwards, long, cut, values, small, marked, alien, sizes}
+  names = {'stiffness', 'mass', 'damping'};
+  rows = {outside, 'MATRIX : index 3 in "ir" reaches past [uva] of 3 values'; negative, 'MATRIX : index -2 in "ir", expected 0 or more'; ...
+          backwards, 'MATRIX : "jc" must ascend, got 1 after 2 at position 3'; ...
+          long, 'MATRIX : "jc" ends at 6 entries, "ir" and "pr" hold 5 and 5'; ...
+          cut, '"jc" must hold 4 values \(one more than the matrix has columns\), got 3'; ...
+          values, 'MATRIX : "jc" ends at 5 entries, "ir" and "pr" hold 5 and 4'; ...
+          small, 'MATRIX must hold 3 values \(one diagonal entry for each row of u\), got 2'; ...
+          marked, 'MATRIX must hold 3 values \(one diagonal entry for each row of u\), got 2'; ...
+          alien, 'field "ir" must be int32, got int64 5x1'; sizes, 'MATRIX.dims must hold 2 values \(rows, cols\), got 1'};
+  for s = rows.'
     for code = 1:3
       run = small_run ();
       run.list = {run.list{1}, typed(code, s{1})};
-      refused (run, '.');
+      refused (run, ['element 2 : ' strrep(s{2}, 'MATRIX', ['the ' names{code} ' matrix'])]);
     end
   end
 end
@@ -191,10 +200,14 @@ function test_elements_that_do_not_fit_the_state ()
   bare = good;
   bare.opt = [law_code('DahlC') 0 0.1 1 1 1 1];
   bare.unl = zeros (1, 1, 2);
-  for e = {far, into, wide, short, bare}
+  rows = {far, 'c : index 3 in "ir" reaches past v of 3 values'; into, 'b : index 12 in "ir" reaches past its own columns of 3 values'; ...
+          wide, 'the residual must hold 20 values \(one for each column of b\), got 3'; ...
+          short, 'opt must hold 3 values \(code, coefficient, base\), got 2'; ...
+          bare, '"iopt" of law "DahlC" must hold 5 values or more, got 0'};
+  for e = rows.'
     run = small_run ();
     run.list{4} = e{1};
-    refused (run, '.');
+    refused (run, ['element 4 : ' e{2}]);
   end
 end
 
@@ -204,7 +217,7 @@ function test_later_handles_are_checked_before_the_first_step ()
   bad = e;
   bad.c.ir(1) = int32 (3);
   run.list = [run.list, {e, bad}];
-  refused (run, '\<c\>|u');
+  refused (run, 'element 5 : c : index 3 in "ir" reaches past v of 3 values');
   expect_equal (run.list{4}.snl, 0);
   expect_equal (run.list{1}.data(6), 0);
 end

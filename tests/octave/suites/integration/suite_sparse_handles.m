@@ -183,14 +183,18 @@ function test_matrix_that_does_not_fit_is_refused_and_the_vector_kept ()
   backwards.jc(2) = int32 (6);
   cut = short;
   cut.pr = cut.pr(1:4);
-  trials = {short, 4; outside, 3; backwards, 3; cut, 3};
+  names = {'stiffness', 'mass', 'damping'};
+  trials = {short, 4, '"jc" must hold 5 line pointers for 4 lines, got 4'; outside, 3, 'index 3 in "ir" reaches past %s of 3 values'; ...
+            backwards, 3, '"jc" must ascend, got 3 after 6 at position 3'; cut, 3, '"jc" ends at 5 entries, "ir" and "pr" hold 5 and 4'};
+  vectors = 'uav';
   for k = 1:size (trials, 1)
     for code = 1:3
       n = trials{k, 2};
       r = ones (n, 1) * 7;
       x = ones (n, 1);
       i = quarn ('chandleset', code, trials{k, 1});
-      expect_error (@() quarn ('residual', r, chandle (i), x, x, x, [0 0]), '', '~^quarn residual : ');
+      wanted = ['quarn residual : element 1 : the ' names{code} ' matrix : ' strrep(trials{k, 3}, '%s', vectors(code))];
+      expect_error (@() quarn ('residual', r, chandle (i), x, x, x, [0 0]), '', wanted);
       expect_equal (r, ones (n, 1) * 7);
       expect_equal (quarn ('chandleget', i).pr, trials{k, 1}.pr);
     end

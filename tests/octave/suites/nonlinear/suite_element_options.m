@@ -155,27 +155,30 @@ end
 
 function test_sizes_that_do_not_fit_are_refused ()
   good = spring_element (2, 1, 2, [law_code('Power') 2 1]);
-  bad = {};
-  e = good; e.c.ir(1) = int32 (2); bad{end + 1} = e;
-  e = good; e.c.ir(1) = int32 (-1); bad{end + 1} = e;
-  e = good; e.c.jc(2) = int32 (5); bad{end + 1} = e;
-  e = good; e.c = ones (1, 3); bad{end + 1} = e;
-  e = good; e.c = matrix_lines (ones (2, 2), true); bad{end + 1} = e;
-  e = good; e.c = struct ('pr', 1, 'dims', [1 2]); bad{end + 1} = e;
-  e = good; e.b.ir(1) = int32 (7); bad{end + 1} = e;
-  e = good; e.b = matrix_lines (ones (2, 2), true); bad{end + 1} = e;
-  e = good; e.b = matrix_lines (ones (1, 4), true); bad{end + 1} = e;
-  e = good; e.b = struct ('pr', ones (4, 1), 'dims', [1 4], 'trans', 1); bad{end + 1} = e;
-  e = good; e.unl = zeros (3, 1); bad{end + 1} = e;
-  e = good; e.opt = [law_code('Expon'); 1]; bad{end + 1} = e;
-  e = good; e.opt = [law_code('Table'); 1; 1]; bad{end + 1} = e;
-  e = good; e.unl = int32 (1); bad{end + 1} = e;
-  e = good; e.snl = {1}; bad{end + 1} = e;
-  e = good; e.vnl = 'velocity'; bad{end + 1} = e;
-  for k = 1:numel (bad)
+  bad = cell (0, 2);
+  e = good; e.c.ir(1) = int32 (2); bad(end + 1, :) = {e, 'c : index 2 in "ir" reaches past v of 2 values'};
+  e = good; e.c.ir(1) = int32 (-1);
+  bad(end + 1, :) = {e, 'c : index -1 in "ir", expected 0 or more (the matrix was marked as diagonal by a handle)'};
+  e = good; e.c.jc(2) = int32 (5); bad(end + 1, :) = {e, 'c : "jc" ends at 5 entries, "ir" and "pr" hold 1 and 1'};
+  e = good; e.c = ones (1, 3);
+  bad(end + 1, :) = {e, 'the observed vector must hold 3 values (one for each column of the observation matrix), got 2'};
+  e = good; e.c = matrix_lines (ones (2, 2), true); bad(end + 1, :) = {e, 'vnl must hold 2 values (one for each row of c), got 1'};
+  e = good; e.c = struct ('pr', 1, 'dims', [1 2]); bad(end + 1, :) = {e, 'c must hold 2 values (rows x cols of them), got 1'};
+  e = good; e.b.ir(1) = int32 (7); bad(end + 1, :) = {e, 'b : index 7 in "ir" reaches past its own columns of 2 values'};
+  e = good; e.b = matrix_lines (ones (2, 2), true); bad(end + 1, :) = {e, 'snl must hold 2 values (one for each line of b), got 1'};
+  e = good; e.b = matrix_lines (ones (1, 4), true); bad(end + 1, :) = {e, 'the residual must hold 4 values (one for each column of b), got 2'};
+  e = good; e.b = struct ('pr', ones (4, 1), 'dims', [1 4], 'trans', 1);
+  bad(end + 1, :) = {e, 'the residual must hold 4 values (one for each column of the command matrix), got 2'};
+  e = good; e.unl = zeros (3, 1); bad(end + 1, :) = {e, 'vnl must hold 3 values (as many as a page of unl), got 1'};
+  e = good; e.opt = [law_code('Expon'); 1]; bad(end + 1, :) = {e, 'opt must hold 3 values (code, coefficient, base), got 2'};
+  e = good; e.opt = [law_code('Table'); 1; 1]; bad(end + 1, :) = {e, 'iopt must hold 9 values (entries 6 to 9 place the table), got 0'};
+  e = good; e.unl = int32 (1); bad(end + 1, :) = {e, 'unl must be a full real double array, got int32 1x1'};
+  e = good; e.snl = {1}; bad(end + 1, :) = {e, 'snl must be a full real double array, got cell 1x1'};
+  e = good; e.vnl = 'velocity'; bad(end + 1, :) = {e, 'vnl must be a full real double array, got char 1x8'};
+  for k = 1:size (bad, 1)
     r = ones (2, 1) * 3;
-    h = registered (bad(k));
-    expect_refused (@() quarn ('residual', r, h, ones (2, 1), ones (2, 1), ones (2, 1), [0 0]), '~^quarn residual : .');
+    h = registered (bad(k, 1));
+    expect_refused (@() quarn ('residual', r, h, ones (2, 1), ones (2, 1), ones (2, 1), [0 0]), ['quarn residual : element 1 : ' bad{k, 2}]);
     expect_equal (r, ones (2, 1) * 3);
   end
 end

@@ -63,37 +63,24 @@ function [results, report] = sweep (f, cases, varargin)
     end
     temporary = tempname ();
     clean = onCleanup (@() remove (temporary));
-    job = qn.impl.sweep_job (f, cases, temporary, o.progress);
+    job = qn.impl.sweep.job (f, cases, temporary, o.progress);
   else
-    job = qn.impl.sweep_job (f, cases, o.folder, o.progress);
+    job = qn.impl.sweep.job (f, cases, o.folder, o.progress);
   end
-  [done, failed] = qn.impl.sweep_state (job);
+  [done, failed] = qn.impl.sweep.state (job);
   if o.again
-    for k = find (failed), delete (qn.impl.sweep_file (job, 'failed', k)); end
+    for k = find (failed), delete (qn.impl.sweep.file (job, 'failed', k)); end
     failed(:) = false;
   end
   finished = done | failed;
   job.before = sum (finished);
   job.begun = now ();
-  [engine, workers] = qn.impl.sweep_engine (o.engine, o.workers, sum (~finished));
-  waiting = false;
-  switch engine
-    case 'serial'
-      for k = find (~finished)
-        qn.impl.sweep_case (job, k);
-        qn.impl.sweep_tell (job);
-      end
-    case 'parallel'
-      qn.impl.sweep_parallel (job, find (~finished), workers);
-    case 'pool'
-      qn.impl.sweep_pool (job, find (~finished), workers);
-    case 'slurm'
-      waiting = qn.impl.sweep_slurm (job, workers, o.sbatch, o.wait);
-  end
-  [results, report] = qn.impl.sweep_collect (job, waiting);
+  [engine, workers] = qn.impl.sweep.choose_engine (o.engine, o.workers, sum (~finished));
+  waiting = engine.run (job, find (~finished), workers, o);
+  [results, report] = qn.impl.sweep.collect (job, waiting);
   report.ran = sum (report.done(:)) + numel (report.failed) - job.before;
   report.seconds = toc (begun);
-  report.engine = engine;
+  report.engine = engine.name;
   report.folder = o.folder;
   if nargout < 2 && ~isempty (report.failed)
     first = report.failed(1);

@@ -16,11 +16,12 @@ function test_all_engines_give_the_same_bits_in_the_same_order ()
   expect_equal (report.done, true (3, 2));
   expect_equal (report.ran, 6);
   [folder, clean] = new_folder ();
-  job = qn.impl.sweep_job (@sweep_oscillator, oscillators (), folder, false);
+  job = qn.impl.sweep.job (@sweep_oscillator, oscillators (), folder, false);
   job.begun = now ();
   job.before = 0;
-  qn.impl.sweep_pool (job, 6:-1:1, 2);
-  expect_equal (qn.impl.sweep_collect (job, false), serial);
+  pool = qn.impl.sweep.pool_engine ();
+  pool.run (job, 6:-1:1, 2, struct ());
+  expect_equal (qn.impl.sweep.collect (job, false), serial);
   peaks = cellfun (@(r) r.peak, serial);
   if any (peaks(:) < 1e-3) || numel (unique (peaks)) < 6, error ('the cases do not differ'); end
 end

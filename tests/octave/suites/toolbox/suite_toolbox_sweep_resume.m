@@ -75,3 +75,22 @@ function test_a_folder_belongs_to_one_sweep ()
   delete (fullfile (folder, 'sweep.mat'));
   expect_error (@() qn.sweep (@(p) p, 1:2, 'folder', folder), 'qn:input', '~but not the file sweep.mat');
 end
+
+% A folder of the first release has no number; one with a number that is not known here is left as it is.
+function test_folders_of_another_format_are_refused_and_old_ones_go_on ()
+  [folder, clean] = new_folder ();
+  f = @(p) 3 * p;
+  qn.sweep (f, 1:2, 'folder', folder, 'engine', 'serial');
+  file = fullfile (folder, 'sweep.mat');
+  s = load (file);
+  expect_equal (s.format, 1);
+  old = rmfield (s, 'format');
+  save ('-binary', file, '-struct', 'old');
+  [got, report] = qn.sweep (f, 1:2, 'folder', folder);
+  expect_equal (got, {3, 6});
+  expect_equal (report.ran, 0);
+  s.format = 7;
+  save ('-binary', file, '-struct', 's');
+  expect_error (@() qn.sweep (f, 1:2, 'folder', folder), 'qn:input', '~has files of format 7, this version reads format 1');
+  expect_equal (exist (fullfile (folder, 'case_000001.mat'), 'file'), 2);
+end

@@ -1,10 +1,10 @@
-% SWEEP_TASK (FOLDER, TASK)  the part of a sweep that task number TASK of a job array runs
-function sweep_task (folder, task)
+% TASK (FOLDER, TASK)  the part of a sweep that task number TASK of a job array runs
+function task (folder, task)
   list = load (fullfile (folder, 'slurm_tasks.mat'));
   job = load (fullfile (folder, 'sweep.mat'));
   job.folder = folder;
   job.mark = false;
   for k = list.pending(task:list.tasks:end)
-    qn.impl.sweep_case (job, k);
+    qn.impl.sweep.run_case (job, k);
   end
 end

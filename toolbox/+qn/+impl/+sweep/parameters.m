@@ -1,5 +1,5 @@
-% P = SWEEP_PARAMETERS (JOB, K)  parameters of case K
-function p = sweep_parameters (job, k)
+% P = PARAMETERS (JOB, K)  parameters of case K
+function p = parameters (job, k)
   if isstruct (job.cases)
     p = job.cases(k);
   elseif iscell (job.cases)

@@ -1,18 +1,18 @@
-% SWEEP_CASE (JOB, K)  runs case K and leaves the file of its result or of its error
-function sweep_case (job, k)
-  if job.mark, qn.impl.sweep_keep (qn.impl.sweep_file (job, 'begun', k), struct ('case', k)); end
-  p = qn.impl.sweep_parameters (job, k);
+% RUN_CASE (JOB, K)  runs case K and leaves the file of its result or of its error
+function run_case (job, k)
+  if job.mark, qn.impl.sweep.keep (qn.impl.sweep.file (job, 'begun', k), struct ('case', k)); end
+  p = qn.impl.sweep.parameters (job, k);
   before = seeded (k);
   back = onCleanup (@() put_back (before));
   begun = tic ();
   try
     result = job.f (p);
     seconds = toc (begun);
-    qn.impl.sweep_keep (qn.impl.sweep_file (job, 'case', k), struct ('result', {result}, 'seconds', seconds));
+    qn.impl.sweep.keep (qn.impl.sweep.file (job, 'case', k), struct ('result', {result}, 'seconds', seconds));
   catch err
-    qn.impl.sweep_keep (qn.impl.sweep_file (job, 'failed', k), struct ('identifier', err.identifier, 'message', err.message));
+    qn.impl.sweep.keep (qn.impl.sweep.file (job, 'failed', k), struct ('identifier', err.identifier, 'message', err.message));
   end
-  if job.mark, delete (qn.impl.sweep_file (job, 'begun', k)); end
+  if job.mark, delete (qn.impl.sweep.file (job, 'begun', k)); end
 end
 
 % Random numbers that depend on the case alone, not on the cases that the process ran before. Gives the state until now.

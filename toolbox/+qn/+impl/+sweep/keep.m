@@ -1,5 +1,5 @@
-% SWEEP_KEEP (FILE, S)  writes the fields of S: under another name first, so that FILE is there as a whole or not at all
-function sweep_keep (file, s)
+% KEEP (FILE, S)  writes the fields of S: under another name first, so that FILE is there as a whole or not at all
+function keep (file, s)
   part = [tempname(fileparts (file)) '.part'];
   if exist ('OCTAVE_VERSION', 'builtin')
     % This form keeps functions, classes and every bit of a number.

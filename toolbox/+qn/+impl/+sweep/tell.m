@@ -1,11 +1,11 @@
-% SWEEP_TELL (JOB)  says how far a sweep is, every second at most
-function sweep_tell (job)
+% TELL (JOB)  says how far a sweep is, every second at most
+function tell (job)
   persistent told
   day = 86400;
   if isempty (told) || told < job.begun, told = job.begun; end
   if ~job.progress || (now () - told) * day < 1, return, end
   told = now ();
-  [done, failed] = qn.impl.sweep_state (job);
+  [done, failed] = qn.impl.sweep.state (job);
   ended = sum (done | failed);
   passed = (told - job.begun) * day;
   left = '';

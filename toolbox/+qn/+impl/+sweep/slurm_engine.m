@@ -1,30 +1,43 @@
-% WAITING = SWEEP_SLURM (JOB, WORKERS, OPTIONS, PATIENT)  runs what is left of a sweep as a job array
-%
-% One array of a sweep is in the queue at a time; its number lies in the folder, so that a sweep whose first process was killed
-% finds it again. Gives whether cases are still in the queue; PATIENT waits until none is.
-function waiting = sweep_slurm (job, workers, options, patient)
+% E = SLURM_ENGINE ()  what is left of a sweep as a job array of Slurm; the fields are those of engine_list
+function e = slurm_engine ()
+  e = struct ('name', 'slurm', 'word', 'slurm', 'host', '', 'lacking', @lacking, 'instead', '', 'run', @run);
+end
+
+function why = lacking ()
+  why = '';
+  if ~exist ('OCTAVE_VERSION', 'builtin')
+    why = 'job arrays run Octave; on MATLAB open a pool on the cluster (parpool) and use ''parallel''';
+    return
+  end
+  [status, text] = system ('sbatch --version 2>&1');
+  if status ~= 0, why = ['the commands of Slurm do not run here: ' strtrim(text)]; end
+end
+
+% One array of a sweep is in the queue at a time; its number is in the folder, so that a sweep whose first process was killed
+% finds it again. The option "wait" waits until no case is in the queue.
+function waiting = run (job, pending, workers, o)
   file = fullfile (job.folder, 'slurm_job.txt');
   if exist (file, 'file')
-    waiting = queued (job, strtrim (fileread (file)), patient);
+    waiting = queued (job, strtrim (fileread (file)), o.wait);
     if waiting, return, end
   end
-  [done, failed] = qn.impl.sweep_state (job);
+  [done, failed] = qn.impl.sweep.state (job);
   pending = find (~done & ~failed);
   waiting = ~isempty (pending);
   if waiting
-    id = hand_in (job, pending, workers, options);
+    id = hand_in (job, pending, workers, o.sbatch);
     write (file, id);
     if job.progress, fprintf ('  %d cases in job %s; scancel %s ends it\n', numel (pending), id, id); end
-    waiting = queued (job, id, patient);
+    waiting = queued (job, id, o.wait);
   end
 end
 
 % Clusters take about a thousand tasks an array: more cases share a task.
 function id = hand_in (job, pending, workers, options)
   tasks = min (numel (pending), 1000);
-  qn.impl.sweep_keep (fullfile (job.folder, 'slurm_tasks.mat'), struct ('pending', pending, 'tasks', tasks));
+  qn.impl.sweep.keep (fullfile (job.folder, 'slurm_tasks.mat'), struct ('pending', pending, 'tasks', tasks));
   script = fullfile (job.folder, 'slurm_task.m');
-  write (script, sprintf ('cd (%s);\npath (%s);\nqn.impl.sweep_task (%s, str2double (getenv (''SLURM_ARRAY_TASK_ID'')));\n', ...
+  write (script, sprintf ('cd (%s);\npath (%s);\nqn.impl.sweep.task (%s, str2double (getenv (''SLURM_ARRAY_TASK_ID'')));\n', ...
                           text (pwd ()), text (path ()), text (job.folder)));
   program = fullfile (OCTAVE_EXEC_HOME (), 'bin', 'octave-cli');
   start = fullfile (job.folder, 'slurm_task.sh');
@@ -53,7 +66,7 @@ function is = queued (job, id, patient)
     end
     if ~is || ~patient, return, end
     pause (min (10, 0.5 + toc (begun) / 20));
-    qn.impl.sweep_tell (job);
+    qn.impl.sweep.tell (job);
   end
 end
 

@@ -1,8 +1,8 @@
-% [RESULTS, REPORT] = SWEEP_COLLECT (JOB, WAITING)  what the files hold, in the order of the cases
+% [RESULTS, REPORT] = COLLECT (JOB, WAITING)  what the files hold, in the order of the cases
 %
 % A case without a file is lost, unless it is WAITING in a queue.
-function [results, report] = sweep_collect (job, waiting)
-  [done, failed] = qn.impl.sweep_state (job);
+function [results, report] = collect (job, waiting)
+  [done, failed] = qn.impl.sweep.state (job);
   results = cell (job.shape);
   time = NaN (job.shape);
   failures = struct ('number', {}, 'identifier', {}, 'message', {}, 'parameters', {});
@@ -10,7 +10,7 @@ function [results, report] = sweep_collect (job, waiting)
     message = 'the process that ran it ended before it wrote a result';
     if done(k)
       try
-        file = load (qn.impl.sweep_file (job, 'case', k));
+        file = load (qn.impl.sweep.file (job, 'case', k));
         results{k} = file.result;
         time(k) = file.seconds;
         continue
@@ -18,18 +18,18 @@ function [results, report] = sweep_collect (job, waiting)
         % Half a file, as after a failure of the disk. It goes, so that the case is run again.
         message = ['its file cannot be read: ' err.message];
         done(k) = false;
-        delete (qn.impl.sweep_file (job, 'case', k));
+        delete (qn.impl.sweep.file (job, 'case', k));
       end
     end
     if failed(k)
-      why = load (qn.impl.sweep_file (job, 'failed', k));
+      why = load (qn.impl.sweep.file (job, 'failed', k));
     elseif waiting
       continue
     else
       why = struct ('identifier', 'qn:lost', 'message', message);
     end
     failures(end + 1) = struct ('number', k, 'identifier', why.identifier, 'message', why.message, ...
-                                'parameters', {qn.impl.sweep_parameters(job, k)});
+                                'parameters', {qn.impl.sweep.parameters(job, k)});
   end
   report = struct ('done', reshape (done, job.shape), 'failed', failures, 'ran', 0, ...
                    'waiting', job.n - sum (done) - numel (failures), 'time', time);

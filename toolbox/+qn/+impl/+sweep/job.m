@@ -1,7 +1,8 @@
-% JOB = SWEEP_JOB (F, CASES, FOLDER, PROGRESS)  a sweep and its folder: a new one, or one that goes on
+% JOB = JOB (F, CASES, FOLDER, PROGRESS)  a sweep and its folder: a new one, or one that goes on
 %
-% JOB has f, cases, n, shape (of the results), folder and progress.
-function job = sweep_job (f, cases, folder, progress)
+% The file sweep.mat says what the folder holds. Its field "format" counts the ways in which the files of a sweep were ever laid out;
+% without the field they are those of format 1. JOB has f, cases, n, shape (of the results), folder and progress.
+function job = job (f, cases, folder, progress)
   if ~isa (f, 'function_handle'), error ('qn:input', 'qn.sweep: a function expected, got an array of class %s', class (f)); end
   if isstruct (cases) || iscell (cases)
     shape = size (cases);
@@ -10,12 +11,17 @@ function job = sweep_job (f, cases, folder, progress)
   else
     error ('qn:input', 'qn.sweep: the cases must be a struct array, a cell array or a matrix, got an array of class %s', class (cases));
   end
+  known = 1;
   make_folder (folder);
   job = struct ('f', f, 'cases', {cases}, 'n', prod (shape), 'shape', shape, 'folder', absolute (folder), 'progress', progress, ...
                 'mark', false);
   file = fullfile (job.folder, 'sweep.mat');
   if exist (file, 'file')
     before = load (file);
+    if isfield (before, 'format') && ~isequal (before.format, known)
+      error ('qn:input', ['qn.sweep: the folder %s has files of format %s, this version reads format %d; go on with the version that ' ...
+                          'wrote them, or give another folder'], folder, mat2str (before.format), known);
+    end
     if ~qn.impl.alike (before.cases, cases)
       error ('qn:input', 'qn.sweep: the folder %s belongs to a sweep with other cases; give another folder or empty it', folder);
     end
@@ -26,7 +32,7 @@ function job = sweep_job (f, cases, folder, progress)
   elseif ~isempty (dir (fullfile (job.folder, 'case_*.mat')))
     error ('qn:input', 'qn.sweep: the folder %s has results in it, but not the file sweep.mat that says what they belong to', folder);
   else
-    qn.impl.sweep_keep (file, struct ('f', f, 'cases', {cases}));
+    qn.impl.sweep.keep (file, struct ('f', f, 'cases', {cases}, 'format', known));
   end
 end
 

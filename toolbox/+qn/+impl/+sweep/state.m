@@ -1,5 +1,5 @@
-% [DONE, FAILED, BEGUN] = SWEEP_STATE (JOB)  which cases have which files, as rows of logical values
-function [done, failed, begun] = sweep_state (job)
+% [DONE, FAILED, BEGUN] = STATE (JOB)  which cases have which files, as rows of logical values
+function [done, failed, begun] = state (job)
   files = dir (fullfile (job.folder, '*_*.mat'));
   names = sprintf ('%s\n', files.name);
   done = having (names, 'case', job.n);

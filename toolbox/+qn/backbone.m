@@ -38,9 +38,16 @@ function [hertz, r] = backbone (model, elements, amplitude, varargin)
   who = 'qn.backbone';
   o = qn.impl.options (who, struct ('mode', 1, 'row', [], 'harmonics', 7, 'samples', 256), varargin);
   m = numel (model.w);
-  if ~any (o.mode == 1:m), error ('qn:input', '%s: modes are numbered from 1 to %d', who, m); end
-  if isempty (o.row), o.row = elements{1, 2}; end
-  row = qn.impl.looked_at (model, o.row, 'qn.backbone: ');
+  o.mode = qn.impl.count (who, 'mode', o.mode, m);
+  o.harmonics = qn.impl.count (who, 'harmonics', o.harmonics);
+  amplitude = qn.impl.numbers (who, 'AMPLITUDE', amplitude, [], 'list', 'ascending', 'above', 0);
+  amplitude = reshape (amplitude, 1, []);
+  if isempty (o.row)
+    if ~iscell (elements) || size (elements, 2) < 2, error ('qn:input', '%s: without elements a "row" is needed', who); end
+    o.row = elements{1, 2};
+  end
+  row = qn.impl.looked_at (model, o.row, 'qn.backbone: ', 'row');
+  if size (row, 1) ~= 1, error ('qn:input', '%s: "row" must be one observation row, got %d', who, size (row, 1)); end
   model.damping = zeros (m, 1);
   b = qn.impl.periodic (who, model, zeros (m, 1), elements, o.harmonics, o.samples);
   free = onCleanup (@() delete (b.handles));

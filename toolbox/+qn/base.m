@@ -27,6 +27,6 @@ function b = base (model, push)
   qn.impl.made_by ('qn.base', model, 'qn.modal');
   n = size (model.shapes, 1);
   if nargin < 2, push = []; end
-  if numel (push) ~= n, error ('qn:input', 'qn.base: %d values expected, one a degree of freedom, got %d', n, numel (push)); end
+  push = qn.impl.numbers ('qn.base', 'PUSH', push, n, 'each', 'one a degree of freedom');
   b = -(model.shapes.' * (model.M * push(:)));
 end

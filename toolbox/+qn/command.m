@@ -26,5 +26,6 @@
 function b = command (model, varargin)
   if nargin < 1, model = []; end
   qn.impl.made_by ('qn.command', model, 'qn.modal');
-  b = qn.observe (model, varargin{:}).';
+  if nargin < 2, error ('qn:input', 'qn.command: degrees of freedom or rows expected; see help qn.command'); end
+  b = qn.impl.observed ('qn.command', model, varargin{:}).';
 end

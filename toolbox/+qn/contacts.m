@@ -33,17 +33,14 @@ function c = contacts (what, force)
     time = what.time;
     row = 1;
     if nargin > 1, row = force; end
-    if numel (row) ~= 1 || row < 1 || row > size (what.force, 1)
-      error ('qn:input', 'qn.contacts: the result has %d rows of forces', size (what.force, 1));
-    end
+    if size (what.force, 1) == 0, error ('qn:input', 'qn.contacts: the result has no forces: the run had no elements'); end
+    row = qn.impl.count ('qn.contacts', 'ROW', row, size (what.force, 1));
     force = what.force(row, :);
+    h = what.time(2) - what.time(1);
   else
-    time = what;
+    [h, time] = qn.impl.spacing ('qn.contacts', what);
+    force = qn.impl.numbers ('qn.contacts', 'FORCE', force, numel (time), 'each', 'one a time');
   end
-  if numel (time) ~= numel (force) || numel (time) < 2
-    error ('qn:input', 'qn.contacts: as many times as forces expected, got %d and %d', numel (time), numel (force));
-  end
-  h = time(2) - time(1);
   side = sign (force(:).');
   c = struct ('start', {}, 'duration', {}, 'peak', {}, 'impulse', {});
   first = find (side ~= 0 & side ~= [0, side(1:end - 1)]);

@@ -40,7 +40,10 @@ function r = harmonic (model, load, elements, hertz, varargin)
   qn.impl.made_by ('qn.harmonic', model, 'qn.modal');
   who = 'qn.harmonic';
   o = qn.impl.options (who, struct ('harmonics', 5, 'samples', 128, 'points', 400, 'step', 0.02), varargin);
-  if numel (hertz) ~= 2, error ('qn:input', '%s: [first last] frequency expected, got %d values', who, numel (hertz)); end
+  hertz = qn.impl.numbers (who, 'HERTZ', hertz, 2, 'above', 0, 'each', '[first last] frequency');
+  if hertz(1) == hertz(2), error ('qn:input', '%s: "HERTZ" must be two different frequencies, got %g twice', who, hertz(1)); end
+  o.points = qn.impl.count (who, 'points', o.points);
+  o.step = qn.impl.scalar (who, 'step', o.step, realmin ());
   b = qn.impl.periodic (who, model, load, elements, o.harmonics, o.samples);
   free = onCleanup (@() delete (b.handles));
   omega = 2 * pi * hertz;

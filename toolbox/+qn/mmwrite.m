@@ -24,7 +24,8 @@
 %
 % See also qn.mmread, qn.unpack
 function mmwrite (file, a, comment)
-  if ~(isnumeric (a) && ndims (a) == 2), error ('qn:input', 'qn.mmwrite: a matrix expected, got class %s', class (a)); end
+  if nargin < 2, error ('qn:input', 'qn.mmwrite: a file name and a matrix expected; see help qn.mmwrite'); end
+  a = qn.impl.numbers ('qn.mmwrite', 'A', a, [NaN NaN], 'complex');
   [id, why] = fopen (file, 'w');
   if id < 0, error ('qn:input', 'qn.mmwrite: cannot write %s: %s', file, why); end
   close_file = onCleanup (@() fclose (id));

@@ -60,6 +60,8 @@ function model = modal (varargin)
   k = args{1};
   m = args{2};
   n = size (k, 1);
+  k = qn.impl.numbers (who, 'K', k, [NaN NaN]);
+  m = qn.impl.numbers (who, 'M', m, [NaN NaN]);
   if ~isequal (size (k), [n n]) || ~isequal (size (m), [n n]) || n == 0
     error ('qn:input', '%s: square matrices of one size expected, got K %s and M %s', who, mat2str (size (k)), mat2str (size (m)));
   end
@@ -67,7 +69,7 @@ function model = modal (varargin)
   symmetric (who, 'M', m);
   o = qn.impl.options (who, struct ('modes', min (n, 200), 'damping', 0, 'rayleigh', [0 0], 'C', [], 'method', 'auto', 'attach', []), ...
                       args(3:end));
-  qn.impl.count (who, 'modes', o.modes);
+  o.modes = qn.impl.count (who, 'modes', o.modes);
   count = min (o.modes, n);
   if strcmp (o.method, 'auto')
     o.method = 'eig';
@@ -77,16 +79,16 @@ function model = modal (varargin)
   if ~isnumeric (o.damping)
     error ('qn:input', '%s: "damping" is a number such as 0.02 for 2 %% of critical damping, got class %s', who, class (o.damping));
   end
-  if any (o.damping(:) < 0) || ~any (numel (o.damping) == [1 count])
-    error ('qn:input', '%s: one damping ratio or %d, none below 0, expected, got %s', who, count, mat2str (o.damping));
-  end
-  if numel (o.rayleigh) ~= 2, error ('qn:input', '%s: "rayleigh" takes [alpha beta], got %d values', who, numel (o.rayleigh)); end
+  ratios = count;
+  if numel (o.damping) == 1, ratios = 1; end
+  o.damping = qn.impl.numbers (who, 'damping', o.damping, ratios, 'from', 0, 'each', 'one ratio for all or one a mode');
+  o.rayleigh = qn.impl.numbers (who, 'rayleigh', o.rayleigh, 2, 'each', '[alpha beta]');
   attached = 0;
   if ~isempty (o.attach), [phi, w, attached] = qn.impl.attach (k, m, phi, w, o.attach); end
   if numel (o.damping) > 1, o.damping = [o.damping(:); repmat(o.damping(end), attached, 1)]; end
   damping = 2 * o.damping(:) .* w + o.rayleigh(1) + o.rayleigh(2) * w .^ 2;
   if ~isempty (o.C)
-    c = qn.project (phi, o.C);
+    c = qn.project (phi, qn.impl.numbers (who, 'C', o.C, [n n]));
     beside = norm (c - diag (diag (c)), 'fro');
     if beside > 1e-9 * norm (c, 'fro')
       damping = diag (damping) + c;
@@ -99,7 +101,6 @@ function model = modal (varargin)
 end
 
 function symmetric (who, name, x)
-  if ~isnumeric (x) || any (~isfinite (nonzeros (x))), error ('qn:input', '%s: %s must be finite numbers', who, name); end
   beside = full (max (abs (nonzeros (x - x.'))));
   share = beside / full (max (abs (nonzeros (x))));
   if share > 1e-6

@@ -27,23 +27,10 @@
 %   stretch = qn.observe (model, [2 1], [1 -1]);
 %
 % See also qn.command, qn.modal, qn.simulation
-function c = observe (model, dofs, weights)
+function c = observe (model, varargin)
   if nargin < 1, model = []; end
   qn.impl.made_by ('qn.observe', model, 'qn.modal');
   n = size (model.shapes, 1);
   if nargin < 2, error ('qn:input', 'qn.observe: numbers of degrees of freedom, from 1 to %d, expected; see help qn.observe', n); end
-  if nargin < 3 && n > 1 && size (dofs, 2) == n && (size (dofs, 1) > 1 || issparse (dofs))
-    c = full (dofs * model.shapes);
-    return
-  end
-  if isempty (dofs) || any (dofs(:) < 1 | dofs(:) > n | dofs(:) ~= fix (dofs(:)))
-    error ('qn:input', 'qn.observe: degrees of freedom are numbered from 1 to %d, got %s', n, mat2str (dofs));
-  end
-  c = model.shapes(dofs, :);
-  if nargin > 2
-    if numel (weights) ~= numel (dofs)
-      error ('qn:input', 'qn.observe: %d weights expected, got %d', numel (dofs), numel (weights));
-    end
-    c = reshape (weights, 1, []) * c;
-  end
+  c = qn.impl.observed ('qn.observe', model, varargin{:});
 end

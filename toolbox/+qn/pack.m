@@ -29,14 +29,14 @@
 %
 % See also qn.unpack, qn.mmread, v_handle
 function s = pack (a, form)
-  if ~((isnumeric (a) || islogical (a)) && isreal (a) && ndims (a) == 2)
-    error ('qn:input', 'qn.pack: a real matrix expected, got an array of class %s', class (a));
-  end
+  if nargin < 1, error ('qn:input', 'qn.pack: a matrix expected; see help qn.pack'); end
+  if islogical (a), a = double (a); end
+  a = qn.impl.numbers ('qn.pack', 'A', a, [NaN NaN], 'empty');
   transposed = nargin > 1;
   if transposed && ~strcmp (form, 'transposed')
     error ('qn:input', 'qn.pack: the second argument can only be ''transposed''');
   end
-  stored = sparse (double (a));
+  stored = sparse (a);
   if transposed, stored = stored.'; end
   if nnz (stored) > double (intmax ('int32')), error ('qn:input', 'qn.pack: more stored values than 32-bit indices can count'); end
   [i, j, x] = find (stored);

@@ -25,7 +25,11 @@
 %
 % See also qn.modal, qn.pack
 function p = project (a, k, b)
+  if nargin < 2, error ('qn:input', 'qn.project: a basis and a matrix expected; see help qn.project'); end
   if nargin < 3, b = a; end
+  a = qn.impl.numbers ('qn.project', 'A', a, [NaN NaN], 'complex');
+  b = qn.impl.numbers ('qn.project', 'B', b, [NaN NaN], 'complex');
+  if ~isstruct (k), k = qn.impl.numbers ('qn.project', 'K', k, [NaN NaN]); end
   if isstruct (k), n = k.dims; else, n = size (k); end
   if size (a, 1) ~= n(1) || size (b, 1) ~= n(2) || n(1) ~= n(2)
     error ('qn:input', 'qn.project: a matrix of %d x %d expected between bases of %d and %d rows, got %d x %d', size (a, 1), ...

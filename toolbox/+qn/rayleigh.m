@@ -22,10 +22,12 @@
 %
 % See also qn.modal
 function ab = rayleigh (hertz, zeta)
-  if numel (hertz) ~= 2 || any (hertz <= 0) || hertz(1) == hertz(2)
-    error ('qn:input', 'qn.rayleigh: two different positive frequencies expected, got %s', mat2str (hertz));
-  end
-  if ~any (numel (zeta) == [1 2]), error ('qn:input', 'qn.rayleigh: one or two damping ratios expected, got %d', numel (zeta)); end
+  if nargin < 2, error ('qn:input', 'qn.rayleigh: two frequencies and their damping ratios expected; see help qn.rayleigh'); end
+  hertz = qn.impl.numbers ('qn.rayleigh', 'HERTZ', hertz, 2, 'above', 0, 'each', 'two different frequencies');
+  if hertz(1) == hertz(2), error ('qn:input', 'qn.rayleigh: "HERTZ" must be two different frequencies, got %g twice', hertz(1)); end
+  ratios = 2;
+  if numel (zeta) == 1, ratios = 1; end
+  zeta = qn.impl.numbers ('qn.rayleigh', 'ZETA', zeta, ratios, 'each', 'one a frequency or one for both');
   w = 2 * pi * hertz(:);
   ab = ([1 ./ w, w] / 2 \ (zeta(:) .* ones (2, 1))).';
 end

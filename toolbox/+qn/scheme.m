@@ -35,7 +35,8 @@ function s = scheme (name, rho)
     return
   end
   if isnumeric (name)
-    if numel (name) ~= 2 || ~(name(1) > 0) || ~(name(2) >= 0.5)
+    name = qn.impl.numbers ('qn.scheme', '[BETA GAMMA]', name, 2, 'each', 'beta and gamma');
+    if ~(name(1) > 0) || ~(name(2) >= 0.5)
       error ('qn:input', 'qn.scheme: [beta gamma] expected, beta above 0, gamma at least 1/2, got %s', mat2str (name));
     end
     s = struct ('beta', name(1), 'gamma', name(2), 'name', sprintf ('beta %g, gamma %g', name(1), name(2)));
@@ -47,7 +48,7 @@ function s = scheme (name, rho)
         s = struct ('beta', 1 / 6, 'gamma', 1 / 2, 'name', 'linear acceleration');
       case 'damped'
         if nargin < 2, rho = 0.9; end
-        if ~(rho > 0 && rho <= 1), error ('qn:input', 'qn.scheme: the amplitude ratio lies between 0 and 1, got %g', rho); end
+        rho = qn.impl.numbers ('qn.scheme', 'RHO', rho, [1 1], 'above', 0, 'to', 1);
         gamma = (3 - rho) / (2 * (1 + rho));
         s = struct ('beta', (gamma + 0.5) ^ 2 / 4, 'gamma', gamma, 'name', sprintf ('numerical damping, ratio %g', rho));
       otherwise

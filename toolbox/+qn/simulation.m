@@ -49,7 +49,7 @@ function sim = simulation (model, varargin)
               'elements', {{}}, 'every', 1, ...
               'times', [], 'u0', [], 'v0', [], 'q0', [], 'dq0', [], 'a0', 'consistent', 'start', []);
   o = qn.impl.options (who, o, varargin);
-  qn.impl.scalar (who, 'step', o.step, realmin ());
+  o.step = qn.impl.scalar (who, 'step', o.step, realmin ());
   first = 0;
   if ~isempty (o.start)
     % Times are counted from the same origin, in whole steps, so that a continued run sees the same bits.
@@ -60,23 +60,23 @@ function sim = simulation (model, varargin)
   end
   if isempty (o.until) == isempty (o.steps), error ('qn:input', '%s: give "until" or "steps", one of them', who); end
   if isempty (o.steps)
-    qn.impl.scalar (who, 'until', o.until);
-    o.steps = round (o.until / o.step) - first;
+    o.steps = round (qn.impl.scalar (who, 'until', o.until) / o.step) - first;
     if o.steps < 1
       error ('qn:input', '%s: "until" must be at least a step after the start at %g s, got %g', who, first * o.step, o.until);
     end
     o.until = [];
   end
-  qn.impl.count (who, 'steps', o.steps);
+  o.steps = qn.impl.count (who, 'steps', o.steps);
   sim = struct ('model', model, 'scheme', qn.scheme (o.scheme), 'step', o.step, 'first', first, 'time', (first + (0:o.steps)) * o.step);
   if isempty (o.times)
-    qn.impl.count (who, 'every', o.every);
+    o.every = qn.impl.count (who, 'every', o.every);
     sim.saved = 1:o.every:o.steps + 1;
   else
+    o.times = qn.impl.numbers (who, 'times', o.times, [], 'list');
     sim.saved = unique (min (max (round (o.times(:).' / o.step) - first, 0), o.steps)) + 1;
   end
   [loads, sim.base] = qn.impl.base_loads (model, o.load, o.base);
-  [sim.shapes, sim.loads, sim.notes] = qn.impl.loads (model, loads, sim.time);
+  [sim.shapes, sim.loads, sim.notes] = qn.impl.loads (model, loads, sim.time, sim.base);
   [sim.elements, sim.states, sim.slots] = qn.impl.elements (model, o.elements);
   sim.start = qn.impl.initial (sim, o);
   % What it was made of, for runs with another step.

@@ -29,9 +29,9 @@
 function [hertz, x] = spectrum (time, signal, varargin)
   who = 'qn.spectrum';
   o = qn.impl.options (who, struct ('window', 'hann', 'mean', 'remove'), varargin);
+  [h, time] = qn.impl.spacing (who, time);
   n = numel (time);
-  h = qn.impl.spacing (who, time);
-  if size (signal, 2) ~= n, error ('qn:input', '%s: %d columns expected, one a time, got %d', who, n, size (signal, 2)); end
+  signal = qn.impl.numbers (who, 'SIGNAL', signal, [NaN n], 'each', 'one column a time');
   switch o.window
     case 'hann', w = 0.5 - 0.5 * cos (2 * pi * (0:n - 1) / n);
     case 'none', w = ones (1, n);

@@ -34,11 +34,13 @@ function [q, info] = static (model, load, elements, q)
   who = 'qn.static';
   m = numel (model.w);
   if nargin < 4, q = zeros (m, 1); end
-  if numel (load) ~= m || numel (q) ~= m, error ('qn:input', '%s: %d modal values expected, got %d', who, m, numel (load)); end
+  load = qn.impl.numbers (who, 'LOAD', load, m, 'each', 'one a mode (qn.command times forces)');
   load = load(:);
+  q = qn.impl.numbers (who, 'Q0', q, m, 'each', 'one a mode');
+  q = q(:);
   model.damping = zeros (m, 1);
   sim = struct ('model', model);
-  [sim.elements, sim.states, sim.slots] = qn.impl.elements (model, qn.impl.without_memory (who, elements));
+  [sim.elements, sim.states, sim.slots] = qn.impl.elements (model, qn.impl.without_memory (who, elements), who);
   h = qn.impl.register (qn.impl.values (sim, 1));
   free = onCleanup (@() delete (h));
   scale = max (norm (load), realmin ());

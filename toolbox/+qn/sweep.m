@@ -56,7 +56,8 @@ function [results, report] = sweep (f, cases, varargin)
   begun = tic ();
   o = struct ('folder', '', 'engine', 'auto', 'workers', [], 'again', false, 'progress', true, 'sbatch', '', 'wait', true);
   o = qn.impl.options (who, o, varargin);
-  if ~isempty (o.workers), qn.impl.scalar (who, 'workers', o.workers, 1); end
+  if ~isempty (o.workers), o.workers = qn.impl.count (who, 'workers', o.workers); end
+  for name = {'again', 'progress', 'wait'}, o.(name{1}) = qn.impl.flag (who, name{1}, o.(name{1})); end
   if isempty (o.folder)
     if strcmp (o.engine, 'slurm')
       error ('qn:input', '%s: a job array needs the "folder", in a place that all nodes see', who);

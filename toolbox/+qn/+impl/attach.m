@@ -36,10 +36,7 @@ end
 % One load shape a column.
 function f = shapes (n, what)
   who = 'qn.modal';
-  if ~isnumeric (what) || ~isreal (what) || ndims (what) > 2 || any (~isfinite (what(:)))
-    error ('qn:input', '%s: "attach" takes numbers of degrees of freedom or load shapes, finite and real, got %s of class %s', who, ...
-           mat2str (size (what)), class (what));
-  end
+  what = qn.impl.numbers (who, 'attach', what, [], 'each', 'degrees of freedom or load shapes');
   whole = isvector (what) && all (what(:) == fix (what(:)) & what(:) >= 1);
   if ~issparse (what) && whole && all (what(:) <= n)
     f = full (sparse (what(:), 1:numel (what), 1, n, numel (what)));

@@ -11,9 +11,9 @@ function [list, base] = base_loads (model, list, motion)
   end
   base = struct ('push', zeros (size (model.shapes, 1), size (motion, 1)), 'loads', size (list, 1) + (1:size (motion, 1)));
   for k = 1:size (motion, 1)
-    shape = qn.base (model, motion{k, 1});
-    base.push(:, k) = motion{k, 1}(:);
-    motion{k, 1} = shape;
+    push = qn.impl.numbers (who, sprintf ('base{%d, 1}', k), motion{k, 1}, size (model.shapes, 1), 'each', 'one a degree of freedom');
+    base.push(:, k) = push(:);
+    motion{k, 1} = qn.base (model, push);
   end
   if isempty (list), list = motion; end
   if base.loads(1) > 1 && iscell (list) && size (list, 2) == 2, list = [list; motion]; end

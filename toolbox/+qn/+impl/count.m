@@ -1,5 +1,5 @@
-% COUNT (WHO, NAME, X)  refuses X unless it is a whole number from 1
-function count (who, name, x)
-  qn.impl.scalar (who, name, x, 1);
-  if x ~= fix (x), error ('qn:input', '%s: "%s" must be a whole number, got %g', who, name, x); end
+% X = COUNT (WHO, NAME, X, TOP)  X as a double; refused unless it is a whole number from 1 (to TOP)
+function x = count (who, name, x, top)
+  if nargin < 4, top = Inf; end
+  x = qn.impl.numbers (who, name, x, [1 1], 'from', 1, 'to', top, 'whole');
 end

@@ -1,11 +1,11 @@
-% [E, STATES, SLOTS] = ELEMENTS (MODEL, LIST)  one struct an element, with its places in the state vector and among the forces
+% [E, STATES, SLOTS] = ELEMENTS (MODEL, LIST, WHO)  one struct an element, with its places in the state vector and among the forces
 %
 %   law, observe, command   as given, banks of laws taken apart
 %   item                    row of LIST that it came from
 %   state                   row of the displacement vector where its memory is, 0: none
 %   slot, forces            its places in the module's force store; its rows of the results' forces
-function [e, states, slots] = elements (model, list)
-  who = 'qn.simulation';
+function [e, states, slots] = elements (model, list, who)
+  if nargin < 3, who = 'qn.simulation'; end
   m = numel (model.w);
   if ~iscell (list) || (~isempty (list) && ~any (size (list, 2) == [2 3]))
     error ('qn:input', '%s: "elements" is a cell {law, rows; ...}, got %s of class %s', who, mat2str (size (list)), class (list));
@@ -21,9 +21,9 @@ function [e, states, slots] = elements (model, list)
     end
     if ~isstruct (laws) || ~isfield (laws, 'kind'), error ('qn:input', '%s: element %d needs a law, from qn.law or a recipe', who, k); end
     where = sprintf ('%s: element %d: ', who, k);
-    c = qn.impl.looked_at (model, list{k, 2}, where);
+    c = qn.impl.looked_at (model, list{k, 2}, where, sprintf ('elements{%d, 2}', k));
     b = c;
-    if size (list, 2) > 2 && ~isempty (list{k, 3}), b = qn.impl.looked_at (model, list{k, 3}, where); end
+    if size (list, 2) > 2 && ~isempty (list{k, 3}), b = qn.impl.looked_at (model, list{k, 3}, where, sprintf ('elements{%d, 3}', k)); end
     if ~isequal (size (b), size (c))
       error ('qn:input', '%sas many rows to act through as to observe expected, got %d and %d', where, size (b, 1), size (c, 1));
     end

@@ -23,21 +23,21 @@ function s = initial (sim, o)
     if ~strcmp (o.a0, 'consistent'), error ('qn:input', '%s: "a0" is ''consistent'' or modal values', who); end
     s.a(1:m) = sim.shapes * sim.loads(:, 1) - r(1:m);
   else
-    if numel (o.a0) ~= m, error ('qn:input', '%s: "a0" needs %d modal values, got %d', who, m, numel (o.a0)); end
-    s.a(1:m) = o.a0(:);
+    s.a(1:m) = qn.impl.numbers (who, 'a0', o.a0, m, 'each', 'one a mode');
   end
 end
 
 function q = modal (who, model, name, x, modal_name, q)
   m = numel (model.w);
   n = size (model.shapes, 1);
+  if ~isempty (x) && ~isempty (q), error ('qn:input', '%s: give "%s" or "%s", one of them', who, name, modal_name); end
   if ~isempty (x)
-    if numel (x) ~= n, error ('qn:input', '%s: "%s" needs %d values, one a degree of freedom, got %d', who, name, n, numel (x)); end
+    x = qn.impl.numbers (who, name, x, n, 'each', 'one a degree of freedom');
     q = model.shapes.' * (model.M * x(:));
   elseif isempty (q)
     q = zeros (m, 1);
-  elseif numel (q) ~= m
-    error ('qn:input', '%s: "%s" needs %d modal values, got %d', who, modal_name, m, numel (q));
+  else
+    q = qn.impl.numbers (who, modal_name, q, m, 'each', 'one a mode');
   end
   q = q(:);
 end

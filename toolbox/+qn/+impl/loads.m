@@ -1,5 +1,7 @@
-% [SHAPES, LOADS, NOTES] = LOADS (MODEL, LIST, TIME)  modal load shapes, one a column, and the loads at every time, one a row
-function [shapes, loads, notes] = loads (model, list, time)
+% [SHAPES, LOADS, NOTES] = LOADS (MODEL, LIST, TIME, BASE)  modal load shapes, one a column, and the loads at every time, one a row
+%
+% BASE says which of them are motions of the base, for the names in errors; see base_loads.
+function [shapes, loads, notes] = loads (model, list, time, base)
   who = 'qn.simulation';
   m = numel (model.w);
   notes = {};
@@ -12,11 +14,11 @@ function [shapes, loads, notes] = loads (model, list, time)
   loads = zeros (n, numel (time));
   for k = 1:n
     [shape, signal] = list{k, :};
-    if ~isnumeric (shape), error ('qn:input', '%s: load %d is {shape, signal}, a shape of class %s is none', who, k, class (shape)); end
-    if numel (shape) ~= m
-      error ('qn:input', '%s: the shape of load %d has %d values; one a mode, %d, is expected', who, k, numel (shape), m);
-    end
+    named = sprintf ('load{%d, ', k);
+    if ~isempty (base) && any (base.loads == k), named = sprintf ('base{%d, ', find (base.loads == k)); end
+    shape = qn.impl.numbers (who, [named '1}'], shape, m, 'each', 'one a mode (the shape of the load; see qn.command)');
     shapes(:, k) = shape(:);
+    named = [named '2}'];
     if any (shape(:)) && all (shape(:) >= 0 & shape(:) == fix (shape(:))) && ~any (ismember (model.shapes, shape(:).', 'rows'))
       notes{end + 1} = sprintf ('the shape of load %d is whole numbers; a push or degrees of freedom need qn.base or qn.command', k);
     end
@@ -26,26 +28,40 @@ function [shapes, loads, notes] = loads (model, list, time)
       catch err
         error ('qn:input', '%s: the function of load %d fails for a row of times; write it with .* ./ .^ (%s)', who, k, err.message);
       end
+      if islogical (f), f = double (f); end
       if numel (f) == 1
         if ~isequaln (f, signal (time(1)))
           error ('qn:input', '%s: the function of load %d adds up a row of times to one value; write it with .* ./ .^', who, k);
         end
         f = f * ones (size (time));
       end
-    elseif size (signal, 1) == 2 && size (signal, 2) ~= numel (time)
-      if any (diff (signal(1, :)) <= 0), error ('qn:input', '%s: the times of load %d must ascend', who, k); end
-      f = interp1 (signal(1, :), signal(2, :), time, 'linear', 0);
-      if signal(1, 1) > time(1) || signal(1, end) < time(end)
+    elseif isnumeric (signal) && min (size (signal)) > 1
+      [f, short] = table (who, named, signal, time);
+      if short
         notes{end + 1} = sprintf ('the table of load %d covers %g to %g s of a run from %g to %g s; outside it the load is zero', k, ...
                                   signal(1, [1 end]), time([1 end]));
       end
     else
       f = signal;
     end
-    if numel (f) ~= numel (time)
-      error ('qn:input', '%s: load %d gives %d values for %d time points', who, k, numel (f), numel (time));
+    if isnumeric (f) && numel (f) ~= numel (time)
+      error ('qn:input', '%s: load %d, "%s", gives %d values for %d time points; a table is [times; values], 2 x k', who, k, named, ...
+             numel (f), numel (time));
     end
-    if ~isreal (f) || any (~isfinite (f)), error ('qn:input', '%s: load %d has values that are not finite and real', who, k); end
-    loads(k, :) = reshape (double (f), 1, []);
+    f = qn.impl.numbers (who, named, f, numel (time), 'each', 'one a time point');
+    loads(k, :) = reshape (f, 1, []);
   end
+end
+
+% Values of the 2 x k table S at TIME; SHORT where it leaves out some of it. A time point that misses an end of the table by rounding,
+% less than a hundredth of a step, has the value at that end.
+function [f, short] = table (who, named, s, time)
+  s = qn.impl.numbers (who, named, s, [2 NaN], 'each', '[times; values]');
+  qn.impl.numbers (who, [named '(1, :)'], s(1, :), [], 'ascending');
+  slack = 0.01 * (time(2) - time(1));
+  at = time;
+  at(at < s(1, 1) & at > s(1, 1) - slack) = s(1, 1);
+  at(at > s(1, end) & at < s(1, end) + slack) = s(1, end);
+  short = at(1) < s(1, 1) || at(end) > s(1, end);
+  f = interp1 (s(1, :), s(2, :), at, 'linear', 0);
 end

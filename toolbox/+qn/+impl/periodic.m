@@ -8,9 +8,11 @@
 % of "residual", as N springs side by side.
 function b = periodic (who, model, load, elements, harmonics, n)
   m = numel (model.w);
-  if numel (load) ~= m, error ('qn:input', '%s: a modal force of %d values expected, got %d', who, m, numel (load)); end
+  load = qn.impl.numbers (who, 'LOAD', load, m, 'each', 'one a mode (qn.command times forces)');
+  harmonics = qn.impl.count (who, 'harmonics', harmonics);
+  n = qn.impl.count (who, 'samples', n);
   if n <= 4 * harmonics, error ('qn:input', '%s: %d harmonics need more than %d samples', who, harmonics, 4 * harmonics); end
-  e = qn.impl.elements (model, elements);
+  e = qn.impl.elements (model, elements, who);
   index = zeros (1, numel (e));
   for k = 1:numel (e)
     t = qn.impl.traits (e(k).law, 1);

@@ -2,8 +2,9 @@
 function o = run_options (who, args, file)
   if nargin < 3, file = ''; end
   o = qn.impl.options (who, struct ('progress', true, 'piece', [], 'save', file, 'interval', 30, 'stop', []), args);
-  if ~isempty (o.piece), qn.impl.count (who, 'piece', o.piece); end
-  qn.impl.scalar (who, 'interval', o.interval, 0);
+  if ~isempty (o.piece), o.piece = qn.impl.count (who, 'piece', o.piece); end
+  o.interval = qn.impl.scalar (who, 'interval', o.interval, 0);
+  o.progress = qn.impl.flag (who, 'progress', o.progress);
   if ~isempty (o.save) && ~ischar (o.save)
     error ('qn:input', '%s: "save" is the name of a file, got %s of class %s', who, mat2str (size (o.save)), class (o.save));
   end

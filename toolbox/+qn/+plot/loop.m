@@ -25,7 +25,10 @@
 % See also qn.force, qn.dissipated, qn.plot.series
 function loop (what, force)
   name = 'Force loop';
+  if nargin < 2, error ('qn:input', 'qn.plot.loop: a result and an element, or displacements and forces expected'); end
   if isstruct (what)
+    qn.impl.made_by ('qn.plot.loop', what, 'qn.run');
+    force = qn.impl.count ('qn.plot.loop', 'K', force);
     members = what.sim.elements([what.sim.elements.item] == force);
     if isempty (members) || size (members(1).observe, 1) ~= 1
       error ('qn:input', 'qn.plot.loop: element %g is not there, or observes more than one displacement', force);
@@ -39,8 +42,8 @@ function loop (what, force)
     end
     force = sum (what.force([members.forces], :), 1);
   else
-    x = what;
-    if numel (x) ~= numel (force), error ('qn:input', 'qn.plot.loop: as many displacements as forces expected'); end
+    x = qn.impl.numbers ('qn.plot.loop', 'X', what, [], 'list');
+    force = qn.impl.numbers ('qn.plot.loop', 'F', force, numel (x), 'each', 'one a displacement');
   end
   [fx, ux] = qn.impl.prefixed (x(:), 'm');
   [ff, uf] = qn.impl.prefixed (force(:), 'N');

@@ -24,9 +24,12 @@
 %
 % See also qn.plot.phase, qn.bearing
 function orbit (res, cx, cy, clearance)
-  x = qn.displacement (res, cx);
-  y = qn.displacement (res, cy);
+  if nargin < 3, error ('qn:input', 'qn.plot.orbit: a result and two observation rows expected; see help qn.plot.orbit'); end
   if nargin < 4, clearance = 0; end
+  qn.impl.made_by ('qn.plot.orbit', res, 'qn.run');
+  x = one_row (res, cx, 'CX');
+  y = one_row (res, cy, 'CY');
+  clearance = qn.impl.scalar ('qn.plot.orbit', 'CLEARANCE', clearance, 0);
   [f, u] = qn.impl.prefixed ([x(:); y(:); clearance], 'm');
   k = qn.impl.thinned (numel (x), 20000);
   plot (f * x(k), f * y(k), '-', 'color', qn.impl.colours (1), 'linewidth', qn.impl.width ());
@@ -40,4 +43,10 @@ function orbit (res, cx, cy, clearance)
   end
   qn.impl.style ('Orbit', sprintf ('Displacement across [%s]', u), sprintf ('Displacement up [%s]', u), names);
   axis ('equal');
+end
+
+function x = one_row (res, c, name)
+  row = qn.impl.looked_at (res.sim.model, c, 'qn.plot.orbit: ', name);
+  if size (row, 1) ~= 1, error ('qn:input', 'qn.plot.orbit: "%s" must be one observation row, got %d', name, size (row, 1)); end
+  x = row * res.q;
 end

@@ -27,6 +27,8 @@ function fig = page (width, height)
     width = 900;
     height = 600;
   end
+  width = qn.impl.scalar ('qn.plot.page', 'WIDTH', width, 100);
+  height = qn.impl.scalar ('qn.plot.page', 'HEIGHT', height, 100);
   octave = exist ('OCTAVE_VERSION', 'builtin') > 0;
   screen = ~isempty (getenv ('DISPLAY')) || ispc () || (~octave && usejava ('desktop'));
   visible = {'off', 'on'};

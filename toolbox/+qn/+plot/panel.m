@@ -26,8 +26,13 @@
 %
 % See also qn.plot.page, qn.plot.series
 function ax = panel (rows, columns, k)
-  if any (k < 1 | k > rows * columns | k ~= fix (k))
-    error ('qn:input', 'qn.plot.panel: panels are numbered from 1 to %d, got %s', rows * columns, mat2str (k));
+  who = 'qn.plot.panel';
+  if nargin < 3, error ('qn:input', '%s: rows, columns and the number of the panel expected; see help %s', who, who); end
+  rows = qn.impl.count (who, 'ROWS', rows);
+  columns = qn.impl.count (who, 'COLUMNS', columns);
+  k = qn.impl.numbers (who, 'K', k, [], 'list', 'whole', 'ascending');
+  if k(1) < 1 || k(end) > rows * columns
+    error ('qn:input', '%s: "K" is %s; panels are numbered from 1 to %d', who, mat2str (k), rows * columns);
   end
   row = ceil (k(1) / columns);
   first = k(1) - (row - 1) * columns;

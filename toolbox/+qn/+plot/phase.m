@@ -24,8 +24,13 @@
 %
 % See also qn.velocity, qn.plot.orbit, qn.plot.series
 function phase (res, c, period)
-  x = qn.displacement (res, c);
-  v = qn.velocity (res, c);
+  who = 'qn.plot.phase';
+  if nargin < 2, error ('qn:input', '%s: a result and an observation row expected; see help %s', who, who); end
+  qn.impl.made_by (who, res, 'qn.run');
+  c = qn.impl.looked_at (res.sim.model, c, [who ': ']);
+  if nargin > 2, period = qn.impl.scalar (who, 'PERIOD', period, realmin ()); end
+  x = c * res.q;
+  v = c * qn.impl.rates (res);
   if size (x, 1) ~= 1, error ('qn:input', 'qn.plot.phase: one observation row expected, got %d', size (x, 1)); end
   [fx, ux] = qn.impl.prefixed (x, 'm');
   [fv, uv] = qn.impl.prefixed (v, 'm/s');

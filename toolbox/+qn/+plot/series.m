@@ -34,15 +34,15 @@ function series (res, c, varargin)
       error ('qn:input', 'qn.plot.series: observation rows or ''force'' and its rows expected');
     end
     rows = varargin{1};
-    if ~isnumeric (rows) || any (rows(:) < 1 | rows(:) > size (res.force, 1) | rows(:) ~= fix (rows(:)))
-      error ('qn:input', 'qn.plot.series: the result has %d rows of forces, numbered from 1', size (res.force, 1));
-    end
+    n = size (res.force, 1);
+    rows = qn.impl.numbers ('qn.plot.series', 'ROWS', rows, [], 'list', 'whole', 'from', 1);
+    if any (rows > n), error ('qn:input', 'qn.plot.series: "ROWS" has %g; the result has %d rows of forces', max (rows), n); end
     y = res.force(rows, :);
     varargin(1) = [];
     [factor, unit] = qn.impl.prefixed (y(:), 'N');
     what = 'Force';
   else
-    y = qn.displacement (res, c);
+    y = qn.impl.looked_at (res.sim.model, c, 'qn.plot.series: ') * res.q;
     [factor, unit] = qn.impl.prefixed (y(:), 'm');
     what = 'Displacement';
   end

@@ -32,13 +32,19 @@
 function waterfall (x, y, varargin)
   who = 'qn.plot.waterfall';
   o = qn.impl.options (who, struct ('parts', 24, 'hertz', [], 'along', [], 'label', 'Time [s]', 'unit', 'm'), varargin);
+  if nargin < 2, error ('qn:input', '%s: times and a signal, or frequencies and spectra expected; see help %s', who, who); end
   if isempty (o.along)
-    if numel (x) ~= numel (y), error ('qn:input', '%s: %d times, %d values', who, numel (x), numel (y)); end
+    [unused, x] = qn.impl.spacing (who, x);
+    y = qn.impl.numbers (who, 'SIGNAL', y, numel (x), 'each', 'one a time');
+    o.parts = qn.impl.count (who, 'parts', o.parts, floor (numel (x) / 2));
     [x, y, o.along] = parts (x, reshape (y, 1, []), o.parts);
-  elseif size (y, 1) ~= numel (o.along) || size (y, 2) ~= numel (x)
-    error ('qn:input', '%s: spectra of %d x %d expected, got %s', who, numel (o.along), numel (x), mat2str (size (y)));
+  else
+    x = reshape (qn.impl.numbers (who, 'HERTZ', x, [], 'list', 'ascending'), 1, []);
+    o.along = qn.impl.numbers (who, 'along', o.along, [], 'list');
+    y = qn.impl.numbers (who, 'SPECTRA', y, [numel(o.along), numel(x)], 'complex', 'each', 'one row for each of "along"');
   end
   if isempty (o.hertz), o.hertz = x([1 end]); end
+  o.hertz = reshape (qn.impl.numbers (who, 'hertz', o.hertz, 2, 'ascending', 'each', '[low high]'), 1, []);
   shown = x >= o.hertz(1) & x <= o.hertz(2);
   [f, unit] = qn.impl.prefixed (y(:), o.unit);
   x = x(shown);

@@ -44,7 +44,7 @@ function test_full_structures_and_objects_unpack ()
   expect_equal (full (qn.unpack (v_handle (qn.pack (sparse ([1 2]))))), [1 2]);
   expect_error (@() qn.unpack (struct ('ir', int32 (0))), 'qn:input', '~field "pr" expected');
   expect_error (@() qn.unpack (struct ('ir', int32 (0), 'jc', int32 ([0; 5]), 'pr', 1, 'dims', [1 1])), 'qn:input', '~points to 5');
-  expect_error (@() qn.pack (1i), 'qn:input', '~real matrix expected');
+  expect_error (@() qn.pack (1i), 'qn:input', '~"A" must be one finite real number, got 0\+1i');
 end
 
 function test_matrix_market_files_keep_every_bit ()

@@ -55,7 +55,7 @@ function test_rayleigh_coefficients_meet_both_dampings ()
   ab = qn.rayleigh ([2 20], [0.03 0.05]);
   w = 2 * pi * [2 20];
   expect_equal ((ab(1) ./ w + ab(2) * w) / 2, [0.03 0.05], 1e-14);
-  expect_error (@() qn.rayleigh ([2 2], 0.1), 'qn:input', '~two different positive');
+  expect_error (@() qn.rayleigh ([2 2], 0.1), 'qn:input', '~two different frequencies, got 2 twice');
 end
 
 function test_observation_command_and_base_rows ()
@@ -67,14 +67,14 @@ function test_observation_command_and_base_rows ()
   expect_equal (qn.base (model, ones (3, 1)), -model.shapes.' * diag ([1 2 3]) * ones (3, 1), 1e-14);
   expect_equal (sum (qn.base (model, ones (3, 1)) .^ 2), 6, 1e-12);
   expect_error (@() qn.observe (model, 4), 'qn:input', '~numbered from 1 to 3');
-  expect_error (@() qn.observe (model, [1 2], 1), 'qn:input', '~2 weights expected, got 1');
-  expect_error (@() qn.base (model, 1), 'qn:input', '~3 values expected');
+  expect_error (@() qn.observe (model, [1 2], 1), 'qn:input', '~"WEIGHTS" must be 2 values');
+  expect_error (@() qn.base (model, 1), 'qn:input', '~"PUSH" must be 3 values');
 end
 
 function test_mistakes_in_models_are_explained ()
   expect_error (@() qn.modal (eye (2), eye (3)), 'qn:input', '~square matrices of one size');
   expect_error (@() qn.modal (eye (2), -eye (2)), 'qn:input', '~not positive definite');
-  expect_error (@() qn.modal (eye (2), eye (2), 'damping', -1), 'qn:input', '~none below 0');
+  expect_error (@() qn.modal (eye (2), eye (2), 'damping', -1), 'qn:input', '~"damping" must be at least 0, got -1');
   expect_error (@() qn.modal (eye (2), eye (2), 'zeta', 1), 'qn:input', '~no parameter called "zeta"; there are modes');
   expect_error (@() qn.modal (struct ('K', 1)), 'qn:input', '~fields K and M');
 end

@@ -65,7 +65,7 @@ function test_a_waterfall_has_one_line_a_spectrum ()
   [across, up, lines] = looks ();
   expect_equal (up, 'Speed [rpm]');
   expect_equal (numel (lines), 3);
-  expect_error (@() qn.plot.waterfall (1:10, rand (3, 10), 'along', 1), 'qn:input', '~spectra of 1 x 10');
+  expect_error (@() qn.plot.waterfall (1:10, rand (3, 10), 'along', 1), 'qn:input', '~"SPECTRA" must be 1 x 10 numbers');
 end
 
 function test_panels_divide_the_page_without_overlap ()

@@ -65,7 +65,7 @@ function test_displacements_come_from_rows_or_from_one_number ()
   [model, res] = shaken ('average');
   expect_equal (qn.displacement (res, 2), model.shapes(2, :) * res.q);
   expect_equal (qn.displacement (res, qn.observe (model, [2 1])), model.shapes([2 1], :) * res.q);
-  expect_error (@() qn.displacement (res, [1 2 3]), 'qn:input', '~rows of 2 modal values');
+  expect_error (@() qn.displacement (res, [1 2 3]), 'qn:input', '~"C"\(3\) is 3; degrees of freedom are numbered from 1 to 2');
 end
 
 function test_contacts_are_listed_with_their_impulse ()
@@ -79,7 +79,7 @@ function test_contacts_are_listed_with_their_impulse ()
   expect_equal (numel (qn.contacts (t, zeros (size (t)))), 0);
   last = qn.contacts ([0 1 2], [0 0 3]);
   expect_equal (last.duration, 1);
-  expect_error (@() qn.contacts (t, 1), 'qn:input', '~as many times as forces');
+  expect_error (@() qn.contacts (t, 1), 'qn:input', '~"FORCE" must be 10001 values, one a time');
 end
 
 function test_a_spectrum_shows_amplitudes ()

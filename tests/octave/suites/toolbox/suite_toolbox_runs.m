@@ -189,11 +189,11 @@ function test_mistakes_in_simulations_are_explained ()
   refused = @(text, varargin) expect_error (@() qn.simulation (model, varargin{:}), 'qn:input', text);
   refused ('~"step" is missing', 'steps', 1);
   refused ('~"until" or "steps"', 'step', 1);
-  refused ('~has 2 values; one a mode, 1', 'step', 1, 'steps', 1, 'load', {[1 2], @sin});
+  refused ('~"load\{1, 1\}" must be 1 value, one a mode .*, got 1 x 2', 'step', 1, 'steps', 1, 'load', {[1 2], @sin});
   refused ('~gives 3 values for 2 time points', 'step', 1, 'steps', 1, 'load', {1, [1 2 3]});
-  refused ('~not finite', 'step', 1, 'steps', 1, 'load', {1, @(t) 1 ./ t});
-  refused ('~rows of 1 modal values', 'step', 1, 'steps', 1, 'elements', {law, [1 2]});
+  refused ('~is Inf; finite numbers expected', 'step', 1, 'steps', 1, 'load', {1, @(t) 1 ./ t});
+  refused ('~"elements\{1, 2\}"\(2\) is 2; degrees of freedom are numbered from 1 to 1', 'step', 1, 'steps', 1, 'elements', {law, [1 2]});
   refused ('~needs a law', 'step', 1, 'steps', 1, 'elements', {1, 1});
   refused ('~''average'', ''linear''', 'step', 1, 'steps', 1, 'scheme', 'euler');
-  refused ('~"u0" needs 1 values', 'step', 1, 'steps', 1, 'u0', [1 2]);
+  refused ('~"u0" must be 1 value, one a degree of freedom, got 1 x 2', 'step', 1, 'steps', 1, 'u0', [1 2]);
 end

@@ -1,0 +1,23 @@
+% C = OBSERVED (WHO, MODEL, DOFS)           rows of the displacements of these degrees of freedom
+% C = OBSERVED (WHO, MODEL, DOFS, WEIGHTS)  one row, their weighted sum; physical rows stand for themselves (see qn.observe)
+function c = observed (who, model, dofs, weights)
+  n = size (model.shapes, 1);
+  rows = isnumeric (dofs) && nargin < 4 && n > 1 && size (dofs, 2) == n && (size (dofs, 1) > 1 || issparse (dofs));
+  if rows
+    c = full (qn.impl.numbers (who, 'ROWS', dofs, [NaN n]) * model.shapes);
+    return
+  end
+  if isnumeric (dofs) && min (size (dofs)) > 1
+    qn.impl.numbers (who, 'ROWS', dofs, [NaN n], 'each', 'one column a degree of freedom');
+  end
+  dofs = qn.impl.numbers (who, 'DOFS', dofs, [], 'whole', 'list');
+  bad = find (dofs < 1 | dofs > n, 1);
+  if ~isempty (bad)
+    error ('qn:input', '%s: "DOFS"(%d) is %g; degrees of freedom are numbered from 1 to %d', who, bad, dofs(bad), n);
+  end
+  c = model.shapes(dofs, :);
+  if nargin > 3
+    weights = qn.impl.numbers (who, 'WEIGHTS', weights, numel (dofs), 'each', 'one a degree of freedom');
+    c = reshape (weights, 1, []) * c;
+  end
+end

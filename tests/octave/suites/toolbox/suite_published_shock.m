@@ -108,7 +108,7 @@ function test_modes_that_were_left_out_follow_the_base ()
   expect_equal (qn.acceleration (res, 2, 'absolute', true), wanted);
   expect_equal (qn.acceleration (res, qn.observe (few, 2), 'absolute', true), wanted);
   expect_error (@() qn.acceleration (res, qn.observe (few, [1 2], [1 1]), 'absolute', true), 'qn:input', '~2 of 3 modes');
-  expect_error (@() qn.simulation (few, 'step', 1, 'steps', 1, 'base', {1, @sin}), 'qn:input', '~3 values expected');
+  expect_error (@() qn.simulation (few, 'step', 1, 'steps', 1, 'base', {1, @sin}), 'qn:input', '~"base\{1, 1\}" must be 3 values');
   expect_error (@() qn.simulation (few, 'step', 1, 'steps', 1, 'base', {1, 2, 3}), 'qn:input', '~two columns');
 end
 

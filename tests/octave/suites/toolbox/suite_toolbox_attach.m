@@ -147,6 +147,6 @@ function test_places_that_are_none_are_refused ()
   expect_error (@() qn.modal (k, m, 'attach', 4), 'qn:input', '~degrees of freedom from 1 to 3, or load shapes of 3 values, got 4');
   expect_error (@() qn.modal (k, m, 'attach', 1.5), 'qn:input', '~degrees of freedom from 1 to 3');
   expect_error (@() qn.modal (k, m, 'attach', [0; 0; 0]), 'qn:input', '~is zero');
-  expect_error (@() qn.modal (k, m, 'attach', [1; NaN; 0]), 'qn:input', '~finite and real');
+  expect_error (@() qn.modal (k, m, 'attach', [1; NaN; 0]), 'qn:input', '~"attach"\(2\) is NaN');
   expect_error (@() qn.modal (k, m, 'attach', 'tip'), 'qn:input', '~of class char');
 end

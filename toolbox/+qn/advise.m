@@ -1,8 +1,13 @@
-% QN.ADVISE  how long the time step may be, from runs with h and h/2
+% QN.ADVISE  how long the time step may be, from runs with h, h/2 and h/4
 %
 % Purpose
-%   Runs the set-up with its step and with half of it. The difference, with the order p of the scheme, gives the error of either
-%   (Richardson): e(h) = |x(h) - x(h/2)| 2^p / (2^p - 1). From it follows the step for a wanted error.
+%   Runs the set-up with its step, half and a quarter of it. From the two differences follows the order that the error really has in
+%   this set-up - contacts, friction and Maxwell elements lower it below that of the scheme - and with it the error and the step for a
+%   wanted one (Richardson). Between the first and the second order the error is taken as a h + b h^2, so that what is small now and
+%   of first order counts when the step is shortened. A longer step is proposed only after a run with it kept the tolerance and
+%   qn.check has no error to name; a shorter one down to h/64, from where it is to be asked again.
+%   Where the error cannot be told - the runs grow, have little in common (chaos), or do not come nearer to each other - the text
+%   says so, error and order are NaN, and the proposal is a step from which to ask again.
 %
 % Calls
 %   qn.advise (SIM, ...)
@@ -14,15 +19,15 @@
 %     'rows'       observation rows or one degree of freedom to judge (those of the elements, else all modes)
 %     'tolerance'  wanted error, relative to the greatest displacement (0.01)
 %     'until'      time up to which to compare [s] (that of SIM)
-%     'order'      true: a third run with h/4 measures the order instead of taking the scheme's (false). In motion with contacts
-%                  the observed order is often lower.
+%     'order'      false: two runs only. The order is then not known (NaN), and the first is taken, which is on the safe side. (true)
 %
 % Output
-%   A     struct: step [s], error and error_half (relative errors with h and h/2), order, advised (step for the tolerance [s]), text.
-%         Without an output argument the text is printed.
+%   A     struct: step [s], error and error_half (relative errors with h and h/2), order (as measured), advised (step for the
+%         tolerance [s], always a positive number), limit (step from which on the motion grows, as far as it had to be asked for
+%         [s], else NaN), sure (the error is known: true or false), text. Without an output argument the text is printed.
 %
 % Errors
-%   qn:input  the set-up continues an earlier run, or its loads are given step by step
+%   qn:input  the set-up continues an earlier run, its loads are given step by step, or nothing moves
 %
 % Example
 %   model = qn.modal (4e4, 1, 'damping', 0.02);
@@ -34,56 +39,54 @@ function advice = advise (sim, varargin)
   if nargin < 1, sim = []; end
   qn.impl.made_by ('qn.advise', sim, 'qn.simulation');
   who = 'qn.advise';
-  o = qn.impl.options (who, struct ('rows', [], 'tolerance', 0.01, 'until', sim.time(end), 'order', false), varargin);
+  o = qn.impl.options (who, struct ('rows', [], 'tolerance', 0.01, 'until', sim.time(end), 'order', true), varargin);
+  qn.impl.scalar (who, 'tolerance', o.tolerance, realmin ());
+  qn.impl.scalar (who, 'until', o.until, sim.step / 2);
   if isempty (sim.options), error ('qn:input', '%s: a set-up that continues another or comes from a file cannot be made anew', who); end
-  for k = 1:size (sim.options.load, 1)
-    signal = sim.options.load{k, 2};
-    if isnumeric (signal) && numel (signal) > 1 && size (signal, 1) ~= 2
-      error ('qn:input', '%s: load %d is given step by step; give a function or a table with times', who, k);
-    end
-  end
+  known_between (who, 'load', sim.options.load);
+  known_between (who, 'base', sim.options.base);
   if isempty (o.rows)
     c = cat (1, sim.elements.observe);
     if isempty (c), c = eye (numel (sim.model.w)); end
   else
     c = qn.impl.looked_at (sim.model, o.rows, 'qn.advise: ');
   end
-  steps = round (o.until / sim.step);
-  coarse = c * trial (sim, steps, 1);
-  fine = c * trial (sim, steps, 2);
-  size_of = max (max (abs (fine)));
-  if size_of == 0, error ('qn:input', '%s: nothing moves', who); end
-  between = max (max (abs (coarse - fine))) / size_of;
-  p = sim.scheme.order;
-  if o.order
-    finer = c * trial (sim, steps, 4);
-    p = log2 (between / (max (max (abs (fine - finer))) / size_of));
-    p = max (0.1, p);
-  end
-  e = between * 2 ^ p / (2 ^ p - 1);
-  advised = sim.step * (o.tolerance / e) ^ (1 / p);
-  text = sprintf (['step %.3g s: error %.2g of the greatest displacement; step %.3g s: %.2g (order %.2f). For %.2g take a step of ' ...
-                   '%.2g s'], sim.step, e, sim.step / 2, e / 2 ^ p, p, o.tolerance, advised);
-  if between > 0.5
-    text = [text '. The two runs have little in common: shorten the step first; chaotic motion can only be compared by statistics'];
-  end
-  advice = struct ('step', sim.step, 'error', e, 'error_half', e / 2 ^ p, 'order', p, 'advised', advised, 'text', text);
+  cuts = [1 2 4];
+  if ~isequal (o.order, true), cuts = [1 2]; end
+  [x, runs] = trials (sim, round (o.until / sim.step), cuts, c);
+  advice = qn.impl.judge_steps (sim, x, runs, o.tolerance, @(k) shown (sim, k, floor (round (o.until / sim.step) / k), c));
   if nargout == 0
-    fprintf ('%s\n', text);
+    fprintf ('%s\n', advice.text);
     clear advice
   end
 end
 
-function q = trial (sim, steps, cut)
-  o = sim.options;
-  o.step = sim.step / cut;
-  o.steps = steps * cut;
-  o.until = [];
-  o.times = [];
-  o.every = cut;
-  names = fieldnames (o);
-  values = struct2cell (o);
-  args = [names, values].';
-  res = qn.run (qn.simulation (sim.model, args{:}), 'progress', false);
-  q = res.q;
+function known_between (who, name, list)
+  for k = 1:size (list, 1)
+    signal = list{k, 2};
+    if isnumeric (signal) && numel (signal) > 1 && size (signal, 1) ~= 2
+      error ('qn:input', '%s: %s %d is given step by step; give a function or a table with times', who, name, k);
+    end
+  end
+end
+
+% Motions with the step cut so, at the same times; [] where it grows. A tenfold motion of the shortest step is no motion, but growth.
+function [x, runs] = trials (sim, steps, cuts, c)
+  x = cell (size (cuts));
+  runs = cell (size (cuts));
+  for k = 1:numel (cuts), [x{k}, runs{k}] = shown (sim, 1 / cuts(k), steps, c); end
+  size_of = cellfun (@(y) max ([0; abs(y(:))]), x);
+  least = min ([size_of(~cellfun (@isempty, x)), Inf]);
+  if least == 0, error ('qn:input', 'qn.advise: nothing moves'); end
+  for k = find (size_of > 10 * least), x{k} = []; end
+end
+
+% Motion over STEPS steps of SIM, each FACTOR times as long, at whole multiples of the step of SIM or of the longer one.
+function [x, res] = shown (sim, factor, steps, c)
+  was = warning ('off', 'all');
+  back = onCleanup (@() warning (was));
+  cut = max (1, round (1 / factor));
+  res = qn.run (qn.impl.with_step (sim, sim.step * factor, steps * cut, cut), 'progress', false);
+  x = [];
+  if res.complete && all (isfinite (res.q(:))), x = c * res.q; end
 end

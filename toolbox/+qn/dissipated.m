@@ -1,4 +1,4 @@
-% QN.DISSIPATED  energy that each nonlinear element has taken up, stored and dissipated
+% QN.DISSIPATED  energy that each nonlinear element has taken up, stored, dissipated and exchanged
 %
 % Purpose
 %   Shows which element damps. What an element without memory "dissipates" is the error of the time step: its force is evaluated at
@@ -17,7 +17,9 @@
 %           absorbed    1 x k work done on it since the start [J]
 %           stored      1 x k change of its stored energy [J]: of memoryless laws their potential; of sliders and Dahl elements
 %                       force^2 / (2 stiffness); of Maxwell elements that of their springs; of 'clima2' not known, 0
-%           dissipated  1 x k, the difference [J]
+%           exchanged   1 x k work taken by forces that act elsewhere than the element looks: rows "B" that are no multiple of "C".
+%                       They have no potential: this depends on the path, and negative is energy that they put in [J]
+%           dissipated  1 x k, absorbed less stored and exchanged [J]
 %
 % Errors
 %   qn:input  the result keeps only some of the steps
@@ -35,23 +37,36 @@ function d = dissipated (res)
   qn.impl.made_by ('qn.dissipated', res, 'qn.run');
   sim = res.sim;
   if numel (sim.saved) ~= numel (sim.time), error ('qn:input', 'qn.dissipated: the energy of an element needs every step of the run'); end
-  d = struct ('law', {}, 'absorbed', {}, 'stored', {}, 'dissipated', {});
+  d = struct ('law', {}, 'absorbed', {}, 'stored', {}, 'exchanged', {}, 'dissipated', {});
   m = numel (sim.model.w);
   for e = sim.elements
     f = res.force(e.forces, :);
     x = e.observe * res.q;
     y = e.command * res.q;
-    absorbed = [0, cumsum(sum ((f(:, 1:end - 1) + f(:, 2:end)) / 2 .* diff (y, 1, 2), 1))];
+    absorbed = [zeros(size (f, 1), 1), cumsum((f(:, 1:end - 1) + f(:, 2:end)) / 2 .* diff (y, 1, 2), 2)];
     state = [];
     if e.state > 0, state = res.state(e.state - m, :); end
-    stored = qn.impl.stored (e.law, x, f, state, sim.step);
+    share = along (e.observe, e.command);
+    exchanged = sum (absorbed(isnan (share), :), 1);
+    stored = zeros (size (res.time));
+    t = qn.impl.traits (e.law, size (x, 1));
+    if t.memory
+      if ~isnan (share(1)), stored = share(1) * qn.impl.stored (e.law, x, f, state, sim.step); end
+    else
+      for k = find (~isnan (share))
+        stored = stored + share(k) * qn.impl.stored (e.law, x(k, :), f(k, :), state, sim.step);
+      end
+    end
     stored = stored - stored(1);
+    absorbed = sum (absorbed, 1);
     if numel (d) < e.item
-      d(e.item) = struct ('law', qn.impl.law_text (e.law), 'absorbed', absorbed, 'stored', stored, 'dissipated', absorbed - stored);
+      d(e.item) = struct ('law', qn.impl.law_text (e.law), 'absorbed', absorbed, 'stored', stored, 'exchanged', exchanged, ...
+                          'dissipated', absorbed - stored - exchanged);
     else
       d(e.item).absorbed = d(e.item).absorbed + absorbed;
       d(e.item).stored = d(e.item).stored + stored;
-      d(e.item).dissipated = d(e.item).absorbed - d(e.item).stored;
+      d(e.item).exchanged = d(e.item).exchanged + exchanged;
+      d(e.item).dissipated = d(e.item).absorbed - d(e.item).stored - d(e.item).exchanged;
     end
   end
   for k = 1:numel (d)
@@ -60,9 +75,21 @@ function d = dissipated (res)
   end
   if nargout > 0, return, end
   if isempty (d), fprintf ('no elements\n'); end
-  if ~isempty (d), fprintf ('%7s %14s %12s %14s  %s\n', 'element', 'absorbed [J]', 'stored [J]', 'dissipated [J]', 'law'); end
+  if ~isempty (d), fprintf ('%7s %14s %12s %14s %14s  %s\n', 'element', 'absorbed [J]', 'stored [J]', 'dissipated [J]', ...
+                                  'exchanged [J]', 'law'); end
   for k = 1:numel (d)
-    fprintf ('%7d %14.4g %12.4g %14.4g  %s\n', k, d(k).absorbed(end), d(k).stored(end), d(k).dissipated(end), d(k).law);
+    fprintf ('%7d %14.4g %12.4g %14.4g %14.4g  %s\n', k, d(k).absorbed(end), d(k).stored(end), d(k).dissipated(end), ...
+             d(k).exchanged(end), d(k).law);
   end
   clear d
+end
+
+% Row by row: B = SHARE C, NaN where B points elsewhere. Such a row's force has the potential of its law times SHARE.
+function share = along (c, b)
+  share = nan (1, size (c, 1));
+  for k = 1:size (c, 1)
+    square = c(k, :) * c(k, :).';
+    s = (b(k, :) * c(k, :).') / max (square, realmin ());
+    if norm (b(k, :) - s * c(k, :)) <= 1e-9 * norm (b(k, :)), share(k) = s; end
+  end
 end

@@ -1,9 +1,11 @@
 % QN.ENERGIES  where the energy of a run is, and whether it adds up
 %
 % Purpose
-%   Kinetic, strain and stored energy, what was dissipated, and the work of the loads. The residual of the balance is the error of
-%   the time integration: rounding alone for linear runs with average acceleration, and a measure of the step length where forces
-%   of elements, which act as evaluated at the predictor, do not fit their potential.
+%   Kinetic, strain and stored energy, what was damped, dissipated and taken by forces without a potential, and the work of the loads.
+%   What does not add up, the residual, has two sources: forces of memoryless elements act as evaluated at the predictor and do not
+%   quite follow their potential, and schemes other than average acceleration damp or excite by themselves. Both fall with the step.
+%   All other works are those of the forces as they acted, and balance to rounding with average acceleration, at any step: a small
+%   residual does not say that the motion is right (see qn.advise). One that does not fall with the step is no error of the step.
 %
 % Calls
 %   E = qn.energies (RES)
@@ -12,9 +14,16 @@
 %   RES   from qn.run, with every step kept
 %
 % Output
-%   E     struct of rows, one column a time [J]: kinetic, strain, stored (in elements, since the start), damped (by modal
-%         damping), dissipated (by elements with memory), work (of the loads), residual (what is there now, less what was there at
-%         the start and the work); and time [s]
+%   E     struct of rows, one column a time [J], and time [s]
+%           kinetic, strain   of the modes; strain is that of the symmetric part of the stiffness
+%           stored            in elements, since the start
+%           damped            by modal damping (the symmetric part of a full matrix)
+%           dissipated        by elements with memory
+%           exchanged         taken by elements that act elsewhere than they look ("B" beside "C"); negative: put in
+%           circulatory       taken by the skew part of a full stiffness (bearings with cross terms); negative: put in, as in oil whirl
+%           gyroscopic        taken by the skew part of a full damping matrix: nothing to rounding with average acceleration
+%           work              of the loads
+%           residual          what is there and was taken, less what was there at the start and the work of the loads
 %
 % Errors
 %   qn:input  the result keeps only some of the steps, or the run was cut short
@@ -34,18 +43,27 @@ function e = energies (res)
   q = res.q;
   dq = diff (q, 1, 2);
   between = @(f) [0, cumsum(sum ((f(:, 1:end - 1) + f(:, 2:end)) / 2 .* dq, 1))];
-  c = sim.model.damping;
-  if size (c, 2) == 1, c = diag (c); end
-  e = struct ('time', res.time, 'kinetic', sum (v .^ 2, 1) / 2, 'strain', sum (bsxfun (@times, sim.model.stiffness, q .^ 2), 1) / 2, ...
-              'stored', zeros (size (res.time)), 'damped', between (c * v), 'dissipated', zeros (size (res.time)), ...
-              'work', between (sim.shapes * sim.loads));
+  [c, gyroscopic] = parts (sim.model.damping);
+  [k, circulatory] = parts (sim.model.stiffness);
+  none = zeros (size (res.time));
+  e = struct ('time', res.time, 'kinetic', sum (v .^ 2, 1) / 2, 'strain', sum (q .* (k * q), 1) / 2, 'stored', none, ...
+              'damped', between (c * v), 'dissipated', none, 'exchanged', none, 'circulatory', between (circulatory * q), ...
+              'gyroscopic', between (gyroscopic * v), 'work', between (sim.shapes * sim.loads));
   d = qn.dissipated (res);
   for k = 1:numel (d)
     members = sim.elements([sim.elements.item] == k);
     e.stored = e.stored + d(k).stored;
+    e.exchanged = e.exchanged + d(k).exchanged;
     t = qn.impl.traits (members(1).law, 1);
     if t.memory, e.dissipated = e.dissipated + d(k).dissipated; end
   end
-  now = e.kinetic + e.strain + e.stored + e.damped + e.dissipated;
+  now = e.kinetic + e.strain + e.stored + e.damped + e.dissipated + e.exchanged + e.circulatory + e.gyroscopic;
   e.residual = now - now(1) - e.work;
+end
+
+% Symmetric and skew part of a modal matrix, given by its diagonal or whole.
+function [s, g] = parts (x)
+  if size (x, 2) == 1, x = spdiags (x, 0, numel (x), numel (x)); end
+  s = (x + x.') / 2;
+  g = (x - x.') / 2;
 end

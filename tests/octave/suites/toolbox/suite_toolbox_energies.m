@@ -1,0 +1,82 @@
+% Works and energies: which have a potential, which depend on the path, and what the residual of the balance says.
+function tests = suite_toolbox_energies ()
+  use_toolbox ();
+  tests = localfunctions ();
+end
+
+function model = two_masses ()
+  model = qn.modal (1e4 * [2 -1; -1 1], eye (2), 'damping', 0.01);
+end
+
+function res = shaken (model, elements, h)
+  res = qn.run (qn.simulation (model, 'step', h, 'until', 0.5, 'v0', [1; 0.3], 'elements', elements));
+end
+
+% Looking at one mass and pushing the other has no potential: 38 % of the energy was "left over", at every step.
+function test_forces_that_act_elsewhere_than_they_look_are_not_stored ()
+  model = two_masses ();
+  elements = {qn.law('power', 'stiffness', 4e3, 'exponent', 1), qn.observe(model, 1), qn.observe(model, 2)};
+  for h = [1e-3 2.5e-4]
+    res = shaken (model, elements, h);
+    e = qn.energies (res);
+    expect_equal (max (abs (e.residual)) / e.kinetic(1) < 1e-12, true);
+    expect_equal (e.stored, zeros (size (e.time)));
+    f = res.force;
+    y = qn.displacement (res, qn.observe (model, 2));
+    expect_equal (e.exchanged(end), sum ((f(1:end - 1) + f(2:end)) / 2 .* diff (y)), 1e-12);
+    if max (abs (e.exchanged)) < 0.05 * e.kinetic(1), error ('the element exchanges nothing'); end
+  end
+end
+
+% The same force at twice the place's motion, and against it: a multiple has a potential, the multiple of the law's own.
+function test_forces_along_what_is_observed_keep_their_potential ()
+  model = two_masses ();
+  row = qn.observe (model, 1);
+  for share = [2 -0.25]
+    res = shaken (model, {qn.cubic('stiffness', 1e7), row, share * row}, 1e-4);
+    e = qn.energies (res);
+    expect_equal (e.exchanged, zeros (size (e.time)));
+    x = row * res.q;
+    expect_equal (e.stored, share * 1e7 / 4 * (x .^ 4 - x(1) ^ 4), 1e-10);
+    expect_equal (max (abs (e.residual)) / e.kinetic(1) < 1e-3, true);
+  end
+end
+
+% Two rows behind one law, one of them astray: each is counted for itself.
+function test_rows_of_one_element_are_told_apart ()
+  model = two_masses ();
+  c = qn.observe (model, [1 2]);
+  law = qn.law ('power', 'stiffness', 2e3, 'exponent', 1);
+  both = shaken (model, {law, c, c([1 1], :)}, 2.5e-4);
+  apart = shaken (model, {law, c(1, :), []; law, c(2, :), c(1, :)}, 2.5e-4);
+  expect_equal (both.q, apart.q, 1e-12);
+  e = qn.energies (both);
+  f = qn.energies (apart);
+  for name = {'stored', 'exchanged', 'dissipated', 'residual'}, expect_equal (e.(name{1}), f.(name{1}), 1e-12); end
+  d = qn.dissipated (both);
+  expect_equal (d.absorbed, d.stored + d.exchanged + d.dissipated, 1e-12);
+  if max (abs (d.stored)) < 1e-3 || max (abs (d.exchanged)) < 1e-3, error ('one of the rows takes no part'); end
+end
+
+function test_friction_that_acts_elsewhere_is_exchanged_too ()
+  model = two_masses ();
+  e = qn.energies (shaken (model, {qn.slider('slip', 10, 'stiffness', 3e4), qn.observe(model, 1), qn.observe(model, 2)}, 1e-4));
+  expect_equal ([any(e.stored), any(e.dissipated)], [false false]);
+  expect_equal (max (abs (e.residual)) / e.kinetic(1) < 1e-12, true);
+end
+
+% One thing remains in the residual with average acceleration: memoryless forces from the predictor against their potential.
+function test_the_residual_is_what_forces_miss_of_their_potential ()
+  model = two_masses ();
+  stop = {qn.gap('gap', 2e-3, 'stiffness', 4e4), qn.observe(model, 1)};
+  for h = [4e-4 1e-4]
+    res = shaken (model, stop, h);
+    e = qn.energies (res);
+    d = qn.dissipated (res);
+    expect_equal (e.residual, -d.dissipated, 1e-12);
+    left(1 + (h == 1e-4)) = max (abs (e.residual));
+  end
+  if left(2) > left(1) / 3, error ('%g with a step, %g with a quarter', left); end
+  printed = evalc ('qn.dissipated (res)');
+  if isempty (strfind (printed, 'exchanged [J]')), error ('%s', printed); end
+end

@@ -16,7 +16,7 @@
 %   RES    as for qn.run
 %
 % Errors
-%   qn:input  there is no such file, or it holds no run
+%   qn:input  there is no such file, or it holds no run; the run diverged
 %
 % Example
 %   model = qn.modal (4e4, 1);
@@ -38,5 +38,6 @@ function res = resume (what, varargin)
   if ~isstruct (res) || ~all (isfield (res, {'sim', 'final', 'q', 'complete'}))
     error ('qn:input', 'qn.resume expects the result of qn.run or its file; see help qn.resume');
   end
+  qn.impl.not_diverged ('qn.resume', res);
   res = qn.impl.advance (res, qn.impl.run_options ('qn.resume', varargin, file));
 end

@@ -16,22 +16,25 @@
 %                 interruption leaves the last one.
 %     'interval'  seconds between two of those (30); it is also written at the end. Each writes all results so far, some
 %                 seconds for 100 MB: choose a longer one for large results.
-%     'stop'      function of the results so far, called between pieces: true ends the run ([])
+%     'stop'      function of the results so far, called between pieces: true ends the run ([]). Columns after r.time_end are
+%                 there already and are NaN.
 %
 % Output
-%   RES   struct: time      1 x k times of the results [s]
+%   RES   struct: time      1 x k times of the results, up to where the run came [s]
 %                 q         m x k modal coordinates [m sqrt(kg)]; displacements are rows of qn.observe times q
 %                 force     p x k forces of the elements [N], as they acted in that step: evaluated at the predictor
 %                 state     memory of friction laws, one row each, k columns [N or m]
 %                 final     last state, for qn.resume and 'start' of qn.simulation
 %                 time_end  its time [s]
 %                 complete  true when the run reached its end
+%                 diverged  true when it ended before, because the motion grew beyond all numbers
 %                 seconds   what the run took [s]
 %                 units     struct of texts
 %                 sim       the set-up
 %
 % Errors
-%   Those of the module. A run whose motion grows beyond all numbers is ended with the warning qn:diverged. The handles of the run
+%   Those of the module. A run whose motion grows beyond all numbers (1e150) ends at its last good time, with the warning
+%   qn:diverged; 'start' and qn.resume refuse its result. The handles of the run
 %   are freed in every case; by the module's rule the values of its nonlinear elements, a few kilobytes, stay in memory until the
 %   host ends.
 %   qn:input  the file of 'save' cannot be written (asked before the run)
@@ -47,10 +50,10 @@ function res = run (sim, varargin)
   if nargin < 1, sim = []; end
   qn.impl.made_by ('qn.run', sim, 'qn.simulation');
   m = numel (sim.model.w);
-  k = numel (sim.saved);
-  res = struct ('time', sim.time(sim.saved), 'q', zeros (m, k), 'force', zeros (numel ([sim.elements.forces]), k), ...
-                'state', zeros (sim.states, k), 'final', sim.start, 'time_end', sim.time(1), 'complete', false, 'seconds', 0, ...
-                'units', qn.impl.units (), 'sim', sim);
+  k = sum (sim.saved == 1);
+  res = struct ('time', sim.time(sim.saved(1:k)), 'q', zeros (m, k), 'force', zeros (numel ([sim.elements.forces]), k), ...
+                'state', zeros (sim.states, k), 'final', sim.start, 'time_end', sim.time(1), 'complete', false, 'diverged', false, ...
+                'seconds', 0, 'units', qn.impl.units (), 'sim', sim);
   if any (sim.saved == 1)
     res.q(:, 1) = sim.start.u(1:m);
     res.state(:, 1) = sim.start.u(m + 1:end);

@@ -26,7 +26,13 @@
 %     'u0', 'v0'  initial displacement and velocity of the structure [m, m/s] (0), or
 %     'q0', 'dq0' initial modal state
 %     'a0'        'consistent': initial acceleration from the equation of motion, or m modal values ('consistent')
-%     'start'     result of an earlier run: its last state, its laws' memory and its time are where this one begins
+%     'start'     result of an earlier run: its last state, its laws' memory and its time are where this one begins. Model, laws, step,
+%                 scheme and loads are those given here. With other modes the state goes through the displacements of the structure
+%                 (the same degrees of freedom); more than 1 % that the new modes cannot represent is refused, more than 0.01 % is
+%                 said in the warning qn:start. An element takes over the memory of the earlier one with the same kind of law at the
+%                 same place (rows), of several there that with the same parameters, or where these changed and the number did not, in
+%                 their order. One with a memory that finds none is refused, earlier ones that are left out are dropped.
+%     'fresh'     rows of "elements" that begin without a memory, as in a first run, though there is a "start"
 %
 % Output
 %   SIM   struct: model, scheme, step, time (1 x steps+1) [s], saved (columns of time), shapes, loads, elements, start, ...
@@ -46,16 +52,19 @@ function sim = simulation (model, varargin)
   if nargin < 1, model = []; end
   qn.impl.made_by (who, model, 'qn.modal');
   o = struct ('step', '<required>', 'until', [], 'steps', [], 'scheme', 'average', 'load', {{}}, 'base', {{}}, ...
-              'elements', {{}}, 'every', 1, ...
-              'times', [], 'u0', [], 'v0', [], 'q0', [], 'dq0', [], 'a0', 'consistent', 'start', []);
+              'elements', {{}}, 'every', 1, 'times', [], 'u0', [], 'v0', [], 'q0', [], 'dq0', [], 'a0', 'consistent', ...
+              'start', [], 'fresh', []);
   o = qn.impl.options (who, o, varargin);
   o.step = qn.impl.scalar (who, 'step', o.step, realmin ());
   first = 0;
   if ~isempty (o.start)
+    qn.impl.made_by ([who ', "start"'], o.start, 'qn.run');
+    qn.impl.not_diverged (who, o.start);
     % Times are counted from the same origin, in whole steps, so that a continued run sees the same bits.
     first = round (o.start.time_end / o.step);
     if abs (first * o.step - o.start.time_end) > 1e-6 * o.step
-      error ('qn:input', '%s: the earlier run ended at %g s, which is no multiple of the step', who, o.start.time_end);
+      error ('qn:input', '%s: the earlier run ended at %g s, which is no multiple of the step; a step of %.17g s fits', who, ...
+             o.start.time_end, o.start.time_end / max (first, 1));
     end
   end
   if isempty (o.until) == isempty (o.steps), error ('qn:input', '%s: give "until" or "steps", one of them', who); end

@@ -2,6 +2,8 @@
 function res = advance (res, o)
   sim = res.sim;
   last = numel (sim.time);
+  kept = sum (sim.saved <= res.final.column);
+  res = qn.impl.sized (res, numel (sim.saved));
   if ~isempty (o.save), can_write (o.save); end
   h = qn.impl.register (res.final.values);
   free = onCleanup (@() delete (h));
@@ -14,36 +16,51 @@ function res = advance (res, o)
   if ~isempty (o.piece), chunk = o.piece; end
   while res.final.column < last
     piece_begun = tic ();
-    [res.final, part, wanted] = qn.impl.piece (sim, res.final, h, min (res.final.column + chunk, last));
+    [next, part, wanted] = qn.impl.piece (sim, res.final, h, min (res.final.column + chunk, last));
     res.q(:, wanted) = part.q;
     res.state(:, wanted) = part.state;
     res.force(:, wanted) = part.force;
+    res.diverged = ~within_numbers ([next.u; next.v; next.a]);
+    if res.diverged
+      good = find (~within_numbers ([part.q; part.state; part.force]), 1) - 1;
+      if isempty (good), good = numel (wanted); end
+      kept = kept + good;
+      if good > 0, res.time_end = sim.time(sim.saved(kept)); end
+    else
+      res.final = next;
+      kept = kept + numel (wanted);
+      res.time_end = sim.time(next.column);
+    end
     if isempty (o.piece)
       chunk = max (100, min (10 * chunk, round (chunk * 0.5 / max (toc (piece_begun), 1e-3))));
     end
     res.seconds = before + toc (begun);
     res.complete = res.final.column == last;
-    res.time_end = sim.time(res.final.column);
-    if o.progress && toc (begun) - told > 1
+    if o.progress && ~res.diverged && toc (begun) - told > 1
       told = toc (begun);
       done = res.final.column - 1;
       fprintf ('  %3.0f %%  step %d of %d, %.0f s, %.0f s left\n', 100 * done / (last - 1), done, last - 1, told, ...
                told * (last - res.final.column) / (res.final.column - from));
       if exist ('OCTAVE_VERSION', 'builtin'), fflush (stdout ()); end
     end
-    lost = any (~isfinite (res.final.u));
-    stop = lost || (~isempty (o.stop) && o.stop (res));
+    stop = res.diverged || (~isempty (o.stop) && o.stop (res));
     if stop || res.complete || ~isempty (o.save) && toc (begun) - written >= o.interval
       res.final.values = current (res.final.values, h);
-      if ~isempty (o.save), keep (res, o.save); end
+      if ~isempty (o.save), keep (qn.impl.sized (res, kept), o.save); end
       written = toc (begun);
     end
-    if lost
-      warning ('qn:diverged', ['the motion grew beyond all numbers before %g s; qn.check names what the step is too long for, ' ...
-                               'qn.advise finds a better one'], res.time_end);
+    if res.diverged
+      warning ('qn:diverged', ['the motion grew beyond all numbers before %g s; the results end at %g s. qn.check names what the ' ...
+                               'step is too long for, qn.advise finds a better one'], sim.time(next.column), res.time_end);
     end
     if stop, break, end
   end
+  res = qn.impl.sized (res, kept);
+end
+
+% One answer a column. Squares of what is let pass are numbers still.
+function good = within_numbers (x)
+  good = all (abs (x) < 1e150, 1);
 end
 
 % Asked before the run, not after it.

@@ -1,0 +1,12 @@
+% RES = SIZED (RES, K)  a result with K columns: cut, or with room that is not a number yet
+function res = sized (res, k)
+  for name = {'q', 'force', 'state'}
+    x = res.(name{1});
+    if size (x, 2) < k
+      res.(name{1}) = [x, NaN(size (x, 1), k - size (x, 2))];
+    else
+      res.(name{1}) = x(:, 1:k);
+    end
+  end
+  res.time = reshape (res.sim.time(res.sim.saved(1:k)), 1, []);
+end

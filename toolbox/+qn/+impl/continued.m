@@ -30,8 +30,7 @@ function s = continued (sim, o)
     t = qn.impl.traits (e.law, size (e.observe, 1));
     s.FNL(e.slot - 1 + (1:t.width)) = last.FNL(b.slot - 1 + (1:t.width));
     if t.states == 0, continue, end
-    rows = 0:t.states - 1;
-    for name = {'u', 'v', 'a'}, s.(name{1})(e.state + rows) = last.(name{1})(b.state + rows); end
+    s.u(e.state - 1 + (1:t.states)) = last.u(b.state - 1 + (1:t.states));
   end
   same = @(x, y, name) isequal (x.(name), y.(name));
   unchanged = all (cellfun (@(name) same (sim.model, before.model, name), {'shapes', 'stiffness', 'damping'})) && ...

@@ -7,8 +7,8 @@ function from = matched (sim, before, link, fresh)
   [e, b] = deal (sim.elements, before.elements);
   n = numel (e);
   from = zeros (1, n);
-  if ~isempty (fresh) && ~(isnumeric (fresh) && all (ismember (fresh(:), [e.item])))
-    error ('qn:input', 'qn.simulation: "fresh" holds numbers of elements from 1 to %d', max ([0, e.item]));
+  if ~isempty (fresh)
+    fresh = qn.impl.numbers ('qn.simulation', 'fresh', fresh, [], 'list', 'whole', 'from', 1, 'to', max ([1, e.item]));
   end
   takes = ~ismember ([e.item, 0], fresh);
   takes = takes(1:n);
@@ -43,7 +43,7 @@ function refuse (e, here, there, b)
   list = arrayfun (@(x) sprintf ('%d: %s', x.item, x.law.kind), b, 'UniformOutput', false);
   if ~isempty (b), had = sprintf ('it had %s', strjoin (list, ', ')); end
   error ('qn:input', ['qn.simulation: element %d (%s) has a memory and finds none in the earlier run: %s. At its place are %d of that ' ...
-                      'kind now, and there were %d in the earlier run. Give it the place that it had, or let it begin without a memory: ' ...
+                      'kind now, and there were %d then. Give it the place that it had, or let it begin without a memory: ' ...
                       '"fresh", %d'], e.item, e.law.kind, had, here, there, e.item);
 end
 

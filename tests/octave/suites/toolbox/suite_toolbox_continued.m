@@ -191,7 +191,7 @@ function test_an_element_whose_memory_is_not_found_is_refused_or_begins_afresh_w
   bank = @(n) {qn.iwan('slip', 9, 'stiffness', 3e3, 'sliders', n), qn.observe(model, 2)};
   res = first_run (model, 'elements', bank (3));
   expect_error (@() made (model, 'start', res, 'elements', bank (4)), 'qn:input', '~At its place are 4 of that kind now, and');
-  expect_error (@() made (model, 'start', res, 'elements', bank (3), 'fresh', 2), 'qn:input', '~"fresh" holds numbers of elements from 1 to 1');
+  expect_error (@() made (model, 'start', res, 'elements', bank (3), 'fresh', 2), 'qn:input', '~"fresh" must be from 1 to 1, got 2');
   expect_error (@() made (model, 'elements', bank (3), 'fresh', 1), 'qn:input', '~there is no "start"');
 end
 

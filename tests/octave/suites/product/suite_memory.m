@@ -19,10 +19,7 @@ end
 
 % FN must grow by less than BYTES a round more than the equal loop IDLE does.
 function flat (name, fn, idle, count, bytes)
-  if ~isempty (getenv ('QUARN_SANITIZED'))
-    fprintf ('        skipped: the allocator of the sanitizers keeps freed memory\n');
-    return
-  end
+  if ~isempty (getenv ('QUARN_SANITIZED')), skip_test ('the allocator of the sanitizers keeps freed memory'); end
   host = growth (idle, count);
   module = growth (fn, count);
   fprintf ('        %s, %d rounds: %+d KiB, the same loop without the module %+d KiB\n', name, count, module, host);

@@ -15,6 +15,7 @@
 %          suites   folder of the folders of suites
 %          junit    file for a report in the XML of JUnit
 %          quiet    true prints nothing
+%          stop     true ends with the first test that fails
 % COUNTS   structure with the numbers passed, failed and skipped, and the fields tests (a structure a test: suite, name, outcome 'passed',
 %          'failed' or 'skipped', text, seconds). Without COUNTS an error is raised when a test failed or when there was none to run, so
 %          that "matlab -batch run_suites" ends with a non-zero status.
@@ -22,7 +23,7 @@ function counts = run_suites (names, options)
   if nargin < 1, names = {}; end
   if nargin < 2, options = struct (); end
   here = fileparts (mfilename ('fullpath'));
-  defaults = struct ('module', '', 'pattern', '', 'suites', fullfile (here, 'suites'), 'junit', '', 'quiet', false);
+  defaults = struct ('module', '', 'pattern', '', 'suites', fullfile (here, 'suites'), 'junit', '', 'quiet', false, 'stop', false);
   for field = fieldnames (defaults).'
     if ~isfield (options, field{1}), options.(field{1}) = defaults.(field{1}); end
   end
@@ -32,6 +33,7 @@ function counts = run_suites (names, options)
   tests = struct ('suite', {}, 'name', {}, 'outcome', {}, 'text', {}, 'seconds', {});
   for k = 1:numel (names)
     for test = run_one (names{k}, options), tests(end + 1) = test; end
+    if stops (tests, options), break, end
   end
   of = @(outcome) sum (strcmp ({tests.outcome}, outcome));
   counts = struct ('passed', of ('passed'), 'failed', of ('failed'), 'skipped', of ('skipped'), 'tests', {tests});
@@ -60,10 +62,9 @@ function put_on_path (here, options)
 end
 
 function folder = absolute (folder)
-  before = pwd ();
-  cd (folder);
-  folder = pwd ();
-  cd (before);
+  [found, place] = fileattrib (folder);
+  if ~found, error ('tests:folder', 'there is no folder "%s"', folder); end
+  folder = place.Name;
 end
 
 function names = every_suite (folder)
@@ -91,8 +92,13 @@ function done = run_one (suite, options)
     found = found + 1;
     if ~isempty (options.pattern) && isempty (strfind (name, options.pattern)), continue, end
     done(end + 1) = run_test (suite, name, functions{k}, options);
+    if stops (done, options), break, end
   end
   if found == 0, done = tell (suite, suite, 'failed', 'the suite has no test', 0, options); end
+end
+
+function yes = stops (tests, options)
+  yes = options.stop && any (strcmp ({tests.outcome}, 'failed'));
 end
 
 function test = run_test (suite, name, fn, options)

@@ -12,27 +12,6 @@ function folder = module ()
   folder = fileparts (which ('quarn'));
 end
 
-function expect_in (text, part)
-  if isempty (strfind (text, part)), error ('expected "%s" in:\n%s', part, text); end
-end
-
-function [folder, away] = new_folder ()
-  folder = tempname ();
-  mkdir (folder);
-  away = onCleanup (@() remove (folder));
-end
-
-function remove (folder)
-  confirm_recursive_rmdir (false, 'local');
-  rmdir (folder, 's');
-end
-
-function put (file, text)
-  id = fopen (file, 'w');
-  fprintf (id, '%s', text);
-  fclose (id);
-end
-
 function test_a_named_folder_puts_module_and_toolbox_on_the_path ()
   code = ['addpath (''%s''); f = install_quarn (''%s''); rmpath (''%s''); addpath (''%s'', ''-end''); ' ...
           'if strcmp (f, ''%s'') && quarn () == 1.0001 && ~isempty (which (''qn.run'')), exit (7); end'];
@@ -90,7 +69,7 @@ end
 
 function test_a_module_that_cannot_be_loaded_leaves_the_path_alone ()
   [folder, away] = new_folder ();
-  put (fullfile (folder, 'quarn.mex'), 'no library');
+  put_file (fullfile (folder, 'quarn.mex'), 'no library');
   code = ['addpath (''%s''); before = path (); try, install_quarn (''%s''); catch err, disp (err.message); end, ' ...
           'if strcmp (path (), before), exit (7); end'];
   [status, page] = octave_says (sprintf (code, toolbox (), folder));
@@ -112,7 +91,7 @@ end
 function test_another_program_of_this_name_is_refused ()
   [folder, away] = new_folder ();
   source = fullfile (folder, 'other.c');
-  put (source, ['#include <mex.h>' char(10) 'void mexFunction(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {' char(10) ...
+  put_file (source, ['#include <mex.h>' char(10) 'void mexFunction(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {' char(10) ...
                 '  plhs[0] = mxCreateDoubleScalar(3);' char(10) '}' char(10)]);
   mkoctfile ('--mex', '-o', fullfile (folder, 'quarn.mex'), source);
   code = 'addpath (''%s''); try, install_quarn (''%s''); catch err, disp (err.message); exit (7); end';

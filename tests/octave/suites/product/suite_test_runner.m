@@ -41,6 +41,11 @@ function test_a_pattern_takes_some_tests ()
   expect_equal (numel (counts.tests), 0);
 end
 
+function test_a_run_may_stop_at_the_first_test_that_fails ()
+  counts = run ({'suite_all_skipped', 'suite_with_every_outcome', 'suite_without_tests'}, 'stop', true);
+  expect_equal ({counts.tests.name}, {'test_that_is_skipped', 'test_that_passes', 'test_that_fails'});
+end
+
 function test_without_names_every_suite_is_run ()
   counts = run ({});
   expect_equal (numel (unique ({counts.tests.suite})), 4);

@@ -12,23 +12,10 @@ function folder = module ()
   folder = fileparts (which ('quarn'));
 end
 
-function expect_in (text, part)
-  if isempty (strfind (text, part)), error ('expected "%s" in:\n%s', part, text); end
-end
-
 % A folder with one file in it, gone with the returned object.
 function [folder, away] = folder_with (name, text)
-  folder = tempname ();
-  mkdir (folder);
-  away = onCleanup (@() remove (folder));
-  id = fopen (fullfile (folder, name), 'w');
-  fprintf (id, '%s', text);
-  fclose (id);
-end
-
-function remove (folder)
-  confirm_recursive_rmdir (false, 'local');
-  rmdir (folder, 's');
+  [folder, away] = new_folder ();
+  put_file (fullfile (folder, name), text);
 end
 
 function test_every_line_is_ok_here_and_says_a_number ()

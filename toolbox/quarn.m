@@ -28,9 +28,9 @@
 %
 % A sparse matrix is passed as a structure with 32-bit indices from 0; see qn.pack. A list of handles is a chandle vector.
 %
-% Working with models instead of index vectors: package qn
+% Working with models instead of index vectors: package qn (help qn.Contents has one line on each)
 %   matrices       qn.pack, qn.unpack, qn.mmread, qn.mmwrite, qn.project
-%   models         qn.modal, qn.rayleigh, qn.observe, qn.command, qn.base
+%   models         qn.modal, qn.rayleigh, qn.observe, qn.load_at, qn.base
 %   force laws     qn.law, qn.describe, qn.element, qn.force
 %   recipes        qn.gap, qn.stop, qn.bilinear, qn.cubic, qn.slider, qn.iwan, qn.zener, qn.maxwell, qn.bearing
 %   simulation     qn.scheme, qn.simulation, qn.check, qn.advise, qn.run, qn.resume
@@ -40,11 +40,12 @@
 %                  qn.plot.waterfall
 %   without time   qn.static, qn.harmonic, qn.backbone
 %   setting up     install_quarn, qn.selftest
+%   older names    qn.command (now qn.load_at)
 %
 % Example
 %   model = qn.modal (4e4, 1, 'damping', 0.01);
 %   stop = qn.gap ('gap', 0.002, 'stiffness', 1e6);
-%   sim = qn.simulation (model, 'step', 1e-4, 'until', 0.5, 'load', {qn.command(model, 1), @(t) 200 * sin (150 * t)}, ...
+%   sim = qn.simulation (model, 'step', 1e-4, 'until', 0.5, 'load', {qn.load_at(model, 1), @(t) 200 * sin (150 * t)}, ...
 %                        'elements', {stop, qn.observe(model, 1)});
 %   res = qn.run (sim);
 %   qn.contacts (res, 1)

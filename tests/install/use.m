@@ -12,7 +12,7 @@ qn.selftest ();
 % A cut run continues with the same bits, through files in the installed copy only.
 model = qn.modal (4e4, 1, 'damping', 0.01);
 stop = {qn.gap('gap', 0.002, 'stiffness', 1e6), qn.observe(model, 1)};
-set_up = {'step', 1e-4, 'load', {qn.command(model, 1), @(t) 200 * sin (150 * t)}, 'elements', stop};
+set_up = {'step', 1e-4, 'load', {qn.load_at(model, 1), @(t) 200 * sin (150 * t)}, 'elements', stop};
 whole = qn.run (qn.simulation (model, 'until', 0.2, set_up{:}), 'progress', false);
 first = qn.run (qn.simulation (model, 'until', 0.1, set_up{:}), 'progress', false);
 second = qn.run (qn.simulation (model, 'until', 0.2, 'start', first, set_up{:}), 'progress', false);

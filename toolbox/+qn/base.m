@@ -21,7 +21,7 @@
 %   b = qn.base (model, [1; 1]);
 %   effective_mass = b .^ 2;
 %
-% See also qn.command, qn.simulation
+% See also qn.load_at, qn.simulation
 function b = base (model, push)
   if nargin < 1, model = []; end
   qn.impl.made_by ('qn.base', model, 'qn.modal');

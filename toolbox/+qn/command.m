@@ -1,7 +1,7 @@
-% QN.COMMAND  command columns: from forces on the structure to modal forces
+% QN.COMMAND  older name of qn.load_at
 %
 % Purpose
-%   Says where a load acts. B * f is the modal force of the forces f.
+%   Keeps scripts of version 0.1 running. Its name was too near to quarn ('command', ...).
 %
 % Calls
 %   B = qn.command (MODEL, DOFS)
@@ -9,23 +9,19 @@
 %   B = qn.command (MODEL, ROWS)
 %
 % Input
-%   as for qn.observe: a unit force on each degree of freedom, or one force pattern with these weights
+%   as for qn.load_at
 %
 % Output
 %   B        m x p, one column a force [1/sqrt(kg)]
 %
 % Errors
-%   qn:input  as for qn.observe
+%   qn:input  as for qn.load_at
 %
 % Example
 %   model = qn.modal (1e6 * [2 -1; -1 1], eye (2));
-%   b = qn.command (model, 2);
-%   static = (b ./ model.stiffness).' * b;      % flexibility at degree of freedom 2 [m/N]
+%   isequal (qn.command (model, 2), qn.load_at (model, 2))      % true
 %
-% See also qn.observe, qn.base, qn.simulation
-function b = command (model, varargin)
-  if nargin < 1, model = []; end
-  qn.impl.made_by ('qn.command', model, 'qn.modal');
-  if nargin < 2, error ('qn:input', 'qn.command: degrees of freedom or rows expected; see help qn.command'); end
-  b = qn.impl.observed ('qn.command', model, varargin{:}).';
+% See also qn.load_at
+function b = command (varargin)
+  b = qn.load_at (varargin{:});
 end

@@ -10,7 +10,7 @@
 %
 % Input
 %   MODEL     from qn.modal, m modes
-%   LOAD      m x 1 modal force amplitude (qn.command times forces) [N]
+%   LOAD      m x 1 modal force amplitude (qn.load_at times forces) [N]
 %   ELEMENTS  {LAW, C; ...} as for qn.simulation; laws without memory
 %   HERTZ     [first last] frequency, in the direction to follow the curve [Hz]
 %   Names and values

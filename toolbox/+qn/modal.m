@@ -45,7 +45,7 @@
 %   model = qn.modal (k, 3 * eye (2), 'damping', 0.02);
 %   model.hertz
 %
-% See also qn.observe, qn.command, qn.base, qn.rayleigh, qn.simulation
+% See also qn.observe, qn.load_at, qn.base, qn.rayleigh, qn.simulation
 function model = modal (varargin)
   who = 'qn.modal';
   if nargin > 0 && isstruct (varargin{1})

@@ -26,7 +26,7 @@
 %   tip = qn.observe (model, 2);
 %   stretch = qn.observe (model, [2 1], [1 -1]);
 %
-% See also qn.command, qn.modal, qn.simulation
+% See also qn.load_at, qn.modal, qn.simulation
 function c = observe (model, varargin)
   if nargin < 1, model = []; end
   qn.impl.made_by ('qn.observe', model, 'qn.modal');

@@ -41,7 +41,7 @@
 %
 % Example
 %   model = qn.modal (4e4, 1, 'damping', 0.02);
-%   sim = qn.simulation (model, 'step', 1e-3, 'steps', 1000, 'load', {qn.command(model, 1), @(t) 100 * sin(30 * t)});
+%   sim = qn.simulation (model, 'step', 1e-3, 'steps', 1000, 'load', {qn.load_at(model, 1), @(t) 100 * sin(30 * t)});
 %   res = qn.run (sim);
 %   u = qn.displacement (res, qn.observe (model, 1));
 %

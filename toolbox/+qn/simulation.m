@@ -14,7 +14,7 @@
 %     'until'     time at which to end [s], rounded to whole steps; or
 %     'steps'     number of steps
 %     'scheme'    see qn.scheme ('average')
-%     'load'      {SHAPE, SIGNAL; ...}: SHAPE is the modal force of a unit load (m values; see qn.command, qn.base), SIGNAL is a
+%     'load'      {SHAPE, SIGNAL; ...}: SHAPE is the modal force of a unit load (m values; see qn.load_at, qn.base), SIGNAL is a
 %                 function of a row of times, or a 2 x k table [times; values], linear in between and zero outside, or one value for
 %                 every time point [N, or m/s^2 for base motion]
 %     'base'      {PUSH, SIGNAL; ...}: motion of the base, PUSH as for qn.base, SIGNAL its acceleration [m/s^2]. The same as a load of
@@ -42,7 +42,7 @@
 %
 % Example
 %   model = qn.modal (4e4, 1, 'damping', 0.02);
-%   sim = qn.simulation (model, 'step', 1e-3, 'until', 1, 'load', {qn.command(model, 1), @(t) 100 * (t < 0.1)}, ...
+%   sim = qn.simulation (model, 'step', 1e-3, 'until', 1, 'load', {qn.load_at(model, 1), @(t) 100 * (t < 0.1)}, ...
 %                        'elements', {qn.cubic('stiffness', 1e8), qn.observe(model, 1)});
 %   res = qn.run (sim);
 %

@@ -9,7 +9,7 @@
 %
 % Input
 %   MODEL     from qn.modal, m modes
-%   LOAD      m x 1 modal force (qn.command times forces) [N]
+%   LOAD      m x 1 modal force (qn.load_at times forces) [N]
 %   ELEMENTS  {LAW, C; ...} as for qn.simulation; friction laws are refused, as their equilibrium depends on the past. Of a Maxwell
 %             element the spring beside the branches is left.
 %   Q0        where to start (0)
@@ -24,7 +24,7 @@
 %
 % Example
 %   model = qn.modal (1e4, 1);
-%   q = qn.static (model, qn.command (model, 1) * 300, {qn.gap('gap', 0.01, 'stiffness', 1e5), qn.observe(model, 1)});
+%   q = qn.static (model, qn.load_at (model, 1) * 300, {qn.gap('gap', 0.01, 'stiffness', 1e5), qn.observe(model, 1)});
 %   u = model.shapes * q                  % (300 + 1e5 * 0.01) / (1e4 + 1e5)
 %
 % See also qn.harmonic, qn.backbone, qn.law
@@ -34,7 +34,7 @@ function [q, info] = static (model, load, elements, q)
   who = 'qn.static';
   m = numel (model.w);
   if nargin < 4, q = zeros (m, 1); end
-  load = qn.impl.numbers (who, 'LOAD', load, m, 'each', 'one a mode (qn.command times forces)');
+  load = qn.impl.numbers (who, 'LOAD', load, m, 'each', 'one a mode (qn.load_at times forces)');
   load = load(:);
   q = qn.impl.numbers (who, 'Q0', q, m, 'each', 'one a mode');
   q = q(:);

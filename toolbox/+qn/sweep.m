@@ -44,7 +44,7 @@
 % Example
 %   model = qn.modal (4e4, 1, 'damping', 0.02);
 %   row = qn.observe (model, 1);
-%   sim = @(p) qn.simulation (model, 'step', 1e-3, 'steps', 500, 'load', {qn.command(model, 1), @(t) 100 * sin(150 * t)}, ...
+%   sim = @(p) qn.simulation (model, 'step', 1e-3, 'steps', 500, 'load', {qn.load_at(model, 1), @(t) 100 * sin(150 * t)}, ...
 %                             'elements', {qn.gap('gap', p.gap, 'stiffness', p.stiffness), row});
 %   peak = @(p) max (qn.displacement (qn.run (sim (p), 'progress', false), row));
 %   cases = qn.grid ('gap', [1e-3 2e-3 4e-3], 'stiffness', [1e5 1e6]);

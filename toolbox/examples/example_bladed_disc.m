@@ -40,7 +40,7 @@ function r = example_bladed_disc (folder, short)
   ring = circshift (eye (blades), 1) + circshift (eye (blades), -1);
   model = qn.modal ((stiffness + 2 * coupling) * eye (blades) - coupling * ring, mass * eye (blades), 'damping', zeta);
   around = 2 * pi * order * (0:blades - 1) / blades;
-  wave = {qn.command(model, 1:blades, cos (around)), qn.command(model, 1:blades, sin (around))};
+  wave = {qn.load_at(model, 1:blades, cos (around)), qn.load_at(model, 1:blades, sin (around))};
   % What one blade of the wave feels: its own stiffness and that of the disc bent in three waves.
   k = stiffness + 2 * coupling * (1 - cos (2 * pi * order / blades));
   limits = [0.5 3 6 9 14 20 35 60 100 160];

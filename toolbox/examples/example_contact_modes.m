@@ -57,7 +57,7 @@ function r = example_contact_modes (folder, short)
   give = [lines(l / 2, l / 24), (l / 24) ^ 2 * (23 * l / 24) ^ 2 / (3 * ei * l)];
   exact = (400 * give(1) - play) / (give(2) + 1 / contact);
   few = qn.modal (k, m, 'modes', 3, 'attach', [at_guide middle]);
-  q = qn.static (few, qn.command (few, middle) * 400, {guide, qn.observe(few, at_guide)});
+  q = qn.static (few, qn.load_at (few, middle) * 400, {guide, qn.observe(few, at_guide)});
   dead = qn.force (guide, qn.observe (few, at_guide) * q);
 
   modes_only = zeros (1, numel (counts));
@@ -101,7 +101,7 @@ function r = example_contact_modes (folder, short)
 end
 
 function res = run_of (model, at_guide, middle, guide, shake, h, last)
-  sim = qn.simulation (model, 'step', h, 'until', last, 'load', {qn.command(model, middle), shake}, 'elements', ...
+  sim = qn.simulation (model, 'step', h, 'until', last, 'load', {qn.load_at(model, middle), shake}, 'elements', ...
                        {guide, qn.observe(model, at_guide)});
   res = qn.run (sim, 'progress', false);
 end

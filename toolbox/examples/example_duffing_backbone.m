@@ -43,7 +43,7 @@ function r = example_duffing_backbone (folder, short)
   free = qn.backbone (model, spring, amplitude);
   s = (amplitude / a) .^ 2;
   exact = 10 * pi * sqrt (1 + s) ./ (2 * ellipke (s ./ (2 + 2 * s)));
-  forced = qn.harmonic (model, qn.command (model, 1) * force, spring, range, 'points', 1500);
+  forced = qn.harmonic (model, qn.load_at (model, 1) * force, spring, range, 'points', 1500);
   [tip, at] = max (forced.amplitude);
   folded = find (diff (forced.hertz) < 0);
   fold = forced.hertz(folded([1 end]) + [0 1]);
@@ -81,7 +81,7 @@ end
 function [hertz, amplitude] = sweep (model, x, spring, force, range, last)
   rate = diff (range) / last;
   signal = @(t) force * cos (2 * pi * (range(1) * t + rate / 2 * t .^ 2));
-  sim = qn.simulation (model, 'step', 4e-4, 'until', last, 'load', {qn.command(model, 1), signal}, 'elements', spring);
+  sim = qn.simulation (model, 'step', 4e-4, 'until', last, 'load', {qn.load_at(model, 1), signal}, 'elements', spring);
   u = qn.displacement (qn.run (sim, 'progress', false), x);
   blocks = reshape (abs (u(2:end)), 500, []);
   amplitude = max (blocks, [], 1);

@@ -50,7 +50,7 @@ function r = example_pipe_supports (folder, short)
   sag = zeros (1, 3);
   exact = sag;
   for j = 1:3
-    q = qn.static (all_modes, qn.command (all_modes, place (7)) * weight(j), guides (all_modes, guide, place));
+    q = qn.static (all_modes, qn.load_at (all_modes, place (7)) * weight(j), guides (all_modes, guide, place));
     sag(j) = qn.observe (all_modes, place (7)) * q;
     reaction = max (0, 4e5 * (weight(j) * give(1) - 1e-3) / (1 + 4e5 * give(2)));
     exact(j) = weight(j) * give(3) - 2 * reaction * give(1);
@@ -58,7 +58,7 @@ function r = example_pipe_supports (folder, short)
 
   model = qn.modal (k(hinged, hinged), m(hinged, hinged), 'modes', 5, 'damping', 0.04);
   middle = qn.observe (model, place (7));
-  push = qn.command (model, place (7)) * 30;
+  push = qn.load_at (model, place (7)) * 30;
   range = [8 32];
   pair = guides (model, guide, place);
   steady = qn.harmonic (model, push, pair, range, 'harmonics', 9, 'points', 1000);

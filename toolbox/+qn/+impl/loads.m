@@ -16,11 +16,11 @@ function [shapes, loads, notes] = loads (model, list, time, base)
     [shape, signal] = list{k, :};
     named = sprintf ('load{%d, ', k);
     if ~isempty (base) && any (base.loads == k), named = sprintf ('base{%d, ', find (base.loads == k)); end
-    shape = qn.impl.numbers (who, [named '1}'], shape, m, 'each', 'one a mode (the shape of the load; see qn.command)');
+    shape = qn.impl.numbers (who, [named '1}'], shape, m, 'each', 'one a mode (the shape of the load; see qn.load_at)');
     shapes(:, k) = shape(:);
     named = [named '2}'];
     if any (shape(:)) && all (shape(:) >= 0 & shape(:) == fix (shape(:))) && ~any (ismember (model.shapes, shape(:).', 'rows'))
-      notes{end + 1} = sprintf ('the shape of load %d is whole numbers; a push or degrees of freedom need qn.base or qn.command', k);
+      notes{end + 1} = sprintf ('the shape of load %d is whole numbers; a push or degrees of freedom need qn.base or qn.load_at', k);
     end
     if isa (signal, 'function_handle')
       try

@@ -8,7 +8,7 @@
 % of "residual", as N springs side by side.
 function b = periodic (who, model, load, elements, harmonics, n)
   m = numel (model.w);
-  load = qn.impl.numbers (who, 'LOAD', load, m, 'each', 'one a mode (qn.command times forces)');
+  load = qn.impl.numbers (who, 'LOAD', load, m, 'each', 'one a mode (qn.load_at times forces)');
   harmonics = qn.impl.count (who, 'harmonics', harmonics);
   n = qn.impl.count (who, 'samples', n);
   if n <= 4 * harmonics, error ('qn:input', '%s: %d harmonics need more than %d samples', who, harmonics, 4 * harmonics); end

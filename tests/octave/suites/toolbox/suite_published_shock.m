@@ -84,7 +84,7 @@ function test_absolute_accelerations_of_a_shaken_frame ()
   cm = 2e-3 * k;
   model = qn.modal (k, m, 'rayleigh', [0 2e-3]);
   res = qn.run (qn.simulation (model, 'step', 1e-3, 'until', 3, 'base', {ones(3, 1), quake}, ...
-                               'load', {qn.command(model, 3), @(t) 100 * cos(5 * t)}));
+                               'load', {qn.load_at(model, 3), @(t) 100 * cos(5 * t)}));
   u = qn.displacement (res, [1 2 3]');
   v = qn.velocity (res, [1 2 3]');
   force = [zeros(2, 3001); 100 * cos(5 * res.time)];
@@ -92,7 +92,7 @@ function test_absolute_accelerations_of_a_shaken_frame ()
   expect_equal (a, (force - k * u - cm * v) / 1000, 1e-9);
   expect_equal (qn.acceleration (res, sparse ([1 0 -1]), 'absolute', true), a(1, :) - a(3, :), 1e-9);
   expect_equal (qn.acceleration (res, 2) + quake (res.time), a(2, :), 1e-9);
-  by_load = qn.simulation (model, 'step', 1e-3, 'until', 3, 'load', {qn.command(model, 3), @(t) 100 * cos(5 * t); ...
+  by_load = qn.simulation (model, 'step', 1e-3, 'until', 3, 'load', {qn.load_at(model, 3), @(t) 100 * cos(5 * t); ...
                                                                      qn.base(model, ones (3, 1)), quake});
   expect_equal (getfield (qn.run (by_load), 'q'), res.q);
   expect_error (@() qn.acceleration (qn.run (by_load), 2, 'absolute', true), 'qn:input', '~"base" of qn.simulation');

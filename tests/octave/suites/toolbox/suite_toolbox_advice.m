@@ -99,7 +99,7 @@ function test_chaos_gives_no_error_and_no_order ()
   m = qn.modal (1, 1, 'damping', 0.05);
   row = qn.observe (m, 1);
   wells = {qn.cubic('stiffness', 1), row; qn.law('power', 'stiffness', -2, 'exponent', 1), row};
-  sim = qn.simulation (m, 'step', 0.05, 'until', 200, 'u0', 0.1, 'load', {qn.command(m, 1), @(t) 1.5 * cos(1.2 * t)}, 'elements', wells);
+  sim = qn.simulation (m, 'step', 0.05, 'until', 200, 'u0', 0.1, 'load', {qn.load_at(m, 1), @(t) 1.5 * cos(1.2 * t)}, 'elements', wells);
   a = qn.advise (sim);
   expect_equal ([a.error, a.order], [NaN NaN]);
   expect_equal (a.sure, false);

@@ -190,6 +190,6 @@ function test_a_ratio_in_percent_and_a_push_without_base_get_a_note ()
   says (qn.check (qn.simulation (model, 'step', 1e-3, 'until', 1, 'load', {[1; 1], @sin})), 'note', 'shape of load 1 is whole numbers');
   says (qn.check (qn.simulation (model, 'step', 1e-3, 'until', 1, 'u0', [1; 0])), 'note', 'mode 1 has 2 of critical damping; 2 % is 0.02');
   model = qn.modal (1e4 * [2 -1; -1 1], [2 0; 0 3], 'damping', 0.02);
-  sim = qn.simulation (model, 'step', 1e-3, 'until', 1, 'load', {qn.base(model, [1; 1]), @sin; qn.command(model, 2), @sin});
+  sim = qn.simulation (model, 'step', 1e-3, 'until', 1, 'load', {qn.base(model, [1; 1]), @sin; qn.load_at(model, 2), @sin});
   expect_equal (numel (qn.check (sim)), 0);
 end

@@ -14,7 +14,7 @@ function list = public_functions ()
           'delete', fullfile(toolbox (), '@chandle', 'delete.m')};
   for k = 1:size (folders, 1)
     files = dir (fullfile (toolbox (), folders{k, 1}, '*.m'));
-    for f = files.'
+    for f = files(~strcmp ({files.name}, 'Contents.m')).'
       list(end + 1, :) = {[folders{k, 2} f.name(1:end - 2)], fullfile(toolbox (), folders{k, 1}, f.name)};
     end
   end
@@ -112,6 +112,27 @@ function test_the_help_of_quarn_names_every_function ()
   end
 end
 
+% One line a function: its name, and the first line of its help without it. The groups are those of the help of quarn.
+function test_the_contents_of_the_package_are_its_functions ()
+  lines = help_of (fullfile (toolbox (), '+qn', 'Contents.m'));
+  found = regexp (lines, '^  (\S+) +- (.*)$', 'tokens', 'once');
+  found = found(~cellfun (@isempty, found));
+  list = public_functions ();
+  list = list(strncmp (list(:, 1), 'qn.', 3), :);
+  expect_equal (sort (cellfun (@(f) ['qn.' f{1}], found, 'uniformoutput', false)), sort (list(:, 1)).');
+  for f = found
+    first = help_of (list{strcmp (list(:, 1), ['qn.' f{1}{1}]), 2});
+    said = regexprep (first{1}, '^\S+ +', '');
+    if ~strcmp (f{1}{2}, said), error ('Contents.m says of %s "%s", its help "%s"', f{1}{1}, f{1}{2}, said); end
+  end
+  groups = fileread (fullfile (toolbox (), 'quarn.m'));
+  for head = lines(~cellfun (@isempty, regexp (lines, '^ ?[A-Z][a-z ]+$', 'once')))
+    if isempty (regexp (groups, ['\n%   ' lower(strtrim (head{1})) '  '], 'once'))
+      error ('Contents.m has the group "%s", the help of quarn has not', head{1});
+    end
+  end
+end
+
 function test_the_help_file_steps_behind_the_module ()
   code = sprintf (['addpath (''%s''); addpath (''%s''); y = zeros (1, 1); quarn (''tbbp'', qn.pack (3), 2 + 0, y); ' ...
                    'if y ~= 6 || quarn () ~= 1.0001, exit (3); end'], fileparts (which ('quarn')), toolbox ());
@@ -122,7 +143,8 @@ end
 
 % What only one of the two hosts understands.
 function test_the_code_keeps_to_syntax_that_both_hosts_share ()
-  files = [dir_of('+qn'); dir_of(fullfile ('+qn', '+impl')); dir_of(fullfile ('+qn', '+plot')); dir_of('@chandle'); dir_of('@v_handle'); ...
+  files = [dir_of('+qn'); dir_of(fullfile ('+qn', '+impl')); dir_of(fullfile ('+qn', '+impl', '+laws')); ...
+           dir_of(fullfile ('+qn', '+impl', '+sweep')); dir_of(fullfile ('+qn', '+plot')); dir_of('@chandle'); dir_of('@v_handle'); ...
            dir_of(''); dir_of('examples'); dir_of(fullfile ('examples', 'private'))];
   if numel (files) < 85, error ('only %d files found', numel (files)); end
   patterns = {'^\s*end(if|for|while|function|switch|_try_catch)\>', '(^|[^%''])!=?\s*[\w(]', '[+*/-]=[^=]', '\<printf\>', '"[^"]*"\s*[,);]', ...

@@ -63,7 +63,7 @@ function test_observation_command_and_base_rows ()
   expect_equal (qn.observe (model, [3 1]), model.shapes([3 1], :));
   expect_equal (qn.observe (model, [3 1], [1 -2]), [1 -2] * model.shapes([3 1], :), 1e-15);
   expect_equal (qn.observe (model, sparse ([0 1 -1])), [0 1 -1] * model.shapes, 1e-15);
-  expect_equal (qn.command (model, 2), model.shapes(2, :).');
+  expect_equal (qn.load_at (model, 2), model.shapes(2, :).');
   expect_equal (qn.base (model, ones (3, 1)), -model.shapes.' * diag ([1 2 3]) * ones (3, 1), 1e-14);
   expect_equal (sum (qn.base (model, ones (3, 1)) .^ 2), 6, 1e-12);
   expect_error (@() qn.observe (model, 4), 'qn:input', '~numbered from 1 to 3');

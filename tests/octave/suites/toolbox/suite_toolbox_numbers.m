@@ -69,7 +69,7 @@ end
 function test_numbers_of_degrees_of_freedom_out_of_range_are_said_in_words ()
   two = qn.modal ([2 -1; -1 1], eye (2));
   refused (@() qn.observe (two, [1 3]), 'qn.observe: "DOFS"(2) is 3; degrees of freedom are numbered from 1 to 2');
-  refused (@() qn.command (two, 0), 'qn.command: "DOFS"(1) is 0; degrees of freedom are numbered from 1 to 2');
+  refused (@() qn.load_at (two, 0), 'qn.load_at: "DOFS"(1) is 0; degrees of freedom are numbered from 1 to 2');
   res = qn.run (qn.simulation (two, 'step', 0.1, 'steps', 3, 'q0', [1; 2]));
   refused (@() qn.displacement (res, 3), 'qn.displacement: "C"(1) is 3; degrees of freedom are numbered from 1 to 2');
   refused (@() qn.displacement (res, [0.5; 0.5]), ['~observation rows of 2 modal values, or the numbers of degrees of freedom, got 2 x 1; ' ...

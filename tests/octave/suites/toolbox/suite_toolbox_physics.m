@@ -56,7 +56,7 @@ end
 
 function test_harmonic_balance_agrees_with_the_steady_end_of_a_simulation ()
   model = qn.modal (1e4 * [2 -1; -1 1], eye (2), 'damping', 0.05);
-  push = qn.command (model, 2) * 40;
+  push = qn.load_at (model, 2) * 40;
   stop = {qn.gap('gap', 2e-3, 'stiffness', 2e4), qn.observe(model, 2)};
   f = 8;
   r = qn.harmonic (model, push, stop, [2 f], 'harmonics', 12, 'samples', 512);
@@ -73,7 +73,7 @@ function test_a_mass_on_a_zener_element_answers_with_its_dynamic_stiffness ()
   model = qn.modal (1, 2);
   isolator = qn.zener ('stiffness', 2e3, 'spring', 4e3, 'damper', 50);
   for w = [15 40 70]
-    sim = qn.simulation (model, 'step', 1e-4, 'until', 4, 'load', {qn.command(model, 1), @(t) 10 * sin(w * t)}, ...
+    sim = qn.simulation (model, 'step', 1e-4, 'until', 4, 'load', {qn.load_at(model, 1), @(t) 10 * sin(w * t)}, ...
                          'elements', {isolator, qn.observe(model, 1)});
     x = qn.displacement (qn.run (sim), 1);
     branch = 4e3 * (1i * w * 50) / (4e3 + 1i * w * 50);
@@ -111,13 +111,13 @@ end
 
 function test_statics_of_a_stop_and_of_a_cubic_spring ()
   model = qn.modal (1e4, 2);
-  q = qn.static (model, qn.command (model, 1) * 300, {qn.gap('gap', 0.01, 'stiffness', 1e5), qn.observe(model, 1)});
+  q = qn.static (model, qn.load_at (model, 1) * 300, {qn.gap('gap', 0.01, 'stiffness', 1e5), qn.observe(model, 1)});
   expect_equal (model.shapes * q / (1300 / 1.1e5), 1, 1e-9);
-  [q, info] = qn.static (model, qn.command (model, 1) * 2e4, {qn.cubic('stiffness', 1e4), qn.observe(model, 1)});
+  [q, info] = qn.static (model, qn.load_at (model, 1) * 2e4, {qn.cubic('stiffness', 1e4), qn.observe(model, 1)});
   expect_equal (model.shapes * q, 1, 1e-9);
   expect_equal (info.forces, 1e4, 1e-5);
   chain = qn.modal (1e4 * [2 -1; -1 1], eye (2));
-  q = qn.static (chain, qn.command (chain, 2) * 500, {qn.stop('gap', 0.01, 'stiffness', 1e6), qn.observe(chain, [2 1], [1 -1])});
+  q = qn.static (chain, qn.load_at (chain, 2) * 500, {qn.stop('gap', 0.01, 'stiffness', 1e6), qn.observe(chain, [2 1], [1 -1])});
   u = chain.shapes * q;
   expect_equal (u, [0.05; 0.05 + (500 + 1e4) / (1e6 + 1e4)], 1e-9);
   expect_error (@() qn.static (model, 1, {qn.slider('slip', 1, 'stiffness', 1), 1}), 'qn:input', '~has a memory \(dahl\)');

@@ -5,7 +5,7 @@ end
 
 function [model, res] = shaken (scheme, varargin)
   model = qn.modal (1e4 * [2 -1; -1 1], diag ([1 2]), varargin{:});
-  load = {qn.command(model, 2), @(t) 50 * sin(30 * t); qn.command(model, 1), @(t) 20 * (t < 0.05)};
+  load = {qn.load_at(model, 2), @(t) 50 * sin(30 * t); qn.load_at(model, 1), @(t) 20 * (t < 0.05)};
   res = qn.run (qn.simulation (model, 'step', 1e-3, 'steps', 1500, 'load', load, 'scheme', scheme, 'v0', [0.3; 0]));
 end
 

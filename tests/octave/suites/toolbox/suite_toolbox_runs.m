@@ -15,7 +15,7 @@ function sim = rich (varargin)
               qn.law('stickslip', 'contact', 1e3, 'slip', 12, 'ground', 100), qn.observe(model, 2); ...
               qn.maxwell('springs', [1e3 5e2], 'dampers', [10 40]), tip; qn.law('clima2', args{:}), qn.observe(model, [1 2 3]); ...
               qn.cubic('stiffness', 1e6), qn.observe(model, [1 2])};
-  load = {qn.command(model, 3), @(t) 150 * sin(40 * t); qn.base(model, ones (3, 1)), [0 0.2 0.4; 0 20 0]};
+  load = {qn.load_at(model, 3), @(t) 150 * sin(40 * t); qn.base(model, ones (3, 1)), [0 0.2 0.4; 0 20 0]};
   sim = qn.simulation (model, 'step', 5e-4, 'load', load, 'elements', elements, varargin{:});
 end
 
@@ -153,7 +153,7 @@ end
 function test_the_initial_acceleration_balances_all_forces ()
   model = qn.modal (100, 2, 'damping', 0.1);
   law = qn.gap ('gap', 0.01, 'stiffness', 1e4);
-  sim = qn.simulation (model, 'step', 1e-3, 'steps', 1, 'u0', 0.03, 'v0', 2, 'load', {qn.command(model, 1), @(t) 7}, ...
+  sim = qn.simulation (model, 'step', 1e-3, 'steps', 1, 'u0', 0.03, 'v0', 2, 'load', {qn.load_at(model, 1), @(t) 7}, ...
                        'elements', {law, qn.observe(model, 1)});
   c = 2 * 0.1 * sqrt (100 * 2);
   expect_equal (sim.start.a * model.shapes, (7 - 100 * 0.03 - c * 2 - 1e4 * 0.02) / 2, 1e-12);

@@ -1,0 +1,78 @@
+% Structural dynamics in the time domain: models, force laws, runs, results
+%
+% One line a function. "help qn" shows this list (on Octave "help qn.Contents"), "help qn.NAME" tells the rest, and "help quarn" has the
+% commands of the module below.
+%
+% Matrices
+%   pack           - matrix in the form that the module reads: column-compressed, 32-bit indices from 0
+%   unpack         - host's sparse matrix from the module's structure
+%   mmread         - reads a matrix from a Matrix Market file
+%   mmwrite        - writes a matrix to a Matrix Market file
+%   project        - projects a sparse matrix onto bases, with the module's own products
+%
+% Models
+%   modal          - modal model of a structure: the coordinates in which quarn integrates
+%   rayleigh       - coefficients of proportional damping from two damping ratios
+%   observe        - observation rows: from modal coordinates to displacements of the structure
+%   load_at        - load columns: from forces on the structure to modal forces
+%   base           - modal force of a base acceleration
+%
+% Force laws
+%   law            - force law of a nonlinear element, by named parameters
+%   describe       - a law, a handle or its value in words, with its numbers
+%   element        - value of a nonlinear element handle (type 1003) from a law and observation rows
+%   force          - force of a law along a history of displacements, computed by the module
+%
+% Recipes
+%   gap            - one-sided contact behind a gap
+%   stop           - two-sided stop
+%   bilinear       - elastic spring whose stiffness changes at a displacement
+%   cubic          - cubic spring, force = K * x^3
+%   slider         - Coulomb slider: sticks like a stiff spring, slides at its slip force
+%   iwan           - bank of Coulomb sliders in parallel (parallel-series model of Iwan, 1966)
+%   zener          - Zener element (standard linear solid): a spring beside one Maxwell branch
+%   maxwell        - generalised Maxwell damper: spring-and-damper branches in parallel, and a spring beside them
+%   bearing        - table of a rolling bearing: clearance, then Hertzian contact
+%
+% Simulation
+%   scheme         - parameters of Newmark's time integration (Newmark, 1959)
+%   simulation     - everything that a time simulation needs, in one structure
+%   check          - looks over a set-up before it runs, and says what to change
+%   advise         - how long the time step may be, from runs with h and h/2
+%   run            - runs a simulation
+%   resume         - goes on with a run that was stopped or cut short
+%
+% Sweeps
+%   sweep          - runs one set-up over many sets of parameters
+%   grid           - all combinations of parameters, as the cases of a sweep
+%
+% Results
+%   displacement   - displacements of the structure from a result
+%   velocity       - velocities and accelerations of the structure from a result
+%   acceleration   - accelerations of the structure from a result, relative to a moving base or absolute
+%   energies       - where the energy of a run is, and whether it adds up
+%   dissipated     - energy that each nonlinear element has taken up, stored and dissipated
+%   contacts       - the contacts in a force history: when, how long, how hard
+%   spectrum       - amplitude spectrum of a signal
+%   srs            - shock response spectrum of a base acceleration, or of a floor in a result
+%
+% Pictures
+%   plot.page      - a figure to draw on, hidden where there is no screen
+%   plot.panel     - one of several axes on a page, with room for titles and labels
+%   plot.picture   - writes a figure to a picture file
+%   plot.series    - time history of displacements or forces
+%   plot.phase     - phase plane: velocity against displacement
+%   plot.loop      - force of an element against its displacement
+%   plot.orbit     - orbit of a point: one displacement against another
+%   plot.waterfall - spectra behind one another
+%
+% Without time
+%   static         - static equilibrium with nonlinear elements
+%   harmonic       - steady response to a harmonic load, by harmonic balance and continuation
+%   backbone       - frequency of free vibration against its amplitude
+%
+% Setting up
+%   selftest       - what works on this machine, in one page
+%
+% Older names
+%   command        - older name of qn.load_at

@@ -38,7 +38,7 @@
 %   scheme         - parameters of Newmark's time integration (Newmark, 1959)
 %   simulation     - everything that a time simulation needs, in one structure
 %   check          - looks over a set-up before it runs, and says what to change
-%   advise         - how long the time step may be, from runs with h and h/2
+%   advise         - how long the time step may be, from runs with h, h/2 and h/4
 %   run            - runs a simulation
 %   resume         - goes on with a run that was stopped or cut short
 %
@@ -51,7 +51,7 @@
 %   velocity       - velocities and accelerations of the structure from a result
 %   acceleration   - accelerations of the structure from a result, relative to a moving base or absolute
 %   energies       - where the energy of a run is, and whether it adds up
-%   dissipated     - energy that each nonlinear element has taken up, stored and dissipated
+%   dissipated     - energy that each nonlinear element has taken up, stored, dissipated and exchanged
 %   contacts       - the contacts in a force history: when, how long, how hard
 %   spectrum       - amplitude spectrum of a signal
 %   srs            - shock response spectrum of a base acceleration, or of a floor in a result

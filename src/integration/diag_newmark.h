@@ -21,10 +21,11 @@ namespace quarn {
 ///   "tft"  (Nb+1) x NT: times in row 0, loads below. The step to column j+1 uses the loads of column j.
 ///   "data" 6 values: dt, (1/2-beta) dt^2, (1-gamma) dt, gamma/(beta dt), 1/(beta dt^2), and the current time (written at each step)
 ///   "iopt" optional int32: the first is the offset in the model's "FNL" at which the step's loads are stored
+///   "gain" optional N x N, full: takes the place of the gain column; see full_gain.h
 class chandleDiagNewmark final : public chandle {
  public:
-  /// Reads the value. Raises KORV:quarn:Invalid "Full r expected", "Inconsistent Nb & NT", "Inconsistent data length",
-  /// KORV:quarn:conform "iopt must be int32".
+  /// Reads the value, and refuses a "gain" of another class or size. Raises KORV:quarn:Invalid "Full r expected", "Inconsistent Nb & NT",
+  /// "Inconsistent data length", KORV:quarn:conform "iopt must be int32".
   void initCpt() override;
 
   /// Binds the arrays of one run. mem: struct with "uva" = struct with "uva" (work array, 4*N values or more, layout: copies of u, v, a
@@ -50,6 +51,7 @@ class chandleDiagNewmark final : public chandle {
   void plan(const ROr& c, chandle** list, int nh);
   void foldDiagonals(const ROr& c, chandle** list, int nh);
   bool apart(const ROr& c) const;
+  void checkGain(const ROr& c) const;
   void finishPass(const ROr& c);
   bool saveDue(double t) const { return jSave < NSave && t >= saveTimes.data[jSave]; }
   double time(int column) const { return tft[static_cast<std::ptrdiff_t>(Nb + 1) * column]; }
@@ -67,7 +69,8 @@ class chandleDiagNewmark final : public chandle {
   std::int32_t Ndef = 0;  ///< rows of "def"
   const int* iopt = nullptr;
   host::Doubles r;
-  const double* gain = nullptr;
+  const double* gain = nullptr;      ///< one value a mode
+  const double* gainFull = nullptr;  ///< N x N; null: the modes are corrected by themselves
   const double* tft = nullptr;
   double* data = nullptr;
   host::Doubles uva;

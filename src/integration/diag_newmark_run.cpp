@@ -1,5 +1,6 @@
 // All steps of a run, in as few passes over the modes as the arguments allow.
 #include "host/arrays.h"
+#include "host/errors.h"
 #include "integration/diag_newmark.h"
 
 namespace quarn {
@@ -42,6 +43,35 @@ bool chandleDiagNewmark::apart(const ROr& c) const {
   return true;
 }
 
+/// Refuses a matrix gain, or its residual, in memory that a correction writes: what it reads would change on the way.
+void chandleDiagNewmark::checkGain(const ROr& c) const {
+  if (!gainFull) return;
+  struct Written {
+    const char* name;
+    Range range;
+  };
+  const Written arrays[] = {{"u", {c.u, c.uLen}},
+                            {"v", {c.v, c.vLen}},
+                            {"a", {c.a, c.aLen}},
+                            {"mem.uva.uva", {uva.data, uva.count}},
+                            {"mem.uva.FNL", {snapshot.data, snapshot.count}},
+                            {"the model's FNL", {store.data, store.count}},
+                            {"out.def", {def.data, def.count}},
+                            {"out.FNL.def", {storeDef.data, storeDef.count}},
+                            {"data", {data, 6}}};
+  const auto n = static_cast<std::size_t>(N);
+  for (const Written& a : arrays) {
+    if (host::overlap(a.range.data, a.range.count, gainFull, n * n)) {
+      host::refuse("the integrator's gain must have memory of its own, got that of %s, which a step writes", a.name);
+    }
+  }
+  for (int k = 0; k < 3; ++k) {
+    if (host::overlap(arrays[k].range.data, arrays[k].range.count, uva.data, uva.count)) {
+      host::refuse("mem.uva.uva must have memory of its own beside a gain that is a matrix, got that of %s", arrays[k].name);
+    }
+  }
+}
+
 /// Takes a diagonal stiffness at the head of the list, and a diagonal damping behind it, into the pass over the modes.
 void chandleDiagNewmark::foldDiagonals(const ROr& c, chandle** list, int nh) {
   const double* found[2] = {nullptr, nullptr};
@@ -78,7 +108,7 @@ void chandleDiagNewmark::plan(const ROr& c, chandle** list, int nh) {
     diagonals = {};
     folded = 0;
   }
-  undisturbed = onePass && folded == nh && c.N == N && !iopt && NFNL == 0 && NFNLSave == 0;
+  undisturbed = onePass && !gainFull && folded == nh && c.N == N && !iopt && NFNL == 0 && NFNLSave == 0;
 }
 
 void chandleDiagNewmark::run(chandle** list, int nh, const ROr& c) {

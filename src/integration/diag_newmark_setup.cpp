@@ -1,5 +1,6 @@
 // Reading the integrator's value and binding the arrays of a run.
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 
 #include "host/errors.h"
@@ -19,6 +20,22 @@ SparseView fullField(const mxArray* value, const char* field, const char* name) 
   if (v.ir) host::refuse("%s must be a full matrix, got a sparse one", name);
   checkDense(v, name);
   return v;
+}
+
+/// Data of the field "gain", n x n; null where it is absent or has no elements. Refuses what the kernel could not take.
+const double* fullGain(const mxArray* value, int n) {
+  const mxArray* field = host::field(value, "gain");
+  if (host::count(field) == 0) return nullptr;
+  const host::Doubles gain = host::doubles(field, "the integrator's gain");
+  if (host::rows(field) != n || host::cols(field) != n) {
+    host::refuse("the integrator's gain must be %d x %d, a row and a column for each row of r, got %s", n, n, host::describe(field).text);
+  }
+  for (std::size_t k = 0; k < gain.count; ++k) {
+    if (std::isfinite(gain.data[k])) continue;
+    const auto rows = static_cast<std::size_t>(n);
+    host::refuse("the integrator's gain must be finite, got %g in row %zu, column %zu", gain.data[k], k % rows + 1, k / rows + 1);
+  }
+  return gain.data;
 }
 
 std::int32_t saveColumns(std::size_t values, std::int32_t rowsEach) {
@@ -51,6 +68,7 @@ void chandleDiagNewmark::initCpt() {
 
   if (Nb < 0) host::refuse("r must have 2 columns or more (one not read, loads, gain), got %d", load.cols);
   gain = r.data ? r.data + static_cast<std::ptrdiff_t>(N) * (Nb > 0 ? 2 : 1) : nullptr;
+  gainFull = fullGain(val, N);
 }
 
 void chandleDiagNewmark::bindWork(const mxArray* mem) {
@@ -111,6 +129,7 @@ void chandleDiagNewmark::checkRun(const ROr& c, chandle** list, int nh) {
     if (list[k] && list[k]->type >= 0) list[k]->checkSizes(c, forceLen);
   }
   host::setElement(0);
+  checkGain(c);
   for (int k = 0; k < nh; ++k) {
     if (list[k] && list[k]->type >= 0) list[k]->takeWork();
   }

@@ -3,6 +3,7 @@
 
 #include "host/errors.h"
 #include "integration/diag_newmark.h"
+#include "integration/full_gain.h"
 
 namespace quarn {
 
@@ -49,7 +50,11 @@ void chandleDiagNewmark::doStep(chandle** list, int nh, int j, ROr c) {
 #endif
     list[k]->Residual(c, fmod);
   }
-  newmarkCorrect(c.u, c.v, c.a, fmod, gain, N, coefficients);
+  if (gainFull) {
+    newmarkCorrectFull(c.u, c.v, c.a, fmod, gainFull, N, coefficients);
+  } else {
+    newmarkCorrect(c.u, c.v, c.a, fmod, gain, N, coefficients);
+  }
   for (int k = folded; k < nh; ++k) {
     if (live(list[k])) list[k]->EndStep();
   }

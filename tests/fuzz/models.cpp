@@ -30,7 +30,8 @@ mxArray* integratorValue(Maker& make, std::size_t n, std::size_t steps) {
                          {"r", make.doubles(n, loads + 2)},
                          {"tft", tft},
                          {"data", make.doubles(6)},
-                         {"iopt", in.rarely(3) ? make.int32s({in.index(4)}) : nullptr}});
+                         {"iopt", in.rarely(3) ? make.int32s({in.index(4)}) : nullptr},
+                         {"gain", in.rarely(3) ? make.doubles(n, n) : nullptr}});
 }
 
 mxArray* matrixCell(Maker& make, std::size_t n) {

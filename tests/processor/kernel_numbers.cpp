@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "integration/full_gain.h"
 #include "integration/newmark_fused.h"
 #include "sparse/largest.h"
 #include "sparse/projection_kernels.h"
@@ -37,6 +38,9 @@ void newmark(Vector& all, int n) {
   quarn::newmarkPredict(apart.u.data(), apart.v.data(), apart.a.data(), n, k);
   quarn::newmarkLoad(apart.f.data(), r.data(), n, load.data(), n, 3);
   quarn::newmarkCorrect(apart.u.data(), apart.v.data(), apart.a.data(), apart.f.data(), gain.data(), n, k);
+  apart.appendTo(all);
+  const Vector square = randomVector(n * n, 9);
+  quarn::newmarkCorrectFull(apart.u.data(), apart.v.data(), apart.a.data(), apart.f.data(), square.data(), n, k);
   apart.appendTo(all);
   for (int kind = 0; kind < 3; ++kind) {
     const quarn::DiagonalForces forces{kind > 0 ? stiffness.data() : nullptr, 0.25, kind > 1 ? damping.data() : nullptr};

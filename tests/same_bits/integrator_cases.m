@@ -6,6 +6,8 @@ function integrator_cases (id)
     run (id, 'one integrator', n, c, k, {typed(1, diag (k)), typed(3, diag (c))}, 60);
     run (id, 'one integrator', n, c, k, {typed(3, diag (c)), typed(1, diag (k)), typed(2, diag (k))}, 20);
     if n > 40, continue; end
+    gain = 0.001 * randn (n);
+    run (id, 'one integrator, matrix gain', n, c, k, {typed(1, diag (k)), typed(3, diag (c))}, 20, gain);
     coupled = diag (k) + 0.1 * randn (n);
     run (id, 'sum integrator', n, c, k, {typed(1, coupled), typed(3, diag (c) + 0.01 * randn (n))}, 20);
   end
@@ -19,9 +21,10 @@ function integrator_cases (id)
   end
 end
 
-function run (id, name, n, c, k, list, steps)
+function run (id, name, n, c, k, list, steps, gain)
   h = 0.01;
   [integrator, mem, out] = newmark_setup (1 + rand (n, 1), c, k, randn (n, 1), randn (1, steps), h, 0.25, 0.5, 2:3:steps);
+  if nargin > 7, integrator.gain = gain; end
   mem.uva.FNL = zeros (n, 1);
   model = struct ('FNL', zeros (n, 1));
   recorded_call (id, name, 0, 'chandlediagnewmark', fresh ([{integrator}, list]), fresh (model), 0.1 * randn (n, 1), randn (n, 1), ...

@@ -22,7 +22,7 @@
 %   R          struct as of qn.harmonic
 %
 % Errors
-%   qn:input     sizes do not fit, or a law has a memory
+%   qn:input     sizes do not fit, a law has a memory, or damping or stiffness of the model is not symmetric
 %   qn:diverged  the curve cannot be followed; take amplitudes closer to one another
 %
 % Example
@@ -48,6 +48,7 @@ function [hertz, r] = backbone (model, elements, amplitude, varargin)
   end
   row = qn.impl.looked_at (model, o.row, 'qn.backbone: ', 'row');
   if size (row, 1) ~= 1, error ('qn:input', '%s: "row" must be one observation row, got %d', who, size (row, 1)); end
+  start = no_skew (who, model, o.mode);
   model.damping = zeros (m, 1);
   b = qn.impl.periodic (who, model, zeros (m, 1), elements, o.harmonics, o.samples);
   free = onCleanup (@() delete (b.handles));
@@ -57,8 +58,8 @@ function [hertz, r] = backbone (model, elements, amplitude, varargin)
   kept = kept(:);
   peak = kron (row, ones (1, o.harmonics + 1));
   y = zeros (numel (kept) + 1, 1);
-  y(o.harmonics * (o.mode - 1) + o.mode + 1) = amplitude(1) / row(o.mode);
-  y(end) = model.w(o.mode);
+  y(2 + (0:m - 1) * (o.harmonics + 1)) = start.shape * (amplitude(1) / (row * start.shape));
+  y(end) = start.w;
   points = zeros (m * p + 1, numel (amplitude));
   for k = 1:numel (amplitude)
     if k > 1, y(1:end - 1) = y(1:end - 1) * (amplitude(k) / amplitude(k - 1)); end
@@ -69,6 +70,24 @@ function [hertz, r] = backbone (model, elements, amplitude, varargin)
   end
   r = b.result (points);
   hertz = r.hertz;
+end
+
+% The mode to begin with. Motion with turning points, as cosines have them, needs symmetric matrices.
+function start = no_skew (who, model, mode)
+  for name = {'damping', 'stiffness'}
+    x = model.(name{1});
+    if size (x, 2) > 1 && norm (x - x.', 'fro') > 1e-9 * norm (x, 'fro')
+      error ('qn:input', ['%s: the modal %s is not symmetric (gyroscopic matrix, bearings with cross coupling): such a structure ' ...
+                          'has no free motion with common turning points; use qn.harmonic'], who, name{1});
+    end
+  end
+  start = struct ('shape', zeros (numel (model.w), 1), 'w', model.w(mode));
+  start.shape(mode) = 1;
+  if size (model.stiffness, 2) > 1
+    [shapes, squares] = eig ((model.stiffness + model.stiffness.') / 2);
+    [squares, order] = sort (diag (squares));
+    start = struct ('shape', shapes(:, order(mode)), 'w', sqrt (max (squares(mode), 0)));
+  end
 end
 
 function [g, j] = free_motion (b, y, kept, n, peak, amplitude)

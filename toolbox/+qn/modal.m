@@ -15,22 +15,27 @@
 %     'modes'     how many modes to keep (all, at most 200)
 %     'damping'   modal damping ratios, one for all or one a mode, 1 being critical (0)
 %     'rayleigh'  [alpha beta]: damping matrix alpha*M + beta*K [1/s, s]; see qn.rayleigh
-%     'C'         damping matrix [N s/m], n x n; projected onto the modes. Where that leaves more than rounding beside the
-%                 diagonal, the full modal matrix is kept.
+%     'C'         damping matrix [N s/m], any real n x n: dashpots, bearings
+%     'G'         gyroscopic matrix [kg m^2 or kg m, whatever times 'speed' gives N s/m], n x n, skew (G.' = -G)
+%     'speed'     speed of rotation [rad/s] that belongs to 'G': the damping gets speed*G
+%     'K'         further stiffness [N/m], any real n x n: bearings, with cross terms that differ. The modes stay those of K and M
+%                 alone; this one may couple them.
+%                 C, G and K are projected onto the modes. Where that leaves more than rounding beside the diagonal, the full
+%                 modal matrix is kept, and integrated implicitly as it is (a matrix gain, see docs/theory.md).
 %     'method'    'auto', 'eig' (dense) or 'eigs' (sparse, for many degrees of freedom)
 %     'attach'    where stiff elements or point loads will act: numbers of degrees of freedom, or load shapes, n values a column or a
 %                 row. The static responses to unit forces there that the modes do not hold are added as further, orthogonal
 %                 shapes behind the modes, so that the flexibility at those places is exact (Rubin 1975; docs/theory.md). On a
 %                 structure that is free to move they are responses with inertia relief; its rigid motions must be among the
 %                 modes. With one damping ratio a mode they take the last one.
-%   The dampings add up.
+%   The dampings add up. Keep all modes that C, G or K need to move as they push: what is not in the modes is rigid.
 %
 % Output
 %   MODEL  struct: shapes     n x m, one mode a column [1/sqrt(kg)]
 %                  w          m x 1 angular frequencies [rad/s]
 %                  hertz      m x 1 frequencies [Hz]
-%                  stiffness  m x 1, w.^2 [1/s^2]
-%                  damping    m x 1, 2*zeta*w [1/s], or m x m
+%                  stiffness  m x 1, w.^2 [1/s^2], or m x m where 'K' couples the modes
+%                  damping    m x 1, 2*zeta*w [1/s], or m x m where 'C' or 'G' couples them
 %                  M          the mass matrix, for base motion and initial states [kg]
 %                  K          the stiffness matrix, with which qn.check finds what flexibility the modes leave out [N/m]
 %                  attached   number of shapes that are no modes: the last ones, from 'attach'
@@ -38,12 +43,17 @@
 %
 % Errors
 %   qn:input  sizes do not fit, K or M is not symmetric (to 1e-6 of its greatest entry), the mass is not positive
-%             definite, a damping is negative or no number; the places of 'attach' are none, or a static response does not exist
+%             definite, a damping is negative or no number, G is not skew or comes without a speed; the places of
+%             'attach' are none, or a static response does not exist
+%
+% Source
+%   L. Meirovitch, Computational Methods in Structural Dynamics, 1980; for rotors G. Genta, Dynamics of Rotating Systems, 2005
 %
 % Example
 %   k = 1e6 * [2 -1; -1 1];
 %   model = qn.modal (k, 3 * eye (2), 'damping', 0.02);
 %   model.hertz
+%   rotor = qn.modal (4e6 * eye (2), 3 * eye (2), 'G', [0 1; -1 0] * 0.1, 'speed', 300, 'K', [0 2e5; -2e5 0], 'C', 100 * eye (2));
 %
 % See also qn.observe, qn.load_at, qn.base, qn.rayleigh, qn.simulation
 function model = modal (varargin)
@@ -67,8 +77,9 @@ function model = modal (varargin)
   end
   symmetric (who, 'K', k);
   symmetric (who, 'M', m);
-  o = qn.impl.options (who, struct ('modes', min (n, 200), 'damping', 0, 'rayleigh', [0 0], 'C', [], 'method', 'auto', 'attach', []), ...
-                      args(3:end));
+  o = struct ('modes', min (n, 200), 'damping', 0, 'rayleigh', [0 0], 'C', [], 'G', [], 'speed', [], 'K', [], 'method', 'auto', ...
+              'attach', []);
+  o = qn.impl.options (who, o, args(3:end));
   o.modes = qn.impl.count (who, 'modes', o.modes);
   count = min (o.modes, n);
   if strcmp (o.method, 'auto')
@@ -87,17 +98,24 @@ function model = modal (varargin)
   if ~isempty (o.attach), [phi, w, attached] = qn.impl.attach (k, m, phi, w, o.attach); end
   if numel (o.damping) > 1, o.damping = [o.damping(:); repmat(o.damping(end), attached, 1)]; end
   damping = 2 * o.damping(:) .* w + o.rayleigh(1) + o.rayleigh(2) * w .^ 2;
-  if ~isempty (o.C)
-    c = qn.project (phi, qn.impl.numbers (who, 'C', o.C, [n n]));
-    beside = norm (c - diag (diag (c)), 'fro');
-    if beside > 1e-9 * norm (c, 'fro')
-      damping = diag (damping) + c;
-    else
-      damping = damping + diag (c);
-    end
-  end
-  model = struct ('shapes', phi, 'w', w, 'hertz', w / (2 * pi), 'stiffness', w .^ 2, 'damping', damping, 'M', m, ...
+  damping = qn.impl.with_matrix (damping, who, phi, 'C', o.C);
+  damping = qn.impl.with_matrix (damping, who, phi, 'G', gyroscopic (who, n, o.G, o.speed));
+  stiffness = qn.impl.with_matrix (w .^ 2, who, phi, 'K', o.K);
+  model = struct ('shapes', phi, 'w', w, 'hertz', w / (2 * pi), 'stiffness', stiffness, 'damping', damping, 'M', m, ...
                   'K', k, 'attached', attached);
+end
+
+% speed * G
+function g = gyroscopic (who, n, g, speed)
+  if isempty (g) && isempty (speed), return, end
+  if isempty (g), error ('qn:input', '%s: "speed" belongs to a gyroscopic matrix: give "G" as well', who); end
+  speed = qn.impl.scalar (who, 'speed', speed);
+  g = qn.impl.numbers (who, 'G', g, [n n]);
+  beside = norm (g + g.', 'fro') / norm (g, 'fro');
+  if beside > 1e-6
+    error ('qn:input', '%s: "G" must be skew (G.'' = -G): its symmetric part is %.2g of it and belongs into "C"', who, beside / 2);
+  end
+  g = speed * g;
 end
 
 function symmetric (who, name, x)

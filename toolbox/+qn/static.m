@@ -1,7 +1,8 @@
 % QN.STATIC  static equilibrium with nonlinear elements
 %
 % Purpose
-%   Solves w^2 q + forces (q) = LOAD by Newton's method on the module's residual, with steps halved until the residual falls.
+%   Solves K q + forces (q) = LOAD, K the modal stiffness, by Newton's method on the module's residual, with steps halved until the
+%   residual falls.
 %
 % Calls
 %   [Q, INFO] = qn.static (MODEL, LOAD, ELEMENTS)
@@ -46,7 +47,7 @@ function [q, info] = static (model, load, elements, q)
   scale = max (norm (load), realmin ());
   r = residual (h, q, load);
   for n = 0:100
-    if norm (r) <= 1e-12 * scale || norm (r) <= 1e-14 * norm (model.stiffness .* q), break, end
+    if norm (r) <= 1e-12 * scale || norm (r) <= 1e-14 * norm (qn.impl.product (model.stiffness, q)), break, end
     if n == 100, error ('qn:diverged', '%s: no equilibrium found; residual %g of the load. Start nearer to it, or load in steps', who, ...
                         norm (r) / scale); end
     step = -tangent (h, q, load, m) \ r;
@@ -60,7 +61,7 @@ function [q, info] = static (model, load, elements, q)
     q = q + cut * step;
     r = next;
   end
-  if norm (r) > 1e-6 * scale && norm (r) > 1e-9 * norm (model.stiffness .* q)
+  if norm (r) > 1e-6 * scale && norm (r) > 1e-9 * norm (qn.impl.product (model.stiffness, q))
     error ('qn:diverged', '%s: no equilibrium found; residual %g of the load. Start nearer to it, or load in steps', who, norm (r) / scale);
   end
   [unused, forces] = qn.impl.forces (sim, qn.impl.values (sim, 1), q, zeros (m, 1));

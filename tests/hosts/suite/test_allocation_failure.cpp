@@ -116,6 +116,14 @@ TEST_P(AllocationFailure, OfTheIntegrator) {
         return n.arguments(cell(1, 3, {n.integrator, listMatrix(1, {1, 4}), nl}));
       },
       0);
+  failEach(
+      "chandlediagnewmark",
+      [] {
+        const NewmarkRun n = newmarkRun(2, 5);
+        mxArray* coupled = withField(n.integrator, "gain", matrix(2, 2, {0.1, 0.01, -0.01, 0.1}));
+        return n.arguments(cell(1, 2, {coupled, listMatrix(1, {1, 4})}));
+      },
+      0);
   const NewmarkRun n = newmarkRun(2, 5);
   const double integrator = set(2000, n.integrator);
   const double matrix = set(1, listMatrix(1, {1, 4}));

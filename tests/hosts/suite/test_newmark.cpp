@@ -1,4 +1,6 @@
 // "chandlediagnewmark".
+#include <cmath>
+
 #include "fixture.h"
 #include "setups.h"
 
@@ -101,6 +103,58 @@ TEST_P(Newmark, ErrorTexts) {
   mxArray* nl = element("Power", 2, {1, 1}, {{"unl", zeros(1)}, {"iopt", int32s({-1, 2, 0, 2, 1})}});
   expectError("KORV:quarn:Invalid", "iu+Nistate too large", "chandlediagnewmark", far.arguments(cell(1, 2, {far.integrator, nl})));
   for (mxArray* u : {n.u, small.u, shared.u, far.u}) EXPECT_EQ(values(u), (Values{0, 0}));
+}
+
+TEST_P(Newmark, AMatrixGainTakesThePlaceOfTheColumn) {
+  NewmarkRun n = newmarkRun(2, 20);
+  const Values r = values(field(n.integrator, "r"));
+  run("chandlediagnewmark", n.arguments(cell(1, 2, {n.integrator, listMatrix(1, {1, 4})})), 0);
+  NewmarkRun diagonal = newmarkRun(2, 20);
+  mxArray* same = withField(diagonal.integrator, "gain", matrix(2, 2, {r[4], 0, 0, r[5]}));
+  run("chandlediagnewmark", diagonal.arguments(cell(1, 2, {same, listMatrix(1, {1, 4})})), 0);
+  EXPECT_EQ(values(n.u), values(diagonal.u));
+  EXPECT_EQ(values(field(n.out, "def")), values(field(diagonal.out, "def")));
+  NewmarkRun empty = newmarkRun(2, 20);
+  run("chandlediagnewmark", empty.arguments(cell(1, 2, {withField(empty.integrator, "gain", zeros(0)), listMatrix(1, {1, 4})})), 0);
+  EXPECT_EQ(values(n.u), values(empty.u));
+  NewmarkRun crossed = newmarkRun(2, 1);
+  run("chandlediagnewmark", crossed.arguments(cell(1, 1, {withField(crossed.integrator, "gain", matrix(2, 2, {0, 3, 5, 0}))})), 0);
+  EXPECT_EQ(values(crossed.u), (Values{0, 0}));  // the first load is zero
+  mxGetPr(crossed.a)[0] = 2.0;
+  run("chandlediagnewmark",
+      crossed.arguments(cell(1, 2, {withField(crossed.integrator, "gain", matrix(2, 2, {0, 3, 5, 0})), listMatrix(1, {1, 4})})), 0);
+  const double up = 2.0 * 0.25 * 0.05 * 0.05;
+  EXPECT_EQ(values(crossed.u), (Values{up, -3 * up}));
+}
+
+TEST_P(Newmark, RefusesAMatrixGainThatDoesNotFit) {
+  NewmarkRun n = newmarkRun(2, 3);
+  const auto refused = [&](const char* text, mxArray* gain) {
+    expectRefusal(text, "chandlediagnewmark", n.arguments(cell(1, 1, {withField(n.integrator, "gain", gain)})));
+    EXPECT_EQ(values(field(n.integrator, "data"))[5], 0.0);
+  };
+  refused("gain must be 2 x 2, a row and a column for each row of r, got double 2x3", zeros(2, 3));
+  refused("gain must be 2 x 2, a row and a column for each row of r, got double 4x1", zeros(4));
+  refused("gain must be a full real double array, got complex double 2x2", complexMatrix(2, 2, {1, 0, 0, 1}, {0, 1, 0, 0}));
+  refused("gain must be a full real double array, got sparse double 2x2", nativeSparse({1, 2}));
+  refused("gain must be a full real double array, got int32 4x1", int32s({1, 0, 0, 1}));
+  refused("gain must be a full real double array, got char 1x4", text("gain"));
+  refused("gain must be finite, got nan in row 2, column 1", matrix(2, 2, {1, std::nan(""), 0, 1}));
+  refused("gain must be finite, got inf in row 1, column 2", matrix(2, 2, {1, 0, HUGE_VAL, 1}));
+  EXPECT_EQ(values(n.u), (Values{0, 0}));
+}
+
+TEST_P(Newmark, RefusesAMatrixGainInMemoryThatAStepWrites) {
+  NewmarkRun n = newmarkRun(1, 3);
+  const auto refused = [&](const char* text, mxArray* gain) {
+    expectRefusal(text, "chandlediagnewmark", n.arguments(cell(1, 1, {withField(n.integrator, "gain", gain)})));
+  };
+  refused("memory of its own, got that of u,", standin::share(n.u));
+  refused("memory of its own, got that of v,", standin::share(n.v));
+  refused("memory of its own, got that of a,", standin::share(n.a));
+  n.u = zeros(4);
+  n.mem = structure({{"uva", structure({{"uva", standin::share(n.u)}, {"FNL", zeros(4)}})}});
+  refused("mem.uva.uva must have memory of its own beside a gain that is a matrix, got that of u", zeros(1, 1));
 }
 
 TEST_P(Newmark, RefusesWhatIsNotAnIntegratorOrTooShort) {

@@ -74,7 +74,7 @@ function [s, ctx, run] = one_step (s, ctx, run, j)
   end
   uva(3 * run.Ndef + 1:end) = fmod;
   s.mem.uva.uva = reshape (uva, size (s.mem.uva.uva));
-  step = fmod(n) .* run.gain;
+  step = correction (integrator, fmod(n), run.gain);
   ctx.u(n) = ctx.u(n) - step;
   ctx.v(n) = ctx.v(n) - d(4) * step;
   ctx.a(n) = ctx.a(n) - step * d(5);
@@ -82,6 +82,16 @@ function [s, ctx, run] = one_step (s, ctx, run, j)
     if s.list{k}.type == 1003, s.list{k} = model_element_end_step (s.list{k}); end
   end
   [s, run] = save_outputs (s, ctx, run, t);
+end
+
+% A matrix gain adds its columns times the residuals in ascending order.
+function step = correction (integrator, f, gain)
+  if ~isfield (integrator, 'gain') || isempty (integrator.gain)
+    step = f .* gain;
+    return
+  end
+  step = zeros (numel (f), 1);
+  for j = 1:numel (f), step = step + integrator.gain(:, j) * f(j); end
 end
 
 function [s, run] = save_outputs (s, ctx, run, t)

@@ -11,10 +11,13 @@ function found = check_arrays (sim)
   expect (isa (sim.loads, 'double') && isequal (size (sim.loads), [size(sim.shapes, 2), k]) && size (sim.shapes, 1) == m, ...
           'there must be one row of %d loads for each of the %d shapes of %d modal values', k, size (sim.shapes, 2), m);
   expect (all (isfinite (sim.loads(:))) && isreal (sim.loads) && all (isfinite (sim.shapes(:))), 'the loads must be finite and real');
-  expect (numel (sim.model.stiffness) == m && any (numel (sim.model.damping) == [m, m ^ 2]), ...
-          'the model must have as many stiffnesses and dampings as modes, %d', m);
-  expect (isreal (sim.model.stiffness) && all (isfinite (sim.model.stiffness)) && all (sim.model.stiffness >= 0), ...
+  k = sim.model.stiffness;
+  c = sim.model.damping;
+  expect (fits (k, m) && fits (c, m), 'the model must have a modal stiffness and damping of %d values or %d x %d, got %s and %s', ...
+          m, m, m, mat2str (size (k)), mat2str (size (c)));
+  expect (isreal (k) && all (isfinite (k(:))) && (size (k, 2) > 1 || all (k >= 0)), ...
           'the modal stiffnesses must be finite and not negative');
+  expect (isreal (c) && all (isfinite (c(:))), 'the modal dampings must be finite');
   names = {'u', 'v', 'a'};
   for j = 1:3
     x = sim.start.(names{j});
@@ -29,6 +32,10 @@ function found = check_arrays (sim)
     if isfield (e.law.parameters, 'displacement')
       expect (all (diff (e.law.parameters.displacement) >= 0), 'the table of element %d must ascend; sort it', e.item);
     end
+  end
+
+  function yes = fits (x, m)
+    yes = isequal (size (x), [m 1]) || isequal (size (x), [m m]);
   end
 
   function expect (good, varargin)

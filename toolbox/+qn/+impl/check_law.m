@@ -13,10 +13,15 @@ function found = check_law (sim, k, x)
   who = sprintf ('element %d (%s)', e.item, who);
   if ~any (e.observe(:)) || ~any (e.command(:)), say ('warning', 'its rows are all zero: it does nothing; see qn.observe'); end
   c = sim.model.damping;
-  if size (c, 2) > 1, c = diag (c); end
+  k = sim.model.stiffness;
   s = sim.scheme;
-  mass = max (eps (), 1 + (s.beta - s.gamma / 2) * h ^ 2 * sim.model.stiffness + (s.gamma - 0.5) * h * c);
-  mobility = max (abs (diag (e.observe * bsxfun (@rdivide, e.command.', mass))));
+  if size (c, 2) == 1 && size (k, 2) == 1
+    yielding = bsxfun (@rdivide, e.command.', max (eps (), 1 + (s.beta - s.gamma / 2) * h ^ 2 * k + (s.gamma - 0.5) * h * c));
+  else
+    yielding = (eye (numel (sim.model.w)) + (s.beta - s.gamma / 2) * h ^ 2 * qn.impl.matrix (k) + ...
+                (s.gamma - 0.5) * h * qn.impl.matrix (c)) \ e.command.';
+  end
+  mobility = max (abs (diag (e.observe * yielding)));
   stiff = qn.impl.stiffest (e.law, x);
   ratio = h * sqrt (stiff * mobility * 2 * s.gamma);
   if ratio >= 2

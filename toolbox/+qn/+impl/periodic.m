@@ -34,10 +34,10 @@ function b = periodic (who, model, load, elements, harmonics, n)
   end
   push = zeros (p, m);
   if harmonics > 0, push(2, :) = load(:).'; end
-  damping = model.damping;
-  if size (damping, 2) == 1, damping = diag (damping); end
+  damping = qn.impl.matrix (model.damping);
+  stiffness = qn.impl.matrix (model.stiffness);
   % In one period x = series.' * z; its rate is omega * turn * z.
-  linear = @(w) kron (diag (model.stiffness), eye (p)) + w * kron (damping, turn) + w ^ 2 * kron (eye (m), turn ^ 2);
+  linear = @(w) kron (stiffness, eye (p)) + w * kron (damping, turn) + w ^ 2 * kron (eye (m), turn ^ 2);
   by_omega = @(w) kron (damping, turn) + 2 * w * kron (eye (m), turn ^ 2);
   b.linear = @(w) linear (w) \ push(:);
   b.equations = @(z, w) equations (z, w, linear, by_omega, push, e, index, series, back, p, m, n);

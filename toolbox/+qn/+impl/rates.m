@@ -1,7 +1,6 @@
 % [V, A] = RATES (RES)  modal velocities and accelerations at every step
 %
-% With g = loads - forces - w^2 q, the run obeys a + c v = g at every step, and v' = v + h (1-gamma) a + h gamma a'. What is coupled
-% by damping beside the diagonal acts at the predicted velocity.
+% With g = loads - forces - K q, the run obeys a + C v = g at every step, and v' = v + h (1-gamma) a + h gamma a'.
 function [v, a] = rates (res)
   sim = res.sim;
   if numel (sim.saved) ~= numel (sim.time)
@@ -9,7 +8,7 @@ function [v, a] = rates (res)
   end
   if ~res.complete, error ('qn:input', 'the run is not complete: go on with qn.resume first'); end
   m = numel (sim.model.w);
-  g = sim.shapes * sim.loads - bsxfun (@times, sim.model.stiffness, res.q);
+  g = sim.shapes * sim.loads - qn.impl.product (sim.model.stiffness, res.q);
   for e = sim.elements, g = g - e.command.' * res.force(e.forces, :); end
   h = sim.step;
   gamma = sim.scheme.gamma;
@@ -25,14 +24,12 @@ function [v, a] = rates (res)
     end
     a = g - bsxfun (@times, c, v);
   else
-    own = diag (c);
-    beside = c - diag (own);
     v = [start.v(1:m), zeros(m, size (g, 2) - 1)];
     a = [start.a(1:m), zeros(m, size (g, 2) - 1)];
+    implicit = inv (eye (m) + h * gamma * c);
     for j = 2:size (g, 2)
-      ahead = v(:, j - 1) + h * (1 - gamma) * a(:, j - 1);
-      v(:, j) = (ahead + h * gamma * (g(:, j) - beside * ahead)) ./ (1 + h * gamma * own);
-      a(:, j) = g(:, j) - own .* v(:, j) - beside * ahead;
+      v(:, j) = implicit * (v(:, j - 1) + h * ((1 - gamma) * a(:, j - 1) + gamma * g(:, j)));
+      a(:, j) = g(:, j) - c * v(:, j);
     end
   end
 end

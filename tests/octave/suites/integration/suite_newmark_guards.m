@@ -60,6 +60,35 @@ function test_integrator_fields_of_other_classes ()
   end
 end
 
+function test_matrix_gain_of_other_classes_and_sizes ()
+  wrong = {single(eye (3)), int32(eye (3)), 1i * ones(3), num2cell(eye (3)), 'text', true(3), @sin, sparse(eye (3)), eye(2), ones(3, 4), ...
+           ones(9, 1), 1, struct('pr', ones (9, 1), 'dims', [3 3])};
+  for x = wrong
+    run = small_run ();
+    run.list{1}.gain = x{1};
+    refused (run, 'gain must be');
+  end
+  for x = [NaN Inf -Inf]
+    run = small_run ();
+    run.list{1}.gain = eye (3);
+    run.list{1}.gain(2, 3) = x;
+    refused (run, 'gain must be finite, got .* in row 2, column 3');
+  end
+end
+
+function test_matrix_gain_in_memory_that_a_step_writes ()
+  run = small_run ();
+  run.list = run.list(1);
+  run.list{1}.gain = zeros (3, 3);
+  run.out.def = run.list{1}.gain;
+  refused (run, 'gain must have memory of its own, got that of out.def');
+  run.out.def = zeros (3, 6);
+  run.list{1}.gain = zeros (3, 3);
+  run.mem.uva.uva = zeros (12, 1);
+  run.u = run.mem.uva.uva;
+  refused (run, 'mem.uva.uva must have memory of its own');
+end
+
 function test_load_matrix_without_a_gain_column ()
   run = small_run ();
   run.list{1}.r = ones (3, 1);
@@ -226,7 +255,7 @@ function test_random_nonsense_never_ends_the_host ()
   rand ('twister', 42);
   values = hostile_values ();
   names = {'list', 'model', 'u', 'v', 'a', 'opt', 'mem', 'out'};
-  fields = {'r', 'tft', 'data', 'iopt'};
+  fields = {'r', 'tft', 'data', 'iopt', 'gain'};
   calls = rounds (1500);
   refusals = 0;
   for k = 1:calls
@@ -235,7 +264,7 @@ function test_random_nonsense_never_ends_the_host ()
       x = values{1 + floor (numel (values) * rand)};
       switch mod (k, 4)
         case 0, run.(names{1 + floor (8 * rand)}) = x;
-        case 1, if iscell (run.list), run.list{1}.(fields{1 + floor (4 * rand)}) = x; end
+        case 1, if iscell (run.list), run.list{1}.(fields{1 + floor (5 * rand)}) = x; end
         case 2, if iscell (run.list), run.list{1 + floor (3 * rand)} = x; end
         case 3, run.mem = struct ('uva', struct ('uva', zeros (12, 1), 'FNL', x)); run.out.FNL = struct ('data', x, 'def', x);
       end

@@ -42,6 +42,7 @@ function run = random_run (k, exact)
   [integrator, mem, out] = newmark_setup (0.5 + rand (modes, 1), rand (modes, 1), 3 * rand (modes, 1), randn (modes, nb), ...
                                           randn (nb, points), h, beta, 0.5, 1:points, n);
   if nb == 2, integrator.r(:, 3) = 0.01 * integrator.r(:, 3); end
+  if mod (k, 2), integrator.gain = random_gain (integrator.r(:, min (3, nb + 2)), exact); end
   keep = rand (points, 1) < 0.7;
   out.data = out.data(keep);
   if rand < 0.3, out.data = out.data + h * 0.5 * (rand (size (out.data)) < 0.3); end
@@ -69,6 +70,14 @@ function run = random_run (k, exact)
     end
   end
   if rand < 0.5, run.list(2:end) = run.list(1 + randperm (numel (run.list) - 1)); end
+end
+
+% A matrix gain about the diagonal one. EXACT: a permuted diagonal, so that every sum has one term that is not zero. Some are empty.
+function g = random_gain (diagonal, exact)
+  n = numel (diagonal);
+  g = diag (diagonal);
+  if exact, g = g(:, randperm (n)); else, g = g + 0.1 * max (diagonal) * randn (n); end
+  if rand < 0.1, g = zeros (0, 3); end
 end
 
 function a = nonempty (a)

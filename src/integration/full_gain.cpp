@@ -1,0 +1,64 @@
+#include "integration/full_gain.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "host/processor.h"
+
+namespace quarn {
+
+namespace {
+
+/// Rows whose sums are formed together: they stay in the first-level cache while the columns pass.
+constexpr int kRows = 256;
+/// Columns that are added in one pass over the rows.
+constexpr int kColumns = 8;
+
+/// d = the first n rows of gain times f. Rows are independent entries, so that every processor gives the same bits.
+[[gnu::always_inline]] inline void sums(double* __restrict d, const double* __restrict gain, std::ptrdiff_t ld, const double* __restrict f,
+                                        int columns, int n) {
+  for (int i = 0; i < n; ++i) d[i] = 0.0;
+  int j = 0;
+  for (; j + kColumns <= columns; j += kColumns) {
+    const double* __restrict g = gain + ld * j;
+    const double* __restrict x = f + j;
+    for (int i = 0; i < n; ++i) {
+      double sum = d[i];
+      sum += g[i] * x[0];
+      sum += g[i + ld] * x[1];
+      sum += g[i + 2 * ld] * x[2];
+      sum += g[i + 3 * ld] * x[3];
+      sum += g[i + 4 * ld] * x[4];
+      sum += g[i + 5 * ld] * x[5];
+      sum += g[i + 6 * ld] * x[6];
+      sum += g[i + 7 * ld] * x[7];
+      d[i] = sum;
+    }
+  }
+  for (; j < columns; ++j) {
+    const double* __restrict g = gain + ld * j;
+    const double x = f[j];
+    for (int i = 0; i < n; ++i) d[i] += g[i] * x;
+  }
+}
+
+}  // namespace
+
+QUARN_PROCESSOR_VERSIONS
+void newmarkCorrectFull(double* __restrict u, double* __restrict v, double* __restrict a, const double* __restrict f,
+                        const double* __restrict gain, int n, const NewmarkCoefficients& k) {
+  const double vFromD = k.vFromD;
+  const double aFromD = k.aFromD;
+  double d[kRows];
+  for (int first = 0; first < n; first += kRows) {
+    const int rows = std::min(kRows, n - first);
+    sums(d, gain + first, n, f, n, rows);
+    for (int i = 0; i < rows; ++i) {
+      u[first + i] -= d[i];
+      v[first + i] -= vFromD * d[i];
+      a[first + i] -= d[i] * aFromD;
+    }
+  }
+}
+
+}  // namespace quarn

@@ -16,7 +16,7 @@ struct CommandRow {
 /// The row whose word equals word exactly; null if there is none.
 const CommandRow* findCommand(const char* word);
 
-/// Longest command word, and room for telling it from a longer one.
+/// Room for a command word as callers spell it.
 constexpr int wordCapacity = 64;
 
 }  // namespace quarn

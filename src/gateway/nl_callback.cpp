@@ -1,7 +1,6 @@
 #include "gateway/nl_callback.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "host/errors.h"
 #include "sparse/mt_kernels.h"
@@ -36,15 +35,18 @@ void callWithoutResult(const NlCall& call, const NlElement& e, const char* funct
 
 /// Values of a force array; refuses what is not a double array, naming where it came from.
 host::Doubles forceValues(const mxArray* F, const NlElement& e, const char* origin) {
-  if (F && !host::isRealDouble(F)) {
+  if (!host::holdsDoubles(F)) {
     host::refuse("NL{%d,3} : %s must be a full real double array, got %s", e.row + 1, origin, host::describe(F).text);
   }
   return host::doubles(F, origin);
 }
 
-void checkCommand(const NlCall& call, const NlElement& e, std::size_t forces) {
+/// "b" of an element with an array of forces that are certain to be added.
+void checkCommand(const NlCall& call, const NlElement& e) {
   const mxArray* b = e.field("b");
-  if (b && !mxIsSparse(b)) checkAdd(sparseView(b, "the element's b"), forces, call.r.count, "the element's b");
+  if (!b || !e.field("unl")) return;
+  const std::size_t forces = forceValues(e.force(), e, "its force array").count;
+  if (!mxIsSparse(b)) checkAdd(sparseView(b, "the element's b"), forces, call.r.count, "the element's b");
 }
 
 bool stores(const NlCall& call, const NlElement& e) { return e.number("StoreFNL") != 0.0 && call.ctx.FNL; }
@@ -64,13 +66,12 @@ void addForceArray(const NlCall& call, const NlElement& e) {
 
 void checkHandleLaw(const NlCall& call, const NlElement& e) {
   checkArguments(call, e);
-  checkCommand(call, e, std::numeric_limits<std::size_t>::max());
   if (stores(call, e)) storeOffset(e);
 }
 
 void checkCallableLaw(const NlCall& call, const NlElement& e) {
   checkArguments(call, e);
-  if (e.field("unl")) checkCommand(call, e, forceValues(e.force(), e, "its force array").count);
+  checkCommand(call, e);
 }
 
 void addHandleLaw(const NlCall& call, const NlElement& e) {
@@ -84,11 +85,14 @@ void addHandleLaw(const NlCall& call, const NlElement& e) {
     F = result;
   }
   if (!F) return;
+  const mxArray* b = e.field("b");
+  const bool store = stores(call, e);
+  if (!b && !store) return;
   const host::Doubles f = forceValues(F, e, "the result of Fu");
-  if (const mxArray* b = e.field("b")) Add_Mt_u(b, f, call.r, "the element's b");
-  if (stores(call, e)) {
+  if (b) Add_Mt_u(b, f, call.r, "the element's b");
+  if (store) {
     const auto n = std::min(static_cast<long long>(host::rows(F)), static_cast<long long>(f.count));
-    host::storeClipped(call.ctx.FNL, call.ctx.fnlLen, storeOffset(e), f.data, n);
+    host::storeAscending(call.ctx.FNL, call.ctx.fnlLen, storeOffset(e), f.data, n);
   }
 }
 

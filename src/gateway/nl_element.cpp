@@ -12,17 +12,27 @@ const mxArray* NlElement::needed(const char* name) const {
   return a;
 }
 
-host::Doubles NlElement::doubles(const char* name) const {
-  const mxArray* a = field(name);
-  if (a && !host::isRealDouble(a)) {
-    host::refuse("NL{%d,3}.%s must be a full real double array, got %s", row + 1, name, host::describe(a).text);
-  }
-  return host::doubles(a, name);
+namespace {
+
+[[noreturn]] void refuseClass(const NlElement& e, const char* name) {
+  host::refuse("NL{%d,3}.%s must be a full real double array, got %s", e.row + 1, name, host::describe(e.field(name)).text);
 }
 
-host::Doubles NlElement::doubles(const char* name, std::size_t least) const {
+}  // namespace
+
+host::Doubles NlElement::doubles(const char* name) const {
+  if (!host::holdsDoubles(field(name))) refuseClass(*this, name);
+  return host::doubles(field(name), name);
+}
+
+host::Doubles NlElement::writable(const char* name) const {
+  if (!host::isWritable(field(name))) refuseClass(*this, name);
+  return host::writable(field(name), name);
+}
+
+host::Doubles NlElement::writable(const char* name, std::size_t least) const {
   needed(name);
-  const host::Doubles d = doubles(name);
+  const host::Doubles d = writable(name);
   if (d.count < least) host::refuse("NL{%d,3}.%s must hold %zu values, got %zu", row + 1, name, least, d.count);
   return d;
 }
@@ -37,8 +47,6 @@ const mxArray* NlElement::force() const {
 long long NlElement::pages() const { return mxGetNumberOfDimensions(data) > 2 ? static_cast<long long>(mxGetDimensions(data)[2]) : 1; }
 
 NlElement nlElement(const mxArray* NL, int listRows, int j) {
-  if (host::cols(NL) < 3)
-    host::refuse("model.NL must have 3 columns, the third with the element structures, got %s", host::describe(NL).text);
   const mxArray* e = host::cell(NL, static_cast<std::size_t>(j) + 2 * static_cast<std::size_t>(listRows));
   if (e && !mxIsStruct(e)) host::refuse("NL{%d,3} must be a struct, got %s", j + 1, host::describe(e).text);
   return {e, j};

@@ -33,10 +33,12 @@ struct NlElement {
   const mxArray* field(const char* name) const { return host::field(data, name); }
   /// Field that the law cannot do without; refuses its absence.
   const mxArray* needed(const char* name) const;
-  /// Data of a field, a full real double array; refuses other classes. Empty where there is no such field.
+  /// Data of a field that is read, a full double array; refuses other classes. Empty where there is no such field.
   host::Doubles doubles(const char* name) const;
+  /// The same for a field that is written into; refuses complex arrays as well.
+  host::Doubles writable(const char* name) const;
   /// The same for a field that must be there and hold least values or more.
-  host::Doubles doubles(const char* name, std::size_t least) const;
+  host::Doubles writable(const char* name, std::size_t least) const;
   /// First value of a field that must be there.
   double number(const char* name) const;
   /// The array whose values are assembled: "snl", or "unl" where there is none; null without both.
@@ -45,7 +47,8 @@ struct NlElement {
   long long pages() const;
 };
 
-/// Row j of the list, whose third column starts at element 2 * listRows. data is null where the row holds no element.
+/// Row j of the list, whose third column starts at element 2 * listRows. data is null where the row holds no element, as in a list of
+/// fewer columns.
 /// Refuses an element that is not a struct.
 NlElement nlElement(const mxArray* NL, int listRows, int j);
 

@@ -24,7 +24,7 @@ struct Buffer {
 
 Buffer readBuffer(const NlElement& e, const char* name, const char* startName) {
   Buffer b;
-  b.data = e.doubles(name);
+  b.data = e.writable(name);
   if (!b.data) return b;
   const mxArray* a = e.field(name);
   b.paged = mxGetNumberOfDimensions(a) > 2;
@@ -48,7 +48,7 @@ double switchingFactor(const NlCall& call, const NlElement& e, const Buffer& vnl
   const host::Doubles opt = e.doubles("opt");
   if (opt.count < 2) return 1.0;
   const mxArray* tc = call.nrhs > 6 ? host::field(call.prhs[6], "tc") : nullptr;
-  return tc ? opt.data[1] - host::number(tc, "opt.tc") : opt.data[1];
+  return host::count(tc) > 0 ? opt.data[1] - host::number(tc, "opt.tc") : opt.data[1];
 }
 
 void checkBuffer(const NlElement& e, Buffer& b, bool keep, host::Doubles state, const char* name) {

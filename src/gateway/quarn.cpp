@@ -27,8 +27,11 @@ void registerExit() {
 const quarn::CommandRow* commandOf(const mxArray* word) {
   if (!mxIsChar(word)) return nullptr;
   char text[quarn::wordCapacity] = "";
-  mxGetString(word, text, sizeof text);  // a longer word is cut off, and matches none
-  return quarn::findCommand(text);
+  char* all = text;
+  const std::size_t size = quarn::host::count(word) + 1;
+  if (size > sizeof text) all = static_cast<char*>(mxCalloc(size, 1));  // it may end at an embedded zero
+  mxGetString(word, all, static_cast<mwSize>(size));
+  return quarn::findCommand(all);
 }
 
 /// Runs a command. An exception of the standard library (out of memory above all) must not leave the module; the host's own,

@@ -85,8 +85,8 @@ void commandResidual(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[])
 
   // Everything is looked at before the first write.
   const KorvTerm terms[] = {{-2, c, model.K, r}, {-3, c, model.K, r}, {-1, c, model.K, r}};
-  const Energy kinetic(energies ? host::cell(model.K, 0) : nullptr, "the mass matrix", c.v, c.vLen, "v", c.N);
-  const Energy strain(energies ? host::cell(model.K, 2) : nullptr, "the stiffness matrix", c.u, c.uLen, "u", c.N);
+  const Energy kinetic(energies ? host::matrixCell(model.K, 0) : nullptr, "the mass matrix", c.v, c.vLen, "v", c.N);
+  const Energy strain(energies ? host::matrixCell(model.K, 2) : nullptr, "the stiffness matrix", c.u, c.uLen, "u", c.N);
   const int checked = model.NL ? checkNlStructures(c, r, model.NL, std::min(nrhs, named), callback) : 0;
 
   for (const KorvTerm& term : terms) term.add();

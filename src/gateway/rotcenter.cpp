@@ -45,7 +45,7 @@ void relative(const double* a, const double* T, const double* b, double* out) {
 }
 
 void tableForce(const ForceTable& table, const double* x, double* out) {
-  if (table.knots > 0) vorel_LinInterp(table.X, x, table.cursor, out, table.knots, 1, 3, 1, nullptr, nullptr);
+  vorel_LinInterp(table.X, x, table.cursor, out, table.knots, 1, 3, 1, nullptr, nullptr);
 }
 
 }  // namespace
@@ -62,7 +62,7 @@ void addRotCenter(const NlCall& call, const NlElement& e) {
   double T[9];
   turn(rc.R0, u.data[rotation], T);
 
-  if (rc.obsA) {
+  if (rc.observed) {
     Prod_Mt_u(rc.obsA, u, {uA, 3}, "the element's Cell{15,2}");
     Prod_Mt_u(rc.obsA, v, {vA, 3}, "the element's Cell{15,2}");
     Prod_Mt_u(rc.obsB, u, {uB, 3}, "the element's Cell{17,2}");
@@ -90,7 +90,7 @@ void addRotCenter(const NlCall& call, const NlElement& e) {
     for (int i = 0; i < 3; ++i) call.ctx.FNL[rc.store[i]] = f[i];
   }
   for (std::ptrdiff_t i = 0; i < 3; ++i) g[i] = -(T[3 * i] * f[0] + T[3 * i + 1] * f[1] + T[3 * i + 2] * f[2]);
-  if (rc.obsA) {
+  if (rc.observed) {
     Add_Mt_u(rc.obsB, {f, 3}, call.r, "the element's Cell{17,2}");
     Add_Mt_u(rc.obsA, {g, 3}, call.r, "the element's Cell{15,2}");
   } else {

@@ -19,7 +19,7 @@ struct PointDofs {
   std::size_t n = 0;
 };
 
-/// Table with its cursor: knots rows and two columns or more of X, three values of cursor.
+/// Table with its cursor: knots rows and two columns or more of X (null without knots), three values of cursor.
 struct ForceTable {
   const double* X = nullptr;
   int knots = 0;
@@ -35,8 +35,9 @@ struct RotCenter {
   PointDofs A, B;                 ///< rows 5 to 8, where the cell has 14 rows or fewer
   const double* w = nullptr;      ///< row 10: velocity of A per unit rotation speed [length]
   const int* store = nullptr;     ///< row 11: 0-based positions of the forces in "FNL"; null where the cell has no such row
+  bool observed = false;          ///< the cell has 15 rows or more: the points' motions are
   const mxArray* obsA = nullptr;  ///< row 15 and
-  const mxArray* obsB = nullptr;  ///< row 17: observation matrices of A and B, where the cell has 15 rows or more; else null
+  const mxArray* obsB = nullptr;  ///< row 17, the observation matrices of A and B, times u and v; null: no motion
   ForceTable fu, fv;
 };
 

@@ -39,7 +39,7 @@ struct Parameters {
 
   host::Doubles doubles(int k, std::size_t least) const {
     const mxArray* a = least > 0 ? needed(k) : at(k);
-    if (a && !host::isRealDouble(a)) {
+    if (!host::holdsDoubles(a)) {
       host::refuse("NL{%d,3}.Cell{%d,2} must be a full real double array, got %s", e.row + 1, k, host::describe(a).text);
     }
     const host::Doubles d = host::doubles(a, "Cell");
@@ -71,9 +71,10 @@ PointDofs readDofs(const Parameters& c, int dofRow, int posRow, std::size_t leng
   return {dof.data, pos.data, pos.count};
 }
 
+/// Observation matrix of a point; one without rows, or none, is a point without motion.
 const mxArray* readObservation(const NlCall& call, const Parameters& c, int row, const char* name) {
-  const mxArray* M = c.needed(row);
-  if (mxIsSparse(M)) return M;  // the kernel says what is wrong with it
+  if (row > c.m) c.needed(row);
+  const mxArray* M = host::matrixCell(c.cell, static_cast<std::size_t>(c.m) + static_cast<std::size_t>(row) - 1);
   const SparseView v = sparseView(M, name);
   checkProd(v, std::min(call.ctx.uLen, call.ctx.vLen), 3, name);
   checkAdd(v, 3, call.r.count, name);
@@ -99,7 +100,7 @@ ForceTable readTable(const NlElement& e, const char* table, const char* cursor) 
   if (host::cols(a) < 2) {
     host::refuse("NL{%d,3}.%s must be a table with 2 columns (abscissae, forces), got %s", e.row + 1, table, host::describe(a).text);
   }
-  return {X.data, X ? host::rows(a) : 0, e.doubles(cursor, 3).data};
+  return {X.data, X ? host::rows(a) : 0, e.writable(cursor, 3).data};
 }
 
 }  // namespace
@@ -120,6 +121,7 @@ RotCenter readRotCenter(const NlCall& call, const NlElement& e) {
     rc.A = readDofs(c, 5, 6, length);
     rc.B = readDofs(c, 7, 8, length);
   } else {
+    rc.observed = true;
     rc.obsA = readObservation(call, c, 15, "the element's Cell{15,2}");
     rc.obsB = readObservation(call, c, 17, "the element's Cell{17,2}");
   }

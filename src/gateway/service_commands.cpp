@@ -14,7 +14,7 @@ void commandCvs(int /*nlhs*/, mxArray* plhs[], int /*nrhs*/, const mxArray* /*pr
 }
 
 void commandNlv1(int /*nlhs*/, mxArray* /*plhs*/[], int nrhs, const mxArray* prhs[]) {
-  const bool hasStates = nrhs > 1 && host::field(prhs[1], "unl");
+  const bool hasStates = nrhs > 1 && mxIsStruct(prhs[1]) && mxGetFieldNumber(prhs[1], "unl") >= 0;
   if (!hasStates) host::refuse("expected a struct with a field \"unl\", got %s", host::describe(nrhs > 1 ? prhs[1] : nullptr).text);
 }
 

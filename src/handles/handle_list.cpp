@@ -21,8 +21,9 @@ chandle* fromElement(const mxArray* list, std::size_t i) {
                  element && mxIsStruct(element) ? " without one" : "");
   }
   int ok = 0;
-  chandle* h = chandleInitByType(host::toInt(host::number(type, "field \"type\"")), &ok);
-  h->set_val(host::toInt(mxGetScalar(type)), element);
+  const int code = host::toInt(host::number(type, "field \"type\""));
+  chandle* h = chandleInitByType(code, &ok);
+  h->set_val(code, element);
   return h;
 }
 
@@ -52,23 +53,28 @@ void gatherElements(chandle** out, const mxArray* list, std::size_t n) {
   }
 }
 
-/// All indices are asked for before any handle is looked up: "remi" is a method of the user's, which may free handles.
+void gatherOne(chandle** out, int key, std::size_t i) {
+  host::setElement(static_cast<int>(i) + 1);
+  out[i] = fromRegistry(key);
+  out[i]->initCpt();
+}
+
+/// Index, handle and set-up of each element in turn. "remi" is a method of the user's, which may free handles that were found before: where
+/// one has left the registry meanwhile, all are looked up once more by their indices.
 void gatherRegistered(chandle** out, const mxArray* list, std::size_t n) {
   auto* keys = static_cast<int*>(mxCalloc(n + 1, sizeof(int)));
   mxArray* place = mxCreateDoubleScalar(-1.0);
+  const std::uint64_t released = cIndex.released();
   {
     const host::UserCode running;
     for (std::size_t i = 0; i < n; ++i) {
       host::setElement(static_cast<int>(i) + 1);
       keys[i] = keyOf(list, place, i);
+      gatherOne(out, keys[i], i);
     }
   }
   mxDestroyArray(place);
-  for (std::size_t i = 0; i < n; ++i) {
-    host::setElement(static_cast<int>(i) + 1);
-    out[i] = fromRegistry(keys[i]);
-    out[i]->initCpt();
-  }
+  for (std::size_t i = 0; i < n && cIndex.released() != released; ++i) gatherOne(out, keys[i], i);
   mxFree(keys);
 }
 

@@ -15,6 +15,7 @@ void hindex::destroy(chandle* h) {
 }
 
 void hindex::release(chandle* h) {
+  if (h) ++left;
   if (h && host::insideUserCode()) {
     retired.push_back(h);
   } else {

@@ -29,12 +29,15 @@ class hindex {
   void destroyRetired();
 
   const std::map<std::int32_t, chandle*>& all() const { return entries; }
+  /// How many handles have left the registry since the module was loaded.
+  std::uint64_t released() const { return left; }
 
  private:
   static void destroy(chandle* h);
   void release(chandle* h);
 
   std::int32_t counter = 0;
+  std::uint64_t left = 0;
   std::map<std::int32_t, chandle*> entries;
   std::vector<chandle*> retired;
 };

@@ -45,26 +45,43 @@ bool isClass(const mxArray* a, const char* className) { return a && !mxIsStruct(
 
 bool isRealDouble(const mxArray* a) { return a && mxIsDouble(a) && !mxIsSparse(a) && !mxIsComplex(a); }
 
+bool holdsDoubles(const mxArray* a) { return count(a) == 0 || (mxIsDouble(a) && !mxIsSparse(a)); }
+
+bool isWritable(const mxArray* a) { return count(a) == 0 || isRealDouble(a); }
+
 Doubles doubles(const mxArray* a, const char* name) {
-  if (!a) return {};
-  if (!isRealDouble(a)) refuse("%s must be a full real double array, got %s", name, describe(a).text);
+  if (!holdsDoubles(a)) refuse("%s must be a full real double array, got %s", name, describe(a).text);
   const std::size_t n = count(a);
   if (n == 0) return {};
   return {mxGetPr(a), n};
 }
 
+Doubles writable(const mxArray* a, const char* name) {
+  if (!isWritable(a)) refuse("%s must be a full real double array, got %s", name, describe(a).text);
+  return doubles(a, name);
+}
+
 Ints int32s(const mxArray* a, const char* name) {
-  if (!a) return {};
-  if (!mxIsInt32(a) || mxIsComplex(a)) refuse("%s must be int32, got %s", name, describe(a).text);
   const std::size_t n = count(a);
   if (n == 0) return {};
+  if (!mxIsInt32(a) || mxIsComplex(a)) refuse("%s must be int32, got %s", name, describe(a).text);
   return {static_cast<int*>(mxGetData(a)), n};
 }
 
 double number(const mxArray* a, const char* name) {
-  const bool scalar = a && (mxIsNumeric(a) || mxIsLogical(a)) && !mxIsSparse(a) && count(a) > 0;
-  if (!scalar) refuse("%s must be a number, got %s", name, describe(a).text);
-  return mxGetScalar(a);
+  const bool values = a && (mxIsNumeric(a) || mxIsLogical(a)) && count(a) > 0;
+  if (!values || (mxIsSparse(a) && count(a) > 1)) refuse("%s must be a number, got %s", name, describe(a).text);
+  return mxIsSparse(a) ? sparseElement(a, 0) : mxGetScalar(a);
+}
+
+double sparseElement(const mxArray* a, std::size_t k) {
+  const auto m = static_cast<std::size_t>(mxGetM(a));
+  const mwIndex* starts = mxGetJc(a) + k / m;
+  for (mwIndex i = starts[0]; i < starts[1]; ++i) {
+    if (static_cast<std::size_t>(mxGetIr(a)[i]) != k % m) continue;
+    return mxIsLogical(a) ? static_cast<double>(static_cast<const mxLogical*>(mxGetData(a))[i]) : mxGetPr(a)[i];
+  }
+  return 0.0;
 }
 
 mxArray* field(const mxArray* a, const char* name) {
@@ -78,13 +95,35 @@ mxArray* cell(const mxArray* a, std::size_t i) {
   return count(element) > 0 ? element : nullptr;
 }
 
+mxArray* matrixCell(const mxArray* a, std::size_t i) {
+  if (!a || !mxIsCell(a) || i >= count(a)) return nullptr;
+  mxArray* element = mxGetCell(a, static_cast<mwIndex>(i));
+  return element && (count(element) > 0 || mxIsNumeric(element) || mxIsSparse(element)) ? element : nullptr;
+}
+
+namespace {
+
+/// Values first to last - 1 of n fall inside a destination of dstCount values that begins offset values before the first.
+struct Inside {
+  Inside(std::size_t dstCount, long long offset, long long n)
+      : first(std::max(0LL, -offset)), last(std::min(n, static_cast<long long>(std::min<std::size_t>(dstCount, LLONG_MAX)) - offset)) {}
+  long long first;
+  long long last;
+};
+
+}  // namespace
+
 void storeClipped(double* dst, std::size_t dstCount, long long offset, const double* src, long long n) {
-  if (!dst || !src || n <= 0) return;
-  const long long size = static_cast<long long>(std::min<std::size_t>(dstCount, LLONG_MAX));
-  const long long first = std::max(0LL, -offset);
-  const long long last = std::min(n, size - offset);
-  if (first >= last) return;
-  std::memmove(dst + offset + first, src + first, static_cast<std::size_t>(last - first) * sizeof(double));
+  if (!dst || !src) return;
+  const Inside in(dstCount, offset, n);
+  if (in.first >= in.last) return;
+  std::memmove(dst + offset + in.first, src + in.first, static_cast<std::size_t>(in.last - in.first) * sizeof(double));
+}
+
+void storeAscending(double* dst, std::size_t dstCount, long long offset, const double* src, long long n) {
+  if (!dst || !src) return;
+  const Inside in(dstCount, offset, n);
+  for (long long i = in.first; i < in.last; ++i) dst[offset + i] = src[i];
 }
 
 bool overlap(const double* a, std::size_t nA, const double* b, std::size_t nB) {

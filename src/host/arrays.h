@@ -36,18 +36,31 @@ bool isObject(const mxArray* a);
 bool isClass(const mxArray* a, const char* className);
 /// A full real double array (no elements is fine).
 bool isRealDouble(const mxArray* a);
+/// Whether doubles() takes a: absent, without elements, or a full double array, real or complex.
+bool holdsDoubles(const mxArray* a);
+/// Whether writable() takes a: absent, without elements, or a full real double array.
+bool isWritable(const mxArray* a);
 
-/// Data of a full real double array; refuses any other class under the name that the user knows it by. Null (absent) is empty.
+// An array without elements, of whatever class, is an absent one: the class is looked at only when there is something in it.
+
+/// Data of a full double array that is read, of a complex one its real part; refuses any other class under the name that the user knows it
+/// by. Absent is empty. On Octave the real part is a copy: what is written into it is not the caller's.
 Doubles doubles(const mxArray* a, const char* name);
-/// Data of an int32 array; refuses any other class. Null (absent) is empty.
+/// Data of a full real double array that is written into; refuses any other class, complex arrays included. Absent is empty.
+Doubles writable(const mxArray* a, const char* name);
+/// Data of an int32 array; refuses any other class. Absent is empty.
 Ints int32s(const mxArray* a, const char* name);
-/// First value of a numeric or logical array; refuses anything else, and an array without elements.
+/// First value of a full numeric or logical array, or the value of a sparse scalar; refuses anything else, and an array without elements.
 double number(const mxArray* a, const char* name);
+/// Element k of a sparse array of the host's own kind, counted column by column; of a complex one the real part.
+double sparseElement(const mxArray* a, std::size_t k);
 
 /// Field of element 0 of a struct; null where there is none, or where a is not a struct or has no element.
 mxArray* field(const mxArray* a, const char* name);
 /// Element i of a cell; null where it is unset or has no elements, or where there is no such element.
 mxArray* cell(const mxArray* a, std::size_t i);
+/// The same for an element that is to be a matrix: a numeric array is returned also without elements, since its form may be an error.
+mxArray* matrixCell(const mxArray* a, std::size_t i);
 /// Field or property of an object; null where it cannot be reached. Its data is the object's own on Octave.
 mxArray* objectField(const mxArray* object, const char* name);
 
@@ -57,6 +70,8 @@ mxArray* duplicate(const mxArray* a);
 /// Copies the values of src that fall inside a destination of dstCount values when they are stored from offset on; what lies
 /// outside is left out. Returns nothing. offset may be negative or beyond the end.
 void storeClipped(double* dst, std::size_t dstCount, long long offset, const double* src, long long n);
+/// The same one value after the other in ascending order, which shows where the two lie on each other.
+void storeAscending(double* dst, std::size_t dstCount, long long offset, const double* src, long long n);
 
 /// Whether nA values from a on share memory with nB values from b on. Null and no values share nothing.
 bool overlap(const double* a, std::size_t nA, const double* b, std::size_t nB);

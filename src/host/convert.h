@@ -15,6 +15,9 @@ constexpr std::int64_t toInt64(double x) {
   return x >= -9223372036854775808.0 && x < 9223372036854775808.0 ? static_cast<std::int64_t>(x) : INT64_MIN;
 }
 
+/// Absolute value in 32 bits: INT_MIN has none and stays as it is.
+constexpr int absolute(int x) { return x < 0 && x != INT_MIN ? -x : x; }
+
 /// Whether two values are the same to the last bit, NaN and the sign of zero included.
 inline bool sameBits(double a, double b) {
   std::uint64_t x = 0;

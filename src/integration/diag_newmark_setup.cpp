@@ -73,10 +73,10 @@ void chandleDiagNewmark::initCpt() {
 
 void chandleDiagNewmark::bindWork(const mxArray* mem) {
   const mxArray* work = host::field(mem, "uva");
-  uva = host::doubles(host::field(work, "uva"), "the work array uva");
+  uva = host::writable(host::field(work, "uva"), "the work array uva");
   if (work && uva.count < 4 * static_cast<std::size_t>(N)) host::fail("KORV:quarn:Invalid", "wrong uva size");
   const mxArray* target = host::field(work, "FNL");
-  snapshot = host::doubles(target, "the force store's snapshot");
+  snapshot = host::writable(target, "the force store's snapshot");
   NFNL = host::rows(target);
 }
 
@@ -86,7 +86,7 @@ void chandleDiagNewmark::bindOutputs(const mxArray* out) {
   saveTimes = host::doubles(times, "the save times");
   NSave = saveTimes ? host::rows(times) : 0;
   const mxArray* saved = host::field(out, "def");
-  def = host::doubles(saved, "the output def");
+  def = host::writable(saved, "the output def");
   Ndef = saved ? host::rows(saved) : N;
   NSave = std::min({NSave, saveColumns(def.count, N), saveColumns(def.count, Ndef)});
   jFNLSave = 0;
@@ -94,7 +94,7 @@ void chandleDiagNewmark::bindOutputs(const mxArray* out) {
   const mxArray* storeOutTimes = host::field(storeOut, "data");
   storeTimes = host::doubles(storeOutTimes, "the save times of FNL");
   NFNLSave = storeTimes ? host::rows(storeOutTimes) : 0;
-  storeDef = host::doubles(host::field(storeOut, "def"), "the output def of FNL");
+  storeDef = host::writable(host::field(storeOut, "def"), "the output def of FNL");
 }
 
 void chandleDiagNewmark::initCb(const ROr& c, const mxArray* model, const mxArray* mem, const mxArray* out, chandle** list, int nh) {
@@ -122,7 +122,7 @@ void chandleDiagNewmark::checkRun(const ROr& c, chandle** list, int nh) {
   if (uva.count < 3 * static_cast<std::size_t>(Ndef) + static_cast<std::size_t>(N)) host::fail("KORV:quarn:Invalid", "wrong uva size");
   const std::size_t forceLen = uva.count - 3 * static_cast<std::size_t>(Ndef);
   fmod = uva.data ? uva.data + 3 * static_cast<std::ptrdiff_t>(Ndef) : nullptr;
-  NFNL = static_cast<std::int32_t>(std::min({static_cast<std::size_t>(NFNL), store.count, snapshot.count}));
+  NFNL = static_cast<std::int32_t>(std::min(static_cast<std::size_t>(NFNL), store.count));
   coefficients = {data[0], data[1], data[2], data[3], data[4]};
   for (int k = 0; k < nh; ++k) {
     host::setElement(k + 2);  // the integrator is the first

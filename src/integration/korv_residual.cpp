@@ -24,11 +24,11 @@ KorvTerm::KorvTerm(int code, const ROr& context, const mxArray* K, host::Doubles
   switch (code) {
     case -2:
       rayleigh = c.alpha;
-      if (c.a || rayleigh != 0.0) readMatrix(host::cell(K, 0), a);
+      if (c.a || rayleigh != 0.0) readMatrix(host::matrixCell(K, 0), a);
       return;
     case -3: {
       if (!c.v) return;
-      const mxArray* C = host::cell(K, 1);
+      const mxArray* C = host::matrixCell(K, 1);
       if (isModalDamping(C)) {
         readModalDamping(C, v);
       } else {
@@ -38,7 +38,7 @@ KorvTerm::KorvTerm(int code, const ROr& context, const mxArray* K, host::Doubles
     }
     case -1:
       rayleigh = c.beta;
-      readMatrix(host::cell(K, 2), u);
+      readMatrix(host::matrixCell(K, 2), u);
       return;
     default:
       mexPrintf("Type %i", code);
@@ -63,7 +63,7 @@ void KorvTerm::readMatrix(const mxArray* a, Factor of) {
 void KorvTerm::readModalDamping(const mxArray* C, Factor v) {
   const mxArray* def = host::field(C, "def");
   modes = host::doubles(def, "field \"def\" of the damping");
-  coefficients = host::doubles(host::field(C, "data"), "field \"data\" of the damping");
+  coefficients = host::writable(host::field(C, "data"), "field \"data\" of the damping");
   n = host::rows(def);
   m = host::cols(def);
   checkLength(coefficients.count, 2LL * m, "field \"data\" of the damping", "twice the number of modes");

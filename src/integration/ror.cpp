@@ -11,6 +11,11 @@ void readRayleigh(const mxArray* source, ROr& c) {
   const mxArray* pair = source;
   if (mxIsStruct(source)) pair = host::field(source, "Rayleigh");
   if (!pair) return;
+  if (mxIsSparse(pair) && mxIsDouble(pair)) {
+    if (host::count(pair) > 0) c.alpha = host::sparseElement(pair, 0);
+    if (host::count(pair) > 1) c.beta = host::sparseElement(pair, 1);
+    return;
+  }
   const host::Doubles values = host::doubles(pair, "the Rayleigh pair");
   if (values.count > 0) c.alpha = values.data[0];
   if (values.count > 1) c.beta = values.data[1];

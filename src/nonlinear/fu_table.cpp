@@ -1,4 +1,5 @@
 // The tabulated law.
+#include <algorithm>
 #include <climits>
 
 #include "host/arrays.h"
@@ -18,19 +19,24 @@ double firstSegment(const TablePlace& t, const double* queries) {
   return record[0];
 }
 
+/// Values that a query writes: those of the table's columns, the segment's number where it has none, nothing for a negative count.
+constexpr int resultColumns(int ny) { return ny > 0 ? ny : ny == 0 ? 1 : 0; }
+
 }  // namespace
 
-TablePlace tablePlace(const chandleNl_inout& h) { return {h.opt + h.iopt[5], h.opt + h.iopt[6], h.iopt[7], h.iopt[8]}; }
+TablePlace tablePlace(const chandleNl_inout& h) {
+  // Without knots there may be nothing at the table's place.
+  double* table = h.iopt[7] > 0 || h.iopt[5] + 2LL <= h.optLen ? h.opt + h.iopt[5] : nullptr;
+  return {table, h.opt + h.iopt[6], h.iopt[7], h.iopt[8]};
+}
 
 void checkTablePlace(const chandleNl_inout& h) {
   checkLength(static_cast<std::size_t>(h.ioptLen), 9, "iopt", "entries 6 to 9 place the table");
   const long long table = h.iopt[5];
   const long long record = h.iopt[6];
   const long long nx = h.iopt[7];
-  const long long ny = h.iopt[8];
-  if (table < 0 || record < 0 || nx < 0 || ny < 0) {
-    host::refuse("iopt(6:9) must not be negative, got %lld %lld %lld %lld", table, record, nx, ny);
-  }
+  const long long ny = std::max(h.iopt[8], 0);  // a negative count is none, but the record is kept
+  if (table < 0 || record < 0 || nx < 0) host::refuse("iopt(6:8) must not be negative, got %lld %lld %lld", table, record, nx);
   const long long end = nx > h.optLen ? LLONG_MAX : table + nx * (1 + ny);
   if (end > h.optLen)
     host::refuse("a table of %lld knots and %lld columns at opt(%lld) ends behind opt of %d values", nx, ny, table + 1, h.optLen);
@@ -49,15 +55,15 @@ void checkTablePlace(const chandleNl_inout& h) {
 
 void checkTable(const chandleNl_inout& h, const ROr& /*ro*/) {
   checkTablePlace(h);
-  const long long columns = h.iopt[8] > 0 ? h.iopt[8] : 1;
+  const long long columns = resultColumns(h.iopt[8]);
   checkLength(h.snlTotal, columns * h.unlLen, "snl", "the table's columns for each observed value");
 }
 
 void FuTable(chandleNl_inout* h, ROr ro) {
   const TablePlace t = tablePlace(*h);
   const auto queries = static_cast<std::size_t>(h->unlLen);
-  const std::size_t results = queries * static_cast<std::size_t>(t.ny > 0 ? t.ny : 1);
-  const std::size_t size = static_cast<std::size_t>(t.nx) * (1 + static_cast<std::size_t>(t.ny));
+  const std::size_t results = queries * static_cast<std::size_t>(resultColumns(t.ny));
+  const std::size_t size = static_cast<std::size_t>(t.nx) * (1 + static_cast<std::size_t>(std::max(t.ny, 0)));
   const auto options = static_cast<std::size_t>(h->optLen);
   // The call is repeated once for each observed value. With nothing shared between its arguments, a repetition that finds the same first
   // segment as the one before would only repeat it.

@@ -29,7 +29,7 @@ void checkTable(const chandleNl_inout& h, const ROr& ro);
 
 /// Where iopt[5..8] place a table and its search record in opt; refuses one that does not lie there or does not ascend.
 struct TablePlace {
-  double* table;
+  double* table;  ///< null without knots where "opt" holds no two values there
   double* record;
   int nx;
   int ny;

@@ -1,6 +1,7 @@
 #include "nonlinear/lin_interp.h"
 
 #include <algorithm>
+#include <climits>
 #include <cstddef>
 
 #include "host/convert.h"
@@ -30,6 +31,9 @@ int walk(const double* X, int nx, int i, double xq) {
   }
 }
 
+/// Segment that a record asks to start from; what is beyond all integers is beyond the last knot.
+int start(double record) { return record >= 2147483648.0 ? INT_MAX : host::toInt(record); }
+
 double fraction(const double* X, int s, double xq) {
   const double d = X[s + 1] - X[s];
   return d == 0.0 ? 0.5 : (xq - X[s]) / d;
@@ -53,13 +57,14 @@ void vorel_LinInterp(const double* X, const double* x, double* rec, double* out,
                      double* out2) {
   for (int j = 0; j < n; ++j) {
     const double xq = x[j];
-    const int found = walk(X, nx, host::toInt(rec[0]), xq);
+    const int found = walk(X, nx, start(rec[0]), xq);
     rec[0] = found;
     rec[1] = x[0];
     const int segment = std::max(std::min(found, nx - 2), 0);
     if (ny == 0 && mode != 0) out[j] = segment + 1;
-    if (nx <= 0) continue;  // no knots, no value
-    if (mode == 0) {
+    if (nx <= 0) {  // no knots, no value
+      rec[2] = X ? fraction(X, 0, xq) : 0.5;
+    } else if (mode == 0) {
       rec[2] = nx == 1 ? 1.0 : fraction(X, segment, xq);
     } else if (nx == 1) {
       rec[2] = 0.0;

@@ -6,7 +6,8 @@ namespace quarn {
 /// Interpolates n queries x in a table, without clamping: the end segments extrapolate.
 ///
 /// X    table, nx rows and 1 + ny columns, column-major: abscissae in ascending order (equal neighbours are a jump, a query on
-///      it gets the mean), then the value columns
+///      it gets the mean), then the value columns. Without knots (nx = 0) its first two places still give the fraction; null stands for
+///      two zeros there
 /// rec  in-out, three doubles that survive between calls: segment of the last query (start of the next search), first query of
 ///      the call, interpolation fraction of the last query
 /// out  n rows and ny columns, column-major; with ny = 0 the 1-based segment number of each query

@@ -37,7 +37,7 @@ void chandleNl_inout::checkObservation(const ROr& ro) {
     if (unl) checkProd(c, ro.uLen, unlTotal, "c");
     return;
   }
-  if (c.trans != 1) host::fail("Prod_Mt_u implemented for transposed sparse matrices");
+  checkProdForm(c);
   if (!verified) {
     checkLinePointers(c, c.rows, "c");
     cLargest = largestIndex(c, c.rows, "c");
@@ -54,7 +54,7 @@ void chandleNl_inout::checkObservation(const ROr& ro) {
 
 void chandleNl_inout::checkCommand(std::size_t rLen) {
   if (!b.sparse()) {
-    if (b.trans != 1 && b.rows > 0) host::fail("Add_Mt_u implemented for sparse matrices");
+    checkAddForm(b);
     checkAdd(b, snlTotal, rLen, "b");
     return;
   }

@@ -14,6 +14,7 @@ void FuPower(chandleNl_inout* h, ROr ro) {
 }
 
 void FuExpon(chandleNl_inout* h, ROr ro) {
+  if (h->unlLen <= 0) return;  // its parameters may be missing as well
   const double coefficient = h->opt[1];
   const double base = h->opt[2];
   for (int i = 0; i < h->unlLen; ++i) h->snl[i] = coefficient * std::pow(base, h->unl[i]);
@@ -23,6 +24,7 @@ void FuExpon(chandleNl_inout* h, ROr ro) {
 void checkPower(const chandleNl_inout& h, const ROr& /*ro*/) { checkLength(h.snlTotal, h.unlLen, "snl", "as many as a page of unl"); }
 
 void checkExpon(const chandleNl_inout& h, const ROr& ro) {
+  if (h.unlLen <= 0) return;
   checkLength(static_cast<std::size_t>(h.optLen), 3, "opt", "code, coefficient, base");
   checkPower(h, ro);
 }

@@ -10,6 +10,9 @@ namespace quarn {
 
 namespace {
 
+constexpr const char* addsSparseOnly = "Add_Mt_u implemented for sparse matrices";
+constexpr const char* takesTransposedOnly = "Prod_Mt_u implemented for transposed sparse matrices";
+
 /// cblas_ddoti of line i. Lines of one entry, which pick a degree of freedom, are not worth the call: its sum starts from 0 as well.
 double lineDot(const int* ir, const int* jc, const double* pr, int i, const double* x) {
   const int first = jc[i];
@@ -52,7 +55,7 @@ void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, 
   } else if (transposed) {
     for (int j = 0; j < cols; ++j) y[j] += pr[j] * u[0];
   } else if (rows > 0) {
-    host::fail("Add_Mt_u implemented for sparse matrices");
+    host::fail(addsSparseOnly);
   }
 }
 
@@ -94,7 +97,7 @@ void Prod_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr,
   if (!ir) {
     if (rows > 0) cblas_dgemv(CblasColMajor, CblasNoTrans, rows, cols, 1.0, pr, rows, u, 1, 0.0, y, 1);
   } else if (dims[2] != 1) {
-    host::fail("Prod_Mt_u implemented for transposed sparse matrices");
+    host::fail(takesTransposedOnly);
   } else {
     addGathered(rows, ir, jc, pr, u, y);
   }
@@ -102,6 +105,7 @@ void Prod_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr,
 
 void Add_Mt_u(const mxArray* M, host::Doubles u, host::Doubles y, const char* name) {
   const SparseView v = sparseView(M, name);
+  checkAddForm(v);
   if (!v.pr) return;
   checkAdd(v, u.count, y.count, name);
   const int dims[3] = {v.rows, v.cols, v.trans};
@@ -110,10 +114,18 @@ void Add_Mt_u(const mxArray* M, host::Doubles u, host::Doubles y, const char* na
 
 void Prod_Mt_u(const mxArray* M, host::Doubles u, host::Doubles y, const char* name) {
   const SparseView v = sparseView(M, name);
-  if (!v.pr) return;
   checkProd(v, u.count, y.count, name);
+  if (!v.pr) return;
   const int dims[3] = {v.rows, v.cols, v.trans};
   Prod_Mt_ub(dims, v.ir, v.jc, v.pr, u.data, y.data);
+}
+
+void checkAddForm(const SparseView& v) {
+  if (!v.sparse() && v.trans != 1 && v.rows > 0) host::fail(addsSparseOnly);
+}
+
+void checkProdForm(const SparseView& v) {
+  if (v.sparse() && v.trans != 1) host::fail(takesTransposedOnly);
 }
 
 void checkAdd(const SparseView& v, std::size_t uLen, std::size_t yLen, const char* name) {
@@ -133,7 +145,8 @@ void checkAdd(const SparseView& v, std::size_t uLen, std::size_t yLen, const cha
 }
 
 void checkProd(const SparseView& v, std::size_t uLen, std::size_t yLen, const char* name) {
-  if (!v.pr || (v.sparse() && v.trans != 1)) return;
+  checkProdForm(v);
+  if (!v.pr) return;
   if (v.sparse()) {
     checkLines(v, v.rows, uLen, name, "the observed vector");
   } else {

@@ -57,13 +57,17 @@ inline void spread(int lines, const int* ir, const int* jc, const double* pr, co
 ///   sparse, trans != 1: raises "Prod_Mt_u implemented for transposed sparse matrices"
 void Prod_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, const double* u, double* y);
 
-/// The same on a matrix argument in any form that sparseView takes, with u and y checked against its size. No matrix adds
-/// nothing.
+/// The same on a matrix argument in any form that sparseView takes, with u and y checked against its size. A matrix without values adds
+/// nothing; where its form is an error of the kernel's, that error is raised nevertheless.
 void Add_Mt_u(const mxArray* M, host::Doubles u, host::Doubles y, const char* name);
 void Prod_Mt_u(const mxArray* M, host::Doubles u, host::Doubles y, const char* name);
 
+/// Raise the errors of the forms that the kernels above do not take.
+void checkAddForm(const SparseView& v);
+void checkProdForm(const SparseView& v);
+
 /// Refuses a view with which the kernel above would leave u (uLen values), y (yLen values) or the matrix's own arrays. name: of the
-/// matrix, for the texts. A combination that the kernel itself raises an error for passes: the kernel is the one to say so.
+/// matrix, for the texts. checkProd raises the error of its form as well; checkAdd leaves that to who is going to add.
 void checkAdd(const SparseView& v, std::size_t uLen, std::size_t yLen, const char* name);
 void checkProd(const SparseView& v, std::size_t uLen, std::size_t yLen, const char* name);
 

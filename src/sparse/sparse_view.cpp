@@ -16,6 +16,7 @@ SparseView denseView(const mxArray* a, const char* name) {
   const host::Doubles data = host::doubles(a, name);
   v.pr = data.data;
   v.prLen = data.count;
+  v.realPart = data && mxIsComplex(a);
   v.rows = host::rows(a);
   v.cols = host::cols(a);
   return v;
@@ -43,6 +44,7 @@ SparseView structView(const mxArray* a, const char* name) {
   const host::Ints jc = host::int32s(host::field(a, "jc"), "field \"jc\"");
   v.pr = values.data;
   v.prLen = values.count;
+  v.realPart = values && mxIsComplex(pr);
   v.ir = ir.data;
   v.irLen = ir.count;
   v.jc = jc.data;
@@ -81,7 +83,7 @@ void korv_mkl_get_sparse(const mxArray* a, void** ptrs, int* dims) {
 }
 
 host::Doubles pmatDoubles(const mxArray* a, const char* name) {
-  if (!host::isObject(a)) return host::doubles(a, name);
+  if (!host::isObject(a)) return host::writable(a, name);
   const mxArray* address = host::objectField(a, "c");
   const bool word = address && mxIsNumeric(address) && !mxIsSparse(address) &&
                     host::count(address) * static_cast<std::size_t>(mxGetElementSize(address)) >= sizeof(std::uint64_t);

@@ -26,6 +26,8 @@ struct SparseView {
   std::size_t prLen = 0;
   /// Reached through an object, whose data others may share and change.
   bool throughObject = false;
+  /// The values are the real part of a complex array: to be read only, see host::doubles.
+  bool realPart = false;
 
   bool sparse() const { return ir != nullptr; }
   /// Lines of the stored matrix S.

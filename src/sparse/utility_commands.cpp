@@ -52,6 +52,7 @@ double* packed(const DenseBase& base, std::size_t n) {
 }
 
 void checkBlocks(const mxArray* blocks) {
+  if (host::count(blocks) == 0) return;
   if (!blocks || !mxIsCell(blocks)) host::refuse("Kc must be a cell row of double matrices, got %s", host::describe(blocks).text);
   const std::size_t n = std::min(colsOf(blocks), host::count(blocks));
   for (std::size_t k = 0; k < n; ++k) {
@@ -70,6 +71,7 @@ void commandSetSparse(int, mxArray**, int nrhs, const mxArray* prhs[]) {
   const host::Doubles values = rawDoubles(argument(nrhs, prhs, 4), "pr");
   checkFits(indices.count, target.irLen, "ir");
   checkFits(values.count, target.prLen, "pr");
+  if (values && target.realPart) host::refuse("the values of M must be real to be overwritten, got complex ones");
   copyOver(target.ir, indices);
   copyOver(target.pr, values);
 }

@@ -80,6 +80,8 @@ const char* mxGetFieldNameByNumber(const mxArray* a, int field) {
   return k < array.names.size() ? array.names[k].c_str() : nullptr;
 }
 
+int mxGetFieldNumber(const mxArray* a, const char* name) { return deref(a, "mxGetFieldNumber").nameIndex(name); }
+
 mxArray* mxGetField(const mxArray* a, mwIndex i, const char* name) {
   const mxArray& array = deref(a, "mxGetField");
   if (!hasFields(array)) return nullptr;

@@ -129,6 +129,7 @@ mxArray* mxGetCell(const mxArray* a, mwIndex i);
 void mxSetCell(mxArray* a, mwIndex i, mxArray* value);
 int mxGetNumberOfFields(const mxArray* a);
 const char* mxGetFieldNameByNumber(const mxArray* a, int field);
+int mxGetFieldNumber(const mxArray* a, const char* name);
 mxArray* mxGetField(const mxArray* a, mwIndex i, const char* name);
 mxArray* mxGetFieldByNumber(const mxArray* a, mwIndex i, int field);
 void mxSetField(mxArray* a, mwIndex i, const char* name, mxArray* value);

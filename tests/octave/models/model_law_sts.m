@@ -9,8 +9,8 @@ function [s, ctx] = model_law_sts (s, t, ctx)
   sticks = false;
   while i <= model_page (s) && ~sticks
     trial = (s.unl(i + 1) - s.unl(i)) * kc + s.unl(i + 1) * kg;
-    % A trial that is no 32-bit integer counts as -2^31.
-    if ~(abs (fix (trial)) < 2 ^ 31), whole = 2 ^ 31; else, whole = abs (fix (trial)); end
+    % A trial that is no 32-bit integer counts as -2^31, whose absolute value does not fit in 32 bits and stays negative.
+    if ~(abs (fix (trial)) < 2 ^ 31), whole = -2 ^ 31; else, whole = abs (fix (trial)); end
     sticks = s.opt(6) > whole;
     if ~sticks
       if trial > 0, slip = s.opt(6); else, slip = -s.opt(6); end

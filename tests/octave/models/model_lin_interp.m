@@ -56,7 +56,8 @@ end
 
 function i = start_index (r)
   i = fix (r) + 0;   % an integer has no negative zero
-  if ~(i >= 0 && i < 2147483648), i = 0; end
+  if ~(i >= 0), i = 0; end
+  i = min (i, 2147483647);
 end
 
 % The segment used and the one that the record keeps; they differ beyond the last knot only.

@@ -87,6 +87,10 @@ end
 function test_a_word_ends_at_its_first_zero ()
   expect_equal (quarn (['ismex' char(0) 'tail']), 1);
   expect_refused (@() quarn ([char(0) 'ismex']), 'quarn : Unknown command');
+  for n = [50 57 58 59 63 64 1000 1e6]
+    expect_equal (quarn (['ismex' char(0) repmat('x', 1, n)]), 1);
+    expect_refused (@() quarn (['ismex' repmat('x', 1, n)]), 'quarn : Unknown command');
+  end
 end
 
 function test_a_word_that_is_not_text_is_unknown ()

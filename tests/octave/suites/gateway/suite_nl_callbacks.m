@@ -102,7 +102,7 @@ function test_callable_type_may_have_no_output ()
 end
 
 function test_results_of_other_classes_are_refused ()
-  wrong = {int32([1; 2]), {1, 2}, 'ab', true(2, 1), single([1; 2]), sparse([1; 2]), [1; 2i], @sin, struct('snl', {{1}}), struct('unl', 'x')};
+  wrong = {int32([1; 2]), {1, 2}, 'ab', true(2, 1), single([1; 2]), sparse([1; 2]), @sin, struct('snl', {{1}}), struct('unl', 'x')};
   key = quarn ('chandleset', 1, matrix_lines (speye (2)));
   for k = 1:numel (wrong)
     e = element ();

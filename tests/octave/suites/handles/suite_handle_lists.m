@@ -170,3 +170,46 @@ function failed = fails (run)
     failed = true;
   end
 end
+
+% While the result lives, "remi" first runs HOOK with the element's number.
+function undo = hooked (hook)
+  global REMI_HOOK
+  REMI_HOOK = hook;
+  folder = fullfile (fileparts (which ('registered')), 'hooked');
+  addpath (folder);
+  undo = onCleanup (@() rmpath (folder));
+end
+
+function fail_from (place, k)
+  if k >= place, error ('own:id', 'asked for %d', k); end
+end
+
+function test_elements_are_found_and_set_up_one_after_the_other ()
+  clear quarn
+  dense = quarn ('chandleset', 2, struct ('pr', [1; 2], 'dims', [2 1]));
+  undo = hooked (@(k) fail_from (2, k));
+  gather = @(indices) quarn ('residual', zeros (1, 1), chandle (indices), 1, 1, 1);
+  % The set-up of the first element fails before the second one's index is asked for; so does the look-up, which leaves its key.
+  expect_error (@() gather ([dense 5]), 'KORV:quarn:empty', 'Error not a valid mass');
+  expect_error (@() gather ([7 5]), 'KORV:quarn:NonHandle', 'Handle does not exist');
+  expect_equal (quarn ('chandleget'), [0; 7]);
+  good = quarn ('chandleset', 1, matrix_lines (sparse (3)));
+  expect_error (@() gather ([good dense]), 'own:id', 'asked for 2');
+end
+
+function clear_at (place, k, index)
+  if k == place, quarn ('chandleclear', index); end
+end
+
+function test_a_handle_freed_by_a_later_method_does_not_exist ()
+  h = quarn ('chandleset', 1, matrix_lines (sparse (3)));
+  other = quarn ('chandleset', 1, matrix_lines (sparse (4)));
+  unused = quarn ('chandleset', 1, matrix_lines (sparse (5)));
+  undo = hooked (@(k) clear_at (2, k, unused));
+  expect_equal (added (chandle ([h other])), 7);
+  clear undo
+  undo = hooked (@(k) clear_at (2, k, h));
+  expect_error (@() added (chandle ([h other])), 'KORV:quarn:NonHandle', 'Handle does not exist');
+  clear undo
+  expect_equal (added (chandle (other)), 4);
+end

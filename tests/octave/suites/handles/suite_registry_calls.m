@@ -138,19 +138,19 @@ function test_setting_without_a_value_is_refused_and_leaves_the_counter ()
 end
 
 function test_type_codes_that_are_no_numbers_are_refused ()
-  values = {[], {}, {1}, '', struct('x', 1), @sin, sparse(1), chandle(1), v_handle(1), containers.Map()};
+  values = {[], {}, {1}, '', struct('x', 1), @sin, sparse([1 0]), chandle(1), v_handle(1), containers.Map()};
   for k = 1:numel (values)
     expect_refused (@() quarn ('chandleset', values{k}, 5), '~^quarn chandleset : the handle''s type must be a number, got ');
   end
 end
 
 function test_indices_that_are_no_numbers_are_refused ()
-  values = {[], {}, {1}, '', struct('x', 1), @sin, sparse(1), chandle(1), v_handle(1), containers.Map()};
+  values = {[], {}, {1}, '', struct('x', 1), @sin, sparse([1 0]), chandle(1), v_handle(1), containers.Map()};
   for k = 1:numel (values)
     expect_refused (@() quarn ('chandleget', values{k}), '~^quarn chandleget : the handle''s index must be a number, got ');
     expect_refused (@() quarn ('chandleget', @isempty, values{k}), '~^quarn chandleget : the handle''s index must be a number, got ');
   end
-  values = {{1}, struct('x', 1), @sin, sparse(1), chandle(1), v_handle(1), containers.Map()};
+  values = {{1}, struct('x', 1), @sin, sparse([1 0]), chandle(1), v_handle(1), containers.Map()};
   for k = 1:numel (values)
     expect_refused (@() quarn ('chandleclear', values{k}), '~^quarn chandleclear : the handle''s index must be a number, got ');
   end

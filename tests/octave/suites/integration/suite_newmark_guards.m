@@ -53,7 +53,7 @@ function test_integrator_fields_of_other_classes ()
   for name = {'r', 'tft', 'data'}
     run = small_run ();
     value = run.list{1}.(name{1});
-    for wrong = {single(value), int32(value), 1i * value, num2cell(value), 'text', true(size (value)), @sin}
+    for wrong = {single(value), int32(value), num2cell(value), 'text', true(size (value)), @sin}
       run.list{1}.(name{1}) = wrong{1};
       refused (run, name{1});
     end

@@ -154,3 +154,13 @@ function test_force_outputs_beyond_the_output_times_are_not_used ()
   got = same_as_model (run);
   expect_equal (got.out.FNL.def, [8 -1 -1]);
 end
+
+function test_a_snapshot_without_columns_counts_its_rows ()
+  run = one_mode_run ([1 2 3 4]);
+  run.list{1}.iopt = int32 (0);
+  run.model.FNL = zeros (3, 1) + 9;
+  run.mem.uva.FNL = zeros (2, 0);
+  run.out.FNL = struct ('data', run.out.data, 'def', zeros (2, 4));
+  call (run);
+  expect_equal (run.out.FNL.def, [0 1 2 3; 0 9 9 9]);
+end

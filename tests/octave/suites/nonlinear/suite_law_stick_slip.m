@@ -77,11 +77,18 @@ function test_odd_page_takes_its_last_slider_from_the_next_page ()
   expect_equal (e.unl(4), (1 * 10 + 2.5) / 10);
 end
 
-function test_trial_beyond_32_bits_slips ()
-  for x = [1e12, -1e12]
+function test_trial_beyond_32_bits_sticks ()
+  % It is truncated to -2^31, whose absolute value in 32 bits is -2^31 again and less than any slip force above it.
+  for x = [1e12, -1e12, 2 ^ 31 / 10, -(2 ^ 31) / 10, NaN, Inf]
     e = evaluate_law (element ([0.5 3 10 2.5 0]), [x; 0], [0; 0]);
-    expect_equal (e.unl(2), (x * 10 + sign (x) * 2.5) / 10);
+    expect_equal (e.unl(2), 0);
+    expect_equal (e.snl(1), x * 10 + 3 * x);
   end
+  x = -(2 ^ 31 - 1) / 10;
+  e = evaluate_law (element ([0.5 3 10 2.5 0]), [x; 0], [0; 0]);
+  expect_equal (e.unl(2), (x * 10 - 2.5) / 10);
+  e = evaluate_law (element ([0.5 3 10 -2 ^ 31 0]), [1e12; 0], [0; 0]);
+  expect_equal (e.unl(2), (1e12 * 10 - 2 ^ 31) / 10);
 end
 
 function test_force_replaces_the_first_displacement_without_snl ()

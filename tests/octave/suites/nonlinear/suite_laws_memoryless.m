@@ -168,7 +168,7 @@ end
 function test_tables_that_do_not_lie_in_the_parameters_are_refused ()
   x = [0 1 2 10 20 30];
   bad = {[-1 0 0 0 0 1 7 5 1], [-1 0 0 0 0 5 7 3 1], [-1 0 0 0 0 1 8 3 1], [-1 0 0 0 0 1 7 3 3], [-1 0 0 0 0 -1 7 3 1], ...
-         [-1 0 0 0 0 1 -1 3 1], [-1 0 0 0 0 1 7 -3 1], [-1 0 0 0 0 1 7 3 -1], [-1 0 0 0 0 1 7 3], ...
+         [-1 0 0 0 0 1 -1 3 1], [-1 0 0 0 0 1 7 -3 1], [-1 0 0 0 0 1 7 3], ...
          [-1 0 0 0 0 1 7 2147483647 1], [-1 0 0 0 0 1 7 3 2147483647]};
   for k = 1:numel (bad)
     expect_refused (@() observed ('Table', [x 0 0 0], 1, bad{k}), '~^quarn residual : .*(opt|iopt)');
@@ -182,4 +182,57 @@ function test_a_repetition_that_finds_another_segment_counts ()
   % The first pass comes to the query 1 from below, where 0 times infinity is not a number; the second from above.
   e = tabulated ([0; 1; 2; Inf; 20; 30], [0; 0; 0], 3, 1, [1; 2]);
   expect_equal (e.snl, [20; 30]);
+end
+
+function test_search_record_beyond_2_31_walks_back_from_the_top ()
+  % Reached from above, an inner knot belongs to the segment that starts there.
+  x = [0 1 2 3; 0 10 20 30].';
+  for start = [2 ^ 31, 2 ^ 31 + 1, 1e300, Inf, 2 ^ 31 - 1, 3]
+    e = tabulated (x, [start; 0; 0], 4, 1, 1);
+    expect_equal (e.opt(end - 2:end), [1; 1; 0]);
+    expect_equal (e.snl, 10);
+  end
+  for start = [-2 ^ 31 - 1, -Inf, NaN, 0]
+    e = tabulated (x, [start; 0; 0], 4, 1, 1);
+    expect_equal (e.opt(end - 2:end), [0; 1; 1]);
+  end
+end
+
+function test_table_without_knots_keeps_its_record ()
+  % The fraction is that of the two values at the table's place.
+  e = observed ('Table', [1 5 7 8 9], [2; 3], [-1 0 0 0 0 1 3 0 1]);
+  expect_equal (e.opt(4:6), [-1; 2; (3 - 1) / 4]);
+  expect_equal (e.snl, [0; 0]);
+  % Where "opt" ends before them, both count as 0.
+  for place = [6 5]
+    e = observed ('Table', [1 5 7 8 9], [2; 3], [-1 0 0 0 0 place 3 0 1]);
+    expect_equal (e.opt(4:6), [-1; 2; 0.5]);
+  end
+  e = observed ('Table', [1 5 7 8 9], [2; 3], [-1 0 0 0 0 1 3 0 0]);
+  expect_equal (e.snl, [1; 1]);  % without columns the number of the segment
+end
+
+function test_expon_without_displacements_does_nothing ()
+  for e = {struct('opt', law_code ('Expon')), struct('opt', law_code ('Expon'), 'unl', []), ...
+           struct('opt', law_code ('Expon'), 'unl', zeros (0, 1), 'vnl', 4, 'iopt', int32 (0))}
+    h = e{1};
+    h.type = 1003;
+    h.snl = 6;
+    [h, r] = evaluate_law (h, [1; 2], [3; 4]);
+    expect_equal (h.snl, 6);
+    expect_equal (r, [0; 0]);
+  end
+  e = struct ('type', 1003, 'opt', law_code ('Expon'), 'unl', 0);
+  expect_error (@() evaluate_law (e, 1, 1), '', '~^quarn residual : element 1 : opt must hold 3 values');
+end
+
+function test_table_with_a_negative_column_count_updates_its_record_only ()
+  x = [0 1 2 3];
+  for snl = {[7; 7], []}
+    e = tabulated (x, [0; 0; 0], 4, -1, [0.25; 2.5], snl{1});
+    expect_equal (e.opt(end - 2:end), [2; 0.25; 0.5]);
+    if isempty (snl{1}), expect_equal (e.unl, [0.25; 2.5]); else, expect_equal (e.snl, snl{1}); end
+  end
+  e = tabulated (x, [0; 0; 0], 4, -2147483648, 0.25, 7);
+  expect_equal (e.opt(end - 2:end), [0; 0.25; 0.25]);
 end

@@ -20,7 +20,7 @@ foreach(file ${suites})
   set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${host_environment}"
                        SKIP_REGULAR_EXPRESSION "^0 passed, 0 failed, [1-9]|\n0 passed, 0 failed, [1-9]")
   # The toolbox is Octave code: it does not change with the way the module is built.
-  if(file MATCHES "/suites/toolbox/" OR name MATCHES "^octave\\.(install|document)")
+  if(file MATCHES "/suites/toolbox/" OR name MATCHES "^octave\\.(install|document|validation)")
     set_tests_properties(${name} PROPERTIES LABELS once)
   endif()
 endforeach()

@@ -21,7 +21,9 @@ end
 
 function test_coulomb_slider_turns_where_published_and_then_sticks ()
   u = slider (false);
-  expect_equal (1e4 * u(1:4), 1e4 * [-6.5e-4 4.5e-4 -2.5e-4 0.5e-4], 1e-3);
+  c = published ('Coulomb slider released', 'Code_Aster validation manual V5.01.100, SDND100', {'DahlC', 'memory of laws', 'initial state'});
+  expect_published (c, {'first turning point [mm]', 'second', 'third', 'fourth', 'at rest at 0.16 s'}, [-0.65 0.45 -0.25 0.05 0.05], ...
+                    1e3 * u([1:4 8]), 1e-4);
   expect_equal (1e4 * u(1:4), [-6.50001 4.50007 -2.50012 0.50022], 1e-5);
   expect_equal (1e4 * u(5:8), 0.5 * ones (1, 4), 1e-3);
 end
@@ -63,6 +65,10 @@ end
 function test_zener_solid_follows_the_closed_form ()
   [u, t] = zener (1e-4, false);
   expect_equal (u, zener_exact (t), 5e-5);
+  c = published ('Mass on a Zener solid, far end stepped', 'Code_Aster validation manual, SDND107 (closed form)', {'Maxw', 'memory of laws'});
+  at = [10 20 40 100];
+  expect_published (c, arrayfun (@(x) sprintf ('displacement at %g s [m]', x), t(at).', 'uniformoutput', false), zener_exact (t(at)), u(at), ...
+                    5e-5);
 end
 
 function test_zener_solid_is_of_first_order_in_the_step ()
@@ -104,8 +110,8 @@ end
 function test_dahl_loop_has_the_published_force_and_area ()
   [coarse_force, coarse_area] = dahl_loop (1000);
   [force, area] = dahl_loop (10000);
-  expect_equal (force / 761.594156, 1, 2e-4);
-  expect_equal (area / 9.536234, 1, 5e-4);
+  c = published ('Settled Dahl loop', 'P. R. Dahl, A Solid Friction Model, 1968; closed form of the settled loop', {'DahlC', 'memory of laws'});
+  expect_published (c, {'force at the turning point [N]', 'area of the loop [J]'}, [761.594156 9.536234], [force area], [0.15 5e-3]);
   % First order: a tenth of the step, a tenth of the error.
   expect_equal ((coarse_force - 761.594156) / (force - 761.594156), 10, 0.02);
   expect_equal ((coarse_area - 9.536234) / (area - 9.536234), 10, 0.02);

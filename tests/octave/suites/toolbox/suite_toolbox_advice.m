@@ -40,7 +40,8 @@ function test_the_advised_step_keeps_the_tolerance_in_every_kind_of_set_up ()
       if ~a.sure, continue, end
       e = error_with (set_up, a.advised);
       if e > 1.3 * 2e-3, error ('%s from %g s: error %g with the advised step (%s)', list{k, 1}, h, e, a.text); end
-      if abs (a.advised - h) > 0 && a.advised > h / 64 && e < 2e-3 / 12, error ('%s from %g s: %g is far too good (%s)', list{k, 1}, h, e, a.text); end
+      if abs (a.advised - h) > 0 && a.advised > h / 64 && e < 2e-3 / 12, error ('%s from %g s: %g is far too good (%s)', list{k, 1}, h, ...
+              e, a.text); end
     end
     if ~isempty (list{k, 3}), expect_equal (a.order, list{k, 3}, 0.35); end
   end

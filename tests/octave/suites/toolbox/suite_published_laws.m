@@ -1,0 +1,85 @@
+% Force laws with published or closed-form answers, run through the toolbox.
+function tests = suite_published_laws ()
+  use_toolbox ();
+  tests = localfunctions ();
+end
+
+% Mass 1 kg at 1 m/s meets F = 1e6 d^1.5: the closed form follows from the energy, the duration is a beta function.
+function test_elastic_impact_after_hertz ()
+  c = published ('Elastic impact after Hertz', ...
+                 ['closed form from the energy, the duration by a beta function (model: K. H. Hunt and F. R. E. Crossley, J. Applied ' ...
+                  'Mechanics 42, 1975, without damping)'], {'Table', 'contacts'});
+  d = linspace (0, 5e-3, 2001);
+  model = qn.modal (0, 1);
+  hertz = qn.law ('table', 'displacement', [-1, d], 'force', [0, 1e6 * d .^ 1.5]);
+  res = qn.run (qn.simulation (model, 'step', 1e-6, 'until', 0.016, 'v0', 1, 'elements', {hertz, qn.observe(model, 1)}));
+  hit = qn.contacts (res, 1);
+  expect_published (c, {'depth [m]', 'greatest force [N]', 'duration [s]'}, [4.35275282e-3 287.174589 1.28113493e-2], ...
+                    [max(res.q), hit.peak, hit.duration], [1e-8 1e-3 3e-6]);
+end
+
+% x'' + exp (x) = 1 keeps x'^2/2 + exp (x) - x.
+function test_a_toda_spring_turns_where_its_energy_says ()
+  c = published ('Oscillator with an exponential spring', ...
+                 'M. Toda, J. Physical Society of Japan 22, 1967: energy integral of one lattice point', ...
+                 {'Expon', 'loads'});
+  model = qn.modal (0, 1);
+  spring = qn.law ('exponential', 'scale', 1, 'base', exp (1));
+  load = {qn.load_at(model, 1), @(t) ones(size (t))};
+  sim = qn.simulation (model, 'step', 1e-3, 'until', 20, 'u0', -2, 'load', load, 'elements', {spring, qn.observe(model, 1)});
+  u = qn.displacement (qn.run (sim), 1);
+  other = fzero (@(x) exp (x) - x - exp (-2) - 2, [0.5 2]);
+  expect_published (c, {'upper turning point [m]', 'lower turning point [m]'}, [other, -2], [max(u), min(u)], 2e-6);
+end
+
+% Below its slip force the slider stays: the mass swings on both springs.
+function test_a_slider_that_sticks_is_a_spring ()
+  c = published ('Mass on a contact that sticks', 'W. D. Iwan, J. Applied Mechanics 33, 1966: element before slip, w^2 = (k + kc)/m', ...
+                 {'sts', 'memory of laws'});
+  model = qn.modal (0, 2);
+  contact = qn.law ('stickslip', 'stiffness', 300, 'contact', 500, 'slip', 100, 'ground', 0);
+  u = qn.displacement (qn.run (qn.simulation (model, 'step', 1e-4, 'until', 2, 'u0', 0.1, 'elements', {contact, qn.observe(model, 1)})), 1);
+  t = [0.1 0.5 2];
+  names = arrayfun (@(t) sprintf ('displacement at %g s [m]', t), t, 'uniformoutput', false);
+  expect_published (c, names, 0.1 * cos (20 * t), u(1 + round (t * 1e4)), 1e-5);
+end
+
+% Constant sliding: the friction of each branch rises as mu N (1 - exp (-g x/(mu N))), N and g from the table at the third value.
+function test_a_friction_pad_builds_up_its_force ()
+  c = published ('Friction pad under a given normal force', 'P. R. Dahl, A Solid Friction Model, 1968: first loading with exponent 1', ...
+                 {'Clima2'});
+  pad = qn.law ('clima2', 'stiffness', 0, 'exponent', 1, 'friction', 0.5, 'offset', 0, 'displacement', [0 2], 'normal', [100 300], ...
+                'growth', [4e4 8e4]);
+  h = 1e-5;
+  t = 0:h:0.1;
+  x = [0.05 * t; -0.02 * t; ones(1, numel (t))];
+  v = repmat ([0.05; -0.02; 0], 1, numel (t));
+  f = qn.force (pad, x, v, h);
+  limit = 0.5 * 200;
+  exact = limit * [1 - exp(-6e4 * 0.05 * 0.1 / limit), -(1 - exp (-6e4 * 0.02 * 0.1 / limit))];
+  expect_published (c, {'friction along x after 5 mm [N]', 'friction along y after -2 mm [N]', 'normal force [N]'}, [exact 200], f(:, ...
+                    end), 0.02);
+end
+
+% Cycles of +-X: four times the slip force over what is left of the stroke.
+function test_the_loop_of_an_elastic_slider ()
+  c = published ('Loop of a spring and slider in series', 'closed form: 4 Fs (X - Fs/k)', {'DahlC'});
+  h = 1e-4;
+  t = (0:20000) * h;
+  f = qn.force (qn.slider ('slip', 200, 'stiffness', 1e5), 0.01 * sin (2 * pi * t), 0.02 * pi * cos (2 * pi * t), h);
+  work = sum (f(10001:20000) .* 0.02 .* pi .* cos (2 * pi * t(10001:20000))) * h;
+  expect_published (c, 'energy of a cycle [J]', 4 * 200 * (0.01 - 200 / 1e5), work, 5e-3);
+end
+
+% A mass between two slack springs: quarter swings on them and free flight between.
+function test_period_of_a_mass_with_clearance ()
+  c = published ('Free vibration with a clearance on both sides', 'closed form: two half swings on the springs and four free flights', ...
+                 {'Table', 'initial state'});
+  model = qn.modal (0, 1);
+  sides = qn.stop ('gap', 0.01, 'stiffness', 400);
+  res = qn.run (qn.simulation (model, 'step', 1e-4, 'until', 10, 'u0', 0.03, 'elements', {sides, qn.observe(model, 1)}));
+  x = res.q;
+  down = find (x(1:end - 1) > 0 & x(2:end) <= 0);
+  at = res.time(down) + x(down) ./ (x(down) - x(down + 1)) * 1e-4;
+  expect_published (c, 'period [s]', 2 * pi / 20 + 4 * 0.01 / (20 * 0.02), mean (diff (at)), 1e-5);
+end

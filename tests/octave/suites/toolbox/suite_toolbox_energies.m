@@ -80,3 +80,23 @@ function test_the_residual_is_what_forces_miss_of_their_potential ()
   printed = evalc ('qn.dissipated (res)');
   if isempty (strfind (printed, 'exchanged [J]')), error ('%s', printed); end
 end
+
+% A rotor on bearings with cross terms: the gyroscopic matrix does no work, the skew stiffness drives the whirl.
+function test_gyroscopic_and_circulatory_works_are_named ()
+  k = 1e4 * [2 0.3; 0.3 1];
+  skew = 300 * [0 1; -1 0];
+  dashpot = [3 1; 1 2];
+  model = qn.modal (k, eye (2), 'C', dashpot, 'G', [0 1; -1 0], 'speed', 40, 'K', skew + 1e3 * [1 -1; -1 1]);
+  res = qn.run (qn.simulation (model, 'step', 1e-3, 'until', 1, 'u0', [1; 0]));
+  e = qn.energies (res);
+  scale = e.strain(1);
+  expect_equal (max (abs (e.residual)) / scale < 1e-11, true);
+  expect_equal (max (abs (e.gyroscopic)) / scale < 1e-11, true);
+  u = qn.displacement (res, qn.observe (model, [1 2]));
+  whole = k + 1e3 * [1 -1; -1 1];
+  expect_equal (e.strain, sum (u .* (whole * u), 1) / 2, 1e-9);
+  between = @(f) sum (sum ((f(:, 1:end - 1) + f(:, 2:end)) / 2 .* diff (u, 1, 2)));
+  expect_equal (e.circulatory(end), between (skew * u), 1e-9);
+  expect_equal (e.damped(end), between (dashpot * qn.velocity (res, qn.observe (model, [1 2]))), 1e-9);
+  if abs (e.circulatory(end)) < 0.01 * scale, error ('the cross terms do no work'); end
+end

@@ -19,9 +19,10 @@ function mexTask (varargin)
   output = fullfile (root, 'build', 'matlab');
   if ~exist (output, 'dir'), mkdir (output); end
   [cblas_flags, cblas_libs] = cblas ();
+  number = regexp (fileread (fullfile (root, 'toolbox', '+qn', '+impl', 'release.m')), '\d+\.\d+\.\d+', 'match', 'once');
   flags = ['-std=c++17 -ffp-contract=off -fvisibility=hidden -fvisibility-inlines-hidden -ffunction-sections -fdata-sections ' cblas_flags];
   link = '-Wl,--exclude-libs,ALL -Wl,--gc-sections -Wl,-Bsymbolic';
-  mex ('-R2017b', '-output', fullfile (output, 'quarn'), ['-I' fullfile(root, 'src')], ['CXXFLAGS=$CXXFLAGS ' flags], ...
+  mex ('-R2017b', '-output', fullfile (output, 'quarn'), ['-I' fullfile(root, 'src')], ['-DQUARN_VERSION=' number], ['CXXFLAGS=$CXXFLAGS ' flags], ...
        'CXXOPTIMFLAGS=-O3 -DNDEBUG', ['LDFLAGS=$LDFLAGS ' link], ['LINKLIBS=$LINKLIBS ' cblas_libs ' -ltbb'], files{:});
 end
 

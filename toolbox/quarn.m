@@ -12,6 +12,7 @@
 % Commands
 %   x = quarn ('ismex')                                        1
 %   s = quarn ('cvs')                                          revision string
+%   s = quarn ('version')                                      version, compiler, host and CBLAS of the module
 %   quarn ('residual', r, model, u, v, a, opt, extra)          r = r + M a + C v + K u + nonlinear forces, in place
 %   [t, w] = quarn ('residual', ...)                           the same, and the kinetic and strain energy of a matrix model
 %   i = quarn ('chandleset', type, value)                      new handle; type 1 stiffness, 2 mass, 3 damping,
@@ -39,7 +40,7 @@
 %   pictures       qn.plot.page, qn.plot.panel, qn.plot.picture, qn.plot.series, qn.plot.phase, qn.plot.loop, qn.plot.orbit,
 %                  qn.plot.waterfall
 %   without time   qn.static, qn.harmonic, qn.backbone
-%   setting up     install_quarn, qn.selftest
+%   setting up     install_quarn, qn.selftest, qn.version
 %   older names    qn.command (now qn.load_at)
 %
 % Example

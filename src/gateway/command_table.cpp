@@ -5,6 +5,7 @@
 #include "gateway/newmark_command.h"
 #include "gateway/residual_command.h"
 #include "gateway/service_commands.h"
+#include "gateway/version_command.h"
 #include "handles/handle_commands.h"
 #include "sparse/matrix_commands.h"
 #include "sparse/product_command.h"
@@ -32,6 +33,7 @@ constexpr CommandRow commands[] = {
     {"cvs", commandCvs},
     {"tbbp", commandTbbp},
     {"omp", commandOmp},
+    {"version", commandVersion},
 };
 
 }  // namespace

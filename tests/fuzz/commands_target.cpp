@@ -13,7 +13,7 @@ constexpr const char* words[] = {"residual",     "chandlediagnewmark",
                                  "igsm",         "nlv1",
                                  "ismex",        "cvs",
                                  "omp",          "",
-                                 "residuals"};
+                                 "version"};
 constexpr int types[] = {1003, 1, 2, 3, 2000};
 
 void oneCommand(fuzz::Session& session, std::size_t n) {

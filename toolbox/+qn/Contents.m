@@ -73,6 +73,7 @@
 %
 % Setting up
 %   selftest       - what works on this machine, in one page
+%   version        - version of the toolbox and of the compiled module that is loaded
 %
 % Older names
 %   command        - older name of qn.load_at

@@ -53,7 +53,7 @@ INSTANTIATE_TEST_SUITE_P(Errors, AllocationFailure, testing::Values(standin::Err
 mxArray* stiffness() { return tridiagonal(3, 2, -1); }
 
 TEST_P(AllocationFailure, OfServiceCommands) {
-  for (const char* command : {"ismex", "cvs", "omp"}) failEach(command, [] { return standin::Arguments{}; });
+  for (const char* command : {"ismex", "cvs", "omp", "version"}) failEach(command, [] { return standin::Arguments{}; });
 }
 
 TEST_P(AllocationFailure, OfRegistryCommands) {

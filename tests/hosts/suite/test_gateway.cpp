@@ -21,6 +21,8 @@ TEST_P(Gateway, ServiceCommandsAnswer) {
   char revision[80];
   ASSERT_EQ(mxGetString(run("cvs"), revision, sizeof revision), 0);
   EXPECT_STREQ(revision, "$Revision: 1.38 $  $Date: 2018/05/15 16:21:58 $");
+  const mxArray* version = run("version");
+  for (const char* field : {"version", "compiler", "host", "cblas"}) EXPECT_TRUE(mxIsChar(mxGetField(version, 0, field))) << field;
   EXPECT_EQ(run("nlv1", {structure({{"unl", zeros(0)}})}, 0), nullptr);
 }
 

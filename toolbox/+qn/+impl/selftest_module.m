@@ -4,10 +4,8 @@ function checks = selftest_module ()
 end
 
 function [good, text] = host ()
-  name = 'MATLAB';
-  if exist ('OCTAVE_VERSION', 'builtin') > 0, name = 'GNU Octave'; end
   good = true;
-  text = sprintf ('%s %s on %s', name, version (), computer ());
+  text = sprintf ('%s on %s', qn.impl.host_name (), computer ());
 end
 
 % Where the module is on the path, whatever stands in front of it.

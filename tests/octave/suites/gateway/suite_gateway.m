@@ -33,6 +33,19 @@ function test_cvs_returns_the_revision_string ()
   expect_equal (quarn ('cvs'), '$Revision: 1.38 $  $Date: 2018/05/15 16:21:58 $');
 end
 
+function test_version_tells_which_module_this_is ()
+  values = hostile_values ();
+  s = quarn ('version');
+  expect_equal (fieldnames (s), {'version'; 'compiler'; 'host'; 'cblas'});
+  expect_equal (regexp (s.version, '^\d+\.\d+\.\d+$'), 1);
+  expect_equal (s.host, ['GNU Octave ' OCTAVE_VERSION()]);
+  for name = {'compiler', 'cblas'}
+    text = s.(name{1});
+    if ~ischar (text) || isempty (text) || ~strcmp (text, strtrim (text)), error ('%s: "%s"', name{1}, text); end
+  end
+  for k = 1:numel (values), expect_equal (quarn ('version', values{k}), s); end
+end
+
 function test_nlv1_returns_nothing_and_changes_nothing ()
   s = struct ('unl', [1; 2; 3], 'other', {{4, 'text'}});
   before = struct ('unl', [1; 2; 3], 'other', {{4, 'text'}});

@@ -15,11 +15,11 @@ namespace {
 #define QUARN_TEXT(x) QUARN_TEXT_OF(x)
 
 #if defined(__clang__)
-constexpr const char* compiler = "clang " __clang_version__;
+constexpr char compiler[] = "clang " __clang_version__;
 #elif defined(__GNUC__)
-constexpr const char* compiler = "g++ " __VERSION__;
+constexpr char compiler[] = "g++ " __VERSION__;
 #else
-constexpr const char* compiler = "unknown";
+constexpr char compiler[] = "unknown";
 #endif
 
 }  // namespace

@@ -125,6 +125,22 @@ chandle* element(const std::string& law, int groups, int columns, int first) {
   return finish(r, values, lines(values, columns, jc, ir, ones, true), lines(values, columns, jc, ir, ones, true));
 }
 
+chandle* cubicSpring(const std::vector<double>& rows, int columns, double k) {
+  const int count = static_cast<int>(rows.size()) / columns;
+  std::vector<int> jc{0};
+  std::vector<int> ir;
+  for (int e = 0; e < count; ++e) {
+    for (int i = 0; i < columns; ++i) ir.push_back(i);
+    jc.push_back(static_cast<int>(ir.size()));
+  }
+  const auto values = static_cast<std::size_t>(count);
+  return make<chandleNl_inout>(1003, scalarStruct({{"c", lines(count, columns, jc, ir, rows, true)},
+                                                   {"b", lines(count, columns, jc, ir, rows, true)},
+                                                   {"unl", matrix(values, 1)},
+                                                   {"snl", matrix(values, 1)},
+                                                   {"opt", matrix(3, 1, {codeOf("Power"), k, 3.0})}}));
+}
+
 chandle* gapElement(const std::vector<double>& row, double gap, double k) {
   const int n = static_cast<int>(row.size());
   std::vector<int> ir;

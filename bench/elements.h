@@ -19,6 +19,9 @@ const std::vector<std::string>& lawNames();
 /// groups: how many observed values, or groups of observed values and states, it has. Observes column `first` and those behind it.
 chandle* element(const std::string& law, int groups, int columns, int first);
 
+/// Cubic springs k*x^3 on the modal displacements of the rows (one after the other, columns values each), all in one element.
+chandle* cubicSpring(const std::vector<double>& rows, int columns, double k);
+
 /// A stop on either side of a modal displacement row*u: stiffness k beyond a gap, a tabulated law.
 chandle* gapElement(const std::vector<double>& row, double gap, double k);
 

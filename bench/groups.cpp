@@ -10,9 +10,9 @@ bool runGroup(const char* name) {
     void (*run)();
   };
   constexpr Group groups[] = {
-      {"product", benchProduct}, {"modes", benchModes},         {"handles", benchHandles},
-      {"laws", benchLaws},       {"tables", benchTables},       {"projections", benchProjections},
-      {"guards", benchGuards},   {"equations", benchEquations},
+      {"product", benchProduct},     {"modes", benchModes},   {"handles", benchHandles},         {"modal elements", benchModalElements},
+      {"laws", benchLaws},           {"tables", benchTables}, {"projections", benchProjections}, {"guards", benchGuards},
+      {"equations", benchEquations},
   };
   for (const Group& g : groups) {
     if (std::strcmp(g.name, name) == 0) {

@@ -6,6 +6,7 @@ namespace quarn::bench {
 void benchProduct();      ///< parallel sparse product
 void benchModes();        ///< integrator without forces
 void benchHandles();      ///< integrator with force handles
+void benchModalElements();  ///< elements with full rows in modal coordinates
 void benchLaws();         ///< force laws
 void benchTables();       ///< table look-up
 void benchProjections();  ///< projections of a sparse matrix

@@ -42,7 +42,7 @@ class HandleList {
     context = getROr(6, in);
     views();
     check();
-    for (chandle* h : list) h->takeWork();
+    for (chandle* h : list) h->takeWork({});
   }
   void forget() {
     for (chandle* h : list) h->set_val(h->type, h->val);

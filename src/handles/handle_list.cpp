@@ -88,7 +88,7 @@ void addResiduals(chandle** list, int n, const ROr& c, host::Doubles r) {
   }
   host::setElement(0);
   for (int i = 0; i < n; ++i) {
-    if (live(list[i])) list[i]->takeWork();
+    if (live(list[i])) list[i]->takeWork(r);
   }
   for (int i = 0; i < n; ++i) {
     if (live(list[i])) list[i]->Residual(c, r.data);

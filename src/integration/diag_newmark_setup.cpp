@@ -131,7 +131,7 @@ void chandleDiagNewmark::checkRun(const ROr& c, chandle** list, int nh) {
   host::setElement(0);
   checkGain(c);
   for (int k = 0; k < nh; ++k) {
-    if (list[k] && list[k]->type >= 0) list[k]->takeWork();
+    if (list[k] && list[k]->type >= 0) list[k]->takeWork({fmod, forceLen});
   }
   plan(c, list, nh);
 }

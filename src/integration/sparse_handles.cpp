@@ -1,8 +1,8 @@
 #include "integration/sparse_handles.h"
 
 #include "host/errors.h"
-#include "sparse/blas.h"
 #include "sparse/line_checks.h"
+#include "sparse/line_sums.h"
 #include "sparse/sp_tbb.h"
 
 namespace quarn {
@@ -10,7 +10,7 @@ namespace quarn {
 void addScaledLines(const SparseView& m, const double* x, double factor, int n, double* r) {
   for (int j = 0; j < n; ++j) {
     const int k0 = m.jc[j];
-    r[j] += cblas_ddoti(m.jc[j + 1] - k0, m.pr + k0, m.ir + k0, x) * factor;
+    r[j] += lineSum(m.jc[j + 1] - k0, m.pr + k0, m.ir + k0, x) * factor;
   }
 }
 

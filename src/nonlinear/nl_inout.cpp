@@ -5,6 +5,8 @@
 
 #include "host/errors.h"
 #include "nonlinear/laws.h"
+#include "sparse/dense_lines.h"
+#include "sparse/line_runs.h"
 #include "sparse/mt_kernels.h"
 
 namespace quarn {
@@ -14,6 +16,13 @@ namespace {
 int valuesOf(std::size_t n, const char* name) {
   if (n > 0x7fffffff) host::refuse("%s holds %zu values, expected fewer than 2^31", name, n);
   return static_cast<int>(n);
+}
+
+bool sameLines(const SparseView& a, const SparseView& b) {
+  if (!b.pr || !b.sparse() || b.trans != 1 || a.rows != b.rows) return false;
+  const std::size_t entries = static_cast<std::size_t>(a.jc[a.rows]);
+  return std::equal(a.jc, a.jc + a.rows + 1, b.jc) && std::equal(a.ir, a.ir + entries, b.ir) &&
+         std::memcmp(a.pr, b.pr, entries * sizeof(double)) == 0;
 }
 
 }  // namespace
@@ -79,16 +88,31 @@ void chandleNl_inout::observe(const double* x, double* page) const {
   Prod_Mt_ub(dims, c.ir, c.jc, c.pr, x, page);
 }
 
-void chandleNl_inout::Residual(ROr ro, double* r) {
+void chandleNl_inout::observeBoth(const ROr& ro) const {
+  const StoredLines lines{c.rows, c.ir, c.jc, c.pr};
   if (cPicks) {
     if (vnl) pick(unlLen, c.ir, c.jc, c.pr, ro.v, vnl);
     if (unl) pick(unlLen, c.ir, c.jc, c.pr, ro.u, unl);
+  } else if (together) {
+    sumLinesOfTwo(lines, cRuns, ro.v, vnl, ro.u, unl);
+  } else if (cRuns) {
+    if (vnl) sumLines(lines, cRuns, ro.v, vnl);
+    if (unl) sumLines(lines, cRuns, ro.u, unl);
   } else {
     if (vnl) observe(ro.v, vnl);
     if (unl) observe(ro.u, unl);
   }
-  law(this, ro);
-  if (!snl || !b.pr) return;
+}
+
+/// Through b, without a work vector where its lines are full. Places that no line reaches gain 0, which matters to a negative zero alone.
+void chandleNl_inout::addForces(const ROr& ro, double* r) {
+  if (bBlock) {
+    addDenseRows(b.rows, bLength, b.jc, bRows, snl, r + bFirst);
+    if (b.cols <= ro.sums) return;
+    for (int j = 0; j < bFirst; ++j) r[j] += 0.0;
+    for (int j = bFirst + bLength; j < b.cols; ++j) r[j] += 0.0;
+    return;
+  }
   if (bSparse && b.cols <= ro.sums) {
     if (bPicks) {
       spread(b.rows, b.ir, b.jc, b.pr, snl, r, bWork);
@@ -100,6 +124,12 @@ void chandleNl_inout::Residual(ROr ro, double* r) {
   bSparse = false;
   const int dims[3] = {b.rows, b.cols, b.trans};
   Add_Mt_ub(dims, b.ir, b.jc, b.pr, snl, r, bWork);
+}
+
+void chandleNl_inout::Residual(ROr ro, double* r) {
+  observeBoth(ro);
+  law(this, ro);
+  if (snl && b.pr) addForces(ro, r);
 }
 
 void chandleNl_inout::EndStep() {
@@ -118,13 +148,34 @@ void chandleNl_inout::EndStep() {
 
 std::int64_t chandleNl_inout::stateEnd() const { return ioptLen >= 4 ? static_cast<std::int64_t>(iopt[1]) + iopt[3] : 0; }
 
-void chandleNl_inout::takeWork() {
+/// Pages that share no memory with the state or with c are assigned, line after line.
+void chandleNl_inout::planObservation() {
+  const bool assigned = pagesApart && c.pr && c.sparse() && c.trans == 1 && unlLen > 0 && c.rows == unlLen && cApart;
+  cPicks = assigned && picksOnly(c.rows, c.jc);
+  cRuns = nullptr;
+  together = false;
+  if (!assigned || cPicks) return;
+  cRuns = static_cast<int*>(mxCalloc(static_cast<std::size_t>(c.rows), sizeof(int)));
+  if (!findRuns({c.rows, c.ir, c.jc, c.pr}, cRuns)) {
+    mxFree(cRuns);
+    cRuns = nullptr;
+  }
+  together = cRuns && unl && vnl && !host::overlap(unl, unlTotal, vnl, vnlTotal);
+}
+
+void chandleNl_inout::planCommand(host::Doubles r) {
   const bool scatters = snl && b.pr && b.sparse() && b.trans == 1;
-  bWork = scatters ? static_cast<double*>(mxCalloc(static_cast<std::size_t>(std::max(b.cols, 1)), sizeof(double))) : nullptr;
-  bSparse = scatters && b.rows > 0 && 8LL * (b.jc[b.rows] - b.jc[0]) <= b.cols;
+  bBlock = scatters && isBlock({b.rows, b.ir, b.jc, b.pr}, &bFirst, &bLength) && !host::overlap(r.data, r.count, snl, snlTotal) &&
+           !host::overlap(r.data, r.count, b.pr, b.prLen);
+  bRows = bBlock && cApart && sameLines(b, c) && !host::overlap(r.data, r.count, c.pr, c.prLen) ? c.pr : b.pr;
+  bWork = scatters && !bBlock ? static_cast<double*>(mxCalloc(static_cast<std::size_t>(std::max(b.cols, 1)), sizeof(double))) : nullptr;
+  bSparse = bWork && b.rows > 0 && 8LL * (b.jc[b.rows] - b.jc[0]) <= b.cols;
   bPicks = bSparse && picksOnly(b.rows, b.jc) && distinct(b.jc[b.rows] - b.jc[0], b.ir + b.jc[0], bWork);
-  cPicks = pagesApart && c.pr && c.sparse() && c.trans == 1 && unlLen > 0 && c.rows == unlLen && picksOnly(c.rows, c.jc) &&
-           !host::overlap(c.pr, c.prLen, unl, unlTotal) && !host::overlap(c.pr, c.prLen, vnl, vnlTotal);
+}
+
+void chandleNl_inout::takeWork(host::Doubles r) {
+  planObservation();
+  planCommand(r);
 }
 
 }  // namespace quarn

@@ -33,7 +33,7 @@ class chandleNl_inout final : public chandle {
   /// Observes ro.u and ro.v in the first pages of unl and vnl, evaluates the law, adds the forces to r (in-out, ro.N values).
   void Residual(ROr ro, double* r) override;
   void checkSizes(const ROr& ro, std::size_t rLen) override;
-  void takeWork() override;
+  void takeWork(host::Doubles r) override;
   std::int64_t stateEnd() const override;
 
   SparseView c;
@@ -58,7 +58,11 @@ class chandleNl_inout final : public chandle {
  private:
   void readStates();
   void readOptions();
+  void observeBoth(const ROr& ro) const;
   void observe(const double* x, double* page) const;
+  void planObservation();
+  void planCommand(host::Doubles r);
+  void addForces(const ROr& ro, double* r);
   void checkViews(const ROr& ro, std::size_t rLen);
   void checkObservation(const ROr& ro);
   void checkCommand(std::size_t rLen);
@@ -68,8 +72,15 @@ class chandleNl_inout final : public chandle {
   double* bWork = nullptr;  ///< work vector of the scatter, host memory of the current call; zero between the steps if bSparse
   bool bSparse = false;     ///< b touches few of its columns
   bool pagesApart = false;  ///< unl and vnl lie apart from the state that they are observed from
+  bool cApart = false;      ///< and the values of c as well
   bool bPicks = false;      ///< and each of its lines at most one, another one
   bool cPicks = false;      ///< each line of c picks at most one value
+  int* cRuns = nullptr;     ///< full lines of c that are summed together, host memory of the current call; null where none is full
+  bool together = false;    ///< unl and vnl are observed in one pass over c
+  bool bBlock = false;      ///< the lines of b are full, or empty
+  int bFirst = 0;           ///< their places
+  int bLength = 0;
+  const double* bRows = nullptr;  ///< values of b, or those of c where they are the same: in cache from the observation
 };
 
 /// Copies forces to ro.FNL (from iopt[0] on, if not negative) and state blocks to ro.u (from iopt[1] on, if positive): for each of

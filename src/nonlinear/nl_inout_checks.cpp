@@ -29,6 +29,11 @@ void chandleNl_inout::checkViews(const ROr& ro, std::size_t rLen) {
     const auto length = static_cast<std::size_t>(std::max(unlLen, 0));
     if (host::overlap(page, length, ro.u, ro.uLen) || host::overlap(page, length, ro.v, ro.vLen)) pagesApart = false;
   }
+  cApart = true;
+  for (const host::Doubles& written :
+       {host::Doubles{unl, unlTotal}, {vnl, vnlTotal}, {snl, snlTotal}, {ro.u, ro.uLen}, {ro.v, ro.vLen}, {ro.a, ro.aLen}}) {
+    if (host::overlap(c.pr, c.prLen, written.data, written.count)) cApart = false;
+  }
 }
 
 void chandleNl_inout::checkObservation(const ROr& ro) {

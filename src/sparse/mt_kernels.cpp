@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "host/errors.h"
-#include "sparse/blas.h"
 #include "sparse/line_checks.h"
+#include "sparse/line_sums.h"
 
 namespace quarn {
 
@@ -13,27 +13,22 @@ namespace {
 constexpr const char* addsSparseOnly = "Add_Mt_u implemented for sparse matrices";
 constexpr const char* takesTransposedOnly = "Prod_Mt_u implemented for transposed sparse matrices";
 
-/// cblas_ddoti of line i. Lines of one entry, which pick a degree of freedom, are not worth the call: its sum starts from 0 as well.
-double lineDot(const int* ir, const int* jc, const double* pr, int i, const double* x) {
-  const int first = jc[i];
-  const int entries = jc[i + 1] - first;
-  if (entries == 1) return 0.0 + pr[first] * x[ir[first]];
-  return cblas_ddoti(entries, pr + first, ir + first, x);
-}
-
-/// cblas_daxpyi of line i into w. A first product is rounded once, whether or not the routine fuses it with the sum.
+/// u * line i into w: a cblas_daxpyi, but for full lines. A first product is rounded once, whether or not the routine fuses it with the
+/// sum.
 void addLine(const int* ir, const int* jc, const double* pr, int i, double u, double* w) {
   const int first = jc[i];
   const int entries = jc[i + 1] - first;
   if (entries == 1 && u != 0.0 && w[ir[first]] == 0.0) {
     w[ir[first]] = 0.0 + u * pr[first];
+  } else if (isFull(entries, ir + first)) {
+    addDenseRows(1, entries, jc + i, pr, &u, w + ir[first]);
   } else {
     cblas_daxpyi(entries, u, pr + first, ir + first, w);
   }
 }
 
 void addGathered(int rows, const int* ir, const int* jc, const double* pr, const double* u, double* y) {
-  for (int i = 0; i < rows; ++i) y[i] += lineDot(ir, jc, pr, i, u);
+  for (int i = 0; i < rows; ++i) y[i] += lineSum(jc[i + 1] - jc[i], pr + jc[i], ir + jc[i], u);
 }
 
 void addScattered(int rows, int cols, const int* ir, const int* jc, const double* pr, const double* u, double* y, double* w) {

@@ -1,6 +1,6 @@
 #include "sparse/phi1tmphi2.h"
 
-#include "sparse/blas.h"
+#include "sparse/line_sums.h"
 
 namespace quarn {
 
@@ -9,7 +9,7 @@ namespace {
 /// start + sum of sign * (line i . v) * w[i] over the first n lines, one term after the other.
 double addForm(double start, double sign, const double* v, const double* w, const double* pr, const int* ir, const int* jc, int n) {
   double sum = start;
-  for (int i = 0; i < n; ++i) sum += sign * (cblas_ddoti(jc[i + 1] - jc[i], pr + jc[i], ir + jc[i], v) * w[i]);
+  for (int i = 0; i < n; ++i) sum += sign * (lineSum(jc[i + 1] - jc[i], pr + jc[i], ir + jc[i], v) * w[i]);
   return sum;
 }
 

@@ -4,7 +4,7 @@
 namespace quarn {
 
 /// outR + j outI = (r2 + j i2)' G (r1 + j i1), not conjugated, where G applies the first n lines of a matrix: with
-/// g(v)[i] = line i . v = sum of pr[k] * v[ir[k]], k = jc[i] ... jc[i+1]-1 (one cblas_ddoti), term by term and in this order
+/// g(v)[i] = line i . v = sum of pr[k] * v[ir[k]], k = jc[i] ... jc[i+1]-1 (one lineSum), term by term and in this order
 ///   outR  = sum of g(r1)[i] * r2[i]
 ///   outR -= sum of g(i1)[i] * i2[i]     if i1 and i2 are given and outI is not null
 ///   outI  = sum of g(r1)[i] * i2[i]     if i2 is given

@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "host/processor.h"
-#include "sparse/blas.h"
+#include "sparse/line_sums.h"
 
 namespace quarn {
 
@@ -28,6 +28,10 @@ void lineProducts(double* g, const SparseLines& s, std::size_t i, const double* 
   const double* val = s.pr + first;
   const int* ind = s.ir + first;
   std::size_t j = 0;
+  if (isFull(entries, ind)) {
+    for (; j < n; ++j) g[j] = denseSum(entries, val, base + j * ld + ind[0]);
+    return;
+  }
 #ifndef QUARN_WITH_MKL
   // The cblas_ddoti that quarn brings sums in index order, which four columns can do at the same time.
   for (; j + 4 <= n; j += 4) {
@@ -44,7 +48,7 @@ void lineProducts(double* g, const SparseLines& s, std::size_t i, const double* 
     std::copy(sum, sum + 4, g + j);
   }
 #endif
-  for (; j < n; ++j) g[j] = cblas_ddoti(entries, val, ind, base + j * ld);
+  for (; j < n; ++j) g[j] = lineSum(entries, val, ind, base + j * ld);
 }
 
 /// Neighbours in a row of a tile, which a compiler keeps in registers; it splits them where the processor's are shorter.

@@ -1,7 +1,7 @@
 // Products of a sparse matrix with the columns of dense bases.
 //
 // Each line of the matrix is read once and carried through all columns while it is in cache; each line product is formed once.
-// The bits are those of one cblas_ddoti per line and column and of sums over the lines in ascending order. All arguments are
+// The bits are those of one lineSum per line and column and of sums over the lines in ascending order. All arguments are
 // borrowed and trusted: line pointers and indices must have been checked.
 #pragma once
 

@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <atomic>
 
-#include "sparse/blas.h"
 #include "sparse/largest.h"
+#include "sparse/line_sums.h"
 #include "sparse/task_order.h"
 #include "sparse/worker_threads.h"
 
@@ -38,7 +38,7 @@ struct iSparseMatVec {
     double* const sums = y;
     for (int i = lines.begin(); i < lines.end(); ++i) {
       const int k0 = starts[i];
-      sums[i] += cblas_ddoti(starts[i + 1] - k0, values + k0, rows + k0, vector);
+      sums[i] += lineSum(starts[i + 1] - k0, values + k0, rows + k0, vector);
     }
   }
 };

@@ -3,7 +3,7 @@
 
 namespace quarn {
 
-/// y[i] += sum of val[k] * x[ir[k]], k = jc[i] ... jc[i+1]-1, for the lines i = 0 ... n-1: one cblas_ddoti a line, lines in
+/// y[i] += sum of val[k] * x[ir[k]], k = jc[i] ... jc[i+1]-1, for the lines i = 0 ... n-1: one lineSum a line, lines in
 /// parallel on 8 threads whatever the core count, on the calling thread where that is sooner done or 8 are not to be had. y (in-out) must
 /// not overlap x. A null val is an absent matrix: nothing happens. The same bits as the serial loop. Trusts its arguments.
 void SparseMatVec(double* y, const double* x, const double* val, const int* ir, const int* jc, int n);

@@ -5,6 +5,7 @@
 
 #include "integration/full_gain.h"
 #include "integration/newmark_fused.h"
+#include "sparse/dense_lines.h"
 #include "sparse/largest.h"
 #include "sparse/projection_kernels.h"
 #include "unit/random_matrix.h"
@@ -68,6 +69,23 @@ void projections(Vector& all, int n) {
   append(all, out);
 }
 
+void denseLines(Vector& all, int n) {
+  for (int rows = 1; rows < 7; ++rows) {
+    const Vector pr = randomVector(rows * n, 15);
+    const Vector u = randomVector(n, 16);
+    const Vector v = randomVector(n, 17);
+    Vector y(static_cast<std::size_t>(3 * rows));
+    quarn::denseSums(rows, n, pr.data(), u.data(), y.data());
+    quarn::denseSumsOfTwo(rows, n, pr.data(), u.data(), y.data() + rows, v.data(), y.data() + 2 * rows);
+    append(all, y);
+    std::vector<int> starts{0};
+    for (int i = 1; i <= rows; ++i) starts.push_back(i * n);
+    Vector sum = u;
+    quarn::addDenseRows(rows, n, starts.data(), pr.data(), y.data(), sum.data());
+    append(all, sum);
+  }
+}
+
 void indices(Vector& all, int n) {
   quarn::test::Lines m = quarn::test::randomLines(n, n, 9, 14);
   for (int count = 0; count <= n; count += 1 + count / 3) all.push_back(quarn::largestOf(m.ir.data(), std::min(count, m.jc[n])));
@@ -81,6 +99,7 @@ std::vector<double> KERNEL_NUMBERS(int n) {
   Vector all;
   newmark(all, n);
   if (n > 0) projections(all, n);
+  if (n > 0) denseLines(all, n);
   if (n > 0) indices(all, n);
   return all;
 }

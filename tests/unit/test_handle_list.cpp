@@ -14,7 +14,7 @@ class Digit final : public chandle {
     seen = rLen;
     ++checked;
   }
-  void takeWork() override { checkedBefore = checked; }
+  void takeWork(host::Doubles /*r*/) override { checkedBefore = checked; }
   static int checked;
   int checkedBefore = 0;
   int digit;

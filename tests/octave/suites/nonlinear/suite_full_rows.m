@@ -1,0 +1,184 @@
+% Elements whose rows have an entry for every mode, or for a run of them: the stated order of summation, the same bits wherever such a line is
+% used, and what may not change because of it.
+function tests = suite_full_rows ()
+  tests = localfunctions ();
+end
+
+% Lines given as rows: {first place (from 1), values}; none where the values are empty.
+function s = runs_of (rows, cols)
+  ir = [];
+  pr = [];
+  jc = 0;
+  for k = 1:size (rows, 1)
+    n = numel (rows{k, 2});
+    ir = [ir; rows{k, 1} - 1 + (0:n - 1)'];
+    pr = [pr; rows{k, 2}(:)];
+    jc = [jc; numel(ir)];
+  end
+  s = struct ('ir', int32 (ir), 'jc', int32 (jc), 'pr', pr, 'dims', [size(rows, 1) cols], 'trans', 1);
+end
+
+function y = sums_of (rows, x)
+  y = zeros (size (rows, 1), 1);
+  for k = 1:size (rows, 1)
+    n = numel (rows{k, 2});
+    values = rows{k, 2};
+    if n >= 8
+      y(k) = model_full_line (values, x(rows{k, 1} - 1 + (1:n)));
+    elseif n > 0
+      y(k) = dot (values(:), x(rows{k, 1} - 1 + (1:n)'));
+    end
+  end
+end
+
+% Residual plus the forces through the rows: the products of a place are summed first.
+function r = spread_of (rows, f, r)
+  w = zeros (size (r));
+  for k = 1:size (rows, 1)
+    at = rows{k, 1} - 1 + (1:numel (rows{k, 2}));
+    if f(k) ~= 0, w(at) = w(at) + f(k) * rows{k, 2}(:); end
+  end
+  r = r + w;
+end
+
+function e = element_of (c, b, n, cols)
+  e = struct ('type', 1003, 'c', runs_of (c, cols), 'b', runs_of (b, cols), 'opt', [law_code('Power'); 1; 1]);
+  e.unl = ones (n, 1) * 77;
+  e.vnl = ones (n, 1) * 77;
+  e.snl = ones (n, 1) * 77;
+  e = fresh (e);
+end
+
+function rows = random_rows (n, first, count)
+  rows = cell (n, 2);
+  for k = 1:n, rows(k, :) = {first, randn(count, 1)}; end
+end
+
+function [r, e] = residual_of (e, u, v, r)
+  h = registered ({e});
+  r = fresh (r);
+  quarn ('residual', r, h, u, v, []);
+  e = quarn ('chandleget', remi (h, 1));
+end
+
+function test_rows_are_summed_in_the_stated_order ()
+  randn ('seed', 51);
+  for count = [8:17 23 24 31 40 64 100 257]
+    for n = [1 2 3 4 5 9]
+      cols = count + 7;
+      c = random_rows (n, 3, count);
+      b = random_rows (n, 2, count);
+      u = randn (cols, 1);
+      v = randn (cols, 1);
+      r = randn (cols, 1);
+      [got, e] = residual_of (element_of (c, b, n, cols), u, v, r);
+      expect_equal (e.unl, sums_of (c, u));
+      expect_equal (e.vnl, sums_of (c, v));
+      expect_equal (got, spread_of (b, e.unl, r));
+    end
+  end
+end
+
+function test_a_row_has_the_same_sum_in_every_command ()
+  randn ('seed', 52);
+  cols = 53;
+  rows = random_rows (cols, 1, cols);
+  x = randn (cols, 1);
+  wanted = sums_of (rows, x);
+  m = runs_of (rows, cols);
+  y = zeros (cols, 1);
+  quarn ('tbbp', m, x, y);
+  expect_equal (y, wanted);
+  expect_equal (quarn ('c<-a''*b', x, m).', wanted);
+  r = zeros (cols, 1);
+  quarn ('residual', r, registered ({typed(1, m)}), x, zeros (cols, 1), []);
+  expect_equal (r, wanted);
+  e = fresh (struct ('c', m, 'b', m, 'unl', zeros (cols, 1), 'type', ''));
+  quarn ('residual', zeros (cols, 1), nl_model (e), x, x, [], [], []);
+  expect_equal (e.unl, wanted);
+  [unused, e] = residual_of (element_of (rows, rows, cols, cols), x, x, zeros (cols, 1));
+  expect_equal (e.unl, wanted);
+end
+
+function test_the_integrator_observes_like_the_residual ()
+  randn ('seed', 53);
+  cols = 30;
+  n = 6;
+  c = random_rows (n, 1, cols);
+  b = random_rows (n, 1, cols);
+  e = element_of (c, b, n, cols);
+  w = linspace (5, 90, cols)';
+  [in, mem, out] = newmark_setup (ones (cols, 1), 0.02 * w, w .^ 2, cos (1:cols)', sin (0:1), 1e-2, 0.25, 0.5, 2);
+  u = sin (1:cols)';
+  v = cos (1:cols)';
+  a = randn (cols, 1);
+  run_newmark ({in, e}, u, v, a, mem, out);
+  d = in.data;
+  predicted = (d(2) * a + d(1) * v) + u;
+  rate = d(3) * a + v;
+  expect_equal (e.unl, sums_of (c, predicted));
+  expect_equal (e.vnl, sums_of (c, rate));
+  % The modal force: the load first, then what the element adds.
+  expect_equal (mem.uva.uva(3 * cols + (1:cols)), spread_of (b, e.unl, 0 + in.r(:, 2) * in.tft(2, 1)));
+end
+
+function test_lines_of_all_kinds_in_one_element ()
+  randn ('seed', 54);
+  rand ('twister', 54);
+  for round = 1:60
+    cols = 40;
+    n = 1 + floor (7 * rand ());
+    c = cell (n, 2);
+    b = cell (n, 2);
+    for k = 1:n
+      for which = 1:2
+        count = [0 1 3 7 8 9 20 40](1 + floor (8 * rand ()));
+        row = {1 + floor((cols - count + 1) * rand ()), randn(count, 1)};
+        if which == 1, c(k, :) = row; else b(k, :) = row; end
+      end
+    end
+    u = randn (cols, 1);
+    v = randn (cols, 1);
+    r = randn (cols, 1);
+    [got, e] = residual_of (element_of (c, b, n, cols), u, v, r);
+    expect_equal (e.unl, sums_of (c, u), 1e-14);
+    expect_equal (e.vnl, sums_of (c, v), 1e-14);
+    expect_equal (got, spread_of (b, e.unl, r), 1e-14);
+  end
+end
+
+function test_a_force_of_zero_adds_nothing_through_infinite_entries ()
+  for n = 1:3
+    b = repmat ({1, [Inf; ones(8, 1)]}, n, 1);
+    c = repmat ({1, zeros(9, 1)}, n, 1);
+    [r, e] = residual_of (element_of (c, b, n, 9), ones (9, 1), ones (9, 1), (1:9)');
+    expect_equal (e.snl, zeros (n, 1));
+    expect_equal (r, (1:9)');
+  end
+end
+
+function test_negative_zeros_that_no_row_reaches_become_zeros ()
+  for n = 1:2
+    [r, e] = residual_of (element_of (random_rows (n, 4, 9), random_rows (n, 4, 9), n, 15), ones (15, 1), ones (15, 1), -zeros (15, 1));
+    expect_equal (1 ./ r([1:3, 13:15]), Inf (6, 1));
+  end
+end
+
+function test_forces_that_share_memory_with_the_residual_are_read_first ()
+  n = 3;
+  cols = 9;
+  b = random_rows (n, 1, cols);
+  c = random_rows (n, 1, cols);
+  e = rmfield (element_of (c, b, n, cols), 'vnl');
+  u = sin (1:cols)';
+  [in, mem, out] = newmark_setup (ones (cols, 1), zeros (cols, 1), ones (cols, 1), ones (cols, 1), 0:1, 0.1, 0.25, 0.5, 2);
+  e.snl = mem.uva.uva;  % its first values are copies of the state, which the law overwrites
+  e.b = runs_of (b, cols);
+  apart = e;
+  apart.snl = zeros (n, 1);
+  apart = fresh (apart);
+  [in2, mem2, out2] = newmark_setup (ones (cols, 1), zeros (cols, 1), ones (cols, 1), ones (cols, 1), 0:1, 0.1, 0.25, 0.5, 2);
+  [u1, v1, a1] = run_newmark ({in, e}, u, u, u, mem, out);
+  [u2, v2, a2] = run_newmark ({in2, apart}, u, u, u, mem2, out2);
+  expect_equal ([u1 v1 a1], [u2 v2 a2]);
+end

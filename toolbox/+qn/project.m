@@ -36,7 +36,9 @@ function p = project (a, k, b)
            size (b, 1), size (a, 1), size (b, 1), n(1), n(2));
   end
   if ~isstruct (k), k = qn.pack (k); end
-  if size (a, 2) == size (b, 2)
+  if isempty (k.pr)
+    p = zeros (size (a, 2), size (b, 2));  % the module's command needs an entry
+  elseif size (a, 2) == size (b, 2)
     p = quarn ('abc', full (a), k, full (b), int32 ([1 0 0]));
   elseif isreal (a)
     p = quarn ('c<-a''*b', full (a), k) * b;

@@ -160,7 +160,7 @@ function test_velocities_of_a_coupled_run_obey_the_equation_of_motion ()
   more = [4000 2000 0; -3000 5000 0; 0 0 1000];
   s.C = [60 10 0; -5 80 0; 0 0 20];
   s.model = qn.modal (s.K, s.M, 'K', more, 'C', s.C);
-  sim = qn.simulation (s.model, 'step', 1e-3, 'steps', 300, 'u0', s.u0, 'v0', s.v0, 'load', {qn.load_at (s.model, 2), @(t) 50 * sin(40 * t)}, ...
+  sim = qn.simulation (s.model, 'step', 1e-3, 'steps', 300, 'u0', s.u0, 'v0', s.v0, 'load', {qn.load_at(s.model, 2), @(t) 50 * sin(40 * t)}, ...
                        'elements', {qn.cubic('stiffness', 1e7), qn.observe(s.model, 1)});
   res = qn.run (sim);
   [v, a] = qn.impl.rates (res);

@@ -26,8 +26,8 @@ host::Doubles NlElement::doubles(const char* name) const {
 }
 
 host::Doubles NlElement::writable(const char* name) const {
-  if (!host::isWritable(field(name))) refuseClass(*this, name);
-  return host::writable(field(name), name);
+  if (!host::holdsReals(field(name))) refuseClass(*this, name);
+  return host::realDoubles(field(name), name);
 }
 
 host::Doubles NlElement::writable(const char* name, std::size_t least) const {

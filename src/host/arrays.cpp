@@ -47,7 +47,7 @@ bool isRealDouble(const mxArray* a) { return a && mxIsDouble(a) && !mxIsSparse(a
 
 bool holdsDoubles(const mxArray* a) { return count(a) == 0 || (mxIsDouble(a) && !mxIsSparse(a)); }
 
-bool isWritable(const mxArray* a) { return count(a) == 0 || isRealDouble(a); }
+bool holdsReals(const mxArray* a) { return count(a) == 0 || isRealDouble(a); }
 
 Doubles doubles(const mxArray* a, const char* name) {
   if (!holdsDoubles(a)) refuse("%s must be a full real double array, got %s", name, describe(a).text);
@@ -56,8 +56,8 @@ Doubles doubles(const mxArray* a, const char* name) {
   return {mxGetPr(a), n};
 }
 
-Doubles writable(const mxArray* a, const char* name) {
-  if (!isWritable(a)) refuse("%s must be a full real double array, got %s", name, describe(a).text);
+Doubles realDoubles(const mxArray* a, const char* name) {
+  if (!holdsReals(a)) refuse("%s must be a full real double array, got %s", name, describe(a).text);
   return doubles(a, name);
 }
 

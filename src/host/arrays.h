@@ -38,16 +38,16 @@ bool isClass(const mxArray* a, const char* className);
 bool isRealDouble(const mxArray* a);
 /// Whether doubles() takes a: absent, without elements, or a full double array, real or complex.
 bool holdsDoubles(const mxArray* a);
-/// Whether writable() takes a: absent, without elements, or a full real double array.
-bool isWritable(const mxArray* a);
+/// Whether realDoubles() takes a: absent, without elements, or a full real double array.
+bool holdsReals(const mxArray* a);
 
 // An array without elements, of whatever class, is an absent one: the class is looked at only when there is something in it.
 
 /// Data of a full double array that is read, of a complex one its real part; refuses any other class under the name that the user knows it
 /// by. Absent is empty. On Octave the real part is a copy: what is written into it is not the caller's.
 Doubles doubles(const mxArray* a, const char* name);
-/// Data of a full real double array that is written into; refuses any other class, complex arrays included. Absent is empty.
-Doubles writable(const mxArray* a, const char* name);
+/// Data of a full real double array, above all of one that is written into; refuses any other class, complex arrays included. Absent is empty.
+Doubles realDoubles(const mxArray* a, const char* name);
 /// Data of an int32 array; refuses any other class. Absent is empty.
 Ints int32s(const mxArray* a, const char* name);
 /// First value of a full numeric or logical array, or the value of a sparse scalar; refuses anything else, and an array without elements.

@@ -26,7 +26,7 @@ SparseView fullField(const mxArray* value, const char* field, const char* name) 
 const double* fullGain(const mxArray* value, int n) {
   const mxArray* field = host::field(value, "gain");
   if (host::count(field) == 0) return nullptr;
-  const host::Doubles gain = host::doubles(field, "the integrator's gain");
+  const host::Doubles gain = host::realDoubles(field, "the integrator's gain");
   if (host::rows(field) != n || host::cols(field) != n) {
     host::refuse("the integrator's gain must be %d x %d, a row and a column for each row of r, got %s", n, n, host::describe(field).text);
   }
@@ -73,10 +73,10 @@ void chandleDiagNewmark::initCpt() {
 
 void chandleDiagNewmark::bindWork(const mxArray* mem) {
   const mxArray* work = host::field(mem, "uva");
-  uva = host::writable(host::field(work, "uva"), "the work array uva");
+  uva = host::realDoubles(host::field(work, "uva"), "the work array uva");
   if (work && uva.count < 4 * static_cast<std::size_t>(N)) host::fail("KORV:quarn:Invalid", "wrong uva size");
   const mxArray* target = host::field(work, "FNL");
-  snapshot = host::writable(target, "the force store's snapshot");
+  snapshot = host::realDoubles(target, "the force store's snapshot");
   NFNL = host::rows(target);
 }
 
@@ -86,7 +86,7 @@ void chandleDiagNewmark::bindOutputs(const mxArray* out) {
   saveTimes = host::doubles(times, "the save times");
   NSave = saveTimes ? host::rows(times) : 0;
   const mxArray* saved = host::field(out, "def");
-  def = host::writable(saved, "the output def");
+  def = host::realDoubles(saved, "the output def");
   Ndef = saved ? host::rows(saved) : N;
   NSave = std::min({NSave, saveColumns(def.count, N), saveColumns(def.count, Ndef)});
   jFNLSave = 0;
@@ -94,7 +94,7 @@ void chandleDiagNewmark::bindOutputs(const mxArray* out) {
   const mxArray* storeOutTimes = host::field(storeOut, "data");
   storeTimes = host::doubles(storeOutTimes, "the save times of FNL");
   NFNLSave = storeTimes ? host::rows(storeOutTimes) : 0;
-  storeDef = host::writable(host::field(storeOut, "def"), "the output def of FNL");
+  storeDef = host::realDoubles(host::field(storeOut, "def"), "the output def of FNL");
 }
 
 void chandleDiagNewmark::initCb(const ROr& c, const mxArray* model, const mxArray* mem, const mxArray* out, chandle** list, int nh) {

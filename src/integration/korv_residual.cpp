@@ -63,7 +63,7 @@ void KorvTerm::readMatrix(const mxArray* a, Factor of) {
 void KorvTerm::readModalDamping(const mxArray* C, Factor v) {
   const mxArray* def = host::field(C, "def");
   modes = host::doubles(def, "field \"def\" of the damping");
-  coefficients = host::writable(host::field(C, "data"), "field \"data\" of the damping");
+  coefficients = host::realDoubles(host::field(C, "data"), "field \"data\" of the damping");
   n = host::rows(def);
   m = host::cols(def);
   checkLength(coefficients.count, 2LL * m, "field \"data\" of the damping", "twice the number of modes");

@@ -10,7 +10,7 @@ void commandTbbp(int /*nlhs*/, mxArray* /*plhs*/[], int nrhs, const mxArray* prh
   if (nrhs < 4) host::refuse("expected 4 inputs (command, A, x, y), got %d", nrhs);
   const SparseView A = sparseView(prhs[1], "A");
   const host::Doubles x = host::doubles(prhs[2], "x");
-  const host::Doubles y = host::writable(prhs[3], "y");
+  const host::Doubles y = host::realDoubles(prhs[3], "y");
   const int n = host::rows(prhs[2]);
   if (!A.pr || n == 0) return;
   if (!A.ir) host::fail("Implemented for sparse matrices");

@@ -83,7 +83,7 @@ void korv_mkl_get_sparse(const mxArray* a, void** ptrs, int* dims) {
 }
 
 host::Doubles pmatDoubles(const mxArray* a, const char* name) {
-  if (!host::isObject(a)) return host::writable(a, name);
+  if (!host::isObject(a)) return host::realDoubles(a, name);
   const mxArray* address = host::objectField(a, "c");
   const bool word = address && mxIsNumeric(address) && !mxIsSparse(address) &&
                     host::count(address) * static_cast<std::size_t>(mxGetElementSize(address)) >= sizeof(std::uint64_t);

@@ -165,3 +165,9 @@ function test_order_of_the_terms_is_mass_damping_stiffness ()
   expect_equal (residual_of ({small, big, negative}, x, x, x, [0 0]), [2; 2]);
   expect_equal (residual_of ({big, negative, small}, x, x, x, [0 0]), [1.25; 1.25]);
 end
+
+function test_residual_shorter_than_the_modes_of_modal_damping ()
+  c = struct ('def', ones (3, 2), 'data', ones (4, 1));
+  expect_error (@() quarn ('residual', zeros (2, 1), {[], c, []}, [1; 2], [1; 2; 3], []), '', ...
+    'quarn residual : r must hold 3 values (one for each row of "def"), got 2');
+end

@@ -205,3 +205,37 @@ end
 function v = unload_and_return (v)
   clear quarn
 end
+
+function test_a_clean_up_that_registers_a_handle_while_all_are_freed ()
+  first = quarn ('chandleset', 1, struct ('a', onCleanup (@() quarn ('chandleset', 1, 55))));
+  last = quarn ('chandleset', 1, 5);
+  quarn ('chandleclear');
+  expect_equal (quarn ('chandleget')(end), last + 1);
+  expect_equal (quarn ('chandleget', last + 1), 55);
+  expect_error (@() quarn ('chandleget', last), 'KORV:quarn:NonHandle', 'Handle does not exist');
+  quarn ('chandleclear');
+end
+
+function test_a_clean_up_that_clears_the_module_does_not_unload_it_at_work ()
+  for all = [false true]
+    h = quarn ('chandleset', 1, struct ('a', onCleanup (@() clear ('quarn')), 'b', rand (1000, 1)));
+    other = quarn ('chandleset', 1, 5);
+    if all, quarn ('chandleclear'); else, quarn ('chandleclear', h); end
+    keys = quarn ('chandleget');
+    expect_equal (any (keys == other), true);   % not a new registry
+  end
+end
+
+function out = calls_and_clears (value)
+  out = quarn ('chandleget', @(v) v + 1, value);
+  clear ('quarn');
+  out(2) = numel (quarn ('chandleget'));
+end
+
+function test_a_nested_callback_that_has_ended_leaves_the_outer_call_locked ()
+  h = quarn ('chandleset', 1, 5);
+  before = numel (quarn ('chandleget'));
+  holder = quarn ('chandleset', 1, h);
+  expect_equal (quarn ('chandleget', @calls_and_clears, holder), [6, before + 1]);
+  expect_equal (quarn ('chandleget', h), 5);
+end

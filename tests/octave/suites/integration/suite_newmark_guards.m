@@ -278,3 +278,84 @@ function test_random_nonsense_never_ends_the_host ()
   if refusals < calls / 3, error ('only %d of %d calls were refused', refusals, calls); end
   expect_equal (quarn (), 1.0001);
 end
+
+function go (run)
+  quarn ('chandlediagnewmark', run.list, run.model, run.u, run.v, run.a, run.opt, run.mem, run.out);
+end
+
+function test_a_second_stiffness_where_a_damping_could_be_is_a_stiffness ()
+  run = small_run ();
+  run.list{3} = typed (1, diag ([7; 8; 9]));
+  same_as_model (run);
+  run.list = {run.list{1}, typed(3, diag ([0.3 0.2 0.1])), typed(1, diag ([7; 8; 9]))};
+  same_as_model (run);
+end
+
+function test_a_row_of_displacements_lets_the_handles_act_on_its_one_row ()
+  run = small_run ();
+  run.u = run.u.';
+  go (run);
+  one = small_run ();
+  one.list(2:3) = {typed(1, diag ([4 0 0])), typed(3, diag ([0.3 0 0]))};
+  one.list{2} = full_diagonal (one.list{2}, [4; 0; 0]);
+  one.list{3} = full_diagonal (one.list{3}, [0.3; 0; 0]);
+  one.list = fresh (one.list);
+  go (one);
+  expect_equal (run.u.', one.u);
+  expect_equal (run.out.def, one.out.def);
+end
+
+% Zeros stored on the diagonal.
+function h = full_diagonal (h, values)
+  h.pr = values;
+  h.ir = int32 ((0:2)');
+  h.jc = int32 ((0:3)');
+end
+
+function test_state_arrays_as_long_as_the_output_has_rows ()
+  for name = {'u', 'v', 'a'}
+    run = small_run ();
+    run.mem.uva.uva = zeros (16, 1);
+    run.out.def = zeros (4, 6);
+    for k = {'u', 'v', 'a'}, run.(k{1}) = [run.(k{1}); 0]; end
+    run.(name{1}) = zeros (3, 1);
+    refused_cleanly (run.list, {run.model, run.u, run.v, run.a, run.opt, run.mem, run.out}, '', ...
+      sprintf (['quarn chandlediagnewmark : %s must hold 4 values (one for each mode or row of out.def, whose columns are the save ' ...
+                'times), got 3'], name{1}));
+  end
+end
+
+function test_one_time_point_does_not_look_at_what_no_step_would_use ()
+  run = small_run ();
+  run.list{1}.tft = fresh (run.list{1}.tft(:, 1));
+  run.list{2} = struct ('type', 1, 'pr', 1, 'ir', int32 ([9; 9]), 'jc', int32 ([0; 5; 2; 2]), 'dims', [3 3]);
+  run.v = 1;
+  before = fresh (run);
+  go (run);
+  expect_equal (run.u, before.u);
+  expect_equal (run.out.def, before.out.def);
+  run.list{1}.tft = fresh (small_run ().list{1}.tft(:, 1:2));
+  expect_error (@() go (run), '', '~^quarn chandlediagnewmark : v must hold 3 values');
+end
+
+function test_observed_values_and_a_state_vector_in_one_array ()
+  for name = {'u', 'v', 'a'}
+    for field = {'unl', 'vnl'}
+      run = small_run ();
+      e = state_element ('Power', [2 1], [], 3);
+      e.(field{1}) = run.(name{1});
+      run.list{4} = e;
+      expect_error (@() go (run), '', ['quarn chandlediagnewmark : element 4 : "' field{1} '" and u, v or a are one array: the ' ...
+                                       'observation would overwrite the state']);
+    end
+  end
+end
+
+function test_texts_name_no_element_once_the_list_is_gathered ()
+  run = small_run ();
+  text = 'quarn chandlediagnewmark : the first handle must be the integrator (type 2000), got type 1';
+  run.list = run.list([2 1]);
+  expect_error (@() go (run), '', text);
+  run.list = registered (run.list);
+  expect_error (@() go (run), '', text);
+end

@@ -200,3 +200,33 @@ function test_matrix_that_does_not_fit_is_refused_and_the_vector_kept ()
     end
   end
 end
+
+function test_a_registered_matrix_is_looked_at_again_for_more_lines ()
+  s = struct ('pr', [1; 2; 3; 4; 5], 'ir', int32 ([0; 1; 0; 1; 9]), 'jc', int32 ([0; 2; 4; 5]), 'dims', [3 3]);
+  for code = 1:3
+    h = chandle (quarn ('chandleset', code, s));
+    r = zeros (2, 1);
+    x = [1; 10];
+    quarn ('residual', r, h, x, x, x, [0 0]);
+    expect_equal (r, [21; 43]);
+    x = [1; 10; 100];
+    r = zeros (3, 1);
+    expect_error (@() quarn ('residual', r, h, x, x, x, [0 0]), '', '~^quarn residual : element 1 : the .* matrix : index 9 in "ir" reaches past');
+    s2 = s;
+    s2.jc = int32 ([0; 2; 4]);
+    s2.dims = [2 2];
+    h = chandle (quarn ('chandleset', code, s2));
+    quarn ('residual', zeros (2, 1), h, x(1:2), x(1:2), x(1:2), [0 0]);
+    expect_error (@() quarn ('residual', r, h, x, x, x, [0 0]), '', '~"jc" must hold 4 line pointers for 3 lines, got 3');
+  end
+end
+
+function test_a_diagonal_shorter_than_the_state_is_refused ()
+  names = {'stiffness', 'mass', 'damping'};
+  x = ones (3, 1);
+  for code = 1:3
+    h = chandle (quarn ('chandleset', code, matrix_lines (diag ([2 3]))));
+    expect_error (@() quarn ('residual', zeros (3, 1), h, x, x, x, [0 0]), '', ...
+      sprintf ('quarn residual : element 1 : the %s matrix must hold 3 values (one diagonal entry for each row of u), got 2', names{code}));
+  end
+end

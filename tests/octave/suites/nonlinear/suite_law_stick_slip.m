@@ -126,3 +126,18 @@ function test_first_pair_is_needed ()
   e = rmfield (element (), 'unl');
   expect_error (@() evaluate_law (e, [0; 0], [0; 0]), '', '~"unl" of law "sts" must hold 2 values or more, got 0');
 end
+
+function test_trial_of_zero_slips_by_the_slip_force_where_that_is_negative ()
+  e = evaluate_law (element ([0.5 3 10 -1 0]), [0; 0], [0; 0]);
+  expect_equal (e.unl(2), -1 / 10);
+end
+
+function test_stored_blocks_with_a_negative_skip_lose_what_lies_in_front ()
+  e = element ([0.5 3 10 1e6 0], 6);
+  e.iopt = int32 ([-1 2 -1 3 1]);
+  [unused, r, u] = evaluate_law (e, (1:6)', zeros (6, 1));
+  expect_equal (u, [1; 2; 3; 1; 2; 6]);
+  e.iopt = int32 ([-1 2 -1 3 2]);
+  [unused, r, u] = evaluate_law (e, (1:6)', zeros (6, 1));
+  expect_equal (u, [1; 2; 2; 3; 4; 6]);
+end

@@ -236,3 +236,55 @@ function test_table_with_a_negative_column_count_updates_its_record_only ()
   e = tabulated (x, [0; 0; 0], 4, -2147483648, 0.25, 7);
   expect_equal (e.opt(end - 2:end), [0; 0.25; 0.25]);
 end
+
+function test_one_knot_without_columns_counts_its_segment ()
+  e = tabulated (5, [3; 9; 9], 1, 0, [2; 7]);
+  expect_equal (e.snl, [1; 1]);
+  expect_equal (e.opt(end - 2:end), [0; 2; 0]);
+end
+
+% Evaluates a table element in place, without a copy: nothing moves in a run whose coefficients are zero.
+function evaluate_in_place (e, u)
+  n = numel (u);
+  e.c = matrix_lines (eye (n), true);
+  e.type = 1003;
+  integrator = struct ('type', 2000, 'r', zeros (n, 2), 'tft', [0 1], 'data', zeros (1, 6));
+  mem = struct ('uva', struct ('uva', zeros (4 * n, 1)));
+  quarn ('chandlediagnewmark', {integrator, e}, struct (), fresh (u), zeros (n, 1), zeros (n, 1), [0 0], mem, struct ());
+end
+
+% The same on places of the memory: table of nx knots at 2, record behind it; queries at AT, results at TO.
+function m = table_on (m, nx, u, at, to)
+  n = numel (u);
+  rec = 2 + 2 * nx;
+  m(at + (0:n - 1)) = u;
+  for repetition = 1:n
+    for j = 1:n
+      first = m(at);
+      [value, record] = model_lin_interp (m(2:1 + 2 * nx), m(at + j - 1), m(rec + (0:2)), nx, 1);
+      record(2) = first;
+      m(rec + (0:2)) = record;
+      m(to + j - 1) = value;
+    end
+  end
+end
+
+function test_table_results_and_queries_that_are_slices_of_its_parameters ()
+  nx = 3;
+  u = [0.25; 1.5];
+  start = [law_code('Table'); 0; 1; 2; 1; -3; 5; 0; 0; 0; zeros(6, 1)];
+  iopt = int32 ([-1 0 0 0 0 1 7 nx 1]);
+  for at = [5 6 8 9 11]
+    for to = [5 6 8 9 11 13]
+      m = fresh (start);
+      e = struct ('opt', m, 'iopt', iopt, 'unl', m(at:at + 1), 'snl', m(to:to + 1));
+      wanted = table_on (start, nx, u, at, to);
+      evaluate_in_place (e, u);
+      try
+        expect_equal (m, wanted);
+      catch err
+        error ('queries at %d, results at %d: %s', at, to, err.message);
+      end
+    end
+  end
+end

@@ -121,3 +121,32 @@ end
 function test_forces_in_the_memory_of_the_residual ()
   expect_same_with_shared ('snl');
 end
+
+function test_a_force_of_zero_adds_nothing_to_an_infinite_command_of_any_form ()
+  % One entry a line, two of them, a line that holds every column; in a residual and in a run.
+  n = 40;
+  for entries = [1 2 n]
+    e = spring_element (1, 1, n, [law_code('Power') 2 1]);
+    e.b = matrix_lines ([Inf, ones(1, entries - 1), zeros(1, n - entries)], true);
+    [unused, r] = evaluate_law (e, zeros (n, 1), zeros (n, 1));
+    expect_equal (r, zeros (n, 1));
+    integrator = struct ('type', 2000, 'r', [zeros(n, 1), ones(n, 1)], 'tft', [0 1], 'data', [0 0 0 0 1 0]);
+    mem = struct ('uva', struct ('uva', zeros (4 * n, 1)));
+    a = zeros (n, 1);
+    quarn ('chandlediagnewmark', {integrator, fresh(e)}, struct (), zeros (n, 1), zeros (n, 1), a, [0 0], mem, struct ());
+    expect_equal (abs (a), zeros (n, 1));
+  end
+end
+
+function test_an_empty_force_on_a_full_row_is_refused ()
+  e = struct ('b', struct ('pr', [1 2], 'dims', [1 2], 'trans', 1), 'StoreFNL', 0);
+  r = zeros (2, 1);
+  for empty = {[], struct('snl', [])}
+    e.Fu = @(varargin) empty{1};
+    expect_error (@() quarn ('residual', r, nl_model (e), [1; 2], [0; 0], [], [], []), '', ...
+      'quarn residual : the force vector must hold 1 values (the one that a full row uses), got 0');
+  end
+  e.b.dims = [1 0];
+  quarn ('residual', r, nl_model (e), [1; 2], [0; 0], [], [], []);
+  expect_equal (r, [0; 0]);
+end

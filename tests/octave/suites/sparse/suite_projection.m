@@ -228,3 +228,18 @@ function test_triple_product_leaves_its_operands_alone ()
   expect_equal (tb, [5 6; 7 8]);
   expect_equal (s.pr, [1; 3; 2; 4]);
 end
+
+function test_left_product_over_values_that_later_columns_need ()
+  % Each line's values are read for the first column of a and written over before the second is formed.
+  s = matrix_lines ([2 3; 5 7]);
+  a = [1 10 100; 1000 1e4 1e5];
+  wanted = a' * [2 3; 5 7];
+  memory = [s.pr; 0; 0];
+  for shift = 0:2
+    m = fresh (memory);
+    m(shift + (1:4)) = [2; 5; 3; 7];
+    s.pr = m(1 + shift:4 + shift);
+    quarn ('c<-a''*b', a, s, reshape (m(1:6), 3, 2));
+    expect_equal (reshape (m, 3, 2), wanted);
+  end
+end

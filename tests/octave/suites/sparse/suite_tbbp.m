@@ -204,3 +204,25 @@ function test_of_several_bad_lines_the_first_is_named ()
   for k = [n - 3, 2 * n, 100, 25 * n], s.ir(k) = int32 (n); end
   expect_refused (@() quarn ('tbbp', s, ones (n, 1), zeros (n, 1)), 'quarn tbbp : A : an index of column 4 lies outside x of 20000 values');
 end
+
+function test_good_lines_beside_a_bad_one_are_added ()
+  m = matrix_lines ([1 2 3 4; 5 6 7 8; 9 1 2 3; 4 5 6 7]);
+  x = [1; 10; 100; 1000];
+  for bad = 1:4
+    s = m;
+    s.ir(4 * bad - 1) = int32 (4);
+    y = zeros (4, 1) + 0.5;
+    wanted = [1 2 3 4; 5 6 7 8; 9 1 2 3; 4 5 6 7]' * x + 0.5;
+    wanted(bad) = 0.5;
+    expect_error (@() quarn ('tbbp', s, x, y), '', sprintf ('quarn tbbp : A : an index of column %d lies outside x of 4 values', bad));
+    expect_equal (y, wanted);
+  end
+end
+
+function test_a_full_matrix_without_lines_to_multiply_is_no_error ()
+  y = [7; 8];
+  quarn ('tbbp', ones (2), zeros (0, 1), y);
+  quarn ('tbbp', ones (2), [], y);
+  expect_equal (y, [7; 8]);
+  expect_error (@() quarn ('tbbp', ones (2), [1; 2], y), '', 'Implemented for sparse matrices');
+end

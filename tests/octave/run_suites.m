@@ -32,6 +32,7 @@ function counts = run_suites (names, options)
   if ischar (names), names = {names}; end
   tests = struct ('suite', {}, 'name', {}, 'outcome', {}, 'text', {}, 'seconds', {});
   for k = 1:numel (names)
+    if k > 1, empty_registry (); end
     for test = run_one (names{k}, options), tests(end + 1) = test; end
     if stops (tests, options), break, end
   end
@@ -74,6 +75,15 @@ function names = every_suite (folder)
     if within(k).name(1) == '.', continue, end
     files = dir (fullfile (folder, within(k).name, 'suite_*.m'));
     for file = {files.name}, names{end + 1} = file{1}(1:end - 2); end
+  end
+end
+
+% A suite finds no handle of the suite before, as in a process of its own. Clearing all leaves the keys, clearing one removes it.
+function empty_registry ()
+  try
+    for key = quarn ('chandleget').', quarn ('chandleclear', key); end
+  catch
+    % Without the module every test says so.
   end
 end
 

@@ -3,11 +3,6 @@ function tests = suite_nl_callbacks ()
   tests = localfunctions ();
 end
 
-function e = element ()
-  c = sparse ([1 2], [1 3], [1 1], 2, 4);
-  e = struct ('c', matrix_lines (c, true), 'b', matrix_lines (c, true), 'unl', zeros (2, 1), 'vnl', zeros (2, 1), 'StoreFNL', 0, 'FInd', int32 (0));
-end
-
 function call (r, model, varargin)
   if isempty (varargin), varargin = {[], []}; end
   quarn ('residual', r, model, [1; 2; 3; 4], [5; 6; 7; 8], [], varargin{:});
@@ -40,11 +35,11 @@ function f = gives (value)
 end
 
 function test_error_of_a_function_arrives_unchanged_and_sums_stay ()
-  good = element ();
+  good = two_dof_element ();
   good.Fu = @force_of_unl;
   kinds = {'Fu', 'type'};
   for k = 1:2
-    bad = element ();
+    bad = two_dof_element ();
     bad.(kinds{k}) = @fails;
     model = nl_model (good, bad, good);
     n = 4;
@@ -59,7 +54,7 @@ function test_error_of_a_function_arrives_unchanged_and_sums_stay ()
 end
 
 function test_error_of_quarn_inside_a_function_arrives_unchanged ()
-  e = element ();
+  e = two_dof_element ();
   e.Fu = @calls_quarn_wrongly;
   expect_error (@() call (zeros (4, 1), nl_model (e)), '', '~quarn : Unknown command$');
 end
@@ -67,7 +62,7 @@ end
 function test_error_of_a_law_by_name_arrives_unchanged ()
   global HAPSEL_CALLS
   HAPSEL_CALLS = 1;  % the stub cannot index this as a cell
-  e = element ();
+  e = two_dof_element ();
   e.type = 'law';
   r = zeros (4, 1);
   raised = false;
@@ -85,7 +80,7 @@ function test_function_without_output_is_the_hosts_error ()
   laws = {@without_output, @output_never_set};
   identifiers = {'Octave:invalid-fun-call', 'Octave:undefined-function'};
   for k = 1:2
-    e = element ();
+    e = two_dof_element ();
     e.Fu = laws{k};
     r = zeros (4, 1);
     expect_error (@() call (r, nl_model (e)), identifiers{k}, '~called with too many outputs|output_never_set|undefined');
@@ -94,7 +89,7 @@ function test_function_without_output_is_the_hosts_error ()
 end
 
 function test_callable_type_may_have_no_output ()
-  e = element ();
+  e = two_dof_element ();
   e.type = @without_output;
   r = zeros (4, 1);
   call (r, nl_model (e));
@@ -105,7 +100,7 @@ function test_results_of_other_classes_are_refused ()
   wrong = {int32([1; 2]), {1, 2}, 'ab', true(2, 1), single([1; 2]), sparse([1; 2]), @sin, struct('snl', {{1}}), struct('unl', 'x')};
   key = quarn ('chandleset', 1, matrix_lines (speye (2)));
   for k = 1:numel (wrong)
-    e = element ();
+    e = two_dof_element ();
     e.Fu = gives (wrong{k});
     e.StoreFNL = 1;
     model = nl_model (e);
@@ -122,7 +117,7 @@ end
 function test_result_too_short_for_the_command_matrix_is_refused ()
   short = {[], 1, struct('snl', zeros (0, 1)), struct('x', {})};
   for k = 1:3
-    e = element ();
+    e = two_dof_element ();
     e.Fu = gives (short{k});
     r = zeros (4, 1);
     expect_error (@() call (r, nl_model (e)), '', '~^quarn residual : the force vector must hold 2 values');
@@ -135,7 +130,7 @@ function test_result_too_short_for_the_command_matrix_is_refused ()
 end
 
 function test_refusal_after_a_function_that_used_quarn_names_the_command ()
-  e = element ();
+  e = two_dof_element ();
   e.Fu = @uses_quarn;
   wanted = 'quarn residual : NL{1,3} : the result of Fu must be a full real double array, got char 1x5';
   expect_error (@() call (zeros (4, 1), nl_model (e)), '', wanted);
@@ -149,7 +144,7 @@ end
 function test_functions_need_all_arguments_and_computed_laws_do_not ()
   laws = struct ('Fu', {@force_of_unl, [], []}, 'type', {'', @without_output, 'law'});
   for k = 1:3
-    e = element ();
+    e = two_dof_element ();
     e.type = laws(k).type;
     if k == 1, e.Fu = laws(k).Fu; end
     r = zeros (4, 1);
@@ -165,14 +160,14 @@ function test_functions_need_all_arguments_and_computed_laws_do_not ()
     expect_equal (r, zeros (4, 1));
     expect_equal (e.unl, zeros (2, 1));
   end
-  e = element ();
+  e = two_dof_element ();
   e.type = '';
   quarn ('residual', zeros (4, 1), nl_model (e), [1; 2; 3; 4], zeros (4, 1), []);
   expect_equal (e.unl, [1; 3]);
 end
 
 function test_function_may_change_the_data_of_the_call ()
-  e = element ();
+  e = two_dof_element ();
   e.Fu = @rewrites_everything;
   e.snl = zeros (2, 1);
   e.StoreFNL = zeros (1, 1);
@@ -195,7 +190,7 @@ end
 
 function test_function_may_drop_the_scripts_own_variables ()
   global MODEL
-  e = element ();
+  e = two_dof_element ();
   e.Fu = @drops_the_model;
   MODEL = nl_model (e, e);
   e = [];
@@ -211,7 +206,7 @@ function f = drops_the_model (e, varargin)
 end
 
 function test_function_may_call_residual_itself ()
-  e = element ();
+  e = two_dof_element ();
   e.Fu = @inner_residual;
   r = zeros (4, 1);
   call (r, nl_model (e));
@@ -219,7 +214,7 @@ function test_function_may_call_residual_itself ()
 end
 
 function f = inner_residual (e, varargin)
-  inner = element ();
+  inner = two_dof_element ();
   inner.Fu = @force_of_unl;
   r = zeros (4, 1);
   call (r, nl_model (inner));
@@ -227,9 +222,9 @@ function f = inner_residual (e, varargin)
 end
 
 function test_later_element_is_checked_again_after_a_function ()
-  first = element ();
+  first = two_dof_element ();
   first.Fu = @force_of_unl;
-  second = element ();
+  second = two_dof_element ();
   second.Fu = @force_of_unl;
   second.FInd = 0;
   second.StoreFNL = 1;
@@ -262,8 +257,8 @@ function f = forces_of_all (e, r, model, varargin)
 end
 
 function test_the_model_that_a_law_is_given_shows_what_has_been_observed_so_far ()
-  first = fresh (element ());
-  second = fresh (element ());
+  first = fresh (two_dof_element ());
+  second = fresh (two_dof_element ());
   second.unl = zeros (2, 1) + 0.5;
   first.Fu = @forces_of_all;
   second.Fu = @forces_of_all;

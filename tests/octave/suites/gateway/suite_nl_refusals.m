@@ -4,9 +4,9 @@ function tests = suite_nl_refusals ()
 end
 
 function e = element ()
-  c = sparse ([1 2], [1 3], [1 1], 2, 4);
-  e = struct ('c', matrix_lines (c, true), 'b', matrix_lines (c, true), 'unl', zeros (2, 1), 'vnl', zeros (2, 1), 'StoreFNL', 1, 'FInd', int32 (0));
-  e.Fu = @(e, varargin) 2 * e.unl;
+  e = two_dof_element ();
+  e.StoreFNL = 1;
+  e.Fu = @twice_unl;
 end
 
 % The call with a good element in front must raise TEXT and leave r, the store and a registered handle as they were.

@@ -3,21 +3,6 @@ function tests = suite_nl_structures ()
   tests = localfunctions ();
 end
 
-function call (r, model, u, v, opt)
-  if nargin < 5, opt = []; end
-  quarn ('residual', r, model, u, v, [], opt, struct ('tag', 17));
-end
-
-% An element that observes DOFs 1 and 3 of 4 and sends its forces to the same DOFs.
-function e = element ()
-  c = sparse ([1 2], [1 3], [1 1], 2, 4);
-  e = struct ('c', matrix_lines (c, true), 'b', matrix_lines (c, true), 'unl', zeros (2, 1), 'vnl', zeros (2, 1), 'StoreFNL', 0, 'FInd', int32 (0));
-end
-
-function f = twice_unl (e, varargin)
-  f = 2 * e.unl;
-end
-
 function f = in_struct (e, varargin)
   f = struct ('unl', -e.unl, 'snl', 3 * e.unl);
 end
@@ -39,121 +24,121 @@ function add_one_in_place (e, varargin)
 end
 
 function test_row_without_an_element_is_skipped ()
-  e = element ();
+  e = two_dof_element ();
   e.Fu = @twice_unl;
   model = nl_model ([], e, []);
   r = zeros (4, 1) + 1;
-  call (r, model, [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, model, [1; 2; 3; 4], zeros (4, 1));
   expect_equal (r, [3; 1; 7; 1]);
 end
 
 function test_list_without_rows_adds_nothing ()
   model = struct ('K', {cell(1, 3)}, 'NL', {{}});
   r = zeros (4, 1) + 5;
-  call (r, model, ones (4, 1), zeros (4, 1));
+  add_model (r, model, ones (4, 1), zeros (4, 1));
   model.NL = cell (0, 3);
-  call (r, model, ones (4, 1), zeros (4, 1));
+  add_model (r, model, ones (4, 1), zeros (4, 1));
   expect_equal (r, 5 * ones (4, 1));
 end
 
 function test_result_vector_is_the_force ()
-  e = element ();
+  e = two_dof_element ();
   e.Fu = @twice_unl;
   r = zeros (4, 1);
-  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
   expect_equal (r, [2; 0; 6; 0]);
 end
 
 function test_result_structure_gives_snl_before_unl ()
-  e = element ();
+  e = two_dof_element ();
   e.Fu = @in_struct;
   r = zeros (4, 1);
-  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
   expect_equal (r, [3; 0; 9; 0]);
   e.Fu = @in_struct_unl;
   r = zeros (4, 1);
-  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
   expect_equal (r, [-1; 0; -3; 0]);
 end
 
 function test_result_structure_without_forces_contributes_nothing ()
-  e = element ();
+  e = two_dof_element ();
   e.Fu = @empty_struct;
   e.StoreFNL = 1;
   model = nl_model (e);
   model.FNL = zeros (2, 1) + 8;
   r = zeros (4, 1);
-  call (r, model, [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, model, [1; 2; 3; 4], zeros (4, 1));
   expect_equal (r, zeros (4, 1));
   expect_equal (model.FNL, [8; 8]);
 end
 
 function test_no_result_leaves_the_elements_own_force ()
-  e = element ();
+  e = two_dof_element ();
   e.Fu = @no_value;
   r = zeros (4, 1);
-  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
   expect_equal (r, [1; 0; 3; 0]);
   e.snl = zeros (2, 1) + [5; 6];
   r = zeros (4, 1);
-  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
   expect_equal (r, [5; 0; 6; 0]);
   r = zeros (4, 1);
-  call (r, nl_model (rmfield (e, {'snl', 'unl'})), [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, nl_model (rmfield (e, {'snl', 'unl'})), [1; 2; 3; 4], zeros (4, 1));
   expect_equal (r, zeros (4, 1));
 end
 
 function test_element_without_b_adds_nothing_and_still_stores ()
-  e = rmfield (element (), 'b');
+  e = rmfield (two_dof_element (), 'b');
   e.Fu = @twice_unl;
   e.StoreFNL = 1;
   model = nl_model (e);
   model.FNL = zeros (3, 1);
   r = zeros (4, 1);
-  call (r, model, [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, model, [1; 2; 3; 4], zeros (4, 1));
   expect_equal (r, zeros (4, 1));
   expect_equal (model.FNL, [2; 6; 0]);
 end
 
 function test_function_handle_in_Fu_wins_over_the_type ()
-  e = element ();
+  e = two_dof_element ();
   e.Fu = @twice_unl;
   e.type = 'rotcenter';
   r = zeros (4, 1);
-  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
   expect_equal (r, [2; 0; 6; 0]);
 end
 
 function test_callable_type_works_on_the_element_in_place ()
-  e = element ();
+  e = two_dof_element ();
   e.type = @add_one_in_place;
   e.StoreFNL = 1;
   model = nl_model (e);
   model.FNL = zeros (2, 1);
   r = zeros (4, 1);
-  call (r, model, [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, model, [1; 2; 3; 4], zeros (4, 1));
   expect_equal (r, [2; 0; 4; 0]);
   expect_equal (model.FNL, zeros (2, 1));
 end
 
 function test_callable_type_without_unl_or_b_assembles_nothing ()
-  e = element ();
+  e = two_dof_element ();
   e.type = @no_value;
   e.snl = zeros (2, 1) + 4;
   r = zeros (4, 1);
-  call (r, nl_model (rmfield (e, 'unl'), rmfield (e, 'b')), [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, nl_model (rmfield (e, 'unl'), rmfield (e, 'b')), [1; 2; 3; 4], zeros (4, 1));
   expect_equal (r, zeros (4, 1));
-  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
   expect_equal (r, [4; 0; 4; 0]);
 end
 
 function test_empty_type_does_nothing_but_observe ()
   global HAPSEL_CALLS
   HAPSEL_CALLS = {};
-  e = element ();
+  e = two_dof_element ();
   e.type = '';
   r = zeros (4, 1);
-  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
   expect_equal (numel (HAPSEL_CALLS), 0);
   expect_equal (r, zeros (4, 1));
   expect_equal (e.unl, [1; 3]);
@@ -164,7 +149,7 @@ function test_any_other_word_goes_to_hapsel_with_eight_inputs ()
   words = {'nl_spring', 'Rotcenter', 'rotcenter2', 'mocirc', 'mocirc22'};
   for k = 1:numel (words)
     HAPSEL_CALLS = {};
-    e = element ();
+    e = two_dof_element ();
     e.type = words{k};
     e.snl = zeros (2, 1) + [5; 6];
     model = nl_model (e);
@@ -186,7 +171,7 @@ end
 function test_function_gets_the_element_and_the_seven_arguments ()
   global SEEN
   SEEN = {};
-  e = element ();
+  e = two_dof_element ();
   e.Fu = @remember;
   model = nl_model (e);
   opt = struct ('Rayleigh', [0 0], 'tc', 2);
@@ -206,30 +191,30 @@ function f = remember (varargin)
 end
 
 function test_mocirc2_adds_and_stores_nothing ()
-  e = element ();
+  e = two_dof_element ();
   e.type = 'mocirc2';
   e.cta = matrix_lines (sparse ([1 2 3 4], [1 1 2 2], [1 2 3 4], 4, 4));
   model = nl_model (e, e);
   model.FNL = zeros (3, 1) + 9;
   r = zeros (4, 1) + 2;
-  call (r, model, [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, model, [1; 2; 3; 4], zeros (4, 1));
   e.cta = matrix_lines (sparse (4, 4));
-  call (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
+  add_model (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1));
   expect_equal (r, 2 * ones (4, 1));
   expect_equal (model.FNL, [9; 9; 9]);
 end
 
 function test_elements_add_in_the_order_of_the_rows ()
-  e = element ();
+  e = two_dof_element ();
   e.Fu = @(e, varargin) [1e16; 0];
-  f = element ();
+  f = two_dof_element ();
   f.Fu = @(e, varargin) [1; 0];
-  g = element ();
+  g = two_dof_element ();
   g.Fu = @(e, varargin) [-1e16; 0];
   r = zeros (4, 1);
-  call (r, nl_model (e, f, g), zeros (4, 1), zeros (4, 1));
+  add_model (r, nl_model (e, f, g), zeros (4, 1), zeros (4, 1));
   expect_equal (r(1), (1e16 + 1) - 1e16);
   r = zeros (4, 1);
-  call (r, nl_model (e, g, f), zeros (4, 1), zeros (4, 1));
+  add_model (r, nl_model (e, g, f), zeros (4, 1), zeros (4, 1));
   expect_equal (r(1), 1);
 end

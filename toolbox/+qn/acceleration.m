@@ -46,10 +46,7 @@ function a = acceleration (res, c, varargin)
   end
   [v, a] = qn.impl.rates (res);
   a = rows * a;
-  if ~isequal (o.absolute, true)
-    if ~isequal (o.absolute, false), error ('qn:input', '%s: "absolute" is true or false', who); end
-    return
-  end
+  if ~qn.impl.flag (who, 'absolute', o.absolute), return, end
   if ~isfield (sim, 'base') || isempty (sim.base)
     error ('qn:input', '%s: for absolute accelerations give the motion of the base by "base" of qn.simulation', who);
   end

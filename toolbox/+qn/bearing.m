@@ -33,20 +33,19 @@ function law = bearing (varargin)
   o = struct ('stiffness', [], 'exponent', 1.5, 'clearance', 0, 'range', 1e-3, 'knots', 60, 'deflection', [], 'force', []);
   o = qn.impl.options (who, o, varargin);
   if ~isempty (o.deflection)
-    d = o.deflection(:);
-    f = o.force(:);
-    if numel (d) ~= numel (f) || any (diff (d) <= 0) || d(1) < 0
-      error ('qn:input', '%s: a measured curve needs as many forces as deflections, and deflections that ascend from zero', who);
-    end
+    d = qn.impl.numbers (who, 'deflection', o.deflection, [], 'list', 'from', 0, 'ascending');
+    f = qn.impl.numbers (who, 'force', o.force, numel (d), 'each', 'one a deflection');
+    d = d(:);
+    f = f(:);
     if d(1) == 0, d = d(2:end); f = f(2:end); end
     note = 'measured bearing';
   else
     if isempty (o.stiffness), error ('qn:input', '%s: the parameter "stiffness" is missing, or a measured curve', who); end
-    qn.impl.scalar (who, 'stiffness', o.stiffness, realmin ());
-    qn.impl.scalar (who, 'exponent', o.exponent, 1);
-    qn.impl.scalar (who, 'clearance', o.clearance, 0);
-    qn.impl.scalar (who, 'range', o.range, realmin ());
-    qn.impl.scalar (who, 'knots', o.knots, 2);
+    o.stiffness = qn.impl.scalar (who, 'stiffness', o.stiffness, realmin ());
+    o.exponent = qn.impl.scalar (who, 'exponent', o.exponent, 1);
+    o.clearance = qn.impl.scalar (who, 'clearance', o.clearance, 0);
+    o.range = qn.impl.scalar (who, 'range', o.range, realmin ());
+    o.knots = qn.impl.numbers (who, 'knots', o.knots, [1 1], 'from', 2, 'to', 1e6, 'whole');
     depth = o.range * linspace (0, 1, o.knots).' .^ 2;
     d = o.clearance + depth;
     f = o.stiffness * depth .^ o.exponent;

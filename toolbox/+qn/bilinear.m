@@ -27,9 +27,9 @@
 function law = bilinear (varargin)
   who = 'qn.bilinear';
   o = qn.impl.options (who, struct ('first', '<required>', 'second', '<required>', 'at', '<required>'), varargin);
-  qn.impl.scalar (who, 'first', o.first);
-  qn.impl.scalar (who, 'second', o.second);
-  qn.impl.scalar (who, 'at', o.at, realmin ());
+  o.first = qn.impl.scalar (who, 'first', o.first);
+  o.second = qn.impl.scalar (who, 'second', o.second);
+  o.at = qn.impl.scalar (who, 'at', o.at, realmin ());
   f = o.at * [o.first; o.first + o.second];
   law = qn.law ('table', 'displacement', o.at * [-2; -1; 1; 2], 'force', [-flipud(f); f]);
   law.note = sprintf ('bilinear spring, %g and %g N/m', o.first, o.second);

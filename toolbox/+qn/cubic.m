@@ -22,6 +22,6 @@
 % See also qn.backbone, qn.bilinear, qn.law
 function law = cubic (varargin)
   o = qn.impl.options ('qn.cubic', struct ('stiffness', '<required>'), varargin);
-  law = qn.law ('power', 'stiffness', o.stiffness, 'exponent', 3);
+  law = qn.law ('power', 'stiffness', qn.impl.scalar ('qn.cubic', 'stiffness', o.stiffness), 'exponent', 3);
   law.note = 'cubic spring';
 end

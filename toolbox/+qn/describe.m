@@ -30,8 +30,8 @@ function text = describe (x)
     lines = arrayfun (@qn.impl.law_text, x, 'uniformoutput', false);
   elseif isstruct (x) || isa (x, 'v_handle')
     lines = {qn.impl.value_text(x)};
-  elseif isnumeric (x) && numel (x) == 1
-    lines = {one_handle(x)};
+  elseif isnumeric (x)
+    lines = {one_handle(qn.impl.numbers ('qn.describe', 'X', x, [1 1], 'from', 0, 'whole'))};
   else
     error ('qn:input', 'qn.describe: a law, a handle or its value expected, got an array of class %s', class (x));
   end

@@ -33,22 +33,26 @@
 % See also qn.law, qn.describe, qn.force, qn.simulation
 function e = element (law, c, varargin)
   who = 'qn.element';
+  if nargin < 2, error ('qn:input', '%s: a law and observation rows expected; see help %s', who, who); end
+  law = qn.impl.sound_law (who, law);
+  c = full (qn.impl.numbers (who, 'C', c, [NaN NaN]));
   if numel (law) ~= 1, error ('qn:input', '%s: one law expected, got a bank of %d; make an element of each', who, numel (law)); end
   o = qn.impl.options (who, struct ('command', c, 'step', [], 'state', [], 'slot', 0), varargin);
   t = qn.impl.traits (law, size (c, 1));
   if t.rows > 0 && size (c, 1) ~= t.rows
     error ('qn:input', '%s: the law "%s" observes %d rows, got %d', who, law.kind, t.rows, size (c, 1));
   end
-  if ~isequal (size (o.command), size (c)), error ('qn:input', '%s: "command" must have the size of the observation rows', who); end
+  o.command = full (qn.impl.numbers (who, 'command', o.command, size (c), 'each', 'as the observation rows'));
+  o.slot = qn.impl.numbers (who, 'slot', o.slot, [1 1], 'from', 0, 'whole');
   if t.memory
     if isempty (o.step), error ('qn:input', '%s: the law "%s" needs the time step', who, law.kind); end
-    qn.impl.scalar (who, 'step', o.step, realmin ());
+    o.step = qn.impl.scalar (who, 'step', o.step, realmin ());
   end
   n = size (c, 2);
   c = [c; zeros(t.width - size (c, 1), n)];
   if t.states > 0
     if isempty (o.state), error ('qn:input', '%s: the law "%s" needs the row where its state is kept', who, law.kind); end
-    qn.impl.scalar (who, 'state', o.state, 2);
+    o.state = qn.impl.numbers (who, 'state', o.state, [1 1], 'from', 2, 'whole');
     n = max (n, o.state + t.states - 1);
     c = [c, zeros(t.width, n - size (c, 2))];
     c(t.rows + (1:t.states), o.state - 1 + (1:t.states)) = eye (t.states);

@@ -28,6 +28,10 @@
 %
 % See also qn.law, qn.element, qn.plot.loop
 function f = force (law, x, v, h)
+  who = 'qn.force';
+  if nargin < 2, error ('qn:input', '%s: a law and displacements expected; see help %s', who, who); end
+  law = qn.impl.sound_law (who, law);
+  x = qn.impl.numbers (who, 'X', x, [NaN NaN]);
   memory = false;
   for k = 1:numel (law)
     t = qn.impl.traits (law(k), 1);
@@ -40,10 +44,9 @@ function f = force (law, x, v, h)
   end
   if nargin < 4, error ('qn:input', 'qn.force: the law "%s" has a memory: velocities and a time step are needed', law(end).kind); end
   rows = max (t.rows, 1);
-  if ~isequal (size (v), size (x)) || size (x, 1) ~= rows
-    error ('qn:input', 'qn.force: displacements and velocities of %d rows expected, got %s and %s', rows, mat2str (size (x)), ...
-           mat2str (size (v)));
-  end
+  x = qn.impl.numbers (who, 'X', x, [rows NaN]);
+  v = qn.impl.numbers (who, 'V', v, size (x), 'each', 'as the displacements');
+  h = qn.impl.scalar (who, 'H', h, realmin ());
   f = step_by_step (law, rows, x, v, h);
 end
 

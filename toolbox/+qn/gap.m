@@ -9,7 +9,9 @@
 %
 % Input
 %   Names and values
-%     'gap'        distance that closes when x grows [m]; negative for a contact that is pressed at x = 0
+%     'gap'        distance that closes when x grows [m]. A negative one is a preload: the contact is pressed together by -gap at x = 0
+%                  and pushes there already, with what qn.force (LAW, 0) says. qn.check says so; the structure is at rest in what
+%                  qn.static finds, not at 0.
 %     'stiffness'  contact stiffness [N/m]
 %     'side'       1: closes when x grows (1); -1: closes at x = -gap when x falls
 %     'padding'    thickness of a softer layer in front of the stop [m] (0)
@@ -30,12 +32,13 @@ function law = gap (varargin)
   who = 'qn.gap';
   o = struct ('gap', '<required>', 'stiffness', '<required>', 'side', 1, 'padding', 0, 'soft', []);
   o = qn.impl.options (who, o, varargin);
+  o.gap = qn.impl.scalar (who, 'gap', o.gap);
+  o.stiffness = qn.impl.scalar (who, 'stiffness', o.stiffness, 0);
   if isempty (o.soft), o.soft = o.stiffness / 10; end
-  qn.impl.scalar (who, 'gap', o.gap);
-  qn.impl.scalar (who, 'stiffness', o.stiffness, 0);
-  qn.impl.scalar (who, 'padding', o.padding, 0);
-  qn.impl.scalar (who, 'soft', o.soft, 0);
-  if ~any (o.side == [1 -1]), error ('qn:input', '%s: "side" is 1 or -1', who); end
+  o.padding = qn.impl.scalar (who, 'padding', o.padding, 0);
+  o.soft = qn.impl.scalar (who, 'soft', o.soft, 0);
+  o.side = qn.impl.scalar (who, 'side', o.side);
+  if ~any (o.side == [1 -1]), error ('qn:input', '%s: "side" is 1 or -1, got %g', who, o.side); end
   [x, f] = qn.impl.contact (o.gap, o.stiffness, o.padding, o.soft);
   if o.side < 0
     x = -flipud (x);
@@ -43,4 +46,5 @@ function law = gap (varargin)
   end
   law = qn.law ('table', 'displacement', x, 'force', f);
   law.note = sprintf ('stop behind a gap of %g m', o.gap);
+  if o.gap < 0, law.note = sprintf ('stop, preloaded by a gap of %g m', o.gap); end
 end

@@ -33,11 +33,17 @@ function laws = iwan (varargin)
   o = qn.impl.options (who, o, varargin);
   if isempty (o.slips)
     if isempty (o.slip) || isempty (o.stiffness), error ('qn:input', '%s: "slip" and "stiffness" are needed, or "slips"', who); end
-    qn.impl.scalar (who, 'sliders', o.sliders, 1);
+    o.sliders = qn.impl.count (who, 'sliders', o.sliders);
+    o.slip = qn.impl.scalar (who, 'slip', o.slip, realmin ());
+    o.stiffness = qn.impl.scalar (who, 'stiffness', o.stiffness, realmin ());
     o.slips = 2 * o.slip / o.sliders ^ 2 * ((1:o.sliders) - 0.5);
     o.stiffnesses = o.stiffness / o.sliders;
   end
   if isempty (o.stiffnesses), error ('qn:input', '%s: "stiffnesses" go with "slips"', who); end
+  o.slips = qn.impl.numbers (who, 'slips', o.slips, [], 'list', 'above', 0);
+  stiffnesses = numel (o.slips);
+  if numel (o.stiffnesses) == 1, stiffnesses = 1; end
+  o.stiffnesses = qn.impl.numbers (who, 'stiffnesses', o.stiffnesses, stiffnesses, 'above', 0, 'each', 'one a slider or one for all');
   k = reshape (o.stiffnesses, 1, []) .* ones (1, numel (o.slips));
   for i = numel (o.slips):-1:1
     laws(i) = qn.slider ('slip', o.slips(i), 'stiffness', k(i));

@@ -45,21 +45,22 @@ function law = law (kind, varargin)
   for k = 1:numel (names)
     x = p.(names{k});
     if lists(k)
-      if ~(isnumeric (x) && isreal (x) && ~isempty (x) && all (isfinite (x(:))))
-        error ('qn:input', '%s: "%s" must be finite real numbers', who, names{k});
-      end
-      p.(names{k}) = double (x(:));
+      x = qn.impl.numbers (who, names{k}, x, [], 'list');
+      p.(names{k}) = x(:);
     else
-      qn.impl.scalar (who, names{k}, x);
-      p.(names{k}) = double (x);
+      p.(names{k}) = qn.impl.scalar (who, names{k}, x);
     end
   end
   same_length (who, p, sort (names(lists)));
   for name = of_sort (l, 'ascending')
-    if any (diff (p.(name{1})) < 0), error ('qn:input', '%s: "%s" must ascend; sort the table by it', who, name{1}); end
+    k = find (diff (p.(name{1})) < 0, 1);
+    if ~isempty (k)
+      error ('qn:input', '%s: "%s" must ascend, but value %d is %g and value %d is %g; sort the table by it', who, name{1}, k, ...
+             p.(name{1})(k), k + 1, p.(name{1})(k + 1));
+    end
   end
   for name = of_sort (l, 'positive')
-    if any (p.(name{1}) <= 0), error ('qn:input', '%s: "%s" must be above 0', who, name{1}); end
+    qn.impl.numbers (who, name{1}, p.(name{1}), [], 'above', 0);
   end
   law = struct ('kind', kind, 'parameters', p, 'note', '');
 end

@@ -32,12 +32,14 @@ function law = maxwell (varargin)
   o = struct ('springs', '<required>', 'dampers', [], 'times', [], 'stiffness', 0);
   o = qn.impl.options (who, o, varargin);
   if isempty (o.dampers) == isempty (o.times), error ('qn:input', '%s: either "dampers" or "times" are needed', who); end
+  o.springs = qn.impl.numbers (who, 'springs', o.springs, [], 'list', 'above', 0);
+  o.stiffness = qn.impl.scalar (who, 'stiffness', o.stiffness);
+  n = numel (o.springs);
   if isempty (o.dampers)
-    if numel (o.times) ~= numel (o.springs)
-      error ('qn:input', '%s: %d springs and %d times; as many are expected', who, numel (o.springs), numel (o.times));
-    end
+    o.times = qn.impl.numbers (who, 'times', o.times, n, 'above', 0, 'each', 'one a spring');
     o.dampers = o.times(:) .* o.springs(:);
   end
+  o.dampers = qn.impl.numbers (who, 'dampers', o.dampers, n, 'above', 0, 'each', 'one a spring');
   law = qn.law ('maxwell', 'springs', o.springs, 'dampers', o.dampers, 'stiffness', o.stiffness);
   law.note = 'generalised Maxwell damper';
 end

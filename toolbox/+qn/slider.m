@@ -26,8 +26,8 @@
 % See also qn.iwan, qn.zener, qn.dissipated, qn.law
 function law = slider (varargin)
   o = qn.impl.options ('qn.slider', struct ('slip', '<required>', 'stiffness', '<required>'), varargin);
-  qn.impl.scalar ('qn.slider', 'stiffness', o.stiffness, realmin ());
-  qn.impl.scalar ('qn.slider', 'slip', o.slip, realmin ());
+  o.stiffness = qn.impl.scalar ('qn.slider', 'stiffness', o.stiffness, realmin ());
+  o.slip = qn.impl.scalar ('qn.slider', 'slip', o.slip, realmin ());
   law = qn.law ('dahl', 'stiffness', o.stiffness, 'slip', o.slip, 'exponent', 0);
   law.note = 'Coulomb slider';
 end

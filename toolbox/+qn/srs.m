@@ -49,14 +49,14 @@ function [a, positive, negative, bound] = srs (time, acc, hertz, q)
     acc = qn.acceleration (res, acc, 'absolute', isfield (res.sim, 'base') && ~isempty (res.sim.base));
     time = res.time;
   end
-  h = qn.impl.spacing (who, time);
-  if isvector (acc), acc = reshape (acc, 1, []); end
-  if size (acc, 2) ~= numel (time), error ('qn:input', '%s: %d accelerations expected, got %d', who, numel (time), size (acc, 2)); end
-  if ~isnumeric (acc) || ~isreal (acc) || any (~isfinite (acc(:))), error ('qn:input', '%s: the accelerations must be finite', who); end
-  if ~isnumeric (hertz) || ~isreal (hertz) || ~all (hertz(:) > 0 & hertz(:) < 0.5 / h)
-    error ('qn:input', '%s: frequencies between 0 and %g Hz expected', who, 0.5 / h);
+  [h, time] = qn.impl.spacing (who, time);
+  if isnumeric (acc) && numel (acc) == numel (time), acc = reshape (acc, 1, []); end
+  acc = qn.impl.numbers (who, 'ACC', acc, [NaN numel(time)], 'each', 'one column a time');
+  hertz = qn.impl.numbers (who, 'HERTZ', hertz, [], 'above', 0);
+  if any (hertz(:) >= 0.5 / h)
+    error ('qn:input', '%s: "HERTZ" has %g; below %g Hz, half the sampling rate, is expected', who, max (hertz(:)), 0.5 / h);
   end
-  if ~isnumeric (q) || numel (q) ~= 1 || ~(q > 0.5), error ('qn:input', '%s: one quality factor above 0.5 expected', who); end
+  q = qn.impl.numbers (who, 'Q', q, [1 1], 'above', 0.5, 'infinite');
   p = size (acc, 1);
   positive = zeros (p, numel (hertz));
   negative = positive;

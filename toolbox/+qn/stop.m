@@ -8,7 +8,7 @@
 %
 % Input
 %   Names and values
-%     'gap'        play on either side of x = 0 [m], or [left right]
+%     'gap'        play on either side of x = 0 [m], or [left right], not negative; a preloaded contact is a qn.gap
 %     'stiffness'  contact stiffness [N/m], or [left right]
 %     'inner'      stiffness between the stops [N/m] (0)
 %
@@ -26,16 +26,18 @@
 function law = stop (varargin)
   who = 'qn.stop';
   o = qn.impl.options (who, struct ('gap', '<required>', 'stiffness', '<required>', 'inner', 0), varargin);
+  o.gap = qn.impl.numbers (who, 'gap', o.gap, [], 'list');
+  o.stiffness = qn.impl.numbers (who, 'stiffness', o.stiffness, [], 'list', 'from', 0);
   if ~any (numel (o.gap) == [1 2]) || ~any (numel (o.stiffness) == [1 2])
     error ('qn:input', '%s: "gap" and "stiffness" take one value or [left right], got %d and %d', who, numel (o.gap), numel (o.stiffness));
   end
   gap = o.gap(:) .* ones (2, 1);
   k = o.stiffness(:) .* ones (2, 1);
-  for i = 1:2
-    qn.impl.scalar (who, 'gap', gap(i), 0);
-    qn.impl.scalar (who, 'stiffness', k(i), 0);
+  if any (gap < 0)
+    error ('qn:input', ['%s: "gap" must be at least 0, got %g. A negative gap is a preload: the structure is pressed at x = 0; give ' ...
+                        'each side as a qn.gap of its own then'], who, min (gap));
   end
-  qn.impl.scalar (who, 'inner', o.inner, 0);
+  o.inner = qn.impl.scalar (who, 'inner', o.inner, 0);
   [left, right] = deal (o.inner * gap(1), o.inner * gap(2));
   unit = max ([gap; 1e-3]);
   x = [-gap(1) - unit; -gap(1); gap(2); gap(2) + unit];

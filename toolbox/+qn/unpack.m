@@ -25,7 +25,7 @@
 function a = unpack (s)
   if isa (s, 'v_handle'), s = get (s, 'file'); end
   if isnumeric (s)
-    a = sparse (s);
+    a = sparse (qn.impl.numbers ('qn.unpack', 'S', s, [NaN NaN], 'complex', 'empty'));
     return
   end
   if ~isstruct (s) || ~isfield (s, 'pr')

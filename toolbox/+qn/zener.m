@@ -27,6 +27,9 @@
 function law = zener (varargin)
   o = struct ('stiffness', '<required>', 'spring', '<required>', 'damper', '<required>');
   o = qn.impl.options ('qn.zener', o, varargin);
+  o.stiffness = qn.impl.scalar ('qn.zener', 'stiffness', o.stiffness, 0);
+  o.spring = qn.impl.scalar ('qn.zener', 'spring', o.spring, realmin ());
+  o.damper = qn.impl.scalar ('qn.zener', 'damper', o.damper, realmin ());
   law = qn.law ('maxwell', 'springs', o.spring, 'dampers', o.damper, 'stiffness', o.stiffness);
   law.note = 'Zener element';
 end

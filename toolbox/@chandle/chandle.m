@@ -40,7 +40,7 @@ function h = chandle (i)
     return
   end
   if ~isnumeric (i) || ~isreal (i)
-    error ('chandle: indices expected, as quarn (''chandleset'', ...) returns them, got an array of class %s', class (i));
+    error ('qn:input', 'chandle: "I" must be indices, as quarn (''chandleset'', ...) returns them, got an array of class %s', class (i));
   end
   h = class (struct ('index', reshape (num2cell (double (i(:))), 1, [])), 'chandle');
 end

@@ -20,6 +20,7 @@ function [e, states, slots] = elements (model, list, who)
       error ('qn:input', '%s: element %d has its law and its rows in the wrong order; {law, rows} is expected', who, k);
     end
     if ~isstruct (laws) || ~isfield (laws, 'kind'), error ('qn:input', '%s: element %d needs a law, from qn.law or a recipe', who, k); end
+    laws = qn.impl.sound_law (sprintf ('%s: element %d', who, k), laws);
     where = sprintf ('%s: element %d: ', who, k);
     c = qn.impl.looked_at (model, list{k, 2}, where, sprintf ('elements{%d, 2}', k));
     b = c;

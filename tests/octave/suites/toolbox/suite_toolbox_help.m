@@ -7,43 +7,12 @@ function folder = toolbox ()
   folder = fileparts (fileparts (which ('qn.run')));
 end
 
-% Files that users call, as {name, file}.
-function list = public_functions ()
-  folders = {'', ''; '+qn', 'qn.'; fullfile('+qn', '+plot'), 'qn.plot.'};
-  list = {'chandle', fullfile(toolbox (), '@chandle', 'chandle.m'); 'v_handle', fullfile(toolbox (), '@v_handle', 'v_handle.m'); ...
-          'delete', fullfile(toolbox (), '@chandle', 'delete.m')};
-  for k = 1:size (folders, 1)
-    files = dir (fullfile (toolbox (), folders{k, 1}, '*.m'));
-    for f = files(~strcmp ({files.name}, 'Contents.m')).'
-      list(end + 1, :) = {[folders{k, 2} f.name(1:end - 2)], fullfile(toolbox (), folders{k, 1}, f.name)};
-    end
-  end
-end
-
-% Help text of a file: its first block of comments, without the signs.
-function lines = help_of (file)
-  lines = strsplit (fileread (file), sprintf ('\n'));
-  last = find (cellfun (@(l) isempty (l) || l(1) ~= '%', lines), 1) - 1;
-  lines = regexprep (lines(1:last), '^% ?', '');
-end
-
-% Lines of a section: from its heading to the next line that is not indented.
-function body = section (lines, heading)
-  body = {};
-  at = find (strncmp (lines, heading, numel (heading)), 1);
-  if isempty (at), return, end
-  for k = at + 1:numel (lines)
-    if ~isempty (lines{k}) && lines{k}(1) ~= ' ', break, end
-    body{end + 1} = lines{k};
-  end
-end
-
 function test_every_function_has_all_sections_of_help ()
-  list = public_functions ();
+  list = toolbox_functions ();
   if size (list, 1) < 45, error ('only %d functions found', size (list, 1)); end
   for k = 1:size (list, 1)
     if strcmp (list{k, 1}, 'quarn'), continue, end
-    lines = help_of (list{k, 2});
+    lines = help_lines (list{k, 2});
     for heading = {'Purpose', 'Calls', 'Input', 'Errors', 'Example', 'See also'}
       if ~any (strncmp (lines, heading{1}, numel (heading{1}))) && ~strcmp ([list{k, 1} heading{1}], 'qn.plot.pageInput')
         error ('%s: no section "%s"', list{k, 1}, heading{1});
@@ -59,13 +28,13 @@ function test_every_function_has_all_sections_of_help ()
 end
 
 function test_every_example_in_the_help_runs ()
-  list = public_functions ();
+  list = toolbox_functions ();
   hidden = get (0, 'defaultfigurevisible');
   set (0, 'defaultfigurevisible', 'off');
   back = onCleanup (@() set (0, 'defaultfigurevisible', hidden));
   ran = 0;
   for k = 1:size (list, 1)
-    code = strjoin (section (help_of (list{k, 2}), 'Example'), sprintf ('\n'));
+    code = strjoin (help_lines (list{k, 2}, 'Example'), sprintf ('\n'));
     if isempty (strtrim (code)), error ('%s has no example', list{k, 1}); end
     try
       run_it (code);
@@ -86,9 +55,9 @@ function run_it (code)
 end
 
 function test_what_is_named_under_see_also_exists ()
-  list = public_functions ();
+  list = toolbox_functions ();
   for k = 1:size (list, 1)
-    lines = help_of (list{k, 2});
+    lines = help_lines (list{k, 2});
     at = find (strncmp (lines, 'See also', 8), 1);
     text = strjoin (lines(at:end), ' ');
     names = strtrim (strsplit (text(9:end), ','));
@@ -99,8 +68,8 @@ function test_what_is_named_under_see_also_exists ()
 end
 
 function test_the_help_of_quarn_names_every_function ()
-  list = public_functions ();
-  text = strjoin (help_of (fullfile (toolbox (), 'quarn.m')), sprintf ('\n'));
+  list = toolbox_functions ();
+  text = strjoin (help_lines (fullfile (toolbox (), 'quarn.m')), sprintf ('\n'));
   for k = 1:size (list, 1)
     if isempty (strfind (text, list{k, 1})) && ~strcmp (list{k, 1}, 'delete')
       error ('the help of quarn does not name %s', list{k, 1});
@@ -117,7 +86,7 @@ function test_the_contents_of_the_package_are_its_functions ()
   lines = help_of (fullfile (toolbox (), '+qn', 'Contents.m'));
   found = regexp (lines, '^  (\S+) +- (.*)$', 'tokens', 'once');
   found = found(~cellfun (@isempty, found));
-  list = public_functions ();
+  list = toolbox_functions ();
   list = list(strncmp (list(:, 1), 'qn.', 3), :);
   expect_equal (sort (cellfun (@(f) ['qn.' f{1}], found, 'uniformoutput', false)), sort (list(:, 1)).');
   for f = found

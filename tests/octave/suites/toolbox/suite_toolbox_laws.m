@@ -24,7 +24,7 @@ function test_mistakes_in_laws_are_explained ()
   expect_error (@() qn.law ('table', 'displacement', [0 2 1], 'force', [0 1 2]), 'qn:input', '~must ascend');
   expect_error (@() qn.law ('table', 'displacement', [0 2], 'force', [0 1 2]), 'qn:input', '~has 2 values and "force" has 3');
   expect_error (@() qn.slider ('slip', 0, 'stiffness', 1), 'qn:input', '~must be above 0');
-  expect_error (@() qn.maxwell ('springs', [1 2], 'times', 1), 'qn:input', '~2 springs and 1 times');
+  expect_error (@() qn.maxwell ('springs', [1 2], 'times', 1), 'qn:input', '~"times" must be 2 values, one a spring');
   expect_error (@() qn.gap ('gap', 1), 'qn:input', '~"stiffness" is missing');
   expect_error (@() qn.element (qn.law ('dahl', 'stiffness', 1, 'slip', 1), [1 0]), 'qn:input', '~needs the time step');
   expect_error (@() qn.element (qn.slider ('slip', 1, 'stiffness', 1), eye (2), 'step', 1, 'state', 3), 'qn:input', '~observes 1 rows, got 2');

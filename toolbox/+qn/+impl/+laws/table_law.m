@@ -51,4 +51,9 @@ end
 
 function found = check (law, x, h)
   found = qn.impl.beyond_table (law, x);
+  if strncmp (law.note, 'stop, preloaded', 15)
+    text = sprintf (['it pushes with %g N at zero displacement: a negative gap is a preload. A run that starts at 0 starts with that ' ...
+                     'force; for a start at rest give ''q0'' from qn.static'], qn.force (law, 0));
+    found(end + 1, :) = {'note', text};
+  end
 end

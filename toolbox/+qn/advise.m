@@ -49,7 +49,7 @@ function advice = advise (sim, varargin)
     c = cat (1, sim.elements.observe);
     if isempty (c), c = eye (numel (sim.model.w)); end
   else
-    c = qn.impl.looked_at (sim.model, o.rows, 'qn.advise: ');
+    c = qn.impl.looked_at (sim.model, o.rows, 'qn.advise: ', 'rows');
   end
   cuts = [1 2 4];
   if ~isequal (o.order, true), cuts = [1 2]; end

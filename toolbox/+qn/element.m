@@ -40,7 +40,7 @@ function e = element (law, c, varargin)
   o = qn.impl.options (who, struct ('command', c, 'step', [], 'state', [], 'slot', 0), varargin);
   t = qn.impl.traits (law, size (c, 1));
   if t.rows > 0 && size (c, 1) ~= t.rows
-    error ('qn:input', '%s: the law "%s" observes %d rows, got %d', who, law.kind, t.rows, size (c, 1));
+    error ('qn:input', '%s: the law "%s" observes %d rows, "C" has %d', who, law.kind, t.rows, size (c, 1));
   end
   o.command = full (qn.impl.numbers (who, 'command', o.command, size (c), 'each', 'as the observation rows'));
   o.slot = qn.impl.numbers (who, 'slot', o.slot, [1 1], 'from', 0, 'whole');

@@ -53,10 +53,11 @@ function law = law (kind, varargin)
   end
   same_length (who, p, sort (names(lists)));
   for name = of_sort (l, 'ascending')
-    k = find (diff (p.(name{1})) < 0, 1);
+    x = p.(name{1});
+    k = find (diff (x) < 0, 1);
     if ~isempty (k)
-      error ('qn:input', '%s: "%s" must ascend, but value %d is %g and value %d is %g; sort the table by it', who, name{1}, k, ...
-             p.(name{1})(k), k + 1, p.(name{1})(k + 1));
+      error ('qn:input', '%s: "%s" must ascend, but value %d is %g and value %d is %g; sort the table by it', who, name{1}, k, x(k), ...
+             k + 1, x(k + 1));
     end
   end
   for name = of_sort (l, 'positive')

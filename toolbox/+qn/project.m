@@ -32,7 +32,7 @@ function p = project (a, k, b)
   if ~isstruct (k), k = qn.impl.numbers ('qn.project', 'K', k, [NaN NaN]); end
   if isstruct (k), n = k.dims; else, n = size (k); end
   if size (a, 1) ~= n(1) || size (b, 1) ~= n(2) || n(1) ~= n(2)
-    error ('qn:input', 'qn.project: a matrix of %d x %d expected between bases of %d and %d rows, got %d x %d', size (a, 1), ...
+    error ('qn:input', 'qn.project: "K" must be %d x %d between bases of %d and %d rows, got %d x %d', size (a, 1), ...
            size (b, 1), size (a, 1), size (b, 1), n(1), n(2));
   end
   if ~isstruct (k), k = qn.pack (k); end

@@ -1,7 +1,8 @@
 % ROWS = NUMBER_ARGUMENTS ()  a valid call of each public function of the toolbox, with numbers in every argument that takes some
 %
 % A row is {function, {names of the arguments as its help calls them}, {arguments, then names and values}, exceptions}. An exception
-% is a row {argument, kinds of number, reason}, the first two regular expressions: what such a number gives is as documented.
+% is a row {argument, kinds of number, reason}, the first two regular expressions: what such a number gives is as documented. The kind
+% 'named' stands for errors that another function of the toolbox says under its own name.
 % suite_toolbox_arguments puts wrong numbers into each place; a function with more forms of call has more rows.
 function rows = number_arguments ()
   model = qn.modal (1e4 * [2 -1 0; -1 2 -1; 0 -1 1], diag ([1 2 3]), 'damping', 0.02);
@@ -18,12 +19,12 @@ function rows = number_arguments ()
   t = 0:0.1:0.7;
   file = [tempname() '.mtx'];
   rows = {
-    'chandle', {'I'}, {[1 2]}, {'I', 'nan|inf|logical', 'whether the handles exist is asked when the vector is used'
+    'chandle', {'I'}, {[1 2]}, {'I', 'nan|.*inf|logical|deep', 'whether the handles exist is asked when the vector is used'
                                 'I', 'longer|transposed|empty', any_length}
     'v_handle', {'FILE'}, {eye(2)}, {'FILE', '.*', 'what is no matrix is refused where it is used as one'}
     'delete', {'H'}, {}, {}
     'install_quarn', {'FOLDER'}, {}, {}
-    'qn.acceleration', {'RES', 'C', 'DOFS'}, {moved, row, 'absolute', false}, {'C', 'transposed', ''}
+    'qn.acceleration', {'RES', 'C', 'DOFS'}, {moved, row, 'absolute', false}, {}
     'qn.advise', {'SIM'}, {sim, 'rows', row, 'tolerance', 0.01, 'until', 0.02, 'order', false}, {'rows', 'empty', optional}
     'qn.backbone', {'MODEL', 'ELEMENTS', 'AMPLITUDE'}, ...
       {model, spring, [0.01 0.02], 'mode', 1, 'row', row, 'harmonics', 3, 'samples', 32}, {'row', 'empty', optional}
@@ -33,13 +34,13 @@ function rows = number_arguments ()
     'qn.bilinear', {}, {'first', 1, 'second', 2, 'at', 0.1}, {}
     'qn.check', {'SIM', 'RES'}, {sim, res}, {}
     'qn.command', {'MODEL', 'DOFS', 'WEIGHTS'}, {model, [1 3], [1 -1]}, {}
-    'qn.command', {'MODEL', 'ROWS'}, {model, [1 0 2; 0.5 0 1]}, {'ROWS', 'longer|transposed|logical|empty', ''}
+    'qn.command', {'MODEL', 'ROWS'}, {model, [1 0 2; 0.5 0 1]}, {'ROWS', 'logical|empty|char|cell', 'the message is that for DOFS'}
     'qn.contacts', {'RES', 'ROW'}, {res, 1}, {}
     'qn.contacts', {'TIME', 'FORCE'}, {t, t}, {}
     'qn.cubic', {}, {'stiffness', 2}, {}
     'qn.describe', {'X'}, {3}, {}
     'qn.displacement', {'RES', 'C'}, {res, row}, {}
-    'qn.displacement', {'RES', 'DOFS'}, {res, [1; 3]}, {'DOFS', 'longer', any_length}
+    'qn.displacement', {'RES', 'C', 'DOFS'}, {res, [1; 3]}, {'C', 'longer|transposed', any_length}
     'qn.dissipated', {'RES'}, {res}, {}
     'qn.element', {'LAW', 'C'}, {qn.slider('slip', 2, 'stiffness', 3), [1 0], 'command', [2 0], 'step', 0.1, 'state', 3, 'slot', 1}, {}
     'qn.energies', {'RES'}, {res}, {}
@@ -60,7 +61,8 @@ function rows = number_arguments ()
       {'C|attach', 'empty', optional; 'attach', 'longer|transposed', any_length}
     'qn.modal', {'S'}, {struct('K', 4, 'M', 1)}, {}
     'qn.observe', {'MODEL', 'DOFS', 'WEIGHTS'}, {model, [1 3], [1 -1]}, {}
-    'qn.observe', {'MODEL', 'ROWS'}, {model, sparse([1 0 2])}, {}
+    'qn.observe', {'MODEL', 'ROWS'}, {model, sparse([1 0 2])}, ...
+      {'ROWS', 'empty|logical|char|cell|deep|longer|transposed', 'what is not sparse is read as DOFS, and named so'}
     'qn.pack', {'A'}, {[1 2; 3 4; 5 6]}, {'A', 'longer|transposed|empty|logical', 'any matrix'}
     'qn.plot.loop', {'RES', 'K'}, {res, 1}, {}
     'qn.plot.loop', {'X', 'F'}, {t, t}, {}
@@ -71,7 +73,7 @@ function rows = number_arguments ()
     'qn.plot.picture', {'FIG', 'FILE'}, {}, {}
     'qn.plot.series', {'RES', 'C', 'NAMES'}, {res, row}, {}
     'qn.plot.series', {'RES', '', 'ROWS'}, {res, 'force', 1}, {'ROWS', 'longer', any_length}
-    'qn.plot.waterfall', {'TIME', 'SIGNAL'}, {t, t, 'parts', 3, 'hertz', [0 2]}, {'hertz', 'empty', optional}
+    'qn.plot.waterfall', {'TIME', 'SIGNAL'}, {0:0.1:3.1, 1:32, 'parts', 3, 'hertz', [0 2]}, {'hertz', 'empty', optional}
     'qn.plot.waterfall', {'HERTZ', 'SPECTRA'}, {t, [t; t + 1], 'along', [1 2], 'label', 'Speed', 'unit', 'm'}, ...
       {'SPECTRA', 'complex', 'amplitudes may be complex'; 'along', 'empty', 'times and a signal are then expected, and said to be missing'}
     'qn.project', {'A', 'K', 'B'}, {[1 2; 3 4; 5 6], magic(3), [1; 2; 3]}, ...
@@ -79,20 +81,20 @@ function rows = number_arguments ()
     'qn.rayleigh', {'HERTZ', 'ZETA'}, {[1 2], [0.1 0.2]}, {}
     'qn.resume', {'RES', 'FILE'}, {part, 'progress', false, 'piece', 5, 'save', '', 'interval', 30, 'stop', []}, {'piece', 'empty', optional}
     'qn.run', {'SIM'}, {sim, 'progress', false, 'piece', 5, 'save', '', 'interval', 30, 'stop', []}, {'piece', 'empty', optional}
-    'qn.scheme', {'[BETA GAMMA]'}, {[0.25 0.5]}, {}
+    'qn.scheme', {'[BETA GAMMA]'}, {[0.25 0.5]}, {'.*', 'cell', 'arguments in a cell'}
     'qn.scheme', {'NAME', 'RHO'}, {'damped', 0.5}, {}
     'qn.selftest', {}, {}, {}
     'qn.simulation', {'MODEL'}, {model, 'step', 1e-3, 'steps', 7, 'every', 2, 'scheme', [0.25 0.5], 'base', {[1 1 2], @sin}, ...
                                  'u0', [1 2 3], 'v0', [1 2 4], 'a0', [1 2 5], 'load', {[1 2 3.5], t; [1 2 4.5], [0 1; 2 3]}, ...
                                  'elements', {qn.cubic('stiffness', 100), row, 2 * row}}, ...
-      {'u0|v0', 'empty', optional; 'load\{2, 2', 'longer', any_length; 'load\{2, 2', 'transposed', 'a table of 2 x 2 cannot be told from its transpose'
+      {'scheme', 'named', 'qn.scheme says it'; 'scheme', 'cell', 'arguments in a cell'; 'u0|v0', 'empty', optional; 'load\{2, 2', 'longer', any_length; 'load\{2, 2', 'transposed', 'a table of 2 x 2 cannot be told from its transpose'
        'steps', 'empty', '"until" is then said to be missing'; 'elements\{1, 3', 'empty', optional}
-    'qn.simulation', {'MODEL'}, {model, 'step', 1e-3, 'until', 7e-3, 'times', [1e-3 2e-3], 'q0', [1 2 3], 'dq0', [1 2 4], 'start', []}, ...
-      {'q0|times', 'empty', optional; 'times', 'longer', any_length; 'until', 'empty', '"steps" is then said to be missing'}
+    'qn.simulation', {'MODEL'}, {model, 'step', 1e-3, 'until', 7e-3, 'times', [1e-3 2e-3], 'q0', [1 2 3], 'dq0', [1 2 4], 'start', [], 'fresh', []}, ...
+      {'q0|dq0|times', 'empty', optional; 'times', 'longer', any_length; 'until', 'empty', '"steps" is then said to be missing'}
     'qn.slider', {}, {'slip', 2, 'stiffness', 3}, {}
     'qn.spectrum', {'TIME', 'SIGNAL'}, {t, [t; t + 1], 'window', 'hann', 'mean', 'keep'}, {}
     'qn.srs', {'TIME', 'ACC', 'HERTZ', 'Q'}, {t, t, [1 2], 5}, {'HERTZ', 'longer|transposed', any_length; 'Q', 'inf', 'undamped'}
-    'qn.srs', {'RES', 'C', 'DOFS'}, {moved, row, [1 2]}, {}
+    'qn.srs', {'RES', 'C', 'HERTZ', 'DOFS'}, {moved, row, [1 2]}, {'HERTZ', 'longer|transposed', any_length; 'C', 'named', 'qn.acceleration says it'}
     'qn.static', {'MODEL', 'LOAD', 'ELEMENTS', 'Q0'}, {model, [1 2 3], spring, [0.1 0 0]}, {}
     'qn.stop', {}, {'gap', [0.1 0.2], 'stiffness', [1 2], 'inner', 0}, {}
     'qn.sweep', {'F', 'CASES'}, {@(p) 1, [1 2], 'folder', '', 'engine', 'serial', 'workers', 1, 'again', false, 'progress', false, ...

@@ -72,7 +72,7 @@ function fit (who, name, x, shape, one, r)
   elseif numel (shape) == 2
     matches = @(s) all (isnan (shape) | s == shape);
     good = good && matches (got);
-    if ~good && numel (got) == 2 && matches (got([2 1])), turned = '. It looks transposed: give X.'' instead of X'; end
+    if ~good && ~isempty (x) && numel (got) == 2 && matches (got([2 1])), turned = '. It looks transposed: give X.'' instead of X'; end
   end
   if ~good, error ('qn:input', '%s: "%s" must be %s, got %s%s', who, name, wanted, sized (x), turned); end
 end

@@ -46,6 +46,10 @@ function waterfall (x, y, varargin)
   if isempty (o.hertz), o.hertz = x([1 end]); end
   o.hertz = reshape (qn.impl.numbers (who, 'hertz', o.hertz, 2, 'ascending', 'each', '[low high]'), 1, []);
   shown = x >= o.hertz(1) & x <= o.hertz(2);
+  if sum (shown) < 2
+    error ('qn:input', '%s: "hertz" from %g to %g shows %d of %d frequencies from %g to %g Hz; at least two are needed', who, ...
+           o.hertz, sum (shown), numel (x), x([1 end]));
+  end
   [f, unit] = qn.impl.prefixed (y(:), o.unit);
   x = x(shown);
   y = f * abs (y(:, shown));

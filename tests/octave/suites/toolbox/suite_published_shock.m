@@ -68,8 +68,8 @@ function test_long_slow_and_still_records_have_spectra ()
   both = qn.srs (t(1:100), [acc(1:100); 2 * acc(1:100)], [10 20 30]);
   expect_equal (both(2, :), 2 * both(1, :), 1e-14);
   expect_error (@() qn.srs (t, [acc(2:end) NaN], 1), 'qn:input', '~is NaN; finite numbers expected');
-  expect_error (@() qn.srs (t, acc, NaN), 'qn:input', '~frequencies between');
-  expect_error (@() qn.srs (t, acc, 1, [1 2]), 'qn:input', '~quality factor');
+  expect_error (@() qn.srs (t, acc, 1e9), 'qn:input', '~"HERTZ" has 1e\+09; below .* Hz, half the sampling rate');
+  expect_error (@() qn.srs (t, acc, 1, [1 2]), 'qn:input', '~"Q" must be one finite real number');
 end
 
 function [k, m] = storeys ()

@@ -51,6 +51,9 @@ end
 function test_wrong_numbers_are_refused_with_function_and_argument ()
   wrong = {};
   tried = 0;
+  seen = 0;
+  % By default NaN everywhere, and every other of the rest.
+  all_of_them = ~isempty (getenv ('QUARN_FULL'));
   rows = number_arguments ();
   for k = 1:size (rows, 1)
     found = places (rows{k, 3}, rows{k, 2});
@@ -61,14 +64,18 @@ function test_wrong_numbers_are_refused_with_function_and_argument ()
       hostile = kinds (x);
       for i = 1:size (hostile, 1)
         if excepted (rows{k, 4}, found{j, 1}, hostile{i, 1}), continue, end
+        seen = seen + 1;
+        if ~all_of_them && i > 1 && mod (seen, 2), continue, end
         tried = tried + 1;
-        says = verdict (rows{k, 1}, subsasgn (rows{k, 3}, found{j, 2}, hostile{i, 2}), found{j, 1}, hostile{i, 1}, whole);
+        who = rows{k, 1};
+        if excepted (rows{k, 4}, found{j, 1}, 'named'), who = 'qn.'; end
+        says = verdict (rows{k, 1}, who, subsasgn (rows{k, 3}, found{j, 2}, hostile{i, 2}), found{j, 1}, hostile{i, 1}, whole);
         if ~isempty (says), wrong{end + 1} = sprintf ('%s, %s %s: %s', rows{k, 1}, found{j, 1}, hostile{i, 1}, says); end
       end
     end
   end
   close ('all');
-  if tried < 900, error ('only %d calls', tried); end
+  if tried < 600, error ('only %d calls', tried); end
   if ~isempty (wrong)
     error (['%d of %d calls. Check the argument with qn.impl.numbers (scalar, count, flag), or list why it is right in ' ...
             'tests/octave/support/number_arguments.m:\n%s'], numel (wrong), tried, strjoin (wrong, sprintf ('\n')));
@@ -83,14 +90,16 @@ function yes = excepted (list, place, kind)
 end
 
 % '' where the call is refused as it should be, or gives the result of the valid one although its number is only written otherwise.
-function says = verdict (name, args, place, kind, whole)
+function says = verdict (name, who, args, place, kind, whole)
   says = '';
   try
     got = result (name, args);
   catch err
     if ~strcmp (err.identifier, 'qn:input')
       says = sprintf ('[%s] %s', err.identifier, err.message);
-    elseif isempty (strfind (err.message, name)) || isempty (regexpi (err.message, regexptranslate ('escape', place), 'once'))
+    elseif strcmp (kind, 'longer') && ~isempty (strfind (err.message, who))
+      % Of two arguments of one length the other one may be named.
+    elseif isempty (strfind (err.message, who)) || isempty (regexpi (err.message, regexptranslate ('escape', place), 'once'))
       says = sprintf ('does not name them: %s', err.message);
     end
     if strcmp (kind, 'single'), says = sprintf ('refused: %s', err.message); end
@@ -141,8 +150,10 @@ end
 
 function list = kinds (x)
   last = @(y, value) subsasgn (y, substruct ('()', {numel(y)}), value);
-  list = {'nan', last(x, NaN); 'inf', last(x, Inf); 'minus inf', last(x, -Inf); 'complex', last(x, 1 + 2i); 'empty', []; 'char', 'ab'; ...
-          'logical', true(size (x)); 'cell', {x}; 'deep', cat(3, full (x), full (x))};
+  list = {'nan', last(x, NaN); 'inf', last(x, Inf); 'complex', last(x, 1 + 2i); 'empty', []; 'logical', true(size (x))};
+  if ~isempty (getenv ('QUARN_FULL'))
+    list = [list; {'minus inf', last(x, -Inf); 'char', 'ab'; 'cell', {x}; 'deep', cat(3, full (x), full (x))}];
+  end
   if size (x, 1) > 1 && size (x, 2) == 1
     list(end + 1, :) = {'longer', [x; x(end)]};
   else
@@ -155,11 +166,14 @@ end
 function x = result (name, args)
   close ('all');
   f = str2func (name);
-  if nargout (name) ~= 0
-    [unused, x] = evalc ('f (args{:})');
-  else
+  if strncmp (name, 'qn.plot.', 8)
+    evalc ('f (args{:});');
+    x = {get(findobj ('type', 'line'), {'xdata', 'ydata'}), get(findobj ('type', 'axes'), 'position'), get(gcf (), 'position')};
+  elseif nargout (name) == 0
     evalc ('f (args{:})');
-    x = get (findobj ('type', 'line'), {'xdata', 'ydata'});
+    x = [];
+  else
+    [unused, x] = evalc ('f (args{:})');
   end
   if isstruct (x) && isfield (x, 'options'), x = rmfield (x, 'options'); end
   if isstruct (x) && isfield (x, 'seconds'), x = rmfield (x, 'seconds'); end

@@ -27,7 +27,7 @@ function test_mistakes_in_laws_are_explained ()
   expect_error (@() qn.maxwell ('springs', [1 2], 'times', 1), 'qn:input', '~"times" must be 2 values, one a spring');
   expect_error (@() qn.gap ('gap', 1), 'qn:input', '~"stiffness" is missing');
   expect_error (@() qn.element (qn.law ('dahl', 'stiffness', 1, 'slip', 1), [1 0]), 'qn:input', '~needs the time step');
-  expect_error (@() qn.element (qn.slider ('slip', 1, 'stiffness', 1), eye (2), 'step', 1, 'state', 3), 'qn:input', '~observes 1 rows, got 2');
+  expect_error (@() qn.element (qn.slider ('slip', 1, 'stiffness', 1), eye (2), 'step', 1, 'state', 3), 'qn:input', '~observes 1 rows, "C" has 2');
   expect_error (@() qn.force (qn.slider ('slip', 1, 'stiffness', 1), 1), 'qn:input', '~has a memory');
 end
 

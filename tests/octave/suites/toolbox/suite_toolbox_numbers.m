@@ -82,3 +82,22 @@ function test_options_that_are_true_or_false_take_nothing_else ()
   refused (@() qn.run (sim, 'progress', 'no'), 'qn.run: "progress" is true or false, got [1 2] of class char');
   expect_equal (getfield (qn.run (sim, 'progress', 0), 'complete'), true);
 end
+
+function test_a_negative_gap_is_a_preload_and_is_said_so ()
+  law = qn.gap ('gap', -1e-3, 'stiffness', 1e5);
+  expect_equal (qn.force (law, [-2e-3 0]), [0 100], 1e-12);
+  model = qn.modal (4e4, 1);
+  found = qn.check (qn.simulation (model, 'step', 1e-4, 'until', 1, 'v0', 1, 'elements', {law, qn.observe(model, 1)}));
+  expect_equal (numel (found), 1);
+  expect_equal (found(1).level, 'note');
+  if isempty (strfind (found(1).text, 'pushes with 100 N at zero displacement: a negative gap is a preload')), error (found(1).text); end
+  refused (@() qn.stop ('gap', [1 -2], 'stiffness', 1), '~"gap" must be at least 0, got -2. A negative gap is a preload');
+end
+
+function test_laws_that_were_changed_by_hand_are_checked_again ()
+  law = qn.bilinear ('first', 1, 'second', 2, 'at', 0.1);
+  law.parameters.force(2) = NaN;
+  model = qn.modal (1, 1);
+  refused (@() qn.force (law, 1), 'qn.force: qn.law, ''table'': "force"(2) is NaN; finite numbers expected');
+  refused (@() qn.simulation (model, 'step', 0.1, 'steps', 2, 'elements', {law, 1}), '~element 1: qn.law, ''table'': "force"\(2\) is NaN');
+end

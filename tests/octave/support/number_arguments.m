@@ -33,8 +33,9 @@ function rows = number_arguments ()
     'qn.bearing', {}, {'deflection', [1 2 4], 'force', [1 2 3]}, {'deflection', 'empty', '"stiffness" is then said to be missing'}
     'qn.bilinear', {}, {'first', 1, 'second', 2, 'at', 0.1}, {}
     'qn.check', {'SIM', 'RES'}, {sim, res}, {}
-    'qn.command', {'MODEL', 'DOFS', 'WEIGHTS'}, {model, [1 3], [1 -1]}, {}
-    'qn.command', {'MODEL', 'ROWS'}, {model, [1 0 2; 0.5 0 1]}, {'ROWS', 'logical|empty|char|cell', 'the message is that for DOFS'}
+    'qn.load_at', {'MODEL', 'DOFS', 'WEIGHTS'}, {model, [1 3], [1 -1]}, {}
+    'qn.load_at', {'MODEL', 'ROWS'}, {model, [1 0 2; 0.5 0 1]}, {'ROWS', 'logical|empty|char|cell', 'the message is that for DOFS'}
+    'qn.command', {'MODEL', 'DOFS', 'WEIGHTS', 'ROWS'}, {model, [1 3], [1 -1]}, {'.*', 'named', 'an older name of qn.load_at'}
     'qn.contacts', {'RES', 'ROW'}, {res, 1}, {}
     'qn.contacts', {'TIME', 'FORCE'}, {t, t}, {}
     'qn.cubic', {}, {'stiffness', 2}, {}
@@ -57,8 +58,8 @@ function rows = number_arguments ()
     'qn.mmread', {'FILE'}, {}, {}
     'qn.mmwrite', {'FILE', 'A', 'COMMENT'}, {file, [1 2 3], 'a'}, {'A', 'complex|transposed|longer', 'any matrix'}
     'qn.modal', {'K', 'M'}, {model.K, model.M, 'modes', 2, 'damping', [0.1 0.2], 'rayleigh', [1 2], 'C', model.K, 'method', 'eig', ...
-                             'attach', [1 3]}, ...
-      {'C|attach', 'empty', optional; 'attach', 'longer|transposed', any_length}
+                             'attach', [1 3], 'G', [0 1 0; -1 0 0; 0 0 0], 'speed', 3, 'K', magic(3)}, ...
+      {'C|G|attach', 'empty', optional; 'K', 'empty', 'that of the option K'; 'attach', 'longer|transposed', any_length}
     'qn.modal', {'S'}, {struct('K', 4, 'M', 1)}, {}
     'qn.observe', {'MODEL', 'DOFS', 'WEIGHTS'}, {model, [1 3], [1 -1]}, {}
     'qn.observe', {'MODEL', 'ROWS'}, {model, sparse([1 0 2])}, ...

@@ -83,14 +83,14 @@ end
 
 % One line a function: its name, and the first line of its help without it. The groups are those of the help of quarn.
 function test_the_contents_of_the_package_are_its_functions ()
-  lines = help_of (fullfile (toolbox (), '+qn', 'Contents.m'));
+  lines = help_lines (fullfile (toolbox (), '+qn', 'Contents.m'));
   found = regexp (lines, '^  (\S+) +- (.*)$', 'tokens', 'once');
   found = found(~cellfun (@isempty, found));
   list = toolbox_functions ();
   list = list(strncmp (list(:, 1), 'qn.', 3), :);
   expect_equal (sort (cellfun (@(f) ['qn.' f{1}], found, 'uniformoutput', false)), sort (list(:, 1)).');
   for f = found
-    first = help_of (list{strcmp (list(:, 1), ['qn.' f{1}{1}]), 2});
+    first = help_lines (list{strcmp (list(:, 1), ['qn.' f{1}{1}]), 2});
     said = regexprep (first{1}, '^\S+ +', '');
     if ~strcmp (f{1}{2}, said), error ('Contents.m says of %s "%s", its help "%s"', f{1}{1}, f{1}{2}, said); end
   end

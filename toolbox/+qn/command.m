@@ -22,6 +22,8 @@
 %   isequal (qn.command (model, 2), qn.load_at (model, 2))      % true
 %
 % See also qn.load_at
-function b = command (varargin)
-  b = qn.load_at (varargin{:});
+function b = command (model, varargin)
+  if nargin < 1, model = []; end
+  qn.impl.made_by ('qn.command', model, 'qn.modal');
+  b = qn.load_at (model, varargin{:});
 end

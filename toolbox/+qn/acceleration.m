@@ -44,7 +44,7 @@ function a = acceleration (res, c, varargin)
   else
     rows = qn.impl.looked_at (model, c, [who ': ']);
   end
-  [v, a] = qn.impl.rates (res);
+  [v, a] = qn.impl.rates (res, 'qn.acceleration');
   a = rows * a;
   if ~qn.impl.flag (who, 'absolute', o.absolute), return, end
   if ~isfield (sim, 'base') || isempty (sim.base)

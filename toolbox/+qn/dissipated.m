@@ -36,7 +36,7 @@ function d = dissipated (res)
   if nargin < 1, res = []; end
   qn.impl.made_by ('qn.dissipated', res, 'qn.run');
   sim = res.sim;
-  if numel (sim.saved) ~= numel (sim.time), error ('qn:input', 'qn.dissipated: the energy of an element needs every step of the run'); end
+  qn.impl.every_step ('qn.dissipated', res);
   d = struct ('law', {}, 'absorbed', {}, 'stored', {}, 'exchanged', {}, 'dissipated', {});
   m = numel (sim.model.w);
   for e = sim.elements

@@ -39,7 +39,7 @@ function e = energies (res)
   if nargin < 1, res = []; end
   qn.impl.made_by ('qn.energies', res, 'qn.run');
   sim = res.sim;
-  v = qn.impl.rates (res);
+  v = qn.impl.rates (res, 'qn.energies');
   q = res.q;
   dq = diff (q, 1, 2);
   between = @(f) [0, cumsum(sum ((f(:, 1:end - 1) + f(:, 2:end)) / 2 .* dq, 1))];

@@ -9,7 +9,9 @@
 %   MODEL = qn.modal (S, ...)
 %
 % Input
-%   K, M   stiffness [N/m] and mass [kg], n x n, symmetric, M positive definite
+%   K, M   stiffness [N/m] and mass [kg], n x n, symmetric, M positive definite; or with rows of zeros for degrees of freedom
+%          without mass. Those follow the others statically, which is exact where no load and no element acts on them: what acts
+%          there directly also bends them, and that no mode holds.
 %   S      structure with the fields K, M and, if there is one, C: a physical model
 %   Names and values
 %     'modes'     how many modes to keep (all, at most 200)
@@ -22,7 +24,9 @@
 %                 alone; this one may couple them.
 %                 C, G and K are projected onto the modes. Where that leaves more than rounding beside the diagonal, the full
 %                 modal matrix is kept, and integrated implicitly as it is (a matrix gain, see docs/theory.md).
-%     'method'    'auto', 'eig' (dense) or 'eigs' (sparse, for many degrees of freedom)
+%     'method'    'auto': eigs for sparse matrices with more than 250 degrees of freedom and up to a quarter of the modes, where it
+%                 is faster, else eig; 'eig' (dense) or 'eigs' (sparse). Modes of eigs are checked: residuals, orthogonality, and
+%                 that none was left out; in doubt 'auto' takes eig ('auto')
 %     'attach'    where stiff elements or point loads will act: numbers of degrees of freedom, or load shapes, n values a column or a
 %                 row. The static responses to unit forces there that the modes do not hold are added as further, orthogonal
 %                 shapes behind the modes, so that the flexibility at those places is exact (Rubin 1975; docs/theory.md). On a
@@ -44,7 +48,8 @@
 % Errors
 %   qn:input  sizes do not fit, K or M is not symmetric (to 1e-6 of its greatest entry), the mass is not positive
 %             definite, a damping is negative or no number, G is not skew or comes without a speed; the places of
-%             'attach' are none, or a static response does not exist
+%             'attach' are none, a static response does not exist, or what has no mass is not held
+%   qn:eigs   with 'eigs' a mode was left out or is inaccurate
 %
 % Source
 %   L. Meirovitch, Computational Methods in Structural Dynamics, 1980; for rotors G. Genta, Dynamics of Rotating Systems, 2005
@@ -82,11 +87,8 @@ function model = modal (varargin)
   o = qn.impl.options (who, o, args(3:end));
   o.modes = qn.impl.count (who, 'modes', o.modes);
   count = min (o.modes, n);
-  if strcmp (o.method, 'auto')
-    o.method = 'eig';
-    if issparse (k) && n > 1500 && count < n / 5, o.method = 'eigs'; end
-  end
   [phi, w] = qn.impl.modes (k, m, count, o.method);
+  count = numel (w);
   if ~isnumeric (o.damping)
     error ('qn:input', '%s: "damping" is a number such as 0.02 for 2 %% of critical damping, got class %s', who, class (o.damping));
   end

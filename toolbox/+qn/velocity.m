@@ -28,7 +28,7 @@ function [v, a] = velocity (res, c)
   qn.impl.made_by ('qn.velocity', res, 'qn.run');
   if nargin < 2, error ('qn:input', 'qn.velocity: observation rows or degrees of freedom expected; see help qn.velocity'); end
   c = qn.impl.looked_at (res.sim.model, c, 'qn.velocity: ');
-  [v, a] = qn.impl.rates (res);
+  [v, a] = qn.impl.rates (res, 'qn.velocity');
   v = c * v;
   a = c * a;
 end

@@ -1,29 +1,81 @@
 % [PHI, W] = MODES (K, M, COUNT, METHOD)  lowest modes, PHI'*M*PHI = I, W ascending [rad/s]; largest entry of a shape positive
+%
+% Degrees of freedom without mass (rows of M that are zero) follow the others statically and add no modes. METHOD 'auto' takes eigs for
+% sparse matrices where that is faster (from 250 degrees of freedom on, for up to a quarter of the modes), and eig where the result
+% of eigs is in doubt.
 function [phi, w] = modes (k, m, count, method)
+  free = full (any (m, 2));
+  if any (free) && ~all (free)
+    follow = statically (k(~free, ~free), k(~free, free), find (~free));
+    [some, w] = qn.impl.modes (k(free, free) + k(free, ~free) * follow, m(free, free), min (count, sum (free)), method);
+    phi = zeros (numel (free), numel (w));
+    phi(free, :) = some;
+    phi(~free, :) = follow * some;
+    phi = upright (phi);
+    return
+  end
+  n = size (k, 1);
   switch method
+    case 'auto'
+      small = ~issparse (k) || n <= 250 || count > n / 4;
+      if ~small
+        [phi, lambda] = sparse_modes (k, m, count);
+        small = ~isempty (qn.impl.mode_doubt (k, m, phi, lambda));
+      end
+      if small, [phi, lambda] = dense_modes (k, m); end
     case 'eig'
-      [factor, bad] = chol (full ((m + m.') / 2));
-      if bad, error ('qn:input', 'qn.modal: the mass matrix is not positive definite'); end
-      a = (factor.' \ full (k)) / factor;
-      [x, lambda] = eig ((a + a.') / 2);
-      phi = factor \ x;
+      [phi, lambda] = dense_modes (k, m);
     case 'eigs'
-      % A small negative shift keeps K - sigma*M regular for structures that are free to move. The start vector is fixed, so
-      % that the modes are the same on every run.
-      sigma = -1e-6 * full (sum (abs (diag (k)))) / full (sum (abs (diag (m))));
-      start = cos ((1:size (k, 1)).');
-      [phi, lambda] = eigs (sparse (k), sparse (m), count, sigma, struct ('v0', start, 'issym', true));
+      [phi, lambda] = sparse_modes (k, m, count);
+      doubt = qn.impl.mode_doubt (k, m, phi, lambda);
+      if ~isempty (doubt), error ('qn:eigs', 'qn.modal: eigs did not find the lowest modes: %s; take ''method'', ''eig''', doubt); end
     otherwise
-      error ('qn:input', 'qn.modal: the method is ''auto'', ''eig'' or ''eigs'', not ''%s''', method);
+      error ('qn:input', 'qn.modal: "method" is ''auto'', ''eig'' or ''eigs'', not ''%s''', method);
   end
-  [lambda, order] = sort (real (diag (lambda)));
-  lambda = lambda(1:count);
-  phi = real (phi(:, order(1:count)));
-  w = sqrt (max (lambda, 0));
-  w(lambda < 1e-12 * max (abs (lambda))) = 0;
-  for j = 1:count
-    x = phi(:, j);
-    [unused, at] = max (abs (x));
-    phi(:, j) = x * (sign (x(at)) / sqrt (x.' * m * x));
+  phi = upright (phi(:, 1:count));
+  w = sqrt (max (lambda(1:count), 0));
+  w(lambda(1:count) < 1e-12 * max (abs (lambda(1:count)))) = 0;
+end
+
+function [phi, lambda] = dense_modes (k, m)
+  [factor, bad] = chol (full ((m + m.') / 2));
+  if bad
+    error ('qn:input', ['qn.modal: the mass matrix is not positive definite. Degrees of freedom without mass are condensed where their ' ...
+                        'rows of M are zero']);
   end
+  a = (factor.' \ full (k)) / factor;
+  [x, lambda] = eig ((a + a.') / 2);
+  [phi, lambda] = scaled (factor \ x, diag (lambda), m);
+end
+
+% A small negative shift keeps K - sigma*M regular for structures that are free to move. The start vector is fixed, so that the modes
+% are the same on every run.
+function [phi, lambda] = sparse_modes (k, m, count)
+  sigma = qn.impl.mode_shift (k, m);
+  start = cos ((1:size (k, 1)).');
+  [phi, lambda] = eigs (sparse (k), sparse (m), count, sigma, struct ('v0', start, 'issym', true));
+  [phi, lambda] = scaled (phi, diag (lambda), m);
+end
+
+function [phi, lambda] = scaled (phi, lambda, m)
+  [lambda, order] = sort (real (lambda));
+  phi = real (phi(:, order));
+  for j = 1:numel (lambda), phi(:, j) = phi(:, j) / sqrt (phi(:, j).' * m * phi(:, j)); end
+end
+
+function phi = upright (phi)
+  for j = 1:size (phi, 2)
+    [unused, at] = max (abs (phi(:, j)));
+    phi(:, j) = phi(:, j) * sign (phi(at, j));
+  end
+end
+
+% Displacements of degrees of freedom without mass, one row each, for unit displacements of the others.
+function follow = statically (own, coupling, numbers)
+  [factor, bad] = chol (own);
+  if bad
+    error ('qn:input', ['qn.modal: the degrees of freedom without mass (rows of M that are zero: %d of them, the first %d) are not held by ' ...
+                        'the stiffness'], numel (numbers), numbers(1));
+  end
+  follow = full (-(factor \ (factor.' \ coupling)));
 end

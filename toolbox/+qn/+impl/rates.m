@@ -1,12 +1,10 @@
-% [V, A] = RATES (RES)  modal velocities and accelerations at every step
+% [V, A] = RATES (RES, WHO)  modal velocities and accelerations at every step
 %
 % With g = loads - forces - K q, the run obeys a + C v = g at every step, and v' = v + h (1-gamma) a + h gamma a'.
-function [v, a] = rates (res)
+function [v, a] = rates (res, who)
   sim = res.sim;
-  if numel (sim.saved) ~= numel (sim.time)
-    error ('qn:input', 'velocities need every step of the run: leave "every" and "times" out of qn.simulation');
-  end
-  if ~res.complete, error ('qn:input', 'the run is not complete: go on with qn.resume first'); end
+  qn.impl.every_step (who, res);
+  if ~res.complete, error ('qn:input', '%s: the run is not complete: go on with qn.resume first', who); end
   m = numel (sim.model.w);
   g = sim.shapes * sim.loads - qn.impl.product (sim.model.stiffness, res.q);
   for e = sim.elements, g = g - e.command.' * res.force(e.forces, :); end

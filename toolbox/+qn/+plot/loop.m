@@ -49,5 +49,15 @@ function loop (what, force)
   [ff, uf] = qn.impl.prefixed (force(:), 'N');
   k = qn.impl.thinned (numel (x), 20000);
   plot (fx * x(k), ff * force(k), '-', 'color', qn.impl.colours (1), 'linewidth', qn.impl.width ());
+  axis ([around(fx * x(:)), around(ff * force(:))]);
   qn.impl.style (name, sprintf ('Displacement [%s]', ux), sprintf ('Force [%s]', uf), {});
+end
+
+% Limits with a twentieth of the range to spare on either side, so that no part of the line lies on the frame.
+function limits = around (x)
+  x = x(isfinite (x));
+  if isempty (x), x = 0; end
+  spare = 0.05 * (max (x) - min (x));
+  if spare == 0, spare = max (abs (x(1)), 1) / 10; end
+  limits = [min(x) - spare, max(x) + spare];
 end

@@ -101,3 +101,15 @@ function test_laws_that_were_changed_by_hand_are_checked_again ()
   refused (@() qn.force (law, 1), 'qn.force: qn.law, ''table'': "force"(2) is NaN; finite numbers expected');
   refused (@() qn.simulation (model, 'step', 0.1, 'steps', 2, 'elements', {law, 1}), '~element 1: qn.law, ''table'': "force"\(2\) is NaN');
 end
+
+function test_a_result_of_some_steps_says_what_it_cannot_give ()
+  sim = @(every) qn.simulation (qn.modal (4e4, 1), 'step', 1e-3, 'steps', 20, 'v0', 1, 'every', every);
+  some = qn.run (sim (5), 'progress', false);
+  whole = qn.run (sim (1), 'progress', false);
+  expect_equal (some.q, whole.q(:, 1:5:end));
+  for f = {@qn.velocity, @qn.acceleration}
+    refused (@() f{1} (some, 1), ['~^' func2str(f{1}) ': the result keeps 5 of 21 steps .*Run it anew without "every" and "times"']);
+  end
+  refused (@() qn.energies (some), '~^qn.energies: the result keeps 5 of 21 steps');
+  refused (@() qn.dissipated (some), '~^qn.dissipated: the result keeps 5 of 21 steps');
+end

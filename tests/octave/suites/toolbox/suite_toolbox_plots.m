@@ -98,3 +98,33 @@ function test_pictures_are_written_in_the_size_of_the_page ()
   if share < 0.005 || share > 0.3, error ('%g of the picture is dark', share); end
   expect_error (@() qn.plot.picture (fig, 'x.bmp'), 'qn:input', '~ends in png, pdf, svg or eps');
 end
+
+function test_labels_fit_on_a_page_of_three_by_two ()
+  fig = qn.plot.page ();
+  model = qn.modal (1e4, 1);
+  res = qn.run (qn.simulation (model, 'step', 1e-3, 'steps', 50, 'v0', 1), 'progress', false);
+  for k = 1:6
+    ax = qn.plot.panel (3, 2, k);
+    qn.plot.series (res, 1);
+    label = get (ax, 'ylabel');
+    text = get (label, 'string');
+    % A third of the 600 pixels is one panel's; a letter is less than a pixel wide for each pixel of its size in points.
+    if 0.9 * numel (text) * get (label, 'fontsize') > 200, error ('"%s" in %g points', text, get (label, 'fontsize')); end
+  end
+  close (fig);
+  fig = qn.plot.page ();
+  qn.plot.series (res, 1);
+  expect_equal (get (get (gca (), 'ylabel'), 'fontsize'), 12);
+  close (fig);
+end
+
+function test_a_force_loop_does_not_lie_on_its_frame ()
+  fig = qn.plot.page ();
+  qn.plot.loop ([-1 0 1], [0 0 20]);
+  expect_equal (get (gca (), 'xlim'), [-1.1 1.1], 1e-12);
+  expect_equal (get (gca (), 'ylim'), [-1 21], 1e-12);
+  qn.plot.loop ([1 1], [0 0]);
+  limits = get (gca (), 'xlim');
+  if ~(limits(1) < limits(2)), error ('no limits'); end
+  close (fig);
+end

@@ -1,0 +1,65 @@
+% Modes of large and of singular models.
+function tests = suite_toolbox_modes ()
+  use_toolbox ();
+  tests = localfunctions ();
+end
+
+% A square plate of N x N points with two unknowns each: many of its modes come in pairs.
+function [k, m] = plate (n)
+  e = ones (n, 1);
+  t = spdiags ([-e 2*e -e], -1:1, n, n);
+  a = kron (t, speye (n)) + kron (speye (n), t);
+  k = kron (a * a, sparse ([2 0.3; 0.3 1]));
+  m = kron (speye (n ^ 2) + 0.1 * kron (t, speye (n)), speye (2));
+end
+
+function test_large_sparse_models_give_the_modes_of_dense_ones ()
+  [k, m] = plate (14);
+  auto = qn.modal (k, m, 'modes', 40);
+  dense = qn.modal (k, m, 'modes', 40, 'method', 'eig');
+  expect_equal (auto.w, dense.w, 1e-9 * dense.w(end));
+  expect_equal (auto.shapes.' * m * auto.shapes, eye (40), 1e-10);
+  expect_equal (auto.shapes.' * k * auto.shapes, diag (auto.w .^ 2), 1e-9 * auto.w(end) ^ 2);
+  if isequal (auto.shapes, dense.shapes), error ('the dense method was taken'); end
+  expect_equal (qn.modal (k, m, 'modes', 40), auto);
+end
+
+function test_a_mode_that_eigs_leaves_out_is_noticed ()
+  [k, m] = plate (12);
+  model = qn.modal (k, m, 'modes', 30, 'method', 'eig');
+  expect_equal (qn.impl.mode_doubt (k, m, model.shapes, model.stiffness), '');
+  for missed = [1 2 5 12 20 28]
+    kept = [1:missed - 1, missed + 1:30];
+    text = qn.impl.mode_doubt (k, m, model.shapes(:, kept), model.stiffness(kept));
+    if isempty (strfind (text, 'there is one more at or below')), error ('mode %d: "%s"', missed, text); end
+  end
+  worse = model.shapes;
+  worse(7, 3) = worse(7, 3) * 1.01 + 1e-3;
+  if isempty (qn.impl.mode_doubt (k, m, worse, model.stiffness)), error ('an inaccurate mode passes'); end
+end
+
+function test_a_free_structure_of_many_points_keeps_its_rigid_motion ()
+  n = 400;
+  e = ones (n, 1);
+  k = spdiags ([-e [1; 2 * ones(n - 2, 1); 1] -e], -1:1, n, n);
+  model = qn.modal (k, speye (n), 'modes', 20);
+  expect_equal (model.w, 2 * sin (pi / (2 * n) * (0:19).'), 1e-10);
+end
+
+% Against the eigenvalues of the pencil, of which those without mass are infinite.
+function test_degrees_of_freedom_without_mass_are_condensed_exactly ()
+  k = [3 -1 0 0; -1 2 -1 0; 0 -1 2.5 -1; 0 0 -1 4];
+  m = diag ([1 0 2 0]);
+  for form = {@full, @sparse}
+    model = qn.modal (form{1} (k), form{1} (m));
+    wanted = eig (k, m);
+    wanted = sort (sqrt (wanted(isfinite (wanted) & abs (wanted) < 1e8)));
+    expect_equal (model.w, wanted, 1e-12);
+    expect_equal (k * model.shapes, m * model.shapes * diag (model.w .^ 2), 1e-12);
+  end
+  % A static push on the masses is found by the modes alone.
+  f = [1; 0; -2; 0];
+  expect_equal (model.shapes * ((model.shapes.' * f) ./ model.stiffness), k \ f, 1e-12);
+  expect_error (@() qn.modal (diag ([1 0]), diag ([1 0])), 'qn:input', '~without mass .* are not held by the stiffness');
+  expect_error (@() qn.modal (eye (2), ones (2)), 'qn:input', '~not positive definite');
+end

@@ -103,6 +103,7 @@ function rows = number_arguments ()
       {'CASES', '.*', anything; 'workers', 'empty', optional}
     'qn.unpack', {'S'}, {[1 2; 3 4; 5 6]}, {'S', '.*', 'a matrix stands for itself'}
     'qn.velocity', {'RES', 'C'}, {res, row}, {}
+    'qn.version', {}, {}, {}
     'qn.zener', {}, {'stiffness', 1, 'spring', 2, 'damper', 3}, {}
   };
   rows = [rows; laws()];

@@ -74,8 +74,8 @@ end
 function follow = statically (own, coupling, numbers)
   [factor, bad] = chol (own);
   if bad
-    error ('qn:input', ['qn.modal: the degrees of freedom without mass (rows of M that are zero: %d of them, the first %d) are not held by ' ...
-                        'the stiffness'], numel (numbers), numbers(1));
+    error ('qn:input', ['qn.modal: the degrees of freedom without mass (rows of M that are zero: %d of them, the first %d) are not ' ...
+                        'held by the stiffness'], numel (numbers), numbers(1));
   end
   follow = full (-(factor \ (factor.' \ coupling)));
 end

@@ -29,7 +29,7 @@ function limit = limit_of (sim, seen)
   limit = NaN;
   good = sim.step;
   if ~qn.impl.refused_step (sim, good, seen), return, end
-  for k = 1:40
+  for k = 1:20
     good = good / 2;
     if ~qn.impl.refused_step (sim, good, seen)
       bad = 2 * good;

@@ -34,13 +34,15 @@ function test_bar_with_a_spring_at_its_tip_has_the_published_roots ()
   kept = [.81056947 .90063274 .95960479 .97975259];
   rubin = [2.88812020 2.86360783 2.86278197 NaN];
   exact = fzero (@(x) x * cos (x) + 10 * sin (x), [2 3]);
+  c = published ('Clamped bar with a spring at its tip, residual flexibility and mass', ...
+                 'method of S. Rubin, AIAA Journal 13, 1975, in closed form for this bar', {'attachment vectors', 'modes'});
   expect_equal (exact, 2.86277259, 5e-9);
   for j = 1:numel (modes)
     [root, share] = first_root (qn.modal (k, m, 'modes', modes(j)));
     expect_equal ([root, share], [alone(j), kept(j)], 1e-8);
     [root, share] = first_root (qn.modal (k, m, 'modes', modes(j), 'attach', 1));
     expect_equal (share, 1, 1e-10);
-    if ~isnan (rubin(j)), expect_equal (root, rubin(j), 1e-8); end
+    if ~isnan (rubin(j)), expect_published (c, sprintf ('first root with %d modes', modes(j)), rubin(j), root, 3e-8); end
     if root < exact || root > exact + 0.026, error ('%d modes: %.9g', modes(j), root); end
   end
 end

@@ -1,0 +1,76 @@
+% A finite-element rotor with published critical speeds: its matrices through qn.modal, and its orbit under unbalance in a run.
+function tests = suite_published_rotor ()
+  use_toolbox ();
+  tests = localfunctions ();
+end
+
+% Nelson and McVaugh, 1976: 18 elements without shear, a disk at node 5, bearings of 4.378e7 N/m at nodes 11 and 15. One plane has the
+% degrees of freedom (deflection, slope) of each node; the gyroscopic matrix couples both planes with twice the rotary inertia.
+function [k, m, g] = plane ()
+  at = [0 1.27 5.08 7.62 8.89 10.16 10.67 11.43 12.70 13.46 16.51 19.05 22.86 26.67 28.70 30.48 31.50 34.54 35.56] / 100;
+  outer = [.51 1.02 .76 2.03 2.03 3.30 3.30 2.54 2.54 1.27 1.27 1.52 1.52 1.27 1.27 3.81 2.03 2.03] / 100;
+  inner = zeros (1, 18);
+  inner([7 8 18]) = [1.52 1.78 1.52] / 100;
+  k = zeros (38);
+  m = k;
+  g = k;
+  for j = 1:18
+    l = at(j + 1) - at(j);
+    area = pi * (outer(j) ^ 2 - inner(j) ^ 2);
+    second = pi / 4 * (outer(j) ^ 4 - inner(j) ^ 4);
+    d = 2 * j - 1:2 * j + 2;
+    k(d, d) = k(d, d) + 2.078e11 * second / l ^ 3 * [12 6*l -12 6*l; 6*l 4*l^2 -6*l 2*l^2; -12 -6*l 12 -6*l; 6*l 2*l^2 -6*l 4*l^2];
+    rotary = 7806 * second / (30 * l) * [36 3*l -36 3*l; 3*l 4*l^2 -3*l -l^2; -36 -3*l 36 -3*l; 3*l -l^2 -3*l 4*l^2];
+    m(d, d) = m(d, d) + rotary + 7806 * area * l / 420 * ...
+              [156 22*l 54 -13*l; 22*l 4*l^2 13*l -3*l^2; 54 13*l 156 -22*l; -13*l -3*l^2 -22*l 4*l^2];
+    g(d, d) = g(d, d) + 2 * rotary;
+  end
+  m(9:10, 9:10) = m(9:10, 9:10) + diag ([1.401 .00136]);
+  g(10, 10) = g(10, 10) + .00203;
+  for node = [11 15], k(2 * node - 1, 2 * node - 1) = k(2 * node - 1, 2 * node - 1) + 4.378e7; end
+end
+
+function model = rotor (rpm)
+  [k, m, g] = plane ();
+  none = zeros (size (g));
+  model = qn.modal (blkdiag (k, k), blkdiag (m, m), 'modes', 60, 'G', [none g; -g none], 'speed', rpm * pi / 30);
+end
+
+function test_critical_speeds_of_a_rotor ()
+  c = published ('Critical speeds of a rotor of 18 elements', 'H. D. Nelson and J. M. McVaugh, J. Engineering for Industry 98, 1976', ...
+                 {'modes', 'projection', 'gyroscopic matrix'});
+  model = rotor (30 / pi);
+  % Spin and whirl are one: K x = w^2 (I - i G) x.
+  rpm = sort (sqrt (real (eig (diag (model.stiffness), eye (60) - 1i * model.damping)))) * 30 / pi;
+  rpm = rpm(rpm > 100);
+  published_speeds = [15470 17159 46612 49983 64752 96547];
+  names = arrayfun (@(k) sprintf ('critical speed %d [rpm]', k), 1:6, 'uniformoutput', false);
+  expect_published (c, names, published_speeds, rpm(1:6), 6e-3 * published_speeds);
+  model = rotor (40000);
+  rpm = abs (imag (eig ([zeros(60), eye(60); -diag(model.stiffness), -model.damping]))) * 30 / pi;
+  rpm = sort (rpm(rpm > 100));
+  names = arrayfun (@(k) sprintf ('whirl speed %d at 40,000 rpm [rpm]', k), 1:6, 'uniformoutput', false);
+  expect_published (c, names, [14247.6 18334.2 46865.1 49669.8 68714.3 84802.3], rpm(1:2:11), 1);
+end
+
+% Disk mass centre 63.5 um off at 10,000 rpm, no damping: a run that starts on the orbit stays on it.
+function test_unbalance_orbit_of_a_rotor ()
+  c = published ('Unbalance orbit of a rotor of 18 elements', ...
+                 ['closed form (K - W^2 (M - G)) r = m e W^2 of the rotor of H. D. Nelson and J. M. McVaugh, J. Engineering for Industry ' ...
+                  '98, 1976'], {'gyroscopic matrix', 'several loads', 'initial state'});
+  w = 10000 * pi / 30;
+  model = rotor (10000);
+  f = 1.401 * 6.35e-5 * w ^ 2;
+  x = qn.load_at (model, 9);
+  y = qn.load_at (model, 38 + 9);
+  q = (diag (model.stiffness) - w ^ 2 * eye (60) + 1i * w * model.damping) \ (f * (x - 1i * y));
+  sim = qn.simulation (model, 'step', 2 * pi / w / 720, 'steps', 3 * 720, 'q0', real (q), 'dq0', real (1i * w * q), ...
+                       'load', {x, @(t) f * cos(w * t); y, @(t) f * sin(w * t)});
+  res = qn.run (sim);
+  at = @(dof) sqrt (sum (qn.displacement (res, qn.observe (model, dof + [0 38])) .^ 2, 1));
+  disk = at (9);
+  tip = at (1);
+  expect_published (c, {'radius at the disk after 3 turns [um]', 'radius at node 1 after 3 turns [um]'}, [20.43836 39.46272], ...
+                    1e6 * [disk(end) tip(end)], [2e-3 4e-3]);
+  expect_equal ([max(disk) / min(disk), max(tip) / min(tip)], [1 1], 1e-4);
+end

@@ -14,22 +14,24 @@ function [negative, positive, bound] = felt (acc, h, w, zeta)
   free = (c(end) * exp (l * h)) - 1i * slope(end) / wd;
   turn = mod (pi / 2 - angle (l * free), pi) / wd + [0, pi / wd];
   after = real (free * exp (l * turn));
-  [positive, above] = highest (acc, slope, c, h, w, l, max ([0, after]));
-  [negative, below] = highest (-acc, -slope, -c, h, w, l, max ([0, -after]));
+  y = [acc(1:end - 1) + real(c), real(free)];
+  widest = (w * h) ^ 2 / 8 * max (abs (c));
+  % In most intervals even the greatest vibration of all would not reach the extreme.
+  positive = max ([0, y, after]);
+  k = find (max (y(1:end - 1), y(2:end)) > positive - widest);
+  [positive, above] = highest (acc(k), slope(k), c(k), y(k), y(k + 1), h, w, l, positive);
+  negative = max ([0, -y, -after]);
+  k = find (min (y(1:end - 1), y(2:end)) < widest - negative);
+  [negative, below] = highest (-acc(k), -slope(k), -c(k), -y(k), -y(k + 1), h, w, l, negative);
   bound = max (above, below);
 end
 
-function [best, bound] = highest (acc, slope, c, h, w, l, best)
-  left = acc(1:end - 1) + real (c);
-  right = acc(2:end) + real (c * exp (l * h));
-  best = max ([best, left, right]);
-  a = acc(1:end - 1);
+% Parts of the length H that begin with A, end LEFT and RIGHT, and may hold more than BEST: each becomes ten.
+function [best, bound] = highest (a, slope, c, left, right, h, w, l, best)
   while true
-    rise = (w * h) ^ 2 / 8 * abs (c);
-    beyond = max (left, right) + rise - best;
+    beyond = max (left, right) + (w * h) ^ 2 / 8 * abs (c) - best;
     bound = max ([0, beyond]);
     if bound <= 1e-6 * best, break, end
-    % Parts that may hold more: each becomes ten.
     k = find (beyond > 0);
     h = h / 10;
     at = (0:9).' * h;

@@ -23,7 +23,7 @@ void chandleDiagNewmark::doStep(chandle** list, int nh, int j, ROr c) {
   const double t = column[rows];
   const double* loads = column + 1;
   c.t = t;
-  c.sums = onePass ? N : 0;
+  c.begunAtZero = onePass ? N : 0;
   data[5] = t;
 
   const auto block = static_cast<std::size_t>(Ndef);

@@ -25,7 +25,7 @@ struct ROr {
   std::size_t aLen = 0;
   std::size_t fnlLen = 0;
 
-  std::int32_t sums = 0;  ///< leading values of the residual that are sums begun at 0: none of them is a negative zero
+  std::int32_t begunAtZero = 0;  ///< leading values of the residual that are sums begun at 0: none is a negative zero
 };
 
 /// Builds the context of a call from its arguments: prhs[1] residual vector or handle list (only tested for complex values),

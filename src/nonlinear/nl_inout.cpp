@@ -108,12 +108,12 @@ void chandleNl_inout::observeBoth(const ROr& ro) const {
 void chandleNl_inout::addForces(const ROr& ro, double* r) {
   if (bBlock) {
     addDenseRows(b.rows, bLength, b.jc, bRows, snl, r + bFirst);
-    if (b.cols <= ro.sums) return;
+    if (b.cols <= ro.begunAtZero) return;
     for (int j = 0; j < bFirst; ++j) r[j] += 0.0;
     for (int j = bFirst + bLength; j < b.cols; ++j) r[j] += 0.0;
     return;
   }
-  if (bSparse && b.cols <= ro.sums) {
+  if (bSparse && b.cols <= ro.begunAtZero) {
     if (bPicks) {
       spread(b.rows, b.ir, b.jc, b.pr, snl, r, bWork);
     } else {

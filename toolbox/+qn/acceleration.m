@@ -32,7 +32,7 @@
 function a = acceleration (res, c, varargin)
   who = 'qn.acceleration';
   if nargin < 1, res = []; end
-  qn.impl.made_by (who, res, 'qn.run');
+  qn.impl.expect_result_of (who, res, 'qn.run');
   if nargin < 2, error ('qn:input', '%s: observation rows or degrees of freedom expected; see help qn.acceleration', who); end
   o = qn.impl.options (who, struct ('absolute', false), varargin);
   sim = res.sim;
@@ -42,7 +42,7 @@ function a = acceleration (res, c, varargin)
     physical = c;
     rows = full (c * model.shapes);
   else
-    rows = qn.impl.looked_at (model, c, [who ': ']);
+    rows = qn.impl.observation_rows (model, c, [who ': ']);
   end
   [v, a] = qn.impl.rates (res, 'qn.acceleration');
   a = rows * a;

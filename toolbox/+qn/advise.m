@@ -37,7 +37,7 @@
 % See also qn.check, qn.simulation, qn.run
 function advice = advise (sim, varargin)
   if nargin < 1, sim = []; end
-  qn.impl.made_by ('qn.advise', sim, 'qn.simulation');
+  qn.impl.expect_result_of ('qn.advise', sim, 'qn.simulation');
   who = 'qn.advise';
   o = qn.impl.options (who, struct ('rows', [], 'tolerance', 0.01, 'until', sim.time(end), 'order', true), varargin);
   qn.impl.scalar (who, 'tolerance', o.tolerance, realmin ());
@@ -49,7 +49,7 @@ function advice = advise (sim, varargin)
     c = cat (1, sim.elements.observe);
     if isempty (c), c = eye (numel (sim.model.w)); end
   else
-    c = qn.impl.looked_at (sim.model, o.rows, 'qn.advise: ', 'rows');
+    c = qn.impl.observation_rows (sim.model, o.rows, 'qn.advise: ', 'rows');
   end
   cuts = [1 2 4];
   if ~isequal (o.order, true), cuts = [1 2]; end

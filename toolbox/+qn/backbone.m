@@ -34,7 +34,7 @@
 % See also qn.harmonic, qn.cubic, qn.static
 function [hertz, r] = backbone (model, elements, amplitude, varargin)
   if nargin < 1, model = []; end
-  qn.impl.made_by ('qn.backbone', model, 'qn.modal');
+  qn.impl.expect_result_of ('qn.backbone', model, 'qn.modal');
   who = 'qn.backbone';
   o = qn.impl.options (who, struct ('mode', 1, 'row', [], 'harmonics', 7, 'samples', 256), varargin);
   m = numel (model.w);
@@ -46,7 +46,7 @@ function [hertz, r] = backbone (model, elements, amplitude, varargin)
     if ~iscell (elements) || size (elements, 2) < 2, error ('qn:input', '%s: without elements a "row" is needed', who); end
     o.row = elements{1, 2};
   end
-  row = qn.impl.looked_at (model, o.row, 'qn.backbone: ', 'row');
+  row = qn.impl.observation_rows (model, o.row, 'qn.backbone: ', 'row');
   if size (row, 1) ~= 1, error ('qn:input', '%s: "row" must be one observation row, got %d', who, size (row, 1)); end
   start = no_skew (who, model, o.mode);
   model.damping = zeros (m, 1);

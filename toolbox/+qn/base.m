@@ -24,7 +24,7 @@
 % See also qn.load_at, qn.simulation
 function b = base (model, push)
   if nargin < 1, model = []; end
-  qn.impl.made_by ('qn.base', model, 'qn.modal');
+  qn.impl.expect_result_of ('qn.base', model, 'qn.modal');
   n = size (model.shapes, 1);
   if nargin < 2, push = []; end
   push = qn.impl.numbers ('qn.base', 'PUSH', push, n, 'each', 'one a degree of freedom');

@@ -27,7 +27,7 @@
 % See also qn.simulation, qn.advise, qn.run
 function found = check (sim, res)
   if nargin < 1, sim = []; end
-  qn.impl.made_by ('qn.check', sim, 'qn.simulation');
+  qn.impl.expect_result_of ('qn.check', sim, 'qn.simulation');
   found = struct ('level', {}, 'text', {});
   found = joined (found, qn.impl.check_arrays (sim));
   if ~any (strcmp ({found.level}, 'error'))

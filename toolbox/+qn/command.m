@@ -24,6 +24,6 @@
 % See also qn.load_at
 function b = command (model, varargin)
   if nargin < 1, model = []; end
-  qn.impl.made_by ('qn.command', model, 'qn.modal');
+  qn.impl.expect_result_of ('qn.command', model, 'qn.modal');
   b = qn.load_at (model, varargin{:});
 end

@@ -29,7 +29,7 @@
 function c = contacts (what, force)
   if nargin < 1, what = []; end
   if isstruct (what) || nargin < 2
-    qn.impl.made_by ('qn.contacts', what, 'qn.run');
+    qn.impl.expect_result_of ('qn.contacts', what, 'qn.run');
     time = what.time;
     row = 1;
     if nargin > 1, row = force; end

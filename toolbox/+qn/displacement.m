@@ -27,7 +27,7 @@
 % See also qn.velocity, qn.observe, qn.plot.series
 function u = displacement (res, c)
   if nargin < 1, res = []; end
-  qn.impl.made_by ('qn.displacement', res, 'qn.run');
+  qn.impl.expect_result_of ('qn.displacement', res, 'qn.run');
   if nargin < 2, error ('qn:input', 'qn.displacement: observation rows or degrees of freedom expected; see help qn.displacement'); end
-  u = qn.impl.looked_at (res.sim.model, c, 'qn.displacement: ') * res.q;
+  u = qn.impl.observation_rows (res.sim.model, c, 'qn.displacement: ') * res.q;
 end

@@ -34,7 +34,7 @@
 % See also qn.energies, qn.slider, qn.plot.loop
 function d = dissipated (res)
   if nargin < 1, res = []; end
-  qn.impl.made_by ('qn.dissipated', res, 'qn.run');
+  qn.impl.expect_result_of ('qn.dissipated', res, 'qn.run');
   sim = res.sim;
   qn.impl.every_step ('qn.dissipated', res);
   d = struct ('law', {}, 'absorbed', {}, 'stored', {}, 'exchanged', {}, 'dissipated', {});

@@ -37,7 +37,7 @@
 % See also qn.dissipated, qn.velocity, qn.advise
 function e = energies (res)
   if nargin < 1, res = []; end
-  qn.impl.made_by ('qn.energies', res, 'qn.run');
+  qn.impl.expect_result_of ('qn.energies', res, 'qn.run');
   sim = res.sim;
   v = qn.impl.rates (res, 'qn.energies');
   q = res.q;

@@ -37,7 +37,7 @@
 % See also qn.backbone, qn.static, qn.run
 function r = harmonic (model, load, elements, hertz, varargin)
   if nargin < 1, model = []; end
-  qn.impl.made_by ('qn.harmonic', model, 'qn.modal');
+  qn.impl.expect_result_of ('qn.harmonic', model, 'qn.modal');
   who = 'qn.harmonic';
   o = qn.impl.options (who, struct ('harmonics', 5, 'samples', 128, 'points', 400, 'step', 0.02), varargin);
   hertz = qn.impl.numbers (who, 'HERTZ', hertz, 2, 'above', 0, 'each', '[first last] frequency');

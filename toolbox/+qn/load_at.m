@@ -25,7 +25,7 @@
 % See also qn.observe, qn.base, qn.simulation
 function b = load_at (model, varargin)
   if nargin < 1, model = []; end
-  qn.impl.made_by ('qn.load_at', model, 'qn.modal');
+  qn.impl.expect_result_of ('qn.load_at', model, 'qn.modal');
   if nargin < 2, error ('qn:input', 'qn.load_at: degrees of freedom or rows expected; see help qn.load_at'); end
   b = qn.impl.observed ('qn.load_at', model, varargin{:}).';
 end

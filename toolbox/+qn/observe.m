@@ -29,7 +29,7 @@
 % See also qn.load_at, qn.modal, qn.simulation
 function c = observe (model, varargin)
   if nargin < 1, model = []; end
-  qn.impl.made_by ('qn.observe', model, 'qn.modal');
+  qn.impl.expect_result_of ('qn.observe', model, 'qn.modal');
   n = size (model.shapes, 1);
   if nargin < 2, error ('qn:input', 'qn.observe: numbers of degrees of freedom, from 1 to %d, expected; see help qn.observe', n); end
   c = qn.impl.observed ('qn.observe', model, varargin{:});

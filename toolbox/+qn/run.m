@@ -48,7 +48,7 @@
 % See also qn.simulation, qn.resume, qn.check, qn.displacement, qn.plot.series
 function res = run (sim, varargin)
   if nargin < 1, sim = []; end
-  qn.impl.made_by ('qn.run', sim, 'qn.simulation');
+  qn.impl.expect_result_of ('qn.run', sim, 'qn.simulation');
   m = numel (sim.model.w);
   k = sum (sim.saved == 1);
   res = struct ('time', sim.time(sim.saved(1:k)), 'q', zeros (m, k), 'force', zeros (numel ([sim.elements.forces]), k), ...
@@ -57,7 +57,7 @@ function res = run (sim, varargin)
   if any (sim.saved == 1)
     res.q(:, 1) = sim.start.u(1:m);
     res.state(:, 1) = sim.start.u(m + 1:end);
-    res.force(:, 1) = sim.start.FNL(qn.impl.meaningful (sim));
+    res.force(:, 1) = sim.start.FNL(qn.impl.force_slots (sim));
   end
   res = qn.impl.advance (res, qn.impl.run_options ('qn.run', varargin));
 end

@@ -50,7 +50,7 @@
 function sim = simulation (model, varargin)
   who = 'qn.simulation';
   if nargin < 1, model = []; end
-  qn.impl.made_by (who, model, 'qn.modal');
+  qn.impl.expect_result_of (who, model, 'qn.modal');
   o = struct ('step', '<required>', 'until', [], 'steps', [], 'scheme', 'average', 'load', {{}}, 'base', {{}}, ...
               'elements', {{}}, 'every', 1, 'times', [], 'u0', [], 'v0', [], 'q0', [], 'dq0', [], 'a0', 'consistent', ...
               'start', [], 'fresh', []);
@@ -58,7 +58,7 @@ function sim = simulation (model, varargin)
   o.step = qn.impl.scalar (who, 'step', o.step, realmin ());
   first = 0;
   if ~isempty (o.start)
-    qn.impl.made_by ([who ', "start"'], o.start, 'qn.run');
+    qn.impl.expect_result_of ([who ', "start"'], o.start, 'qn.run');
     qn.impl.not_diverged (who, o.start);
     % Times are counted from the same origin, in whole steps, so that a continued run sees the same bits.
     first = round (o.start.time_end / o.step);

@@ -45,7 +45,7 @@ function [a, positive, negative, bound] = srs (time, acc, hertz, q)
   if nargin < 4, q = 10; end
   if isstruct (time)
     res = time;
-    qn.impl.made_by (who, res, 'qn.run');
+    qn.impl.expect_result_of (who, res, 'qn.run');
     acc = qn.acceleration (res, acc, 'absolute', isfield (res.sim, 'base') && ~isempty (res.sim.base));
     time = res.time;
   end

@@ -31,7 +31,7 @@
 % See also qn.harmonic, qn.backbone, qn.law
 function [q, info] = static (model, load, elements, q)
   if nargin < 1, model = []; end
-  qn.impl.made_by ('qn.static', model, 'qn.modal');
+  qn.impl.expect_result_of ('qn.static', model, 'qn.modal');
   who = 'qn.static';
   m = numel (model.w);
   if nargin < 4, q = zeros (m, 1); end
@@ -65,7 +65,7 @@ function [q, info] = static (model, load, elements, q)
     error ('qn:diverged', '%s: no equilibrium found; residual %g of the load. Start nearer to it, or load in steps', who, norm (r) / scale);
   end
   [unused, forces] = qn.impl.forces (sim, qn.impl.values (sim, 1), q, zeros (m, 1));
-  info = struct ('residual', norm (r) / scale, 'iterations', n, 'forces', forces(qn.impl.meaningful (sim)));
+  info = struct ('residual', norm (r) / scale, 'iterations', n, 'forces', forces(qn.impl.force_slots (sim)));
 end
 
 function r = residual (h, q, load)

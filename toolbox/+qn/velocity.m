@@ -25,9 +25,9 @@
 % See also qn.displacement, qn.energies, qn.plot.phase
 function [v, a] = velocity (res, c)
   if nargin < 1, res = []; end
-  qn.impl.made_by ('qn.velocity', res, 'qn.run');
+  qn.impl.expect_result_of ('qn.velocity', res, 'qn.run');
   if nargin < 2, error ('qn:input', 'qn.velocity: observation rows or degrees of freedom expected; see help qn.velocity'); end
-  c = qn.impl.looked_at (res.sim.model, c, 'qn.velocity: ');
+  c = qn.impl.observation_rows (res.sim.model, c, 'qn.velocity: ');
   [v, a] = qn.impl.rates (res, 'qn.velocity');
   v = c * v;
   a = c * a;

@@ -22,9 +22,11 @@ function [e, states, slots] = elements (model, list, who)
     if ~isstruct (laws) || ~isfield (laws, 'kind'), error ('qn:input', '%s: element %d needs a law, from qn.law or a recipe', who, k); end
     laws = qn.impl.sound_law (sprintf ('%s: element %d', who, k), laws);
     where = sprintf ('%s: element %d: ', who, k);
-    c = qn.impl.looked_at (model, list{k, 2}, where, sprintf ('elements{%d, 2}', k));
+    c = qn.impl.observation_rows (model, list{k, 2}, where, sprintf ('elements{%d, 2}', k));
     b = c;
-    if size (list, 2) > 2 && ~isempty (list{k, 3}), b = qn.impl.looked_at (model, list{k, 3}, where, sprintf ('elements{%d, 3}', k)); end
+    if size (list, 2) > 2 && ~isempty (list{k, 3})
+      b = qn.impl.observation_rows (model, list{k, 3}, where, sprintf ('elements{%d, 3}', k));
+    end
     if ~isequal (size (b), size (c))
       error ('qn:input', '%sas many rows to act through as to observe expected, got %d and %d', where, size (b, 1), size (c, 1));
     end

@@ -23,5 +23,5 @@ function [s, out, wanted] = piece (sim, s, h, to)
   s.a = a;
   s.FNL = model.FNL;
   s.column = to;
-  out = struct ('q', out.def(1:m, :), 'state', out.def(m + 1:end, :), 'force', out.FNL.def(qn.impl.meaningful (sim), :));
+  out = struct ('q', out.def(1:m, :), 'state', out.def(m + 1:end, :), 'force', out.FNL.def(qn.impl.force_slots (sim), :));
 end

@@ -27,7 +27,7 @@ function loop (what, force)
   name = 'Force loop';
   if nargin < 2, error ('qn:input', 'qn.plot.loop: a result and an element, or displacements and forces expected'); end
   if isstruct (what)
-    qn.impl.made_by ('qn.plot.loop', what, 'qn.run');
+    qn.impl.expect_result_of ('qn.plot.loop', what, 'qn.run');
     force = qn.impl.count ('qn.plot.loop', 'K', force);
     members = what.sim.elements([what.sim.elements.item] == force);
     if isempty (members) || size (members(1).observe, 1) ~= 1

@@ -26,7 +26,7 @@
 function orbit (res, cx, cy, clearance)
   if nargin < 3, error ('qn:input', 'qn.plot.orbit: a result and two observation rows expected; see help qn.plot.orbit'); end
   if nargin < 4, clearance = 0; end
-  qn.impl.made_by ('qn.plot.orbit', res, 'qn.run');
+  qn.impl.expect_result_of ('qn.plot.orbit', res, 'qn.run');
   x = one_row (res, cx, 'CX');
   y = one_row (res, cy, 'CY');
   clearance = qn.impl.scalar ('qn.plot.orbit', 'CLEARANCE', clearance, 0);
@@ -46,7 +46,7 @@ function orbit (res, cx, cy, clearance)
 end
 
 function x = one_row (res, c, name)
-  row = qn.impl.looked_at (res.sim.model, c, 'qn.plot.orbit: ', name);
+  row = qn.impl.observation_rows (res.sim.model, c, 'qn.plot.orbit: ', name);
   if size (row, 1) ~= 1, error ('qn:input', 'qn.plot.orbit: "%s" must be one observation row, got %d', name, size (row, 1)); end
   x = row * res.q;
 end

@@ -26,8 +26,8 @@
 function phase (res, c, period)
   who = 'qn.plot.phase';
   if nargin < 2, error ('qn:input', '%s: a result and an observation row expected; see help %s', who, who); end
-  qn.impl.made_by (who, res, 'qn.run');
-  c = qn.impl.looked_at (res.sim.model, c, [who ': ']);
+  qn.impl.expect_result_of (who, res, 'qn.run');
+  c = qn.impl.observation_rows (res.sim.model, c, [who ': ']);
   if nargin > 2, period = qn.impl.scalar (who, 'PERIOD', period, realmin ()); end
   x = c * res.q;
   v = c * qn.impl.rates (res, 'qn.plot.phase');

@@ -27,7 +27,7 @@
 % See also qn.plot.phase, qn.plot.loop, qn.plot.page
 function series (res, c, varargin)
   if nargin < 1, res = []; end
-  qn.impl.made_by ('qn.plot.series', res, 'qn.run');
+  qn.impl.expect_result_of ('qn.plot.series', res, 'qn.run');
   if nargin < 2, error ('qn:input', 'qn.plot.series: observation rows or ''force'' expected; see help qn.plot.series'); end
   if ischar (c)
     if ~strcmp (c, 'force') || isempty (varargin)
@@ -42,7 +42,7 @@ function series (res, c, varargin)
     [factor, unit] = qn.impl.prefixed (y(:), 'N');
     what = 'Force';
   else
-    y = qn.impl.looked_at (res.sim.model, c, 'qn.plot.series: ') * res.q;
+    y = qn.impl.observation_rows (res.sim.model, c, 'qn.plot.series: ') * res.q;
     [factor, unit] = qn.impl.prefixed (y(:), 'm');
     what = 'Displacement';
   end

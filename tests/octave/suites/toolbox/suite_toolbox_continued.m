@@ -89,7 +89,7 @@ function test_another_gap_and_another_load_act_from_the_start_on ()
   continues (res, model, 'elements', {qn.gap('gap', 0.002, 'stiffness', 1e4), row});
   continues (res, model, 'elements', {qn.cubic('stiffness', 1e8), row; qn.gap('gap', 0.001, 'stiffness', 1e5), qn.observe(model, 1)});
   continues (res, model);
-  continues (res, model, 'load', {qn.command(model, 2), @(t) 50 * ones(size (t))});
+  continues (res, model, 'load', {qn.load_at(model, 2), @(t) 50 * ones(size (t))});
 end
 
 % One mass on a spring with an elastic slider, stepped plainly: F grows with k v h up to the slip force.

@@ -1,10 +1,10 @@
-% ROWS = LOOKED_AT (MODEL, C, WHERE, NAME)  observation rows, from themselves or from the numbers of degrees of freedom
+% ROWS = OBSERVATION_ROWS (MODEL, C, WHERE, NAME)  observation rows, from themselves or from the numbers of degrees of freedom
 %
 % A vector of distinct whole numbers from 1 to n is a list of degrees of freedom. Where it could as well be a row of modal values,
 % and one a different one, it is refused: a wrong guess would give a wrong curve without a word. What is sparse is never a list.
 % With a single degree of freedom 1 is its number.
 % WHERE begins the texts of errors ('qn.displacement: '), NAME is the argument ('C').
-function rows = looked_at (model, c, where, name)
+function rows = observation_rows (model, c, where, name)
   if nargin < 4, name = 'C'; end
   m = numel (model.w);
   n = size (model.shapes, 1);

@@ -1,5 +1,5 @@
-% MADE_BY (WHO, X, MAKER)  refuses X unless it looks like the result of MAKER: qn.modal, qn.simulation or qn.run
-function made_by (who, x, maker)
+% EXPECT_RESULT_OF (WHO, X, MAKER)  refuses X unless it looks like the result of MAKER: qn.modal, qn.simulation or qn.run
+function expect_result_of (who, x, maker)
   switch maker
     case 'qn.modal', fields = {'shapes', 'w'};
     case 'qn.simulation', fields = {'model', 'time', 'saved', 'start'};

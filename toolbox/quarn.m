@@ -43,6 +43,10 @@
 %   setting up     install_quarn, qn.selftest, qn.version
 %   older names    qn.command (now qn.load_at)
 %
+% Numbers in these functions are finite and real, unless a help text says otherwise. Single precision and integer classes are
+% converted to double; truth values and characters are refused where a number is meant. What is wrong is an error with the
+% identifier qn:input that names function, argument, place and value.
+%
 % Example
 %   model = qn.modal (4e4, 1, 'damping', 0.01);
 %   stop = qn.gap ('gap', 0.002, 'stiffness', 1e6);

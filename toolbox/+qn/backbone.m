@@ -22,7 +22,7 @@
 %   R          struct as of qn.harmonic
 %
 % Errors
-%   qn:input     sizes do not fit, a law has a memory, or damping or stiffness of the model is not symmetric
+%   qn:input     sizes do not fit, a value is not finite, a law has a memory, or damping or stiffness of the model is not symmetric
 %   qn:diverged  the curve cannot be followed; take amplitudes closer to one another
 %
 % Example

@@ -14,7 +14,7 @@
 %   B       m x 1 [sqrt(kg)]: times the base acceleration [m/s^2] it is the modal force
 %
 % Errors
-%   qn:input  PUSH has not n values
+%   qn:input  PUSH has not n values, or one is not finite
 %
 % Example
 %   model = qn.modal (1e6 * [2 -1; -1 1], eye (2), 'damping', 0.02);

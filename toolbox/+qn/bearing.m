@@ -21,7 +21,7 @@
 %   LAW   table law; see qn.law
 %
 % Errors
-%   qn:input  a parameter is missing or makes no sense, or a measured curve does not ascend
+%   qn:input  a parameter is missing, not one finite number or out of its range, or a measured curve does not ascend
 %
 % Example
 %   ball = qn.bearing ('stiffness', 1e10, 'clearance', 10e-6, 'range', 200e-6);

@@ -17,7 +17,7 @@
 %   LAW   table law; see qn.law
 %
 % Errors
-%   qn:input  a parameter is missing or unknown, the bend is not above 0
+%   qn:input  a parameter is missing, unknown or not one finite number, or the bend is not above 0
 %
 % Example
 %   spring = qn.bilinear ('first', 1e5, 'second', 4e5, 'at', 0.01);

@@ -18,7 +18,7 @@
 %           output argument a table is printed.
 %
 % Errors
-%   qn:input  there is no such row, or the lengths differ
+%   qn:input  there is no such row, the lengths differ, the times do not ascend in equal steps, or a value is not finite
 %
 % Example
 %   t = 0:1e-3:1;

@@ -14,7 +14,7 @@
 %   LAW   power law; see qn.law
 %
 % Errors
-%   qn:input  the stiffness is missing or no number
+%   qn:input  the stiffness is missing or not one finite number
 %
 % Example
 %   qn.force (qn.cubic ('stiffness', 2), [-1 0 3])      % [-2 0 54] N

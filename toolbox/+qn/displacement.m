@@ -17,7 +17,8 @@
 %   U      p x k, one row an observation, one column a time of RES.time [m]
 %
 % Errors
-%   qn:input  C has another number of columns than there are modes, or may be a row or a list of numbers
+%   qn:input  C has another number of columns than there are modes, a value that is not finite or a number outside 1 ... n, or may be
+%             a row or a list of numbers
 %
 % Example
 %   model = qn.modal (1e4 * [2 -1; -1 1], eye (2));

@@ -21,7 +21,7 @@
 %   E     struct for quarn ('chandleset', 1003, E)
 %
 % Errors
-%   qn:input  rows, step or state do not fit the law
+%   qn:input  rows, step, state or slot do not fit the law, or are not finite
 %
 % Example
 %   e = qn.element (qn.law ('power', 'stiffness', 100, 'exponent', 3), [1 -1]);

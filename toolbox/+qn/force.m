@@ -17,7 +17,7 @@
 %   F     row of forces [N]; for 'clima2' three rows. Laws with memory start without force or displacement.
 %
 % Errors
-%   qn:input  V or H is missing, or has another size
+%   qn:input  V or H is missing or has another size, or a value is not finite
 %
 % Example
 %   h = 1e-3;

@@ -21,7 +21,7 @@
 %   LAW   table law; see qn.law
 %
 % Errors
-%   qn:input  a parameter is missing or unknown, a stiffness or thickness is negative
+%   qn:input  a parameter is missing, unknown or not one finite number, a stiffness or thickness is negative
 %
 % Example
 %   stop = qn.gap ('gap', 0.015, 'stiffness', 1e8, 'padding', 0.002, 'soft', 1e7);

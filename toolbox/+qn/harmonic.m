@@ -26,7 +26,7 @@
 %                 amplitude  m x k, greatest value of each mode over a period
 %
 % Errors
-%   qn:input     sizes do not fit, or a law has a memory
+%   qn:input     sizes do not fit, a value is not finite, or a law has a memory
 %   qn:diverged  no answer at the first frequency
 %
 % Example

@@ -20,7 +20,7 @@
 %   LAWS  1 x n struct array of laws; qn.simulation puts all of them behind the same observation
 %
 % Errors
-%   qn:input  parameters are missing or not above 0
+%   qn:input  parameters are missing, not finite or not above 0, or the numbers of slips and stiffnesses differ
 %
 % Example
 %   joint = qn.iwan ('slip', 100, 'stiffness', 1e6, 'sliders', 5);

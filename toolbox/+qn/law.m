@@ -28,7 +28,7 @@
 %   LAW   struct: kind, parameters (struct of the values), note (text)
 %
 % Errors
-%   qn:input  unknown kind or name, a parameter is missing or has a value that makes no sense
+%   qn:input  unknown kind or name, a parameter is missing, not finite and real or out of its range, a table does not ascend
 %
 % Example
 %   brace = qn.law ('power', 'stiffness', 5e9, 'exponent', 3);

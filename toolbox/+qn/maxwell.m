@@ -20,7 +20,7 @@
 %         relaxation time.
 %
 % Errors
-%   qn:input  parameters are missing, not above 0, or not as many dampers as springs
+%   qn:input  parameters are missing, not finite or not above 0, or not as many dampers as springs
 %
 % Example
 %   mount = qn.maxwell ('stiffness', 2e5, 'springs', [1e5 5e4], 'times', [0.01 0.1]);

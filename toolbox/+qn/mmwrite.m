@@ -14,7 +14,7 @@
 %   COMMENT   line of text for the head of the file, such as the units
 %
 % Errors
-%   qn:input  A is not a matrix, or the file cannot be written
+%   qn:input  A is not a matrix of finite numbers, or the file cannot be written
 %
 % Example
 %   file = [tempname() '.mtx'];

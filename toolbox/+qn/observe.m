@@ -19,7 +19,7 @@
 %   C        p x m, one row an observation [1/sqrt(kg)]
 %
 % Errors
-%   qn:input  a number outside 1 ... n, or weights of another length
+%   qn:input  a number outside 1 ... n, weights of another length, or a value that is not finite
 %
 % Example
 %   model = qn.modal (1e6 * [2 -1; -1 1], eye (2));

@@ -20,7 +20,7 @@
 %               trans 0, or 1 for the transposed form
 %
 % Errors
-%   qn:input  A is not a real matrix, or has more stored values than 32-bit indices can count
+%   qn:input  A is not a matrix of finite real numbers, or has more stored values than 32-bit indices can count
 %
 % Example
 %   s = qn.pack (sparse ([4 0; 1 5]));

@@ -16,7 +16,7 @@
 %   P   p x q [unit of K times the units of the bases]
 %
 % Errors
-%   qn:input  the sizes do not fit, or bases of different width are complex
+%   qn:input  the sizes do not fit, a value is not finite, or bases of different width are complex
 %
 % Example
 %   k = sparse ([2 -1; -1 2]);

@@ -14,7 +14,7 @@
 %   AB     [alpha beta] [1/s, s]
 %
 % Errors
-%   qn:input  not two different positive frequencies, or not one or two ratios
+%   qn:input  not two different positive frequencies, or not one or two finite ratios
 %
 % Example
 %   ab = qn.rayleigh ([2 20], 0.03);

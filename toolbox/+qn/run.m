@@ -37,7 +37,7 @@
 %   qn:diverged; 'start' and qn.resume refuse its result. The handles of the run
 %   are freed in every case; by the module's rule the values of its nonlinear elements, a few kilobytes, stay in memory until the
 %   host ends.
-%   qn:input  the file of 'save' cannot be written (asked before the run)
+%   qn:input  the file of 'save' cannot be written (asked before the run), or an option has a value that makes no sense
 %
 % Example
 %   model = qn.modal (4e4, 1, 'damping', 0.02);

@@ -19,7 +19,7 @@
 %   S      struct: beta, gamma, order, limit (largest stable w*h of a linear undamped mode, Inf if there is none), name
 %
 % Errors
-%   qn:input  unknown name, GAMMA below 1/2, BETA not above 0, RHO outside (0, 1]
+%   qn:input  unknown name, GAMMA below 1/2, BETA not above 0, RHO outside (0, 1], or a value that is not finite
 %
 % Example
 %   s = qn.scheme ('damped', 0.8)

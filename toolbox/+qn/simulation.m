@@ -38,7 +38,8 @@
 %   SIM   struct: model, scheme, step, time (1 x steps+1) [s], saved (columns of time), shapes, loads, elements, start, ...
 %
 % Errors
-%   qn:input  something is missing, unknown or of the wrong size; the message says what is expected
+%   qn:input  something is missing, unknown, of the wrong size or no finite real number, or the times of a table do not ascend; the
+%             message names argument, place and value and says what is expected
 %
 % Example
 %   model = qn.modal (4e4, 1, 'damping', 0.02);

@@ -16,7 +16,7 @@
 %   LAW   Dahl law with exponent 0; see qn.law
 %
 % Errors
-%   qn:input  a parameter is missing or unknown, or not above 0
+%   qn:input  a parameter is missing, unknown, not one finite number or not above 0
 %
 % Example
 %   t = (0:200) / 200;

@@ -18,7 +18,7 @@
 %   X        p x n complex amplitudes [unit of the signal]; abs (X) is what to plot
 %
 % Errors
-%   qn:input  the lengths differ, the times are not evenly spaced, or a name is unknown
+%   qn:input  the lengths differ, a value is not finite, the times are not evenly spaced, or a name is unknown
 %
 % Example
 %   t = (0:999) * 1e-3;

@@ -20,7 +20,7 @@
 %   INFO      struct: residual (relative to the load), iterations, forces (of the elements [N])
 %
 % Errors
-%   qn:input     sizes do not fit, or a law has a memory
+%   qn:input     sizes do not fit, a value is not finite, or a law has a memory
 %   qn:diverged  no equilibrium found in 100 iterations
 %
 % Example

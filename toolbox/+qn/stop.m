@@ -16,7 +16,7 @@
 %   LAW   table law; see qn.law
 %
 % Errors
-%   qn:input  a parameter is missing or unknown, a gap or stiffness is negative
+%   qn:input  a parameter is missing, unknown or not finite, a gap or stiffness is negative (for a preload see qn.gap)
 %
 % Example
 %   support = qn.stop ('gap', 0.001, 'stiffness', 1e7);

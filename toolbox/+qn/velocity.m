@@ -15,7 +15,7 @@
 %   V, A  p x k velocities [m/s] and accelerations [m/s^2]
 %
 % Errors
-%   qn:input  the result keeps only some of the steps, or the run was cut short
+%   qn:input  the result keeps only some of the steps, or the run was cut short; C as for qn.displacement
 %
 % Example
 %   model = qn.modal (1e4, 1);

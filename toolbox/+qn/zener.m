@@ -17,7 +17,7 @@
 %   LAW   Maxwell law with one branch; see qn.maxwell
 %
 % Errors
-%   qn:input  a parameter is missing or not above 0
+%   qn:input  a parameter is missing, not one finite number or not above 0
 %
 % Example
 %   isolator = qn.zener ('stiffness', 1e5, 'spring', 2e5, 'damper', 1e3);

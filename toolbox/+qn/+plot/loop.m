@@ -13,7 +13,7 @@
 %   X, F  1 x k displacements [m] and forces [N] instead
 %
 % Errors
-%   qn:input  there is no such element, or it observes several displacements
+%   qn:input  there is no such element, it observes several displacements, the lengths differ, or a value is not finite
 %
 % Example
 %   t = (0:2000) * 1e-3;

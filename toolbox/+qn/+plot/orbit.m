@@ -13,7 +13,7 @@
 %   CLEARANCE   radius of a circle to draw [m]
 %
 % Errors
-%   qn:input  the rows do not fit the model
+%   qn:input  the rows do not fit the model, or are not one row each; CLEARANCE is negative or not finite
 %
 % Example
 %   model = qn.modal (1e4 * eye (2), eye (2), 'damping', 0.02);

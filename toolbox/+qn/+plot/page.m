@@ -14,7 +14,7 @@
 %   FIG   handle of the figure, now the current one
 %
 % Errors
-%   Those of the host.
+%   qn:input  WIDTH or HEIGHT is not one number of at least 100
 %
 % Example
 %   fig = qn.plot.page (600, 400);

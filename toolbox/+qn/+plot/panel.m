@@ -14,7 +14,7 @@
 %   AX             handle of the axes, now the current ones
 %
 % Errors
-%   qn:input  there is no such panel
+%   qn:input  there is no such panel, or a number is not whole
 %
 % Example
 %   fig = qn.plot.page ();

@@ -13,7 +13,7 @@
 %   PERIOD   period of the load [s]
 %
 % Errors
-%   qn:input  C has more than one row, or the result keeps only some of the steps
+%   qn:input  C has more than one row, PERIOD is not above 0, or the result keeps only some of the steps
 %
 % Example
 %   model = qn.modal (1e4, 1, 'damping', 0.02);

@@ -15,7 +15,7 @@
 %   NAMES   cell of p texts for the legend
 %
 % Errors
-%   qn:input  the rows do not fit the model
+%   qn:input  the rows do not fit the model, or there are no such rows of forces
 %
 % Example
 %   model = qn.modal (1e4 * [2 -1; -1 1], eye (2), 'damping', 0.02);

@@ -20,7 +20,7 @@
 %     'unit'    unit of the signal ('m')
 %
 % Errors
-%   qn:input  lengths differ
+%   qn:input  lengths differ, a value is not finite, times or frequencies do not ascend, or 'hertz' leaves less than two to show
 %
 % Example
 %   t = 0:1e-3:10;

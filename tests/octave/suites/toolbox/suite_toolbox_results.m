@@ -55,8 +55,8 @@ end
 function test_results_with_steps_left_out_say_what_they_cannot_give ()
   model = qn.modal (1, 1);
   res = qn.run (qn.simulation (model, 'step', 0.1, 'steps', 100, 'every', 2, 'v0', 1));
-  expect_error (@() qn.velocity (res, 1), 'qn:input', '~every step');
-  expect_error (@() qn.energies (res), 'qn:input', '~every step');
+  expect_error (@() qn.velocity (res, 1), 'qn:input', '~keeps 51 of 101 steps');
+  expect_error (@() qn.energies (res), 'qn:input', '~keeps 51 of 101 steps');
   part = qn.run (qn.simulation (model, 'step', 0.1, 'steps', 100, 'v0', 1), 'piece', 10, 'stop', @(r) true);
   expect_error (@() qn.velocity (part, 1), 'qn:input', '~qn.resume');
 end

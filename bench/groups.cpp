@@ -10,8 +10,15 @@ bool runGroup(const char* name) {
     void (*run)();
   };
   constexpr Group groups[] = {
-      {"product", benchProduct},     {"modes", benchModes},   {"handles", benchHandles},         {"modal elements", benchModalElements},
-      {"laws", benchLaws},           {"tables", benchTables}, {"projections", benchProjections}, {"guards", benchGuards},
+      {"product", benchProduct},
+      {"modes", benchModes},
+      {"gain", benchGain},
+      {"handles", benchHandles},
+      {"modal elements", benchModalElements},
+      {"laws", benchLaws},
+      {"tables", benchTables},
+      {"projections", benchProjections},
+      {"guards", benchGuards},
       {"equations", benchEquations},
   };
   for (const Group& g : groups) {

@@ -39,7 +39,8 @@ Modes spreadModes(int n) {
   return m;
 }
 
-ModalRun::ModalRun(const Modes& m, const std::vector<double>& loads, int states) : modes(m), steps(static_cast<int>(loads.size())) {
+ModalRun::ModalRun(const Modes& m, const std::vector<double>& loads, int states, const std::vector<double>& gain)
+    : modes(m), steps(static_cast<int>(loads.size())) {
   const auto n = static_cast<std::size_t>(m.n);
   const std::size_t rows = n + static_cast<std::size_t>(states);
   u = matrix(rows, 1);
@@ -53,7 +54,8 @@ ModalRun::ModalRun(const Modes& m, const std::vector<double>& loads, int states)
   const NewmarkCoefficients k = m.coefficients();
   value = scalarStruct({{"r", matrix(n, 3, join({filled(n, 0.0), m.shape, m.gains()}))},
                         {"tft", matrix(2, loads.size() + 1, table)},
-                        {"data", matrix(6, 1, {k.dt, k.uFromA, k.vFromA, k.vFromD, k.aFromD, 0.0})}});
+                        {"data", matrix(6, 1, {k.dt, k.uFromA, k.vFromA, k.vFromD, k.aFromD, 0.0})},
+                        {"gain", gain.empty() ? matrix(0, 0) : matrix(n, n, gain)}});
   mem = scalarStruct({{"uva", scalarStruct({{"uva", matrix(4 * rows, 1)}})}});
   out = scalarStruct({{"def", matrix(rows, 1)}});
   model = scalarStruct({{"K", matrix(0, 0)}});

@@ -29,7 +29,8 @@ Modes spreadModes(int n);
 class ModalRun {
  public:
   /// One step for each load: loads[j] acts in the step from column j. states: rows of u, v and a behind the modes.
-  ModalRun(const Modes& m, const std::vector<double>& loads, int states = 0);
+  /// gain: n x n, or none for a gain per mode.
+  ModalRun(const Modes& m, const std::vector<double>& loads, int states = 0, const std::vector<double>& gain = {});
   void add(chandle* h) { handles.push_back(h); }
   void start();                       ///< u = v = a = 0, then binds and checks everything
   void bind();                        ///< reads the values, as at the head of a call; nothing that has been checked is known any more

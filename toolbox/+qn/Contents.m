@@ -41,6 +41,7 @@
 %   advise         - how long the time step may be, from runs with h, h/2 and h/4
 %   run            - runs a simulation
 %   resume         - goes on with a run that was stopped or cut short
+%   interrupted    - what the last run reached that was ended by Ctrl-C or by an error
 %
 % Sweeps
 %   sweep          - runs one set-up over many sets of parameters

@@ -9,7 +9,8 @@
 %
 % Input
 %   RES    result of qn.run with complete = false; a complete one is returned as it is
-%   FILE   .mat file that qn.run wrote with 'save'
+%   FILE   .mat file that qn.run wrote with 'save'. It is read as data, and nothing in it is executed; a file that was edited or cut
+%          is refused in words, and so is one of version 0.1: give qn.resume (load (FILE)) instead if you trust it.
 %   Names and values: as for qn.run; 'save' is FILE unless it is given ('': none)
 %
 % Output
@@ -29,9 +30,8 @@ function res = resume (what, varargin)
   if nargin < 1, what = []; end
   file = '';
   if ischar (what)
-    if ~exist (what, 'file'), error ('qn:input', 'qn.resume: there is no file %s', what); end
     file = what;
-    res = load (what);
+    res = qn.impl.files.read_run ('qn.resume', file);
   else
     res = what;
   end

@@ -12,10 +12,11 @@
 %   Names and values
 %     'progress'  true: say every second how much is done and how long it will take (true)
 %     'piece'     steps in one piece; [] makes pieces of about half a second ([])
-%     'save'      name of a .mat file for the state and the results so far ('': none). It is replaced as a whole, so that an
-%                 interruption leaves the last one.
-%     'interval'  seconds between two of those (30); it is also written at the end. Each writes all results so far, some
-%                 seconds for 100 MB: choose a longer one for large results.
+%     'save'      name of a .mat file for the state and the results so far ('': none). It is replaced as a whole, after what was
+%                 written has been read again: an interruption or a full disk leaves the last good one, and the warning qn:save
+%                 says so while the run goes on. qn.resume reads it.
+%     'interval'  seconds between two of those (30); it is also written at the end. Each writes all results so far, about a second
+%                 for 100 MB: choose a longer one for large results.
 %     'stop'      function of the results so far, called between pieces: true ends the run ([]). Columns after r.time_end are
 %                 there already and are NaN.
 %
@@ -36,7 +37,8 @@
 %   Those of the module. A run whose motion grows beyond all numbers (1e150) ends at its last good time, with the warning
 %   qn:diverged; 'start' and qn.resume refuse its result. The handles of the run
 %   are freed in every case; by the module's rule the values of its nonlinear elements, a few kilobytes, stay in memory until the
-%   host ends.
+%   host ends. Ctrl-C, or an error in the function of 'stop', ends a run at once: its state is saved where 'save' is given, else
+%   qn.interrupted gives what it reached; a line says which.
 %   qn:input  the file of 'save' cannot be written (asked before the run), or an option has a value that makes no sense
 %
 % Example

@@ -4,14 +4,17 @@ function res = advance (res, o)
   last = numel (sim.time);
   kept = sum (sim.saved <= res.final.column);
   res = qn.impl.sized (res, numel (sim.saved));
-  if ~isempty (o.save), can_write (o.save); end
+  if ~isempty (o.save), o.save = can_write (o.save); end
   h = qn.impl.register (res.final.values);
   free = onCleanup (@() delete (h));
+  reached = containers.Map ();
+  watch = onCleanup (@() ended_early (reached, o));
   begun = tic ();
   before = res.seconds;
   from = res.final.column;
   told = 0;
   written = 0;
+  noting = 0;
   chunk = 1000;
   if ~isempty (o.piece), chunk = o.piece; end
   while res.final.column < last
@@ -43,10 +46,18 @@ function res = advance (res, o)
                told * (last - res.final.column) / (res.final.column - from));
       if exist ('OCTAVE_VERSION', 'builtin'), fflush (stdout ()); end
     end
-    stop = res.diverged || (~isempty (o.stop) && o.stop (res));
-    if stop || res.complete || ~isempty (o.save) && toc (begun) - written >= o.interval
+    if ~res.diverged && ~res.complete && toc (begun) >= noting
+      % Until the copy that this is has cost a twentieth of the time.
+      noted = tic ();
       res.final.values = current (res.final.values, h);
-      if ~isempty (o.save), keep (qn.impl.sized (res, kept), o.save); end
+      reached('run') = qn.impl.sized (res, kept);
+      noting = toc (begun) + 20 * toc (noted);
+    end
+    stop = res.diverged || (~isempty (o.stop) && o.stop (res));
+    due = ~isempty (o.save) && toc (begun) - written >= o.interval;
+    if stop || res.complete || due, res.final.values = current (res.final.values, h); end
+    if ~isempty (o.save) && (stop || res.complete || due)
+      qn.impl.files.save_run (qn.impl.sized (res, kept), o.save, o.progress);
       written = toc (begun);
     end
     if res.diverged
@@ -56,6 +67,7 @@ function res = advance (res, o)
     if stop, break, end
   end
   res = qn.impl.sized (res, kept);
+  if reached.isKey ('run'), reached.remove ('run'); end
 end
 
 % One answer a column. Squares of what is let pass are numbers still.
@@ -63,30 +75,30 @@ function good = within_numbers (x)
   good = all (abs (x) < 1e150, 1);
 end
 
-% Asked before the run, not after it.
-function can_write (file)
-  [id, why] = fopen ([file '.part'], 'w');
-  if id < 0, error ('qn:input', 'qn.run: cannot write %s: %s', file, why); end
-  fclose (id);
-  delete ([file '.part']);
-end
-
 % The elements with their present memory.
 function values = current (values, h)
   for k = 3:size (values, 1), values{k, 2} = quarn ('chandleget', remi (h, k)); end
 end
 
-% Functions do not survive in a file, and a file half written is no use.
-function keep (res, file)
-  res.sim.options = [];
-  part = [file '.part'];
-  tidy = onCleanup (@() remove (part));
-  save (part, '-struct', 'res', '-v7');
-  [done, why] = movefile (part, file, 'f');
-  if ~done, error ('qn:input', 'qn.run: cannot write %s: %s', file, why); end
+% Asked before the run, not after it. FILE comes back with its whole path: a function of the user may change the folder.
+function file = can_write (file)
+  [folder, whole, why] = qn.impl.files.beside (file);
+  if isempty (folder), error ('qn:input', 'qn.run: cannot write %s: %s', file, why); end
+  [~, ~] = rmdir (folder);
+  file = whole;
 end
 
-% What an interruption leaves.
-function remove (file)
-  if exist (file, 'file'), delete (file); end
+% A run that is ended from outside, by Ctrl-C or by an error in the function of 'stop': what it has reached is not lost.
+function ended_early (reached, o)
+  if ~reached.isKey ('run'), return, end
+  res = reached('run');
+  share = 100 * (res.final.column - 1) / (numel (res.sim.time) - 1);
+  if ~isempty (o.save) && qn.impl.files.save_run (res, o.save, o.progress)
+    fprintf ('  the run ended early; its state at %g s (%.0f %%) is saved: res = qn.resume (''%s'') goes on\n', res.time_end, share, ...
+             strrep (o.save, '''', ''''''));
+  else
+    qn.impl.interrupted (res);
+    fprintf ('  the run ended early; part = qn.interrupted () gives what it reached, %g s (%.0f %%), qn.resume (part) goes on\n', ...
+             res.time_end, share);
+  end
 end

@@ -2,7 +2,8 @@
 %
 % Elements match that have the same kind of law and observe and act at the same place: rows that are equal, or nearest within 5 % in
 % the norm of the modes where LINK leads from other modes. Of several at one place each takes from the one with the same parameters;
-% where parameters have changed, but not the number, the first takes from the first. FRESH: rows of the list of elements that begin without a memory.
+% where parameters have changed, but not the number, the first takes from the first. FRESH: rows of the list of
+% elements that begin without a memory.
 function from = matched (sim, before, link, fresh)
   [e, b] = deal (sim.elements, before.elements);
   n = numel (e);

@@ -202,6 +202,7 @@ function test_initial_values_beside_an_earlier_run_are_refused ()
     expect_error (@() qn.simulation (model, 'step', 0.01, 'steps', 5, 'start', res, name{1}, 1), 'qn:input', ['~leave out "' name{1} '"']);
   end
   expect_error (@() qn.simulation (model, 'step', 0.01, 'steps', 5, 'start', 3), 'qn:input', '~"start" expects the result of qn.run');
-  expect_error (@() qn.simulation (model, 'step', 0.03, 'steps', 5, 'start', res), 'qn:input', '~no multiple of the step; a step of 0.025.* fits');
+  expect_error (@() qn.simulation (model, 'step', 0.03, 'steps', 5, 'start', res), 'qn:input', ...
+                '~no multiple of the step; a step of 0.025.* fits');
   expect_equal (getfield (qn.simulation (model, 'step', 0.01, 'steps', 5, 'start', res, 'a0', 7), 'start', 'a'), 7);
 end

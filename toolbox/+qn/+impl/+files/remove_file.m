@@ -1,0 +1,11 @@
+% REMOVE_FILE (FILE)  removes one file, by its name as it stands; nothing happens where there is none
+function remove_file (file)
+  if exist ('OCTAVE_VERSION', 'builtin')
+    [~, ~] = unlink (file);
+  elseif usejava ('jvm')
+    target = java.io.File (file);
+    target.delete ();
+  else
+    delete (file);
+  end
+end

@@ -35,7 +35,11 @@
 %
 % Errors
 %   Those of the module. A run whose motion grows beyond all numbers (1e150) ends at its last good time, with the warning
-%   qn:diverged; 'start' and qn.resume refuse its result. The handles of the run
+%   qn:diverged; 'start' and qn.resume refuse its result. The warning qn:growth says between two pieces that the motion has more than
+%   nine times the energy that it can have: that of the state it began with, what elements can give back, and what the loads can have
+%   put in at most, (integral of their norm)^2 / 2 added to the root. That holds for every passive set-up, at resonance too; nothing is
+%   said where forces may feed the motion by right (unsymmetric stiffness, negative damping, elements that act elsewhere than they
+%   observe, laws whose energy has no bound). warning ('off', 'qn:growth') switches it off. The handles of the run
 %   are freed in every case; by the module's rule the values of its nonlinear elements, a few kilobytes, stay in memory until the
 %   host ends. Ctrl-C, or an error in the function of 'stop', ends a run at once: its state is saved where 'save' is given, else
 %   qn.interrupted gives what it reached; a line says which.

@@ -7,6 +7,7 @@ function res = advance (res, o)
   if ~isempty (o.save), o.save = can_write (o.save); end
   h = qn.impl.register (res.final.values);
   free = onCleanup (@() delete (h));
+  limit = qn.impl.energy_limit (sim, res.final);
   reached = containers.Map ();
   watch = onCleanup (@() ended_early (reached, o));
   begun = tic ();
@@ -30,6 +31,10 @@ function res = advance (res, o)
       kept = kept + good;
       if good > 0, res.time_end = sim.time(sim.saved(kept)); end
     else
+      if isfinite (limit)
+        limit = limit + qn.impl.pushed (sim, res.final.column, next.column);
+        limit = judged (sim, next, limit);
+      end
       res.final = next;
       kept = kept + numel (wanted);
       res.time_end = sim.time(next.column);
@@ -68,6 +73,16 @@ function res = advance (res, o)
   end
   res = qn.impl.sized (res, kept);
   if reached.isKey ('run'), reached.remove ('run'); end
+end
+
+% What qn.run says about the motion S at a time, once: LIMIT is then infinite.
+function limit = judged (sim, s, limit)
+  times = qn.impl.motion (sim, s) / limit;
+  if ~(times > 3), return, end
+  warning ('qn:growth', ['at %g s the motion has %.2g times the energy that the initial state and the loads can have given it: the ' ...
+                         'time steps feed it, and the results are wrong. qn.check names what the step is too long for, qn.advise finds a ' ...
+                         'better one'], sim.time(s.column), times ^ 2);
+  limit = Inf;
 end
 
 % One answer a column. Squares of what is let pass are numbers still.

@@ -8,7 +8,7 @@ function l = clima2_law ()
                 'stiffness', 0, 'number'
                 'offset', 0, 'number'};
   l = struct ('kind', 'clima2', 'keyword', 'Clima2', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'traits', @traits, 'stored', [], 'check', @check, 'at_rest', []);
+              'stiffest', @stiffest, 'traits', @traits, 'stored', [], 'reserve', [], 'check', @check, 'at_rest', []);
 end
 
 function [opt, own] = pack (p, step)

@@ -4,7 +4,7 @@ function l = dahl_law ()
                 'slip', '<required>', 'positive'
                 'exponent', 1, 'number'};
   l = struct ('kind', 'dahl', 'keyword', 'DahlC', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'traits', @traits, 'stored', @stored, 'check', [], 'at_rest', []);
+              'stiffest', @stiffest, 'traits', @traits, 'stored', @stored, 'reserve', @reserve, 'check', [], 'at_rest', []);
 end
 
 % The slip force is the product of two parameters; the second one stays 1.
@@ -32,4 +32,9 @@ end
 % What it gives back when it is unloaded along its first stiffness.
 function v = stored (p, x, f, state, h)
   v = f .^ 2 / (2 * p.stiffness);
+end
+
+function v = reserve (p, x, state)
+  v = state ^ 2 / (2 * p.stiffness);
+  if p.stiffness <= 0, v = Inf; end
 end

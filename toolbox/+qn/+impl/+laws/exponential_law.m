@@ -3,7 +3,7 @@ function l = exponential_law ()
   parameters = {'scale', '<required>', 'number'
                 'base', '<required>', 'number'};
   l = struct ('kind', 'exponential', 'keyword', 'Expon', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'traits', [], 'stored', @stored, 'check', [], 'at_rest', []);
+              'stiffest', @stiffest, 'traits', [], 'stored', @stored, 'reserve', @reserve, 'check', [], 'at_rest', []);
 end
 
 function [opt, own] = pack (p, step)
@@ -30,4 +30,9 @@ function v = stored (p, x, f, state, h)
   else
     v = p.scale * p.base .^ x / log (p.base);
   end
+end
+
+function v = reserve (p, x, state)
+  v = Inf;
+  if p.scale >= 0 && p.base > 1, v = sum (stored (p, x, [], [], [])); end
 end

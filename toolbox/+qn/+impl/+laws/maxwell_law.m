@@ -4,7 +4,7 @@ function l = maxwell_law ()
                 'dampers', '<required>', 'positive list'
                 'stiffness', 0, 'number'};
   l = struct ('kind', 'maxwell', 'keyword', 'Maxw', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'traits', @traits, 'stored', @stored, 'check', @check, 'at_rest', @at_rest);
+              'stiffest', @stiffest, 'traits', @traits, 'stored', @stored, 'reserve', @reserve, 'check', @check, 'at_rest', @at_rest);
 end
 
 % One state a branch, the displacement s of the joint between spring and damper: s' = (k/c) (x - s). Force: sum of
@@ -68,4 +68,9 @@ end
 % The dampers give way: what is left is the spring beside them.
 function law = at_rest (p)
   law = qn.law ('power', 'stiffness', p.stiffness, 'exponent', 1);
+end
+
+function v = reserve (p, x, state)
+  v = p.stiffness * x ^ 2 / 2 + sum (p.springs .* (x - state) .^ 2) / 2;
+  if p.stiffness < 0, v = Inf; end
 end

@@ -3,7 +3,7 @@ function l = power_law ()
   parameters = {'stiffness', '<required>', 'number'
                 'exponent', '<required>', 'number'};
   l = struct ('kind', 'power', 'keyword', 'Power', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'traits', [], 'stored', @stored, 'check', @check, 'at_rest', []);
+              'stiffest', @stiffest, 'traits', [], 'stored', @stored, 'reserve', @reserve, 'check', @check, 'at_rest', []);
 end
 
 function [opt, own] = pack (p, step)
@@ -39,4 +39,9 @@ function found = check (law, x, h)
     found = {'warning', ['the exponent is not a whole number: a negative displacement gives no number; give a table instead ' ...
                          '(qn.bearing)']};
   end
+end
+
+function v = reserve (p, x, state)
+  v = Inf;
+  if p.stiffness >= 0 && mod (p.exponent, 2) == 1 && p.exponent > 0, v = sum (stored (p, x, [], [], [])); end
 end

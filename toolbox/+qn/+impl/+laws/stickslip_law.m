@@ -5,7 +5,7 @@ function l = stickslip_law ()
                 'stiffness', 0, 'number'
                 'ground', 0, 'number'};
   l = struct ('kind', 'stickslip', 'keyword', 'sts', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'traits', @traits, 'stored', @stored, 'check', @check, 'at_rest', []);
+              'stiffest', @stiffest, 'traits', @traits, 'stored', @stored, 'reserve', [], 'check', @check, 'at_rest', []);
 end
 
 function [opt, own] = pack (p, step)

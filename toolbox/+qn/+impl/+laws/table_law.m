@@ -3,7 +3,7 @@ function l = table_law ()
   parameters = {'displacement', '<required>', 'ascending list'
                 'force', '<required>', 'list'};
   l = struct ('kind', 'table', 'keyword', 'Table', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'traits', [], 'stored', @stored, 'check', @check, 'at_rest', []);
+              'stiffest', @stiffest, 'traits', [], 'stored', @stored, 'reserve', @reserve, 'check', @check, 'at_rest', []);
 end
 
 function [opt, own] = pack (p, step)
@@ -56,4 +56,18 @@ function found = check (law, x, h)
                      'force; for a start at rest give ''q0'' from qn.static'], qn.force (law, 0));
     found(end + 1, :) = {'note', text};
   end
+end
+
+% The energy has its least value at a knot or where the force is zero. It has one if the end segments push back.
+function v = reserve (p, x, state)
+  v = Inf;
+  [knots, force] = deal (p.displacement, p.force);
+  if numel (knots) < 2 || knots(1) == knots(2) || knots(end - 1) == knots(end), return, end
+  slope = diff (force) ./ diff (knots);
+  ends = [slope(1), -force(1); slope(end), force(end)];
+  if any (ends(:, 1) < 0 | (ends(:, 1) == 0 & ends(:, 2) < 0)), return, end
+  sloped = isfinite (slope) & slope ~= 0;
+  zero = knots([sloped; false]) - force([sloped; false]) ./ slope(sloped);
+  least = min (stored (p, [knots; zero].', [], [], []));
+  v = sum (stored (p, x(:).', [], [], []) - least);
 end

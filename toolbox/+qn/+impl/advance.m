@@ -80,8 +80,8 @@ function limit = judged (sim, s, limit)
   times = qn.impl.motion (sim, s) / limit;
   if ~(times > 3), return, end
   warning ('qn:growth', ['at %g s the motion has %.2g times the energy that the initial state and the loads can have given it: the ' ...
-                         'time steps feed it, and the results are wrong. qn.check names what the step is too long for, qn.advise finds a ' ...
-                         'better one'], sim.time(s.column), times ^ 2);
+                         'time steps feed it, and the results are wrong. qn.check names what the step is too long for, qn.advise ' ...
+                         'finds a better one'], sim.time(s.column), times ^ 2);
   limit = Inf;
 end
 

@@ -15,8 +15,8 @@
 %   check       FOUND = check (LAW, X, H): what a user should know before a run with the step H, rows {level, text} (qn.check)
 %   at_rest     LAW = at_rest (P): the law without memory that it becomes when nothing moves
 %
-% The last five may be []: no needs of its own, nothing stored, no bound, nothing to check, no force at rest without its past. The list is made
-% once a session: "clear all" after a change to a law.
+% The last five may be []: no needs of its own, nothing stored, no bound, nothing to check, no force at rest without its past. The list is
+% made once a session: "clear all" after a change to a law.
 function list = law_list ()
   persistent made
   if isempty (made)

@@ -228,14 +228,15 @@ end
 
 function out = calls_and_clears (value)
   out = quarn ('chandleget', @(v) v + 1, value);
+  out(2) = mislocked ('quarn');
   clear ('quarn');
-  out(2) = numel (quarn ('chandleget'));
+  out(3) = numel (quarn ('chandleget'));
 end
 
 function test_a_nested_callback_that_has_ended_leaves_the_outer_call_locked ()
   h = quarn ('chandleset', 1, 5);
   before = numel (quarn ('chandleget'));
   holder = quarn ('chandleset', 1, h);
-  expect_equal (quarn ('chandleget', @calls_and_clears, holder), [6, before + 1]);
+  expect_equal (quarn ('chandleget', @calls_and_clears, holder), [6, true, before + 1]);
   expect_equal (quarn ('chandleget', h), 5);
 end

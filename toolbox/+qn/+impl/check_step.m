@@ -3,7 +3,8 @@ function found = check_step (sim)
   found = struct ('level', {}, 'text', {});
   h = sim.step;
   s = sim.scheme;
-  [w, top] = max (sim.model.w);
+  all_of = qn.impl.frequencies (sim.model);
+  [w, top] = max (all_of);
   if w * h > s.limit
     found(end + 1) = struct ('level', 'error', 'text', sprintf ( ...
       ['the step of %g s is too long for mode %d (%g Hz): with %s it must stay below %g s; shorten it, keep fewer modes or take the ' ...
@@ -16,7 +17,7 @@ function found = check_step (sim)
                     2 * pi / (20 * w));
     found(end + 1) = struct ('level', 'warning', 'text', text);
   end
-  low = sim.model.w(sim.model.w > 0);
+  low = all_of(all_of > 0);
   if ~isempty (low) && (sim.time(end) - sim.time(1)) * min (low) < 2 * pi
     found(end + 1) = struct ('level', 'note', 'text', sprintf ('the run of %g s is shorter than the period of the lowest mode, %g s', ...
                                                                sim.time(end) - sim.time(1), 2 * pi / min (low)));

@@ -51,6 +51,7 @@ function rows = number_arguments ()
     'qn.grid', {'NAME', 'VALUES'}, {'gap', [1 2 3]}, {'VALUES', '.*', anything}
     'qn.harmonic', {'MODEL', 'LOAD', 'ELEMENTS', 'HERTZ'}, ...
       {model, [1 2 0.5], spring, [2 3], 'harmonics', 1, 'samples', 16, 'points', 3, 'step', 0.02}, {}
+    'qn.interrupted', {}, {}, {}
     'qn.iwan', {}, {'slip', 10, 'stiffness', 100, 'sliders', 3}, {}
     'qn.iwan', {}, {'slips', [1 2], 'stiffnesses', [10 20]}, {'slips', 'empty', '"slip" is then said to be missing'}
     'qn.maxwell', {}, {'springs', [1 2], 'dampers', [3 4], 'stiffness', 5}, {}

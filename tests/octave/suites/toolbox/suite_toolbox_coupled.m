@@ -239,6 +239,7 @@ function test_a_step_whose_matrix_has_no_inverse_is_refused ()
   expect_error (@() qn.run (sim), 'qn:input', '~cannot be inverted');
 end
 
+% The trapezoidal rule answers a frequency W as the structure answers 2/h tan (W h/2); a run that starts on that orbit has no transient.
 function test_steady_orbit_of_a_beam_rotor_is_its_complex_frequency_response ()
   r = beam_rotor (20);
   speed = 2 * pi * 60;
@@ -246,17 +247,23 @@ function test_steady_orbit_of_a_beam_rotor_is_its_complex_frequency_response ()
   n = size (r.M, 1);
   unbalance = zeros (n, 1);
   unbalance(r.disk + (0:1)) = 14 * 20e-6 * speed ^ 2 * [1; -1i];
-  response = (r.K + r.bearings + 1i * speed * (r.C + speed * r.G) - speed ^ 2 * r.M) \ unbalance;
+  answer = @(w) (r.K + r.bearings + 1i * w * (r.C + speed * r.G) - w ^ 2 * r.M) \ unbalance;
+  h = 2 * pi / speed / 360;
+  seen = 2 / h * tan (speed * h / 2);
+  start = answer (seen);
   model = qn.modal (r.K, r.M, 'modes', n, 'C', r.C, 'G', r.G, 'speed', speed, 'K', r.bearings);
   b = model.shapes.' * [real(unbalance), imag(unbalance)];
   load = {b(:, 1), @(t) cos(speed * t); b(:, 2), @(t) -sin(speed * t)};
-  sim = qn.simulation (model, 'step', 2 * pi / speed / 360, 'steps', 360 * turns, 'load', load, 'u0', real (response), ...
-                       'v0', real (1i * speed * response));
+  sim = qn.simulation (model, 'step', h, 'steps', 360 * turns, 'load', load, 'u0', real (start), ...
+                       'v0', real (1i * seen * start));
   res = qn.run (sim, 'progress', false);
   last = size (res.q, 2) - 360 + (1:360);
   orbit = model.shapes * res.q(:, last) * exp (-1i * speed * res.time(last).') * 2 / 360;
   moving = 1:4:n;
-  e = max (abs (orbit([moving, moving + 1]) - response([moving, moving + 1]))) / max (abs (response([moving, moving + 1])));
-  printf ('orbit of %d degrees of freedom: off by %.2g\n', n, e);
-  assert (e < 1e-4);
+  moving = [moving, moving + 1];
+  row = @(x) x(moving);
+  off_by = @(w) max (abs (row (orbit - answer (w)))) / max (abs (orbit(moving)));
+  e = [off_by(speed), off_by(seen)];
+  printf ('orbit of %d degrees of freedom: off by %.2g, from what the scheme makes of it by %.2g\n', n, e);
+  assert (e(1) < 1e-4 && e(2) < 1e-7);
 end

@@ -86,7 +86,7 @@ function [x, res] = shown (sim, factor, steps, c)
   was = warning ('off', 'all');
   back = onCleanup (@() warning (was));
   cut = max (1, round (1 / factor));
-  res = qn.run (qn.impl.with_step (sim, sim.step * factor, steps * cut, cut), 'progress', false);
+  res = qn.run (qn.impl.with_step (sim, sim.step * factor, steps * cut, cut), 'progress', false, 'check', false);
   x = [];
   if res.complete && all (isfinite (res.q(:))), x = c * res.q; end
 end

@@ -1,8 +1,9 @@
 % QN.CHECK  looks over a set-up before it runs, and says what to change
 %
 % Purpose
-%   Finds what the module would refuse, and what it would run without a word although the result is wrong: too long a step, a law
-%   outside its table, an element that works on nothing.
+%   Finds what the module would refuse, and what it would run without a word although the result is wrong: too long a step, growth
+%   that only the scheme makes, modes that leave out the flexibility of a place where a stiff element acts, records and tables that
+%   are not what they seem, elements that do nothing. docs/checks.md lists every finding. qn.run looks the same before it starts.
 %
 % Calls
 %   qn.check (SIM)
@@ -11,10 +12,12 @@
 %
 % Input
 %   SIM   from qn.simulation
-%   RES   result of a run of it: the displacements that occurred are compared with the tables
+%   RES   result of a run of it: the displacements that occurred are compared with the tables, stiffnesses are those that were met,
+%         and elements that never acted are named
 %
 % Output
-%   F     struct array: level ('error', 'warning', 'note') and text. Without an output argument it is printed.
+%   F     struct array: code (a word, see docs/checks.md), level, text with numbers and a remedy. Level 'error': the result is or
+%         will be useless; 'warning': it probably is wrong; 'note': perhaps not meant. Without an output argument it is printed.
 %
 % Errors
 %   qn:input  SIM is not from qn.simulation. What was changed in it by hand is reported, not refused.
@@ -28,24 +31,14 @@
 function found = check (sim, res)
   if nargin < 1, sim = []; end
   qn.impl.expect_result_of ('qn.check', sim, 'qn.simulation');
-  found = struct ('level', {}, 'text', {});
-  found = joined (found, qn.impl.check_arrays (sim));
-  if ~any (strcmp ({found.level}, 'error'))
-    found = joined (found, qn.impl.check_step (sim));
-    for k = 1:numel (sim.elements)
-      x = [];
-      if nargin > 1, x = sim.elements(k).observe * res.q; end
-      found = joined (found, qn.impl.check_law (sim, k, x));
-    end
-    for k = 1:numel (sim.notes), found(end + 1) = struct ('level', 'note', 'text', sim.notes{k}); end
+  if nargin < 2
+    res = [];
+  else
+    qn.impl.expect_result_of ('qn.check', res, 'qn.run');
   end
+  found = qn.impl.findings (sim, res);
   if nargout > 0, return, end
   if isempty (found), fprintf ('nothing to change\n'); end
   for k = 1:numel (found), fprintf ('%-8s %s\n', [found(k).level ':'], found(k).text); end
   clear found
-end
-
-% Octave 7 loses the fields when it puts empty struct arrays behind one another.
-function a = joined (a, b)
-  for k = 1:numel (b), a(end + 1) = b(k); end
 end

@@ -35,6 +35,11 @@ function p = project (a, k, b)
     error ('qn:input', 'qn.project: "K" must be %d x %d between bases of %d and %d rows, got %d x %d', size (a, 1), ...
            size (b, 1), size (a, 1), size (b, 1), n(1), n(2));
   end
+  % The module takes no matrix without entries.
+  if ~isstruct (k) && nnz (k) == 0
+    p = zeros (size (a, 2), size (b, 2));
+    return
+  end
   if ~isstruct (k), k = qn.pack (k); end
   if isempty (k.pr)
     p = zeros (size (a, 2), size (b, 2));  % the module's command needs an entry

@@ -17,6 +17,9 @@
 %                 says so while the run goes on. qn.resume reads it.
 %     'interval'  seconds between two of those (30); it is also written at the end. Each writes all results so far, about a second
 %                 for 100 MB: choose a longer one for large results.
+%     'check'     true: what qn.check finds of errors and warnings is said before the run, and after it for elements that turn out too
+%                 stiff in the motion that occurred, each code once, as warnings qn:check:CODE (true). warning ('off',
+%                 'qn:check:CODE') switches off one of them; docs/checks.md lists them. Without a meaning in qn.resume.
 %     'stop'      function of the results so far, called between pieces: true ends the run ([]). Columns after r.time_end are
 %                 there already and are NaN.
 %
@@ -65,5 +68,12 @@ function res = run (sim, varargin)
     res.state(:, 1) = sim.start.u(m + 1:end);
     res.force(:, 1) = sim.start.FNL(qn.impl.force_slots (sim));
   end
-  res = qn.impl.advance (res, qn.impl.run_options ('qn.run', varargin));
+  o = qn.impl.run_options ('qn.run', varargin);
+  before = qn.impl.finding ();
+  if o.check
+    before = qn.impl.findings (sim, []);
+    qn.impl.warn_of (before);
+  end
+  res = qn.impl.advance (res, o);
+  if o.check, qn.impl.warn_of (qn.impl.check_motion (res, before)); end
 end

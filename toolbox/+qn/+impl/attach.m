@@ -5,10 +5,11 @@
 % docs/theory.md). A structure that is free to move is loaded by the forces less the inertia forces of its rigid motion.
 function [phi, w, count] = attach (k, m, phi, w, what)
   f = shapes (size (k, 1), what);
-  rigid = is_rigid (k, phi, w);
-  r = phi(:, rigid);
-  load = f - m * (r * (r.' * f));
-  x = response (k, m * r, load);
+  [x, off] = qn.impl.static_response (k, m, phi, w, f);
+  if ~(off <= 1e-6)
+    error ('qn:input', ['qn.modal: "attach" needs a structure that is held, or all of its rigid motions among the modes: the static ' ...
+                        'response does not exist (residual %.2g of the forces). Keep more modes'], off);
+  end
   long = sqrt (sum (x .* (m * x), 1));
   for round = 1:2, x = x - phi * (phi.' * (m * x)); end
   % What the modes already hold to rounding adds nothing but noise.
@@ -54,32 +55,6 @@ end
 function text = value_text (what)
   text = mat2str (size (what));
   if numel (what) < 8, text = mat2str (full (what)); end
-end
-
-function x = response (k, held, load)
-  r = size (held, 2);
-  a = k;
-  if r > 0
-    held = held * (mean (abs (diag (k))) / max (max (abs (held))));
-    a = [k, held; held.', zeros(r)];
-  end
-  before = warning ('off', 'all');
-  back = onCleanup (@() warning (before));
-  x = full (a \ [load; zeros(r, size (load, 2))]);
-  clear back
-  x = x(1:size (k, 1), :);
-  off = norm (k * x - load, 'fro');
-  if ~(off <= 1e-6 * norm (load, 'fro'))
-    error ('qn:input', ['qn.modal: "attach" needs a structure that is held, or all of its rigid motions among the modes: the static ' ...
-                        'response does not exist (residual %.2g of the forces). Keep more modes'], off / norm (load, 'fro'));
-  end
-end
-
-% A motion without strain, to rounding.
-function yes = is_rigid (k, phi, w)
-  strain = sum (phi .* (k * phi), 1);
-  terms = sum (abs (phi) .* (abs (k) * abs (phi)), 1);
-  yes = (w(:).' == 0) | abs (strain) <= 1e-13 * terms;
 end
 
 function a = symmetric (a)

@@ -1,36 +1,38 @@
 % FOUND = CHECK_ARRAYS (SIM)  classes, lengths and values of what will be handed to the module
 function found = check_arrays (sim)
-  found = struct ('level', {}, 'text', {});
+  found = qn.impl.finding ();
   m = numel (sim.model.w);
   k = numel (sim.time);
-  expect (isa (sim.time, 'double') && k > 1 && all (diff (sim.time) > 0), ...
+  expect ('times', isa (sim.time, 'double') && k > 1 && all (diff (sim.time) > 0), ...
           'the times must be doubles that ascend; make the set-up anew with qn.simulation');
   numbers = isa (sim.saved, 'double') && all (sim.saved >= 1 & sim.saved <= k & sim.saved == fix (sim.saved));
-  expect (numbers && all (diff (sim.saved) > 0), ...
+  expect ('saved', numbers && all (diff (sim.saved) > 0), ...
           '"saved" must be ascending numbers of time points from 1 to %d', k);
-  expect (isa (sim.loads, 'double') && isequal (size (sim.loads), [size(sim.shapes, 2), k]) && size (sim.shapes, 1) == m, ...
+  expect ('loads', isa (sim.loads, 'double') && isequal (size (sim.loads), [size(sim.shapes, 2), k]) && size (sim.shapes, 1) == m, ...
           'there must be one row of %d loads for each of the %d shapes of %d modal values', k, size (sim.shapes, 2), m);
-  expect (all (isfinite (sim.loads(:))) && isreal (sim.loads) && all (isfinite (sim.shapes(:))), 'the loads must be finite and real');
+  expect ('load_values', all (isfinite (sim.loads(:))) && isreal (sim.loads) && all (isfinite (sim.shapes(:))), ...
+          'the loads must be finite and real');
   k = sim.model.stiffness;
   c = sim.model.damping;
-  expect (fits (k, m) && fits (c, m), 'the model must have a modal stiffness and damping of %d values or %d x %d, got %s and %s', ...
-          m, m, m, mat2str (size (k)), mat2str (size (c)));
-  expect (isreal (k) && all (isfinite (k(:))) && (size (k, 2) > 1 || all (k >= 0)), ...
+  expect ('model', fits (k, m) && fits (c, m), ...
+          'the model must have a modal stiffness and damping of %d values or %d x %d, got %s and %s', m, m, m, ...
+          mat2str (size (k)), mat2str (size (c)));
+  expect ('stiffness', isreal (k) && all (isfinite (k(:))) && (size (k, 2) > 1 || all (k >= 0)), ...
           'the modal stiffnesses must be finite and not negative');
-  expect (isreal (c) && all (isfinite (c(:))), 'the modal dampings must be finite');
+  expect ('damping', isreal (c) && all (isfinite (c(:))), 'the modal dampings must be finite');
   names = {'u', 'v', 'a'};
   for j = 1:3
     x = sim.start.(names{j});
-    expect (isa (x, 'double') && isreal (x) && numel (x) == m + sim.states && all (isfinite (x)), ...
+    expect ('initial', isa (x, 'double') && isreal (x) && numel (x) == m + sim.states && all (isfinite (x)), ...
             'the initial "%s" must be %d finite real doubles', names{j}, m + sim.states);
   end
   for j = 1:numel (sim.elements)
     e = sim.elements(j);
-    expect (size (e.observe, 2) == m && isequal (size (e.observe), size (e.command)), ...
+    expect ('rows', size (e.observe, 2) == m && isequal (size (e.observe), size (e.command)), ...
             'element %d must observe and act through rows of %d modal values', e.item, m);
-    expect (all (isfinite ([e.observe(:); e.command(:)])), 'the rows of element %d must be finite', e.item);
+    expect ('row_values', all (isfinite ([e.observe(:); e.command(:)])), 'the rows of element %d must be finite', e.item);
     if isfield (e.law.parameters, 'displacement')
-      expect (all (diff (e.law.parameters.displacement) >= 0), 'the table of element %d must ascend; sort it', e.item);
+      expect ('table_order', all (diff (e.law.parameters.displacement) >= 0), 'the table of element %d must ascend; sort it', e.item);
     end
   end
 
@@ -38,7 +40,7 @@ function found = check_arrays (sim)
     yes = isequal (size (x), [m 1]) || isequal (size (x), [m m]);
   end
 
-  function expect (good, varargin)
-    if ~good, found(end + 1) = struct ('level', 'error', 'text', sprintf (varargin{:})); end
+  function expect (code, good, varargin)
+    if ~good, found(end + 1) = qn.impl.finding (code, 'error', varargin{:}); end
   end
 end

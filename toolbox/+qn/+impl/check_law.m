@@ -1,44 +1,51 @@
-% FOUND = CHECK_LAW (SIM, K, X)  element K against the step, and its table against the displacements X ([]: not known)
+% FOUND = CHECK_LAW (SIM, K, X, MOTION)  element K against the step, the displacements X ([]: not known) and the motion that can be
 %
-% An element's force is evaluated at the predictor. A spring kn there is stable while
-%   kn h^2 gamma/2 < m + (gamma - 1/2) h c + (beta - gamma/2) h^2 k
-% with mass m, damping c and stiffness k of the structure (docs/theory.md derives it): below h sqrt (2 gamma kn mu) = 2 with the
-% mobility mu = C M^-1 B' of the right-hand side's M.
-function found = check_law (sim, k, x)
-  found = struct ('level', {}, 'text', {});
+% An element's force is evaluated at the predictor. A spring kn there is stable while h sqrt (2 gamma kn mu) < 2 with the mobility mu
+% (qn.impl.mobility; docs/theory.md derives it). MOTION bounds each modal coordinate of the linear model (qn.impl.motion_bound).
+function found = check_law (sim, k, x, motion)
+  found = qn.impl.finding ();
   e = sim.elements(k);
   h = sim.step;
   who = e.law.note;
   if isempty (who), who = qn.impl.law_text (e.law); end
   who = sprintf ('element %d (%s)', e.item, who);
-  if ~any (e.observe(:)) || ~any (e.command(:)), say ('warning', 'its rows are all zero: it does nothing; see qn.observe'); end
-  c = sim.model.damping;
-  k = sim.model.stiffness;
-  s = sim.scheme;
-  if size (c, 2) == 1 && size (k, 2) == 1
-    yielding = bsxfun (@rdivide, e.command.', max (eps (), 1 + (s.beta - s.gamma / 2) * h ^ 2 * k + (s.gamma - 0.5) * h * c));
-  else
-    yielding = (eye (numel (sim.model.w)) + (s.beta - s.gamma / 2) * h ^ 2 * qn.impl.matrix (k) + ...
-                (s.gamma - 0.5) * h * qn.impl.matrix (c)) \ e.command.';
+  if ~any (e.observe(:)) || ~any (e.command(:))
+    say ('element_zero', 'warning', 'its rows are all zero: it does nothing; see qn.observe');
+    return
   end
-  mobility = max (abs (diag (e.observe * yielding)));
-  stiff = qn.impl.stiffest (e.law, x);
-  ratio = h * sqrt (stiff * mobility * 2 * s.gamma);
+  mobility = max (abs (diag (qn.impl.mobility (sim, e.observe, e.command))));
+  can = max (abs (e.observe) * motion);
+  kink = qn.impl.reach (e.law);
+  within = x;
+  % What the linear model cannot reach, and nothing else pushes it to, does not count before the run.
+  if isempty (x) && isfinite (kink) && kink > can && can > 0 && ~any (sim.start.FNL)
+    far ();
+    within = [-can, can];
+  end
+  stiff = qn.impl.stiffest (e.law, within);
+  ratio = h * sqrt (stiff * mobility * 2 * sim.scheme.gamma);
   if ratio >= 2
-    say ('error', 'too stiff for the step of %g s: with %g N/m on %g kg the motion grows without bound; take at most %.2g s', h, stiff, ...
-         1 / mobility, h * 0.3 / ratio);
+    say ('element_unstable', 'error', ['too stiff for the step of %g s: with %g N/m on %g kg the motion grows without bound; take at ' ...
+                                       'most %.2g s'], h, stiff, 1 / mobility, h * 0.3 / ratio);
   elseif ratio > 0.3
-    say ('warning', ['only %.0f steps pass in half a period of %g N/m on %g kg; contacts will gain or lose energy; take %.2g s or ' ...
-                     'less'], ...
-         floor (pi / ratio), stiff, 1 / mobility, h * 0.3 / ratio);
+    say ('element_coarse', 'warning', ['only %.0f steps pass in half a period of %g N/m on %g kg; contacts will gain or lose energy; ' ...
+                                       'take %.2g s or less'], floor (pi / ratio), stiff, 1 / mobility, h * 0.3 / ratio);
   end
   l = qn.impl.law_of (e.law.kind);
   if ~isempty (l.check)
     own = l.check (e.law, x, h);
-    for j = 1:size (own, 1), say (own{j, 1}, '%s', own{j, 2}); end
+    for j = 1:size (own, 1), say (own{j, 1}, own{j, 2}, '%s', own{j, 3}); end
   end
 
-  function say (level, format, varargin)
-    found(end + 1) = struct ('level', level, 'text', [who ': ' sprintf(format, varargin{:})]);
+  function far ()
+    level = 'note';
+    if kink > 10 * can, level = 'warning'; end
+    say ('gap_far', level, ...
+      ['its play or first knot of %g m is %.2g times as far as the structure moves there at most (%.2g m): it is not ' ...
+                            'reached. Lengths are in m: 20 mm are 0.02'], kink, kink / can, can);
+  end
+
+  function say (code, level, format, varargin)
+    found(end + 1) = qn.impl.finding (code, level, '%s', [who ': ' sprintf(format, varargin{:})]);
   end
 end

@@ -20,7 +20,8 @@ function [shapes, loads, notes] = loads (model, list, time, base)
     shapes(:, k) = shape(:);
     named = [named '2}'];
     if any (shape(:)) && all (shape(:) >= 0 & shape(:) == fix (shape(:))) && ~any (ismember (model.shapes, shape(:).', 'rows'))
-      notes{end + 1} = sprintf ('the shape of load %d is whole numbers; a push or degrees of freedom need qn.base or qn.load_at', k);
+      notes{end + 1} = sprintf (['load_shape: the shape of load %d is whole numbers; a push or degrees of freedom need qn.base or ' ...
+                                 'qn.load_at'], k);
     end
     if isa (signal, 'function_handle')
       try
@@ -38,7 +39,8 @@ function [shapes, loads, notes] = loads (model, list, time, base)
     elseif isnumeric (signal) && min (size (signal)) > 1
       [f, short] = table (who, named, signal, time);
       if short
-        notes{end + 1} = sprintf ('the table of load %d covers %g to %g s of a run from %g to %g s; outside it the load is zero', k, ...
+        notes{end + 1} = sprintf (['load_ends: the table of load %d covers %g to %g s of a run from %g to %g s; outside it the load is ' ...
+                                   'zero'], k, ...
                                   signal(1, [1 end]), time([1 end]));
       end
     else

@@ -16,7 +16,7 @@ end
 
 function test_a_sound_set_up_needs_no_change ()
   model = oscillator ();
-  sim = qn.simulation (model, 'step', 1e-4, 'until', 1, 'v0', 1, 'elements', {qn.gap('gap', 0.01, 'stiffness', 1e5), qn.observe(model, 1)});
+  sim = qn.simulation (model, 'step', 1e-4, 'until', 1, 'v0', 1, 'elements', {qn.gap('gap', 0.001, 'stiffness', 1e5), qn.observe(model, 1)});
   expect_equal (numel (qn.check (sim)), 0);
   expect_equal (evalc ('qn.check (sim)'), sprintf ('nothing to change\n'));
 end

@@ -14,8 +14,11 @@ function names = all_examples ()
   names = regexprep ({files.name}, '\.m$', '');
 end
 
-% Runs an example; all of its checks hold, its picture is a picture, and nothing is left behind.
+% Runs an example; all of its checks hold, its picture is a picture, nothing is left behind, and qn.run has nothing to warn of.
 function r = run_example (name)
+  before = warning ();
+  back = onCleanup (@() warning (before));
+  for code = qn.impl.finding ('codes'), warning ('error', ['qn:check:' code{1}]); end
   folder = tempname ();
   mkdir (folder);
   figures = numel (get (0, 'children'));

@@ -51,6 +51,12 @@ function test_damping_that_couples_modes_is_kept_as_a_matrix ()
   expect_equal (model.damping, model.shapes.' * c * model.shapes + diag (0.02 * model.w), 1e-12);
 end
 
+function test_a_damping_matrix_of_zeros_is_no_damping ()
+  model = qn.modal (struct ('K', 1e4 * [2 -1; -1 1], 'M', eye (2), 'C', zeros (2)));
+  expect_equal (model.damping, [0; 0]);
+  expect_equal (qn.project (ones (3, 2), sparse (3, 3)), zeros (2, 2));
+end
+
 function test_rayleigh_coefficients_meet_both_dampings ()
   ab = qn.rayleigh ([2 20], [0.03 0.05]);
   w = 2 * pi * [2 20];

@@ -54,14 +54,16 @@ function v = stored (p, x, f, state, h)
 end
 
 function found = check (law, x, h)
-  found = cell (0, 2);
+  found = cell (0, 3);
   p = law.parameters;
   fast = h * max (p.springs ./ p.dampers);
   if fast >= 2
-    found = {'error', sprintf(['its shortest relaxation time is %g s, and the step %g s: its state grows without bound; take at most ' ...
-                               '%.2g s'], h / fast, h, h / fast / 10)};
+    found = {'maxwell_unstable', 'error', ...
+             sprintf(['its shortest relaxation time is %g s, and the step %g s: its state grows without bound; take at most ' ...
+                      '%.2g s'], h / fast, h, h / fast / 10)};
   elseif fast > 0.2
-    found = {'warning', sprintf('its shortest relaxation time is only %.1f steps; take %.2g s or less', 1 / fast, h / fast / 10)};
+    found = {'maxwell_coarse', 'warning', ...
+             sprintf('its shortest relaxation time is only %.1f steps; take %.2g s or less', 1 / fast, h / fast / 10)};
   end
 end
 

@@ -33,11 +33,11 @@ function v = stored (p, x, f, state, h)
 end
 
 function found = check (law, x, h)
-  found = cell (0, 2);
+  found = cell (0, 3);
   exponent = law.parameters.exponent;
   if exponent ~= fix (exponent) && (isempty (x) || any (x(:) < 0))
-    found = {'warning', ['the exponent is not a whole number: a negative displacement gives no number; give a table instead ' ...
-                         '(qn.bearing)']};
+    found = {'power_negative', 'warning', ['the exponent is not a whole number: a negative displacement gives no number; give a ' ...
+                                           'table instead (qn.bearing)']};
   end
 end
 

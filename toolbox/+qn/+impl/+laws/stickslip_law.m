@@ -35,7 +35,9 @@ function v = stored (p, x, f, state, h)
 end
 
 function found = check (law, x, h)
-  found = cell (0, 2);
+  found = cell (0, 3);
   slip = law.parameters.slip;
-  if slip < 10, found = {'warning', sprintf('it compares whole newtons: a slip force of %g N is too coarse; use qn.slider', slip)}; end
+  if slip < 10
+    found = {'stickslip_coarse', 'warning', sprintf('it compares whole newtons: a slip force of %g N is too coarse; use qn.slider', slip)};
+  end
 end

@@ -29,6 +29,12 @@ end
 function k = stiffest (p, x)
   slope = abs (diff (p.force)) ./ max (diff (p.displacement), realmin ());
   slope(diff (p.displacement) == 0) = 0;
+  if ~isempty (x) && numel (slope) > 1
+    % Only the segments that were met; the end segments go on.
+    below = [-Inf; p.displacement(2:end - 1)];
+    above = [p.displacement(2:end - 1); Inf];
+    slope = slope(above >= min (x(:)) & below <= max (x(:)));
+  end
   k = max ([0; slope]);
 end
 
@@ -51,10 +57,20 @@ end
 
 function found = check (law, x, h)
   found = qn.impl.beyond_table (law, x);
+  p = law.parameters;
+  slope = diff (p.force) ./ max (diff (p.displacement), realmin ());
+  slope = slope(abs (slope) > 1e-12 * max (abs (slope)));
+  turns = sum (diff (sign (slope)) ~= 0);
+  if turns >= 6
+    found(end + 1, :) = {'table_alternates', 'warning', ...
+                         sprintf(['the slope of its table of %d knots changes its sign %d times: a measured curve with noise, or knots ' ...
+                                  'that are not in their order? Smooth it; stiffness and stored energy are those of the noise'], ...
+                                 numel (p.displacement), turns)};
+  end
   if strncmp (law.note, 'stop, preloaded', 15)
     text = sprintf (['it pushes with %g N at zero displacement: a negative gap is a preload. A run that starts at 0 starts with that ' ...
                      'force; for a start at rest give ''q0'' from qn.static'], qn.force (law, 0));
-    found(end + 1, :) = {'note', text};
+    found(end + 1, :) = {'preload', 'note', text};
   end
 end
 

@@ -1,0 +1,45 @@
+% FOUND = CHECK_GROWTH (SIM, RES)  growth of the step as it will run, where the modes are coupled, against that of the equations themselves
+%
+% Uncoupled modes have closed limits (qn.impl.check_step, qn.impl.check_law). With a damping or stiffness matrix, or an element whose force
+% acts elsewhere than it observes, the spectral radius is computed: of the linear part, then with each such element at its stiffest, in
+% the motion of the result RES where there is one ([]: none).
+function found = check_growth (sim, res)
+  found = qn.impl.finding ();
+  m = numel (sim.model.w);
+  coupled = size (sim.model.damping, 2) > 1 || size (sim.model.stiffness, 2) > 1;
+  if m > 250, return, end
+  if coupled
+    [grows, real_rate] = qn.impl.linear_step (sim, zeros (m));
+    found = judge (found, sim, grows, real_rate, 'the linear model');
+    if ~isempty (found), return, end
+    unstable = real_rate * (sim.time(end) - sim.time(1)) > 0.05 && real_rate > 1e-7 * max (sim.model.w);
+    if unstable
+      found(end + 1) = qn.impl.finding ('model_grows', 'warning', ...
+        ['the model itself is unstable: its damping and stiffness matrices let the ' ...
+        'motion grow by a factor of e in %.3g s. If that is not meant (oil whirl, brake squeal, flutter), look at the signs of G ' ...
+        'and K'], ...
+        1 / real_rate);
+    end
+  end
+  for k = 1:numel (sim.elements)
+    e = sim.elements(k);
+    x = [];
+    if ~isempty (res), x = e.observe * res.q; end
+    stiff = qn.impl.stiffest (e.law, x);
+    if stiff == 0 || (~coupled && isequal (e.observe, e.command)), continue, end
+    [grows, real_rate] = qn.impl.linear_step (sim, stiff * e.command.' * e.observe);
+    found = judge (found, sim, grows, real_rate, sprintf ('with element %d at its stiffest, %g N/m, the linear model', e.item, stiff));
+    if numel (found) > 8, return, end
+  end
+end
+
+% What the scheme adds to the growth counts, over the time of the run; 3e-7 a step is the rounding of coinciding eigenvalues.
+function found = judge (found, sim, grows, real_rate, who)
+  added = (grows - max (real_rate, 0)) * (sim.time(end) - sim.time(1));
+  if grows * sim.step < 3e-7 || added < 0.05, return, end
+  level = 'warning';
+  if added > 3, level = 'error'; end
+  found(end + 1) = qn.impl.finding ('growth', level, ...
+    ['%s grows in the time integration by a factor of e in %.3g s, where the equations of ' ...
+    'motion do not: the result is wrong. Take a shorter step than %g s, or the scheme ''average'''], who, 1 / grows, sim.step);
+end

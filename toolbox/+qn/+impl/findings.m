@@ -1,0 +1,19 @@
+% FOUND = FINDINGS (SIM, RES)  everything that qn.check finds; RES is [] before the run
+function found = findings (sim, res)
+  found = qn.impl.check_arrays (sim);
+  if any (strcmp ({found.level}, 'error')), return, end
+  motion = qn.impl.motion_bound (sim);
+  lists = {qn.impl.check_step(sim), qn.impl.check_growth(sim, res), qn.impl.check_loads(sim)};
+  for k = 1:numel (sim.elements)
+    x = [];
+    if ~isempty (res), x = sim.elements(k).observe * res.q; end
+    lists{end + 1} = qn.impl.check_law (sim, k, x, motion);
+    if ~isempty (res), lists{end + 1} = qn.impl.check_acts (sim, k, x, res.force(sim.elements(k).forces, :)); end
+  end
+  lists{end + 1} = qn.impl.check_together (sim);
+  lists{end + 1} = qn.impl.check_flexibility (sim);
+  % Octave 7 loses the fields when it puts empty struct arrays behind one another.
+  for k = 1:numel (lists)
+    for j = 1:numel (lists{k}), found(end + 1) = lists{k}(j); end
+  end
+end

@@ -43,7 +43,7 @@ function [sim, case_of] = random_set_up ()
     row = zeros (1, n);
     row(1 + floor (n * rand ())) = 1;
     if rand () < 0.3, row(1 + floor (n * rand ())) = -1; end
-    reach = max (abs (row * model.shapes * linear.q));
+    reach = max ([2e-3, abs(row * model.shapes * linear.q)]);
     % From soft to somewhat beyond the limit of the step.
     mass = 1 / (row / m * row.');
     stiff = mass / step ^ 2 * 10 ^ (-4 + 5 * rand ());

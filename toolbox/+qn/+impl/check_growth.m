@@ -26,7 +26,7 @@ function found = check_growth (sim, res)
     x = [];
     if ~isempty (res), x = e.observe * res.q; end
     stiff = qn.impl.stiffest (e.law, x);
-    if stiff == 0 || (~coupled && isequal (e.observe, e.command)), continue, end
+    if stiff == 0 || ~isfinite (stiff) || (~coupled && isequal (e.observe, e.command)), continue, end
     [grows, real_rate] = qn.impl.linear_step (sim, stiff * e.command.' * e.observe);
     found = judge (found, sim, grows, real_rate, sprintf ('with element %d at its stiffest, %g N/m, the linear model', e.item, stiff));
     if numel (found) > 8, return, end

@@ -5,7 +5,9 @@ function found = check_motion (res, before)
   if ~any (good), return, end
   none = inf (numel (res.sim.model.w), 1);
   for k = 1:numel (res.sim.elements)
-    one = qn.impl.check_law (res.sim, k, res.sim.elements(k).observe * res.q(:, good), none);
+    e = res.sim.elements(k);
+    x = qn.impl.met (e.law, e.observe * res.q(:, good), res.force(e.forces, good));
+    one = qn.impl.check_law (res.sim, k, x, none);
     for j = 1:numel (one)
       if ~any (strcmp (one(j).code, {before.code})), found(end + 1) = one(j); end
     end

@@ -7,7 +7,9 @@ function found = findings (sim, res)
   for k = 1:numel (sim.elements)
     x = [];
     if ~isempty (res), x = sim.elements(k).observe * res.q; end
-    lists{end + 1} = qn.impl.check_law (sim, k, x, motion);
+    seen = x;
+    if ~isempty (res), seen = qn.impl.met (sim.elements(k).law, x, res.force(sim.elements(k).forces, :)); end
+    lists{end + 1} = qn.impl.check_law (sim, k, seen, motion);
     if ~isempty (res), lists{end + 1} = qn.impl.check_acts (sim, k, x, res.force(sim.elements(k).forces, :)); end
   end
   lists{end + 1} = qn.impl.check_together (sim);

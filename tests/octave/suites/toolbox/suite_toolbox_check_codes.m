@@ -209,6 +209,18 @@ function test_stiffness_of_the_motion_that_occurred_is_looked_at_after_the_run (
   if isempty (strfind (said, 'element 1')), error ('said: "%s"', said); end
 end
 
+% A stop so stiff that it throws the mass back within the step of its prediction: no displacement lies beyond the gap, but the force acted.
+function test_a_contact_that_only_the_prediction_meets_is_named ()
+  sim = with (qn.gap ('gap', 1e-3, 'stiffness', 1e12));
+  x = 0.9e-3 * sin (linspace (0, 6, 2001));
+  res = struct ('force', zeros (1, 2001));
+  res.force(700) = 2e4;
+  x = qn.impl.met (sim.elements.law, x, res.force);
+  expect_equal (max (x), 1e-3 + 2e-8, 1e-12);
+  found = qn.impl.check_law (sim, 1, x, 1);
+  expect_equal (found(1).code, 'element_unstable');
+end
+
 % A stop with 20 for 20 mm, as met: named, with both numbers.
 function test_a_gap_in_millimetres_is_named_with_the_motion_that_is_possible ()
   sim = with (qn.gap ('gap', 20, 'stiffness', 1e6));

@@ -212,6 +212,23 @@ function test_energy_of_a_dense_mass_is_refused_where_its_residual_is_not_formed
   expect_equal (r, [5; 5; 5]);
 end
 
+function test_a_dense_mass_without_accelerations_is_not_looked_at ()
+  expect_equal (residual_of ({eye(3), [], []}, [1; 2; 3], [4; 5; 6], [], [0.5 0]), zeros (3, 1));
+end
+
+function test_stiffness_that_reaches_past_shorter_velocities_is_refused_with_rayleigh_damping ()
+  K = {[], [], matrix_lines(sparse ([1 2 3 1], [1 2 3 3], [1 2 3 4], 3, 3))};
+  r = zeros (3, 1) + 5;
+  expect_refused (@() quarn ('residual', r, K, [1; 2; 3], [4; 5], [], [0 0.5]), ...
+                  'quarn residual : the stiffness matrix : index 2 in "ir" reaches past v of 2 values');
+  expect_equal (r, [5; 5; 5]);
+end
+
+function test_energies_without_rows_are_zero_whatever_the_matrices ()
+  [kinetic, potential] = energies (zeros (2, 1), {eye(2), [], []}, zeros (0, 1), [1; 2], []);
+  expect_equal ([kinetic, potential], [0 0]);
+end
+
 function [kinetic, potential] = energies (varargin)
   [kinetic, potential] = quarn ('residual', varargin{:});
 end

@@ -136,6 +136,15 @@ function test_force_outputs ()
   expect_equal (got.out.FNL.def, [8 99 5]);
 end
 
+function test_force_outputs_that_end_inside_a_column_leave_it_out ()
+  run = force_output_run ();
+  run.model.FNL = zeros (2, 1);
+  run.mem.uva.FNL = zeros (2, 1);
+  run.out.FNL.def = -ones (5, 1);
+  call (run);
+  expect_equal (run.out.FNL.def, [8; 0; 99; 0; -1]);
+end
+
 function test_force_outputs_compare_with_the_output_times_at_their_own_cursor ()
   run = force_output_run ();
   run.out.FNL.data = fresh ([0.3; 0.6; 0.9]);

@@ -167,6 +167,21 @@ function test_mass_without_values_or_indices ()
   end
 end
 
+function test_diagonal_stiffness_needs_as_many_velocities_as_rows ()
+  h = registered ({typed(1, diag ([1 2 3]))});
+  r = zeros (3, 1) + 5;
+  expect_error (@() quarn ('residual', r, h, [1; 2; 3], [4; 5], [], [0 0]), '', ...
+                'quarn residual : element 1 : v must hold 3 values (one for each row of u), got 2');
+  expect_equal (r, [5; 5; 5]);
+end
+
+function test_damping_without_entries_looks_at_nothing_and_keeps_negative_zeros ()
+  h = registered ({typed(3, sparse (3, 3))});
+  r = -zeros (3, 1);
+  quarn ('residual', r, h, [1; 2; 3], [4; 5], [], [0 0]);
+  expect_equal (r, [-0; -0; -0]);
+end
+
 function test_native_sparse_matrix_is_refused_when_it_is_used ()
   for code = 1:3
     i = quarn ('chandleset', code, speye (3));

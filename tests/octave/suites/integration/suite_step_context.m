@@ -32,6 +32,13 @@ function test_complex_numbers_are_found_before_the_model_is_looked_at ()
   expect_refused (@() quarn ('residual', zeros (1, 1), {}, 1, 1i, 1), 'Real numbers needed.');
 end
 
+function test_a_law_without_a_time_increment_takes_the_time_of_the_first_step ()
+  run = small_run ();
+  run.list{4} = state_element ('sts', [0 1 1 1 1], [-1 0 0 0 0], 2);
+  quarn ('chandlediagnewmark', run.list, run.model, run.u, run.v, run.a, run.opt, run.mem, run.out);
+  expect_equal (run.list{4}.opt(3), run.list{1}.tft(1, 2));
+end
+
 function test_a_handle_list_is_not_tested_for_complex_numbers ()
   expect_refused (@() quarn ('chandlediagnewmark', chandle (0), struct (), 1i, 1, 1, [0 0], struct (), struct ()), 'Real numbers needed.');
   expect_refused (@() quarn ('chandlediagnewmark', {1i}, struct (), 1, 1i, 1, [0 0], struct (), struct ()), 'Real numbers needed.');

@@ -183,6 +183,18 @@ function test_sizes_that_do_not_fit_are_refused ()
   end
 end
 
+function test_observation_that_reaches_past_shorter_velocities_is_refused ()
+  h = registered ({spring_element(3, 1, 3, [law_code('Power') 2 1])});
+  expect_refused (@() quarn ('residual', zeros (3, 1), h, ones (3, 1), ones (2, 1), [], [0 0]), ...
+                  'quarn residual : element 1 : c : index 2 in "ir" reaches past v of 2 values');
+end
+
+function test_a_block_of_states_longer_than_unl_ends_with_it ()
+  e = state_element ('sts', [1 0 0 10 0], [-1 1 0 4 1], 2);
+  [e, ~, u] = evaluate_law (e, [1; 2; 3; 4; 5], zeros (5, 1));
+  expect_equal (u, [1; 1; 2; 4; 5]);
+end
+
 function test_extents_that_no_integer_holds_are_refused ()
   e = spring_element (2, 1, 2, [law_code('Power') 2 1]);
   e.unl = zeros (65536, 65536, 0);

@@ -40,6 +40,19 @@ function test_sub_steps_interpolate_the_inputs_and_commit_one_after_the_other ()
   expect_equal (e.unl(5), 0.1);
 end
 
+function test_states_and_rates_are_committed_as_far_as_each_array_goes ()
+  e = one_state (1);
+  e.unl = fresh (cat (3, e.unl, zeros (2, 1)));
+  got = evaluate_law (e, [1; 99], [2; 98]);
+  expect_equal (got.unl(7:8), [0.7 0]);   % the second value beside the states
+  expect_equal (numel (got.vnl), 6);
+  e = one_state (1);
+  e.vnl = fresh (cat (3, e.vnl, zeros (2, 1)));
+  got = evaluate_law (e, [1; 99], [2; 98]);
+  expect_equal (got.vnl(7:8), [got.vnl(3) 0]);
+  expect_equal (numel (got.unl), 6);
+end
+
 function test_every_evaluation_advances_the_committed_state ()
   first = evaluate_law (one_state (1), [1; 0], [2; 0]);
   second = evaluate_law (first, [1; 0], [2; 0]);

@@ -101,6 +101,11 @@ function expect_same_with_shared (share)
       e.b = lines_of ([5; 6], [1; 1], n, wide);
       e.snl = zeros (2, 1);
       e.unl = u(2:3);
+    elseif strcmp (share, 'vnl')
+      e.b = lines_of ([5; 6], [1; 1], n, wide);
+      e.unl = zeros (2, 1);
+      e.snl = zeros (2, 1);
+      e.vnl = v(2:3);
     else
       e.b = lines_of ([6; 5], [1; 1], n, wide);
       e.unl = ones (2, 1) * 7;
@@ -116,6 +121,10 @@ end
 
 function test_observed_values_in_the_memory_of_the_state ()
   expect_same_with_shared ('unl');
+end
+
+function test_observed_velocities_in_the_memory_of_the_state ()
+  expect_same_with_shared ('vnl');
 end
 
 function test_forces_in_the_memory_of_the_residual ()

@@ -125,6 +125,11 @@ function test_broken_matrix_structures_are_refused_before_anything_is_written ()
   end
 end
 
+function test_a_product_of_one_value_is_checked_as_well ()
+  s = struct ('pr', 1, 'ir', int32 (5), 'jc', int32 ([0; 1]), 'dims', [1 1]);
+  refused_left (2, s, 'b : index 5 in "ir" reaches past a column of a of 1 values');
+end
+
 function test_the_diagonal_marker_is_named ()
   marked = setfield (matrix_lines (eye (3)), 'ir', int32 ([-1; 1; 2]));
   expect_error (@() quarn ('c<-a''*b', ones (3, 1), marked), '', '~marked as diagonal');

@@ -71,6 +71,11 @@ function test_product_that_would_leave_its_vectors_is_refused ()
   end
 end
 
+function test_entries_outside_the_line_pointers_are_not_looked_at ()
+  c = struct ('ir', int32 ([7; 0; 1; 99]), 'jc', int32 ([1; 2; 3]), 'pr', [9; 2; 3; 4], 'dims', [2 2], 'trans', 1);
+  expect_equal (by_handle (c, [1; 10], 2), [2; 30]);
+end
+
 function test_product_of_a_size_that_is_no_number_observes_nothing ()
   c = matrix_lines (sparse ([1 2; 3 4]), true);
   c.dims = [NaN 2];   % the integer of no number is below zero: no lines

@@ -11,7 +11,8 @@ function integrator_cases (id)
     coupled = diag (k) + 0.1 * randn (n);
     run (id, 'sum integrator', n, c, k, {typed(1, coupled), typed(3, diag (c) + 0.01 * randn (n))}, 20);
   end
-  for w = {'Power', 'Expon', 'Table', 'Maxw', 'DahlC', 'sts', 'Clima2'}
+  tables = source_tables ();
+  for w = tables.laws
     for trial = 1:6
       n = 7;
       e = random_law_element (w{1}, n);

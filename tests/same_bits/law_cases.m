@@ -1,8 +1,8 @@
 % LAW_CASES (ID)  every force law with random parameters and states, in two evaluations each, and the link of a rotor
 function law_cases (id)
-  words = {'Power', 'Expon', 'Table', 'Maxw', 'DahlC', 'sts', 'Clima2'};
+  tables = source_tables ();
   kinds = {'sum', 'one'};
-  for w = words
+  for w = tables.laws
     for single = [true false]
       name = sprintf ('%s law %s', kinds{1 + single}, w{1});
       for k = 1:12, one_element (id, name, random_law_element (w{1}, 7, single)); end

@@ -62,12 +62,16 @@ TEST_P(AllocationFailure, OfRegistryCommands) {
   failEach("chandleget", [] { return standin::Arguments{scalar(0)}; });
   standin::define("first", [](int, const standin::Arguments& args) -> std::vector<mxArray*> { return {const_cast<mxArray*>(args[0])}; });
   failEach("chandleget", [] { return standin::Arguments{text("first"), scalar(0), zeros(2)}; });
-  failEach(
-      "chandleset",
-      [] {
-        return standin::Arguments{scalar(2), stiffness()};
-      },
-      1, 1);
+  constexpr int everyType[] = {1, 2, 3, 1003, 2000};
+  keptValues = 1;  // that of type 1003
+  for (const int type : everyType) {
+    failEach(
+        "chandleset",
+        [type] {
+          return standin::Arguments{scalar(type), stiffness()};
+        },
+        1, 1);
+  }
   failEach(
       "chandleset",
       [] {
@@ -162,6 +166,20 @@ TEST_P(AllocationFailure, OfMatrixCommands) {
         return standin::Arguments{standin::object("v_handle", {{"file", stiffness()}}), int32s({0})};
       },
       0);
+}
+
+TEST_P(AllocationFailure, OfCommandsThatAllocateNothing) {
+  set(1, stiffness());
+  const auto called = [&](const char* command, const standin::Arguments& args) {
+    standin::failAllocation(1);
+    const standin::Result result = quarn(0, command, args);
+    EXPECT_EQ(standin::allocations(), 0) << command;
+    standin::failAllocation(0);
+    return result;
+  };
+  EXPECT_FALSE(called("nlv1", {structure({{"unl", zeros(1)}})}).failed);
+  EXPECT_FALSE(called("chandleclear", {scalar(0)}).failed);
+  EXPECT_EQ(called("ta'*k*tb", {zeros(2), nativeSparse({1, 2}), zeros(2)}).text, "ir problem");
 }
 
 TEST_P(AllocationFailure, OfTheRegistrysOwnNodes) {

@@ -1,12 +1,13 @@
 % LAW = RANDOM_LAW (WORD, N)  random sizes, parameters and places of the force law WORD for an element on N rows of u
 %
 % Fields
-%   parameters  "opt" from its second entry on, behind the law code
+%   parameters  "opt" from its second entry on, after the law code
 %   page, pages extents of "unl" and "vnl"
 %   places      "iopt" from its second entry on; the state block fits into N rows
 %   forces      fewest values of a "snl"; 0 where the law may write its forces over the observations
+%   rates       true where the law needs "vnl"
 function law = random_law (word, n)
-  law = struct ('word', word, 'page', randi (7), 'pages', randi (3), 'places', zeros (1, 4), 'forces', 0);
+  law = struct ('word', word, 'page', randi (7), 'pages', randi (3), 'places', zeros (1, 4), 'forces', 0, 'rates', false);
   law = feval (['random_' lower(word)], law, n);
 end
 
@@ -26,6 +27,7 @@ function law = random_table (law, n)
 end
 
 function law = random_maxw (law, n)
+  law.rates = true;
   q = randi ([0, 4]);
   m = randi ([0, min(3, n)]);
   elements = randi ([0, 3]);
@@ -40,6 +42,7 @@ function law = random_maxw (law, n)
 end
 
 function law = random_dahlc (law, n)
+  law.rates = true;
   law.pages = 1 + randi (2);
   exponents = [0 1 2 2*rand];
   law.parameters = [0; increment(0.1); 50 * rand; exponents(randi (4)); 0.5 + rand; 2 * rand];
@@ -47,12 +50,14 @@ function law = random_dahlc (law, n)
 end
 
 function law = random_sts (law, n)
+  law.rates = true;
   if law.pages == 1, law.page = 2 * ceil (law.page / 2); end
   law.parameters = [0; increment(0.1); 5 * rand; 5 * rand; 6 * rand; 3 * rand * (rand < 0.7)];
   law.places = random_store (n);
 end
 
 function law = random_clima2 (law, n)
+  law.rates = true;
   law.page = randi (11);
   law.pages = max (2, ceil (5 * ceil (law.page / 5) / law.page));
   knots = randi (6);

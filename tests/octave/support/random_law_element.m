@@ -9,7 +9,7 @@ function e = random_law_element (word, n, single_entries)
   law = random_law (word, n);
   e = struct ('type', 1003, 'opt', [law_code(word); law.parameters]);
   e.unl = randn (law.page, 1, law.pages);
-  if any (strcmp (word, {'Maxw', 'DahlC', 'sts', 'Clima2'})) || rand < 0.7, e.vnl = randn (law.page, 1, law.pages); end
+  if law.rates || rand < 0.7, e.vnl = randn (law.page, 1, law.pages); end
   forces = law.page;
   if rand < 0.8 || law.forces > 0
     forces = max (law.page, 3);

@@ -2,8 +2,8 @@
 %
 % The force laws are those of the module's table, read from its source.
 function list = validation_parts ()
-  laws = regexp (fileread (fullfile (project_folder (), 'src', 'nonlinear', 'law_table.cpp')), 'row\("(\w+)"', 'tokens');
-  list = cellfun (@(l) {l{1}, 'force law'}, laws.', 'uniformoutput', false);
+  tables = source_tables ();
+  list = cellfun (@(l) {l, 'force law'}, tables.laws.', 'uniformoutput', false);
   list = cat (1, list{:});
   list = [list; { ...
     'average acceleration', 'scheme'; 'linear acceleration', 'scheme'; 'numerical damping', 'scheme'; ...

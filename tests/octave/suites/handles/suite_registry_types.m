@@ -5,8 +5,10 @@ end
 
 function test_all_type_codes_register_any_value ()
   clear quarn
-  codes = [1 2 3 1003 2000];
-  for k = 1:5
+  tables = source_tables ();
+  codes = str2double (tables.types);
+  if numel (codes) < 5, error ('only %d types found in the sources', numel (codes)); end
+  for k = 1:numel (codes)
     expect_equal (quarn ('chandleset', codes(k), {}), k - 1);
     expect_equal (quarn ('chandleget', k - 1), {});
   end

@@ -24,6 +24,9 @@ function root = good_tree ()
   put (root, 'CONTRIBUTING.md', sprintf ('See [the command](docs/commands/one.md#the-command-ab).\n'));
   put (root, 'src/gateway/command_table.cpp', sprintf ('  {"a*b", commandAb},\n'));
   put (root, 'src/nonlinear/law_table.cpp', sprintf ('  row("Soft", FuSoft, checkSoft),\n'));
+  put (root, 'src/handles/handle_types.cpp', sprintf ('case soft: h = make<chandleSoft>(); break;\ncase 8:\n  h = make<chandleHard>();\n'));
+  put (root, 'src/handles/handle_types.h', sprintf ('enum class HandleType { soft = 7 };\n'));
+  put (root, 'docs/commands/handles.md', sprintf ('## Both (types 7 and 8)\n'));
   put (root, 'src/a.cpp', sprintf ('host::fail("KORV:quarn:empty", "no such thing");\nconstexpr const char* text = "other thing";\nhost::fail("third thing");\n'));
   put (root, 'docs/commands.md', sprintf ('| [`a*b`](commands/one.md) |\nKORV:quarn:empty no such thing, other thing, third thing\n'));
   put (root, 'docs/commands/one.md', sprintf ('# The command `a*b`\n'));
@@ -46,7 +49,7 @@ function test_a_good_tree_has_no_problem ()
   [problems, counts] = document_problems (root);
   remove (root);
   expect_equal (numel (problems), 0);
-  expect_equal (counts, [6 1 1 4 2]);
+  expect_equal (counts, [7 1 1 2 4 2]);
 end
 
 function test_a_command_without_a_section ()
@@ -60,6 +63,10 @@ end
 
 function test_a_law_without_a_section ()
   expect_problem ('docs/laws.md', sprintf ('## Softer\nSoft\n'), 'law "Soft" has no section');
+end
+
+function test_a_handle_type_without_a_section ()
+  expect_problem ('docs/commands/handles.md', sprintf ('## Soft (type 7)\nand 8\n'), 'handle type 8 has no section');
 end
 
 function test_a_heading_in_a_fenced_block_is_no_section ()

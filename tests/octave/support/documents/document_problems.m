@@ -3,10 +3,11 @@
 % PROBLEMS is a cell row of texts:
 %   - a command word of the command table without a section under docs/commands, or without a line in the table of docs/commands.md
 %   - a law keyword of the law table without a section in docs/laws.md
+%   - a code of a handle type without a section in docs/commands/handles.md
 %   - a defined error text or identifier of the sources that does not stand in docs/commands.md
 %   - a relative link or image that leads to no file, or to no heading of it
 %   - nothing found of one of these kinds: the check would be looking at the wrong files
-% COUNTS holds the numbers of documents, command words, law keywords, error texts and links.
+% COUNTS holds the numbers of documents, command words, law keywords, handle types, error texts and links.
 function [problems, counts] = document_problems (root)
   index = fullfile (root, 'docs', 'commands.md');
   documents = find_files (fullfile (root, 'docs'), '\.md$');
@@ -15,8 +16,9 @@ function [problems, counts] = document_problems (root)
   end
   problems = {};
 
-  words = table_words (fullfile (root, 'src', 'gateway', 'command_table.cpp'), '{"([^"]+)", command');
-  keywords = table_words (fullfile (root, 'src', 'nonlinear', 'law_table.cpp'), 'row\("([^"]+)"');
+  tables = source_tables (root);
+  words = tables.commands;
+  keywords = tables.laws;
   listed = fileread (index);
   headings = headings_of (find_files (fullfile (root, 'docs', 'commands'), '\.md$'));
   for k = 1:numel (words)
@@ -28,6 +30,13 @@ function [problems, counts] = document_problems (root)
   headings = headings_of ({fullfile(root, 'docs', 'laws.md')});
   for k = 1:numel (keywords)
     if ~any (strcmp (headings, keywords{k})), problems{end + 1} = sprintf ('law "%s" has no section in docs/laws.md', keywords{k}); end
+  end
+
+  headings = document_headings (fullfile (root, 'docs', 'commands', 'handles.md'));
+  for k = 1:numel (tables.types)
+    if all (cellfun (@isempty, regexp (headings, ['\(types?[^)]*\<' tables.types{k} '\>'], 'once')))
+      problems{end + 1} = sprintf ('handle type %s has no section "... (type %s)" in docs/commands/handles.md', tables.types{k}, tables.types{k});
+    end
   end
 
   texts = error_texts (fullfile (root, 'src'));
@@ -44,6 +53,6 @@ function [problems, counts] = document_problems (root)
     end
   end
 
-  counts = [numel(documents), numel(words), numel(keywords), numel(texts), n_links];
-  if any (counts == 0), problems{end + 1} = sprintf ('found %d documents, %d words, %d keywords, %d error texts, %d links', counts); end
+  counts = [numel(documents), numel(words), numel(keywords), numel(tables.types), numel(texts), n_links];
+  if any (counts == 0), problems{end + 1} = sprintf ('found %d documents, %d words, %d keywords, %d handle types, %d error texts, %d links', counts); end
 end

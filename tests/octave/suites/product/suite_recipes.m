@@ -1,0 +1,72 @@
+% A new row of the tables of commands, laws and handle types is in every place that CONTRIBUTING.md names, and this suite sees a missing one.
+function tests = suite_recipes ()
+  addpath (fullfile (project_folder (), 'tests', 'octave', 'support', 'documents'));
+  tests = localfunctions ();
+end
+
+function test_every_row_of_the_tables_is_where_the_guide_for_contributors_says ()
+  problems = recipe_problems (project_folder ());
+  if ~isempty (problems), error ('%s', sprintf ('\n  %s', problems{:})); end
+end
+
+function test_the_tables_are_read_from_the_sources ()
+  tables = source_tables ();
+  expect_equal (tables.commands([1, end]), {'ismex', 'version'});
+  expect_equal (numel (tables.commands), numel (unique (tables.commands)));
+  expect_equal (all (ismember ({'Power', 'sts'}, tables.laws)), true);
+  expect_equal (tables.types, {'1', '2', '3', '1003', '2000'});
+end
+
+function test_a_made_up_command_is_reported_at_every_place ()
+  everything_missing ('commands', 's<-''o', '{"s<-''o", commandSo},');
+end
+
+function test_a_made_up_law_is_reported_at_every_place ()
+  everything_missing ('laws', 'Snap', '  row("Snap", FuSnap, checkSnap),');
+end
+
+function test_a_made_up_handle_type_is_reported_at_every_place ()
+  everything_missing ('types', '77', sprintf ('case 77:\n  h = make<chandleSnap>();'));
+end
+
+function test_a_place_that_the_guide_does_not_name_is_reported ()
+  [root, away] = copy_of_places ();
+  guide = fullfile (root, 'CONTRIBUTING.md');
+  text = fileread (guide);
+  put_file (guide, strrep (text, 'random_law.m', 'random_things.m'));
+  expect_equal (recipe_problems (root), {'CONTRIBUTING.md does not name tests/octave/support/random_law.m under "Add a force law"'});
+end
+
+function test_a_table_that_is_not_found_is_reported ()
+  [root, away] = copy_of_places ();
+  delete (fullfile (root, 'src', 'nonlinear', 'law_table.cpp'));
+  expect_equal (recipe_problems (root), {'no law found in src'});
+end
+
+% With ROW in a source, exactly the places of TABLE are missing, each with the word and what to add.
+function everything_missing (table, word, row)
+  [root, away] = copy_of_places ();
+  put_file (fullfile (root, 'src', 'more.cpp'), sprintf ('\n%s\n', row));
+  problems = recipe_problems (root);
+  places = recipe_places ();
+  places = places.(table);
+  if numel (problems) ~= numel (places), error ('%d places, reported:%s', numel (places), sprintf ('\n  %s', problems{:})); end
+  for k = 1:numel (places)
+    expect_in (problems{k}, sprintf (' "%s": add %s, in %s', word, places(k).advice, strrep (places(k).path, '%l', lower (word))));
+  end
+end
+
+% The sources, the guide, and the places of all tables.
+function [root, away] = copy_of_places ()
+  [root, away] = new_folder ();
+  places = recipe_places ();
+  places = [places.commands, places.laws, places.types];
+  paths = unique ([{'src', 'CONTRIBUTING.md', 'docs/images', 'tests/octave/models'}, {places.path}]);
+  for path = paths(cellfun (@isempty, strfind (paths, '%')))
+    to = fileparts (fullfile (root, path{1}));
+    if ~exist (to, 'dir'), mkdir (to); end
+    from = fullfile (project_folder (), path{1});
+    if exist (fullfile (root, path{1}), 'dir'), from = fullfile (from, '*'); to = fullfile (root, path{1}); end
+    copyfile (from, to);
+  end
+end

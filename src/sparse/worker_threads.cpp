@@ -1,6 +1,7 @@
 #include "sparse/worker_threads.h"
 
 #include <oneapi/tbb/global_control.h>
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include <mutex>
@@ -13,15 +14,40 @@ namespace {
 /// Process that started the workers; 0 where none did. Its children, which fork makes, have none and cannot get any.
 pid_t owner = 0;
 
+/// Address space that is held while this is alive, if it is to be had; nothing is written into it.
+class Reserved {
+ public:
+  explicit Reserved(std::size_t n) : bytes(n), place(mmap(nullptr, n, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0)) {}
+  ~Reserved() {
+    if (*this) munmap(place, bytes);
+  }
+  Reserved(const Reserved&) = delete;
+  Reserved& operator=(const Reserved&) = delete;
+  explicit operator bool() const { return place != MAP_FAILED; }
+
+ private:
+  std::size_t bytes;
+  void* place;
+};
+
+/// What the scheduler's threads take beside their stacks, where the address space is limited (ulimit -v): the C library gives each a heap
+/// of 64 MB and asks for twice as much to begin with, the scheduler has tables. The scheduler ends the process for a stack that it does
+/// not get.
+constexpr std::size_t heaps = std::size_t{workerThreads} * 64 << 20;
+constexpr std::size_t tables = std::size_t{32} << 20;
+
 /// Starts as many threads as the scheduler will, which wait for one another, and ends them.
 bool threadsToBeHad() {
+  const Reserved reserved(heaps + tables);
   std::mutex waiting;
   std::thread probes[workerThreads - 1];
-  bool all = true;
+  bool all = static_cast<bool>(reserved);
   {
     const std::lock_guard<std::mutex> hold(waiting);
     try {
-      for (std::thread& probe : probes) probe = std::thread([&waiting] { const std::lock_guard<std::mutex> pass(waiting); });
+      for (std::thread& probe : probes) {
+        if (all) probe = std::thread([&waiting] { const std::lock_guard<std::mutex> pass(waiting); });
+      }
     } catch (...) {  // no thread, or no memory for one
       all = false;
     }
@@ -47,8 +73,10 @@ tbb::task_arena* workers() {
 void endSparseWorkers() noexcept {
   if (owner != getpid()) return;
   owner = 0;
-  arena().terminate();
+  // The handle keeps the scheduler alive until the arena is gone: another module of the process may have let go of it already, and the
+  // arena would be the last to hold it, whose end does not wait for the threads.
   tbb::task_scheduler_handle handle{tbb::attach{}};
+  arena().terminate();
   tbb::finalize(handle, std::nothrow);
 }
 

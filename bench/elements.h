@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "handles/chandle.h"
+#include "base/chandle.h"
 
 namespace quarn::bench {
 

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "handles/chandle.h"
+#include "base/chandle.h"
 #include "host/mex_api.h"
 #include "integration/diag_newmark.h"
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "host/processor.h"
+#include "numbers/processor.h"
 
 namespace quarn::bench {
 

@@ -8,7 +8,6 @@
 #include "gateway/version_command.h"
 #include "handles/handle_commands.h"
 #include "sparse/matrix_commands.h"
-#include "sparse/product_command.h"
 
 namespace quarn {
 

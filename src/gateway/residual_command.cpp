@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "gateway/nl_structures.h"
+#include "gateway/structures/nl_structures.h"
 #include "handles/handle_list.h"
 #include "host/errors.h"
 #include "host/user_code.h"

@@ -5,8 +5,8 @@
 #include "handles/handle_types.h"
 #include "handles/hindex.h"
 #include "host/arrays.h"
-#include "host/convert.h"
 #include "host/errors.h"
+#include "numbers/convert.h"
 
 namespace quarn {
 
@@ -14,7 +14,7 @@ namespace {
 
 constexpr int mostInputs = 9;  // of "chandleget", the command word included
 
-int indexArgument(const mxArray* a) { return host::toInt(host::number(a, "the handle's index")); }
+int indexArgument(const mxArray* a) { return toInt(host::number(a, "the handle's index")); }
 
 chandle* existing(int index) {
   chandle* h = cIndex.getStack(index);
@@ -34,7 +34,7 @@ mxArray* listKeys() {
 
 void commandChandleSet(int /*nlhs*/, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
   if (nrhs < 3) host::refuse("expected 3 inputs (command, type, value), got %d", nrhs);
-  const int code = host::toInt(host::number(prhs[1], "the handle's type"));
+  const int code = toInt(host::number(prhs[1], "the handle's type"));
   int ok = 0;
   chandle* h = chandleInitByType(code, &ok);
   const int index = cIndex.get_free_index();

@@ -5,9 +5,9 @@
 #include "handles/handle_types.h"
 #include "handles/hindex.h"
 #include "host/arrays.h"
-#include "host/convert.h"
 #include "host/errors.h"
 #include "host/user_code.h"
+#include "numbers/convert.h"
 
 namespace quarn {
 
@@ -21,7 +21,7 @@ chandle* fromElement(const mxArray* list, std::size_t i) {
                  element && mxIsStruct(element) ? " without one" : "");
   }
   int ok = 0;
-  const int code = host::toInt(host::number(type, "field \"type\""));
+  const int code = toInt(host::number(type, "field \"type\""));
   chandle* h = chandleInitByType(code, &ok);
   h->set_val(code, element);
   return h;
@@ -34,7 +34,7 @@ int keyOf(const mxArray* list, mxArray* place, std::size_t i) {
   mxArray* index = nullptr;
   host::callHost(1, &index, 2, in, "remi");
   if (!index) host::fail("KORV:quarn:NonHandle", "Handle does not exist");
-  const int key = host::toInt(host::number(index, "the index that \"remi\" returned"));
+  const int key = toInt(host::number(index, "the index that \"remi\" returned"));
   mxDestroyArray(index);
   return key;
 }

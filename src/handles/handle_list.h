@@ -1,7 +1,7 @@
 // Lists of handles, gathered for one call.
 #pragma once
 
-#include "handles/chandle.h"
+#include "base/chandle.h"
 #include "host/arrays.h"
 
 namespace quarn {

@@ -1,7 +1,7 @@
 // Creation of handles by type code: the one place that knows every handle class.
 #pragma once
 
-#include "handles/chandle.h"
+#include "base/chandle.h"
 
 namespace quarn {
 

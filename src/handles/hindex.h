@@ -5,7 +5,7 @@
 #include <map>
 #include <vector>
 
-#include "handles/chandle.h"
+#include "base/chandle.h"
 
 namespace quarn {
 

@@ -1,10 +1,7 @@
 #include "host/arrays.h"
 
-#include <algorithm>
 #include <climits>
 #include <cstdio>
-#include <cstring>
-#include <functional>
 
 #include "host/errors.h"
 
@@ -16,14 +13,18 @@ int narrow(std::size_t n) { return n > INT_MAX ? INT_MAX : static_cast<int>(n); 
 
 std::size_t count(const mxArray* a) { return a ? static_cast<std::size_t>(mxGetNumberOfElements(a)) : 0; }
 
-int rows(const mxArray* a) { return a ? narrow(static_cast<std::size_t>(mxGetM(a))) : 0; }
+std::size_t rowCount(const mxArray* a) { return a ? static_cast<std::size_t>(mxGetM(a)) : 0; }
 
-// Octave's mxGetN leaks its list of dimensions once a cell is looked into, so the count is divided where that is possible.
-int cols(const mxArray* a) {
-  if (!a) return 0;
-  const auto m = static_cast<std::size_t>(mxGetM(a));
-  return narrow(m > 0 ? count(a) / m : static_cast<std::size_t>(mxGetN(a)));
+// Octave's mxGetN leaks its list of dimensions once a cell or a complex array is looked into, so the count is divided where that is
+// possible.
+std::size_t columnCount(const mxArray* a) {
+  const std::size_t m = rowCount(a);
+  return m > 0 ? count(a) / m : a ? static_cast<std::size_t>(mxGetN(a)) : 0;
 }
+
+int rows(const mxArray* a) { return narrow(rowCount(a)); }
+
+int cols(const mxArray* a) { return narrow(columnCount(a)); }
 
 Description describe(const mxArray* a) {
   Description d{};
@@ -99,36 +100,6 @@ mxArray* matrixCell(const mxArray* a, std::size_t i) {
   if (!a || !mxIsCell(a) || i >= count(a)) return nullptr;
   mxArray* element = mxGetCell(a, static_cast<mwIndex>(i));
   return element && (count(element) > 0 || mxIsNumeric(element) || mxIsSparse(element)) ? element : nullptr;
-}
-
-namespace {
-
-/// Values first to last - 1 of n fall inside a destination of dstCount values that begins offset values before the first.
-struct Inside {
-  Inside(std::size_t dstCount, long long offset, long long n)
-      : first(std::max(0LL, -offset)), last(std::min(n, static_cast<long long>(std::min<std::size_t>(dstCount, LLONG_MAX)) - offset)) {}
-  long long first;
-  long long last;
-};
-
-}  // namespace
-
-void storeClipped(double* dst, std::size_t dstCount, long long offset, const double* src, long long n) {
-  if (!dst || !src) return;
-  const Inside in(dstCount, offset, n);
-  if (in.first >= in.last) return;
-  std::memmove(dst + offset + in.first, src + in.first, static_cast<std::size_t>(in.last - in.first) * sizeof(double));
-}
-
-void storeAscending(double* dst, std::size_t dstCount, long long offset, const double* src, long long n) {
-  if (!dst || !src) return;
-  const Inside in(dstCount, offset, n);
-  for (long long i = in.first; i < in.last; ++i) dst[offset + i] = src[i];
-}
-
-bool overlap(const double* a, std::size_t nA, const double* b, std::size_t nB) {
-  const std::less<const double*> before;  // also for pointers into different arrays
-  return a && b && nA > 0 && nB > 0 && before(a, b + nB) && before(b, a + nA);
 }
 
 }  // namespace quarn::host

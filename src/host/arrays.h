@@ -20,7 +20,10 @@ using Ints = Span<int>;
 
 /// Elements of a; 0 for null.
 std::size_t count(const mxArray* a);
-/// First dimension, and product of the others, as 32-bit integers (INT_MAX where they do not fit); 0 for null.
+/// First dimension, and product of the others; 0 for null.
+std::size_t rowCount(const mxArray* a);
+std::size_t columnCount(const mxArray* a);
+/// The same as 32-bit integers, INT_MAX where they do not fit.
 int rows(const mxArray* a);
 int cols(const mxArray* a);
 
@@ -46,7 +49,8 @@ bool holdsReals(const mxArray* a);
 /// Data of a full double array that is read, of a complex one its real part; refuses any other class under the name that the user knows it
 /// by. Absent is empty. On Octave the real part is a copy: what is written into it is not the caller's.
 Doubles doubles(const mxArray* a, const char* name);
-/// Data of a full real double array, above all of one that is written into; refuses any other class, complex arrays included. Absent is empty.
+/// Data of a full real double array, above all of one that is written into; refuses any other class, complex arrays included. Absent is
+/// empty.
 Doubles realDoubles(const mxArray* a, const char* name);
 /// Data of an int32 array; refuses any other class. Absent is empty.
 Ints int32s(const mxArray* a, const char* name);
@@ -66,14 +70,5 @@ mxArray* objectField(const mxArray* object, const char* name);
 
 /// A copy that shares no memory with a: deep on every host. Objects other than structs and cells are copied by the host.
 mxArray* duplicate(const mxArray* a);
-
-/// Copies the values of src that fall inside a destination of dstCount values when they are stored from offset on; what lies
-/// outside is left out. Returns nothing. offset may be negative or beyond the end.
-void storeClipped(double* dst, std::size_t dstCount, long long offset, const double* src, long long n);
-/// The same one value after the other in ascending order, which shows where the two lie on each other.
-void storeAscending(double* dst, std::size_t dstCount, long long offset, const double* src, long long n);
-
-/// Whether nA values from a on share memory with nB values from b on. Null and no values share nothing.
-bool overlap(const double* a, std::size_t nA, const double* b, std::size_t nB);
 
 }  // namespace quarn::host

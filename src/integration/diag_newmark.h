@@ -9,7 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "handles/chandle.h"
+#include "base/chandle.h"
 #include "host/arrays.h"
 #include "integration/newmark_fused.h"
 

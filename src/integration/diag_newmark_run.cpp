@@ -2,6 +2,7 @@
 #include "host/arrays.h"
 #include "host/errors.h"
 #include "integration/diag_newmark.h"
+#include "numbers/ranges.h"
 
 namespace quarn {
 
@@ -37,7 +38,7 @@ bool chandleDiagNewmark::apart(const ROr& c) const {
   constexpr int all = sizeof ranges / sizeof ranges[0];
   for (int i = 0; i < written; ++i) {
     for (int k = i + 1; k < all; ++k) {
-      if (host::overlap(ranges[i].data, ranges[i].count, ranges[k].data, ranges[k].count)) return false;
+      if (overlap(ranges[i].data, ranges[i].count, ranges[k].data, ranges[k].count)) return false;
     }
   }
   return true;
@@ -61,12 +62,12 @@ void chandleDiagNewmark::checkGain(const ROr& c) const {
                             {"data", {data, 6}}};
   const auto n = static_cast<std::size_t>(N);
   for (const Written& a : arrays) {
-    if (host::overlap(a.range.data, a.range.count, gainFull, n * n)) {
+    if (overlap(a.range.data, a.range.count, gainFull, n * n)) {
       host::refuse("the integrator's gain must have memory of its own, got that of %s, which a step writes", a.name);
     }
   }
   for (int k = 0; k < 3; ++k) {
-    if (host::overlap(arrays[k].range.data, arrays[k].range.count, uva.data, uva.count)) {
+    if (overlap(arrays[k].range.data, arrays[k].range.count, uva.data, uva.count)) {
       host::refuse("mem.uva.uva must have memory of its own beside a gain that is a matrix, got that of %s", arrays[k].name);
     }
   }

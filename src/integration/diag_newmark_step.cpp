@@ -4,6 +4,7 @@
 #include "host/errors.h"
 #include "integration/diag_newmark.h"
 #include "integration/full_gain.h"
+#include "numbers/ranges.h"
 
 namespace quarn {
 
@@ -33,7 +34,7 @@ void chandleDiagNewmark::doStep(chandle** list, int nh, int j, ROr c) {
     copyValues(uva.data + 2 * block, c.a, block);
   }
   if (NFNL > 0) copyValues(snapshot.data, store.data, static_cast<std::size_t>(NFNL));
-  if (iopt) host::storeClipped(c.FNL, c.fnlLen, iopt[0], loads, Nb);
+  if (iopt) storeClipped(c.FNL, c.fnlLen, iopt[0], loads, Nb);
 
   if (onePass) {
     newmarkBegin({c.u, c.v, c.a, N}, uva.data, uva.data + block, uva.data + 2 * block, fmod, r.data + N, loads, Nb, diagonals,

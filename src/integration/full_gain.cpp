@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "host/processor.h"
+#include "numbers/processor.h"
 
 namespace quarn {
 

@@ -1,8 +1,8 @@
 // Linear residual of a model given as matrices.
 #pragma once
 
+#include "base/ror.h"
 #include "host/arrays.h"
-#include "integration/ror.h"
 #include "sparse/sparse_view.h"
 
 namespace quarn {

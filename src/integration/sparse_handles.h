@@ -1,7 +1,7 @@
 // Mass, stiffness and damping matrices as handles.
 #pragma once
 
-#include "handles/chandle.h"
+#include "base/chandle.h"
 #include "sparse/sparse_view.h"
 
 namespace quarn {

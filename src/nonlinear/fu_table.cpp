@@ -2,10 +2,10 @@
 #include <algorithm>
 #include <climits>
 
-#include "host/arrays.h"
 #include "host/errors.h"
 #include "nonlinear/laws.h"
 #include "nonlinear/lin_interp.h"
+#include "numbers/ranges.h"
 #include "sparse/line_checks.h"
 
 namespace quarn {
@@ -67,9 +67,8 @@ void FuTable(chandleNl_inout* h, ROr ro) {
   const auto options = static_cast<std::size_t>(h->optLen);
   // The call is repeated once for each observed value. With nothing shared between its arguments, a repetition that finds the same first
   // segment as the one before would only repeat it.
-  const bool apart = h->unlLen > 1 && !host::overlap(h->unl, queries, h->snl, results) &&
-                     !host::overlap(h->snl, results, h->opt, options) && !host::overlap(t.table, size, t.record, 3) &&
-                     !host::overlap(h->unl, queries, h->opt, options);
+  const bool apart = h->unlLen > 1 && !overlap(h->unl, queries, h->snl, results) && !overlap(h->snl, results, h->opt, options) &&
+                     !overlap(t.table, size, t.record, 3) && !overlap(h->unl, queries, h->opt, options);
   double first = apart ? firstSegment(t, h->unl) : 0.0;
   for (int repetition = 0; repetition < h->unlLen; ++repetition) {
     vorel_LinInterp(t.table, h->unl, t.record, h->snl, t.nx, t.ny, h->unlLen, 1, nullptr, nullptr);

@@ -1,6 +1,6 @@
-#include "host/convert.h"
 #include "nonlinear/laws.h"
 #include "nonlinear/state_laws.h"
+#include "numbers/convert.h"
 
 namespace quarn {
 
@@ -33,7 +33,7 @@ static_assert(codeOf("Power") == 491328597840 && codeOf("Clima2") == 55394028842
 }  // namespace
 
 const LawRow* findLaw(double opt0) {
-  const std::int64_t code = host::toInt64(opt0);
+  const std::int64_t code = toInt64(opt0);
   for (const LawRow& candidate : laws) {
     if (candidate.code == code) return &candidate;
   }

@@ -4,7 +4,7 @@
 #include <climits>
 #include <cstddef>
 
-#include "host/convert.h"
+#include "numbers/convert.h"
 
 namespace quarn {
 
@@ -32,7 +32,7 @@ int walk(const double* X, int nx, int i, double xq) {
 }
 
 /// Segment that a record asks to start from; what is beyond all integers is beyond the last knot.
-int start(double record) { return record >= 2147483648.0 ? INT_MAX : host::toInt(record); }
+int start(double record) { return record >= 2147483648.0 ? INT_MAX : toInt(record); }
 
 double fraction(const double* X, int s, double xq) {
   const double d = X[s + 1] - X[s];

@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include "host/convert.h"
 #include "host/errors.h"
 #include "nonlinear/state_laws.h"
+#include "numbers/convert.h"
 
 namespace quarn {
 
@@ -85,7 +85,7 @@ void checkMaxw(const chandleNl_inout& h, const ROr& /*ro*/) {
   requireParameters(h, "Maxw", 4);
   if (h.ioptLen < 5) host::refuse("\"iopt\" of law \"Maxw\" must hold 5 values or more, got %d", h.ioptLen);
   const int elements = h.iopt[4];
-  if (elements <= 0 || host::toInt(h.opt[3]) < 1) return;
+  if (elements <= 0 || toInt(h.opt[3]) < 1) return;
 
   const Layout at(h);
   if (at.q < 0 && elements > 1) host::refuse("iopt(3) of law \"Maxw\" must not be negative with %d elements, got %d", elements, at.q);
@@ -103,7 +103,7 @@ void checkMaxw(const chandleNl_inout& h, const ROr& /*ro*/) {
 
 void Maxw(chandleNl_inout* h, ROr ro) {
   const double dt = timeIncrement(h, ro);
-  const int steps = host::toInt(h->opt[3]);
+  const int steps = toInt(h->opt[3]);
   const int elements = steps >= 1 ? h->iopt[4] : 0;
   // "opt" may share memory with what a run writes: sub-steps can turn up where none were when the sizes were looked at.
   if (elements > 0) checkMaxw(*h, ro);
@@ -127,7 +127,7 @@ void Maxw(chandleNl_inout* h, ROr ro) {
       for (std::ptrdiff_t i = 0; i <= at.q; ++i) force += h->opt[5 + i] * h->unl[o + i] + h->opt[Dv + i] * h->vnl[o + i];
       // Without values of an element every pass writes this one force, which may lie on unl[0]: once a pass leaves it as it was, the
       // further ones would too, whatever the counts say.
-      idle = at.q <= 0 && host::sameBits(h->snl[o], force);
+      idle = at.q <= 0 && sameBits(h->snl[o], force);
       h->snl[o] = force;
     }
   }

@@ -5,6 +5,7 @@
 
 #include "host/errors.h"
 #include "nonlinear/laws.h"
+#include "numbers/ranges.h"
 #include "sparse/dense_lines.h"
 #include "sparse/line_runs.h"
 #include "sparse/mt_kernels.h"
@@ -160,14 +161,14 @@ void chandleNl_inout::planObservation() {
     mxFree(cRuns);
     cRuns = nullptr;
   }
-  together = cRuns && unl && vnl && !host::overlap(unl, unlTotal, vnl, vnlTotal);
+  together = cRuns && unl && vnl && !overlap(unl, unlTotal, vnl, vnlTotal);
 }
 
 void chandleNl_inout::planCommand(host::Doubles r) {
   const bool scatters = snl && b.pr && b.sparse() && b.trans == 1;
-  bBlock = scatters && isBlock({b.rows, b.ir, b.jc, b.pr}, &bFirst, &bLength) && !host::overlap(r.data, r.count, snl, snlTotal) &&
-           !host::overlap(r.data, r.count, b.pr, b.prLen);
-  bRows = bBlock && cApart && sameLines(b, c) && !host::overlap(r.data, r.count, c.pr, c.prLen) ? c.pr : b.pr;
+  bBlock = scatters && isBlock({b.rows, b.ir, b.jc, b.pr}, &bFirst, &bLength) && !overlap(r.data, r.count, snl, snlTotal) &&
+           !overlap(r.data, r.count, b.pr, b.prLen);
+  bRows = bBlock && cApart && sameLines(b, c) && !overlap(r.data, r.count, c.pr, c.prLen) ? c.pr : b.pr;
   bWork = scatters && !bBlock ? static_cast<double*>(mxCalloc(static_cast<std::size_t>(std::max(b.cols, 1)), sizeof(double))) : nullptr;
   bSparse = bWork && b.rows > 0 && 8LL * (b.jc[b.rows] - b.jc[0]) <= b.cols;
   bPicks = bSparse && picksOnly(b.rows, b.jc) && distinct(b.jc[b.rows] - b.jc[0], b.ir + b.jc[0], bWork);

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "handles/chandle.h"
+#include "base/chandle.h"
 #include "host/arrays.h"
 #include "sparse/sparse_view.h"
 

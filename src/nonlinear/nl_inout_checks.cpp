@@ -3,6 +3,7 @@
 
 #include "host/errors.h"
 #include "nonlinear/nl_inout.h"
+#include "numbers/ranges.h"
 #include "sparse/line_checks.h"
 #include "sparse/mt_kernels.h"
 
@@ -27,12 +28,12 @@ void chandleNl_inout::checkViews(const ROr& ro, std::size_t rLen) {
   pagesApart = true;
   for (const double* page : {unl, vnl}) {
     const auto length = static_cast<std::size_t>(std::max(unlLen, 0));
-    if (host::overlap(page, length, ro.u, ro.uLen) || host::overlap(page, length, ro.v, ro.vLen)) pagesApart = false;
+    if (overlap(page, length, ro.u, ro.uLen) || overlap(page, length, ro.v, ro.vLen)) pagesApart = false;
   }
   cApart = true;
   for (const host::Doubles& written :
        {host::Doubles{unl, unlTotal}, {vnl, vnlTotal}, {snl, snlTotal}, {ro.u, ro.uLen}, {ro.v, ro.vLen}, {ro.a, ro.aLen}}) {
-    if (host::overlap(c.pr, c.prLen, written.data, written.count)) cApart = false;
+    if (overlap(c.pr, c.prLen, written.data, written.count)) cApart = false;
   }
 }
 

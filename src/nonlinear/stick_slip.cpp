@@ -1,5 +1,5 @@
-#include "host/convert.h"
 #include "nonlinear/state_laws.h"
+#include "numbers/convert.h"
 
 namespace quarn {
 
@@ -23,7 +23,7 @@ void STS(chandleNl_inout* h, ROr ro) {
     const double y = h->unl[i + 1];
     const double trial = (y - x) * contact + y * ground;
     // Whole units of force decide: a trial of 2.9 does not overcome a slip force of 2.5.
-    if (slipForce > host::absolute(host::toInt(trial))) break;
+    if (slipForce > absolute(toInt(trial))) break;
     const double slip = trial > 0.0 ? slipForce : -slipForce;
     h->unl[i + 1] = ((x + h->vnl[i] * dt) * contact - slip) / (contact + ground);
   }

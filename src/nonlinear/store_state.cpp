@@ -1,15 +1,15 @@
 #include <algorithm>
 #include <climits>
 
-#include "host/arrays.h"
 #include "nonlinear/nl_inout.h"
+#include "numbers/ranges.h"
 
 namespace quarn {
 
 void storeForces(const chandleNl_inout& h, const ROr& ro) {
   if (h.ioptLen < 1 || !ro.FNL || h.iopt[0] < 0) return;
   const auto have = static_cast<long long>(h.snlTotal);
-  host::storeClipped(ro.FNL, ro.fnlLen, h.iopt[0], h.snl, have >= 0 && have < h.unlLen ? have : h.unlLen);
+  storeClipped(ro.FNL, ro.fnlLen, h.iopt[0], h.snl, have >= 0 && have < h.unlLen ? have : h.unlLen);
 }
 
 void StoreState(chandleNl_inout* h, ROr ro) {
@@ -30,7 +30,7 @@ void StoreState(chandleNl_inout* h, ROr ro) {
     const long long ahead = cursor < 0 ? -cursor : 0;
     const long long from = cursor + ahead;
     const long long n = std::min(length - ahead, total - from);
-    if (n > 0) host::storeClipped(ro.u, ro.uLen, h->iopt[1] + ahead, h->unl + from, n);
+    if (n > 0) storeClipped(ro.u, ro.uLen, h->iopt[1] + ahead, h->unl + from, n);
     cursor += length;
   }
 }

@@ -10,8 +10,8 @@ namespace quarn {
 DenseBase denseBase(const mxArray* a, const char* name) {
   if (!a || !mxIsDouble(a) || mxIsSparse(a)) host::refuse("%s must be a full double matrix, got %s", name, host::describe(a).text);
   DenseBase base;
-  base.rows = rowsOf(a);
-  base.cols = colsOf(a);
+  base.rows = host::rowCount(a);
+  base.cols = host::columnCount(a);
   if (host::count(a) == 0) return base;
   base.re = mxGetPr(a);
   if (mxIsComplex(a)) base.im = mxGetPi(a);

@@ -15,14 +15,6 @@ inline const mxArray* argument(int nrhs, const mxArray* prhs[], int k) { return 
 /// A sparse matrix of the host's own kind (64-bit indices), as opposed to a matrix structure.
 inline bool isNativeSparse(const mxArray* a) { return a && mxIsSparse(a); }
 
-/// First dimension, and product of the others; a must be there.
-inline std::size_t rowsOf(const mxArray* a) { return static_cast<std::size_t>(mxGetM(a)); }
-inline std::size_t colsOf(const mxArray* a) {
-  // Octave's mxGetN leaks its list of dimensions once a complex array is looked into.
-  const std::size_t m = rowsOf(a);
-  return m > 0 ? host::count(a) / m : static_cast<std::size_t>(mxGetN(a));
-}
-
 /// Real and imaginary data of a full double matrix; refuses every other class. Without elements both are null.
 DenseBase denseBase(const mxArray* a, const char* name);
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/processor.h"
+#include "numbers/processor.h"
 
 namespace quarn {
 

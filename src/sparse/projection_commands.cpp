@@ -4,6 +4,7 @@
 
 #include "host/arrays.h"
 #include "host/errors.h"
+#include "numbers/ranges.h"
 #include "sparse/command_arguments.h"
 #include "sparse/line_checks.h"
 #include "sparse/matrix_commands.h"
@@ -19,7 +20,7 @@ SparseLines linesOf(const SparseView& v) { return {v.ir, v.jc, v.pr}; }
 double* doublesOfHost(std::size_t n) { return static_cast<double*>(mxCalloc(std::max<std::size_t>(n, 1), sizeof(double))); }
 
 double* outputOf(const mxArray* c, std::size_t n, std::size_t lines) {
-  if (!host::isRealDouble(c) || rowsOf(c) != n || colsOf(c) != lines) {
+  if (!host::isRealDouble(c) || host::rowCount(c) != n || host::columnCount(c) != lines) {
     host::refuse("c must be a full real double %zux%zu array, got %s", n, lines, host::describe(c).text);
   }
   return host::doubles(c, "c").data;
@@ -36,7 +37,7 @@ void commandProjectLeft(int, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
   if (nrhs < 3) host::refuse("a and b expected, got %d operands", nrhs - 1);
   const SparseView s = sparseView(prhs[2], "b");
   const int shared = s.trans == 1 ? s.cols : s.rows;
-  if (shared < 0 || rowsOf(prhs[1]) != static_cast<std::size_t>(shared)) {
+  if (shared < 0 || host::rowCount(prhs[1]) != static_cast<std::size_t>(shared)) {
     constexpr const char* text = "quarn c<-a'*b : vector a has a wrong size";
     if (s.trans == 1) host::fail(text);  // this path has no identifier, on purpose
     host::fail("KORV:quarn:WrongSize", text);
@@ -55,7 +56,7 @@ void commandProjectLeft(int, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
     result = mxGetPr(plhs[0]);
   }
   if (values == 0) return;
-  if (!host::overlap(result, values, a.re, a.rows * a.cols) && !host::overlap(result, values, s.pr, s.prLen)) {
+  if (!overlap(result, values, a.re, a.rows * a.cols) && !overlap(result, values, s.pr, s.prLen)) {
     projectLines(result, a, linesOf(s), lines);
     return;
   }
@@ -73,8 +74,8 @@ void commandTripleProduct(int, mxArray* plhs[], int nrhs, const mxArray* prhs[])
   const mxArray* opt = argument(nrhs, prhs, 4);
   if (!opt || !mxIsInt32(opt)) host::fail("int32 needed : quarn('abc',TA,k,TB,int32([1 0 0]));");
   if (!isFullProduct(opt)) host::fail("quarn('abc')");
-  if (static_cast<long long>(rowsOf(prhs[1])) != s.rows) host::fail("abc : a and b have wrong size");
-  if (static_cast<long long>(rowsOf(prhs[3])) != s.cols) host::fail("abc : b and c have wrong size");
+  if (static_cast<long long>(host::rowCount(prhs[1])) != s.rows) host::fail("abc : a and b have wrong size");
+  if (static_cast<long long>(host::rowCount(prhs[3])) != s.cols) host::fail("abc : b and c have wrong size");
 
   const DenseBase a = denseBase(prhs[1], "TA");
   const DenseBase b = denseBase(prhs[3], "TB");

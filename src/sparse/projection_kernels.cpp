@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "host/processor.h"
+#include "numbers/processor.h"
 #include "sparse/line_sums.h"
 
 namespace quarn {

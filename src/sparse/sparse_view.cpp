@@ -4,8 +4,8 @@
 #include <cstring>
 #include <limits>
 
-#include "host/convert.h"
 #include "host/errors.h"
+#include "numbers/convert.h"
 
 namespace quarn {
 
@@ -26,8 +26,8 @@ void readDims(const mxArray* a, const char* name, SparseView& v) {
   if (const mxArray* dims = host::field(a, "dims")) {
     const host::Doubles d = host::doubles(dims, "field \"dims\"");
     if (d.count < 2) host::refuse("%s.dims must hold 2 values (rows, cols), got %zu", name, d.count);
-    v.rows = host::toInt(d.data[0]);
-    v.cols = host::toInt(d.data[1]);
+    v.rows = toInt(d.data[0]);
+    v.cols = toInt(d.data[1]);
     return;
   }
   const mxArray* jc = host::field(a, "jc");

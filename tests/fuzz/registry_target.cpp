@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <map>
 
-#include "host/convert.h"
+#include "numbers/convert.h"
 #include "session.h"
 
 namespace {
@@ -53,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Model model;
   for (int round = 0; round < 60 && !in.empty(); ++round) {
     const double number = in.rarely(4) ? in.number() : static_cast<double>(in.below(6)) + (in.rarely(4) ? 0.5 : 0.0);
-    const int index = quarn::host::toInt(number);
+    const int index = quarn::toInt(number);
     mxArray* argument = mxCreateDoubleScalar(number);
     switch (in.below(6)) {
       case 0: {

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "host/convert.h"
+#include "numbers/convert.h"
 
 namespace quarn::host {
 namespace {

@@ -8,7 +8,7 @@
 //   f = fu + fv acts on B, -T' f on A.
 #pragma once
 
-#include "gateway/nl_element.h"
+#include "gateway/structures/nl_element.h"
 
 namespace quarn {
 

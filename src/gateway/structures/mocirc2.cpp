@@ -1,4 +1,4 @@
-#include "gateway/nl_builtin.h"
+#include "gateway/structures/nl_builtin.h"
 #include "host/errors.h"
 #include "sparse/blas.h"
 #include "sparse/line_checks.h"

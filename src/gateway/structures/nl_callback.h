@@ -4,7 +4,7 @@
 // they have returned. Their errors leave the command unchanged.
 #pragma once
 
-#include "gateway/nl_element.h"
+#include "gateway/structures/nl_element.h"
 
 namespace quarn {
 

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "base/ror.h"
 #include "host/arrays.h"
-#include "integration/ror.h"
 
 namespace quarn {
 
@@ -29,8 +29,9 @@ class chandle {
   /// Refuses what Residual and EndStep would read or write outside the arrays of ctx and the rLen values of r.
   /// Called once for a call or a run of the integrator, before the first Residual.
   virtual void checkSizes(const ROr& /*ctx*/, std::size_t /*rLen*/) {}
-  /// Takes the host memory of the current call that Residual works in; r: what it will add to. Called once behind checkSizes, when no function of the user's can
-  /// come in between any more: one that calls quarn with the same handle would leave memory of its own, ended call here.
+  /// Takes the host memory of the current call that Residual works in; r: what it will add to. Called once behind checkSizes, when no
+  /// function of the user's can come in between any more: one that calls quarn with the same handle would leave memory of its own, ended
+  /// call here.
   virtual void takeWork(host::Doubles /*r*/) {}
   /// Offset behind the state block that the handle writes into ctx.u; 0 if it writes none.
   virtual std::int64_t stateEnd() const { return 0; }

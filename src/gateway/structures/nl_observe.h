@@ -1,7 +1,7 @@
 // Observation of the state by a nonlinear element.
 #pragma once
 
-#include "gateway/nl_element.h"
+#include "gateway/structures/nl_element.h"
 
 namespace quarn {
 

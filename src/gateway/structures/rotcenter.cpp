@@ -1,8 +1,8 @@
-#include "gateway/rotcenter.h"
+#include "gateway/structures/rotcenter.h"
 
 #include <cmath>
 
-#include "gateway/nl_builtin.h"
+#include "gateway/structures/nl_builtin.h"
 #include "nonlinear/lin_interp.h"
 #include "sparse/mt_kernels.h"
 

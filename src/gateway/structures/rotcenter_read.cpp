@@ -1,15 +1,15 @@
 #include <algorithm>
 
-#include "gateway/nl_builtin.h"
-#include "gateway/rotcenter.h"
-#include "host/convert.h"
+#include "gateway/structures/nl_builtin.h"
+#include "gateway/structures/rotcenter.h"
 #include "host/errors.h"
+#include "numbers/convert.h"
 #include "sparse/mt_kernels.h"
 
 namespace quarn {
 
 long long place(double number, std::size_t limit) {
-  const long long index = static_cast<long long>(host::toInt(number)) - 1;
+  const long long index = static_cast<long long>(toInt(number)) - 1;
   return index >= 0 && static_cast<std::size_t>(index) < limit ? index : -1;
 }
 

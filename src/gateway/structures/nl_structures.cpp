@@ -1,9 +1,9 @@
-#include "gateway/nl_structures.h"
+#include "gateway/structures/nl_structures.h"
 
-#include "gateway/nl_builtin.h"
-#include "gateway/nl_callback.h"
-#include "gateway/nl_element.h"
-#include "gateway/nl_observe.h"
+#include "gateway/structures/nl_builtin.h"
+#include "gateway/structures/nl_callback.h"
+#include "gateway/structures/nl_element.h"
+#include "gateway/structures/nl_observe.h"
 
 namespace quarn {
 

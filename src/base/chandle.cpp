@@ -1,4 +1,4 @@
-#include "handles/chandle.h"
+#include "base/chandle.h"
 
 #include "host/user_code.h"
 

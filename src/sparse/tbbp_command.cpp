@@ -1,7 +1,7 @@
-#include "sparse/product_command.h"
-
+// "tbbp".
 #include "host/errors.h"
 #include "sparse/line_checks.h"
+#include "sparse/matrix_commands.h"
 #include "sparse/sp_tbb.h"
 
 namespace quarn {

@@ -1,4 +1,4 @@
-#include "gateway/nl_element.h"
+#include "gateway/structures/nl_element.h"
 
 #include <cstring>
 

@@ -1,7 +1,7 @@
 // Laws of nonlinear elements that need no MATLAB function.
 #pragma once
 
-#include "gateway/nl_element.h"
+#include "gateway/structures/nl_element.h"
 
 namespace quarn {
 

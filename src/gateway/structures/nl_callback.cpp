@@ -1,8 +1,9 @@
-#include "gateway/nl_callback.h"
+#include "gateway/structures/nl_callback.h"
 
 #include <algorithm>
 
 #include "host/errors.h"
+#include "numbers/ranges.h"
 #include "sparse/mt_kernels.h"
 
 namespace quarn {
@@ -92,7 +93,7 @@ void addHandleLaw(const NlCall& call, const NlElement& e) {
   if (b) Add_Mt_u(b, f, call.r, "the element's b");
   if (store) {
     const auto n = std::min(static_cast<long long>(host::rows(F)), static_cast<long long>(f.count));
-    host::storeAscending(call.ctx.FNL, call.ctx.fnlLen, storeOffset(e), f.data, n);
+    storeAscending(call.ctx.FNL, call.ctx.fnlLen, storeOffset(e), f.data, n);
   }
 }
 

@@ -1,4 +1,4 @@
-#include "integration/ror.h"
+#include "base/ror.h"
 
 #include "host/arrays.h"
 #include "host/errors.h"

@@ -1,8 +1,8 @@
 // One element of a model's nonlinear list.
 #pragma once
 
+#include "base/ror.h"
 #include "host/arrays.h"
-#include "integration/ror.h"
 
 namespace quarn {
 

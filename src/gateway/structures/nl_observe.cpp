@@ -1,4 +1,4 @@
-#include "gateway/nl_observe.h"
+#include "gateway/structures/nl_observe.h"
 
 #include <algorithm>
 #include <cstdint>

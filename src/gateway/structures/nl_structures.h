@@ -1,8 +1,8 @@
 // The nonlinear list "NL" of a model structure, in the residual command.
 #pragma once
 
+#include "base/ror.h"
 #include "host/arrays.h"
-#include "integration/ror.h"
 
 namespace quarn {
 

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <cstring>
 
-namespace quarn::host {
+namespace quarn {
 
 /// Integer part of x. What does not fit, NaN included, becomes INT_MIN, as the x86-64 conversion instruction does.
 constexpr int toInt(double x) { return x > -2147483649.0 && x < 2147483648.0 ? static_cast<int>(x) : INT_MIN; }
@@ -27,4 +27,4 @@ inline bool sameBits(double a, double b) {
   return x == y;
 }
 
-}  // namespace quarn::host
+}  // namespace quarn

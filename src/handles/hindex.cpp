@@ -51,9 +51,4 @@ void hindex::free_index(int i) {
   release(h);
 }
 
-void emptyStack() {
-  mexPrintf("Emptying quarn stack\n");
-  cIndex.free_index(-1);
-}
-
 }  // namespace quarn

@@ -44,7 +44,4 @@ class hindex {
 
 extern hindex cIndex;
 
-/// Prints "Emptying quarn stack\n" and clears all. For debugging sessions; no command calls it.
-void emptyStack();
-
 }  // namespace quarn

@@ -90,7 +90,4 @@ class chandleDiagNewmark final : public chandle {
   bool undisturbed = false;  ///< nothing but loads and folded diagonals acts, and nothing looks at the work array between the steps
 };
 
-/// Calls the host's "drawnow", then "pause" with 1e-5 s, so that figures are drawn. No command calls it.
-void doFlush();
-
 }  // namespace quarn

@@ -80,11 +80,4 @@ void chandleDiagNewmark::saveStore(double t) {
   if (due && (place + 1) * length <= storeDef.count) copyValues(storeDef.data + place * length, store.data, length);
 }
 
-void doFlush() {
-  host::callHost(0, nullptr, 0, nullptr, "drawnow");
-  mxArray* seconds = mxCreateDoubleScalar(1e-05);
-  host::callHost(0, nullptr, 1, &seconds, "pause");
-  mxDestroyArray(seconds);
-}
-
 }  // namespace quarn

@@ -96,6 +96,4 @@ void KorvTerm::addProduct() const {
   }
 }
 
-void KorvResidual(int code, ROr c, const mxArray* K, host::Doubles r) { KorvTerm(code, c, K, r).add(); }
-
 }  // namespace quarn

@@ -47,7 +47,4 @@ class KorvTerm {
   int m = 0;
 };
 
-/// Checks and adds one term.
-void KorvResidual(int code, ROr c, const mxArray* K, host::Doubles r);
-
 }  // namespace quarn

@@ -31,9 +31,6 @@ void FuDahlC(chandleNl_inout* h, ROr ro);
 /// snl[0] = (unl[0] - unl[1])*k + opt[3]*unl[0].
 void STS(chandleNl_inout* h, ROr ro);
 
-/// Passes the stored state of each pair on as its force. Has no code in the table of laws; called directly only.
-void FuFric(chandleNl_inout* h, ROr ro);
-
 /// Two Dahl branches whose limit mu*g0 and stiffness g1 are tabulated over a third observed value, and a third force that follows
 /// g0. Groups of five in unl: three observed displacements, two force states; k = opt[3], e = opt[4], mu = opt[5],
 /// offset = opt[6], the table as for FuTable at iopt[5..8]. Every group writes snl[0..2] and uses unl[0..2] for the terms in k.
@@ -44,7 +41,6 @@ void Clima2(chandleNl_inout* h, ROr ro);
 void checkMaxw(const chandleNl_inout& h, const ROr& ro);
 void checkDahlC(const chandleNl_inout& h, const ROr& ro);
 void checkSts(const chandleNl_inout& h, const ROr& ro);
-void checkFric(const chandleNl_inout& h, const ROr& ro);
 void checkClima2(const chandleNl_inout& h, const ROr& ro);
 
 /// h of the law, after it has been set to ro.t where it was 0.

@@ -71,17 +71,6 @@ SparseView sparseView(const mxArray* a, const char* name) {
   return v;
 }
 
-void korv_mkl_get_sparse(const mxArray* a, void** ptrs, int* dims) {
-  const SparseView v = sparseView(a, "the matrix");
-  ptrs[0] = v.ir;
-  ptrs[1] = v.jc;
-  ptrs[2] = v.pr;
-  dims[2] = v.trans;
-  if (!v.pr && v.rows == 0 && v.cols == 0) return;
-  dims[0] = v.rows;
-  dims[1] = v.cols;
-}
-
 host::Doubles pmatDoubles(const mxArray* a, const char* name) {
   if (!host::isObject(a)) return host::realDoubles(a, name);
   const mxArray* address = host::objectField(a, "c");
@@ -95,7 +84,5 @@ host::Doubles pmatDoubles(const mxArray* a, const char* name) {
   auto* data = reinterpret_cast<double*>(static_cast<std::uintptr_t>(bits));
   return {data, data ? std::numeric_limits<std::size_t>::max() : 0};
 }
-
-double* pmatGetPr(const mxArray* a) { return pmatDoubles(a, "the array").data; }
 
 }  // namespace quarn

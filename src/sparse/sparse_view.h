@@ -40,13 +40,8 @@ struct SparseView {
 /// Raises "ir must be int32" for a native sparse matrix; refuses other classes, naming the argument.
 SparseView sparseView(const mxArray* a, const char* name);
 
-/// The same view in two small arrays of the caller: ptrs = {ir, jc, pr}, dims = {rows, cols, trans}. Where there is no
-/// "pr", rows and cols keep what the caller had there.
-void korv_mkl_get_sparse(const mxArray* a, void** ptrs, int* dims);
-
 /// Writable doubles of a: the data of a full double array, or, for an object, the buffer whose address is the first 64-bit word
 /// of its property "c". The length of such a buffer is not known and taken as unlimited: its owner answers for it.
 host::Doubles pmatDoubles(const mxArray* a, const char* name);
-double* pmatGetPr(const mxArray* a);
 
 }  // namespace quarn

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "nonlinear/state_laws.h"
+#include "uncalled/uncalled.h"
 
 namespace {
 

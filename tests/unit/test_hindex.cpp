@@ -6,6 +6,7 @@
 #include "handles/handle_types.h"
 #include "handles/hindex.h"
 #include "host_output.h"
+#include "uncalled/uncalled.h"
 
 namespace quarn {
 namespace {

@@ -5,6 +5,7 @@
 
 #include "host_output.h"
 #include "sparse/sparse_view.h"
+#include "uncalled/uncalled.h"
 
 namespace quarn {
 namespace {

@@ -1,4 +1,5 @@
 #include "nonlinear/state_laws.h"
+#include "uncalled/uncalled.h"
 
 namespace quarn {
 

@@ -1,10 +1,18 @@
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "host_output.h"
-#include "integration/korv_residual.h"
+#include "uncalled/uncalled.h"
 
 namespace quarn {
 namespace {
+
+TEST(DoFlush, DrawsAndThenPausesForTenMicroseconds) {
+  definePrinting("drawnow");
+  definePrinting("pause");
+  EXPECT_EQ(hostOutput(doFlush).printed, "drawnow\npause 1e-05\n");
+}
 
 TEST(KorvResidual, PrintsAndRefusesACodeThatIsNoTerm) {
   mxArray* K = mxCreateCellMatrix(1, 3);

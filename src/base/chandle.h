@@ -23,6 +23,8 @@ class chandle {
   virtual void initCpt() {}
   /// Commits the state after an accepted time step.
   virtual void EndStep() {}
+  /// Whether EndStep has something to do in a run that begins now.
+  virtual bool endsSteps() const { return true; }
   /// Adds this handle's contribution to r (in-out, ctx.N values). Trusts what checkSizes has established.
   virtual void Residual(ROr /*ctx*/, double* /*r*/) {}
 

@@ -50,6 +50,7 @@ class chandleDiagNewmark final : public chandle {
   void bindOutputs(const mxArray* out);
   void plan(const ROr& c, chandle** list, int nh);
   void foldDiagonals(const ROr& c, chandle** list, int nh);
+  void findClosing(chandle** list, int nh);
   bool apart(const ROr& c) const;
   void checkGain(const ROr& c) const;
   void finishPass(const ROr& c);
@@ -87,6 +88,8 @@ class chandleDiagNewmark final : public chandle {
   bool onePass = false;  ///< copies, predictor, load and folded diagonals in one pass over the modes
   int folded = 0;        ///< handles at the head of the list whose forces are in that pass
   DiagonalForces diagonals;
+  chandle** closing = nullptr;  ///< handles that have something to do when a step ends, in host memory of the current call
+  int closingCount = 0;
   bool undisturbed = false;  ///< nothing but loads and folded diagonals acts, and nothing looks at the work array between the steps
 };
 

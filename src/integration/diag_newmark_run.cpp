@@ -100,7 +100,16 @@ void chandleDiagNewmark::finishPass(const ROr& c) {
   }
 }
 
+void chandleDiagNewmark::findClosing(chandle** list, int nh) {
+  closing = static_cast<chandle**>(mxCalloc(static_cast<std::size_t>(nh) + 1, sizeof(chandle*)));
+  closingCount = 0;
+  for (int k = 0; k < nh; ++k) {
+    if (list[k] && list[k]->type >= 0 && list[k]->endsSteps()) closing[closingCount++] = list[k];
+  }
+}
+
 void chandleDiagNewmark::plan(const ROr& c, chandle** list, int nh) {
+  findClosing(list, nh);
   diagonals = {};
   folded = 0;
   if (c.N >= N) foldDiagonals(c, list, nh);

@@ -56,9 +56,7 @@ void chandleDiagNewmark::doStep(chandle** list, int nh, int j, ROr c) {
   } else {
     newmarkCorrect(c.u, c.v, c.a, fmod, gain, N, coefficients);
   }
-  for (int k = folded; k < nh; ++k) {
-    if (live(list[k])) list[k]->EndStep();
-  }
+  for (int k = 0; k < closingCount; ++k) closing[k]->EndStep();
   save(t, c);
   saveStore(t);
 }

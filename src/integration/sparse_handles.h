@@ -13,6 +13,7 @@ namespace quarn {
 class chandleSparse : public chandle {
  public:
   void checkSizes(const ROr& ctx, std::size_t rLen) override;
+  bool endsSteps() const override { return false; }
   const double* diagonalValues() const override { return diagonal() ? m.pr : nullptr; }
 
  protected:

@@ -89,6 +89,15 @@ void chandleNl_inout::observe(const double* x, double* page) const {
   Prod_Mt_ub(dims, c.ir, c.jc, c.pr, x, page);
 }
 
+void chandleNl_inout::observeBlock(const ROr& ro) const {
+  if (together) {
+    denseSumsOfTwo(unlLen, cLength, cRows, ro.v + cFirst, vnl, ro.u + cFirst, unl);
+  } else {
+    if (vnl) denseSums(unlLen, cLength, cRows, ro.v + cFirst, vnl);
+    if (unl) denseSums(unlLen, cLength, cRows, ro.u + cFirst, unl);
+  }
+}
+
 void chandleNl_inout::observeBoth(const ROr& ro) const {
   const StoredLines lines{c.rows, c.ir, c.jc, c.pr};
   if (cPicks) {
@@ -108,7 +117,11 @@ void chandleNl_inout::observeBoth(const ROr& ro) const {
 /// Through b, without a work vector where its lines are full. Places that no line reaches gain 0, which matters to a negative zero alone.
 void chandleNl_inout::addForces(const ROr& ro, double* r) {
   if (bBlock) {
-    addDenseRows(b.rows, bLength, b.jc, bRows, snl, r + bFirst);
+    if (bOne) {
+      if (snl[0] != 0.0) addDenseRow(bLength, bRows, snl[0], r + bFirst);
+    } else {
+      addDenseRows(b.rows, bLength, b.jc, bRows, snl, r + bFirst);
+    }
     if (b.cols <= ro.begunAtZero) return;
     for (int j = 0; j < bFirst; ++j) r[j] += 0.0;
     for (int j = bFirst + bLength; j < b.cols; ++j) r[j] += 0.0;
@@ -128,7 +141,11 @@ void chandleNl_inout::addForces(const ROr& ro, double* r) {
 }
 
 void chandleNl_inout::Residual(ROr ro, double* r) {
-  observeBoth(ro);
+  if (cLength > 0) {
+    observeBlock(ro);
+  } else {
+    observeBoth(ro);
+  }
   law(this, ro);
   if (snl && b.pr) addForces(ro, r);
 }
@@ -154,6 +171,7 @@ void chandleNl_inout::planObservation() {
   const bool assigned = pagesApart && c.pr && c.sparse() && c.trans == 1 && unlLen > 0 && c.rows == unlLen && cApart;
   cPicks = assigned && picksOnly(c.rows, c.jc);
   cRuns = nullptr;
+  cLength = 0;
   together = false;
   if (!assigned || cPicks) return;
   cRuns = static_cast<int*>(mxCalloc(static_cast<std::size_t>(c.rows), sizeof(int)));
@@ -162,6 +180,10 @@ void chandleNl_inout::planObservation() {
     cRuns = nullptr;
   }
   together = cRuns && unl && vnl && !overlap(unl, unlTotal, vnl, vnlTotal);
+  if (!cRuns || cRuns[0] != c.rows) return;
+  cLength = c.jc[1] - c.jc[0];
+  cRows = c.pr + c.jc[0];
+  cFirst = c.ir[c.jc[0]];
 }
 
 void chandleNl_inout::planCommand(host::Doubles r) {
@@ -169,6 +191,8 @@ void chandleNl_inout::planCommand(host::Doubles r) {
   bBlock = scatters && isBlock({b.rows, b.ir, b.jc, b.pr}, &bFirst, &bLength) && !overlap(r.data, r.count, snl, snlTotal) &&
            !overlap(r.data, r.count, b.pr, b.prLen);
   bRows = bBlock && cApart && sameLines(b, c) && !overlap(r.data, r.count, c.pr, c.prLen) ? c.pr : b.pr;
+  bOne = bBlock && b.rows == 1;
+  if (bOne) bRows += b.jc[0];
   bWork = scatters && !bBlock ? static_cast<double*>(mxCalloc(static_cast<std::size_t>(std::max(b.cols, 1)), sizeof(double))) : nullptr;
   bSparse = bWork && b.rows > 0 && 8LL * (b.jc[b.rows] - b.jc[0]) <= b.cols;
   bPicks = bSparse && picksOnly(b.rows, b.jc) && distinct(b.jc[b.rows] - b.jc[0], b.ir + b.jc[0], bWork);

@@ -30,6 +30,7 @@ class chandleNl_inout final : public chandle {
   void initCpt() override;
   /// Copies unlLen values of unl, and of vnl, from place 2*unlSlices to the front; nothing with fewer than two pages.
   void EndStep() override;
+  bool endsSteps() const override { return unlSlices > 1; }
   /// Observes ro.u and ro.v in the first pages of unl and vnl, evaluates the law, adds the forces to r (in-out, ro.N values).
   void Residual(ROr ro, double* r) override;
   void checkSizes(const ROr& ro, std::size_t rLen) override;
@@ -60,6 +61,7 @@ class chandleNl_inout final : public chandle {
   void readOptions();
   void observeBoth(const ROr& ro) const;
   void observe(const double* x, double* page) const;
+  void observeBlock(const ROr& ro) const;
   void planObservation();
   void planCommand(host::Doubles r);
   void addForces(const ROr& ro, double* r);
@@ -69,17 +71,21 @@ class chandleNl_inout final : public chandle {
 
   int cLargest = -1;
   int bLargest = -1;
-  double* bWork = nullptr;  ///< work vector of the scatter, host memory of the current call; zero between the steps if bSparse
-  bool bSparse = false;     ///< b touches few of its columns
-  bool pagesApart = false;  ///< unl and vnl lie apart from the state that they are observed from
-  bool cApart = false;      ///< and the values of c as well
-  bool bPicks = false;      ///< and each of its lines at most one, another one
-  bool cPicks = false;      ///< each line of c picks at most one value
-  int* cRuns = nullptr;     ///< full lines of c that are summed together, host memory of the current call; null where none is full
-  bool together = false;    ///< unl and vnl are observed in one pass over c
-  bool bBlock = false;      ///< the lines of b are full, or empty
-  int bFirst = 0;           ///< their places
+  double* bWork = nullptr;        ///< work vector of the scatter, host memory of the current call; zero between the steps if bSparse
+  bool bSparse = false;           ///< b touches few of its columns
+  bool pagesApart = false;        ///< unl and vnl lie apart from the state that they are observed from
+  bool cApart = false;            ///< and the values of c as well
+  bool bPicks = false;            ///< and each of its lines at most one, another one
+  bool cPicks = false;            ///< each line of c picks at most one value
+  int* cRuns = nullptr;           ///< full lines of c that are summed together, host memory of the current call; null where none is full
+  int cLength = 0;                ///< entries of each line of c where all lines are full, with the same indices; else 0
+  const double* cRows = nullptr;  ///< their values
+  int cFirst = 0;                 ///< and their first place
+  bool together = false;          ///< unl and vnl are observed in one pass over c
+  bool bBlock = false;            ///< the lines of b are full, or empty
+  int bFirst = 0;                 ///< their places
   int bLength = 0;
+  bool bOne = false;              ///< and b has one line
   const double* bRows = nullptr;  ///< values of b, or those of c where they are the same: in cache from the observation
 };
 

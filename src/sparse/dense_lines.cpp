@@ -11,14 +11,49 @@ constexpr int kSums = 8;
 /// The partial sums of a line, side by side; a compiler splits them where the processor's registers are shorter.
 using Sums [[gnu::vector_size(kSums * sizeof(double))]] = double;
 
-[[gnu::always_inline]] inline void load(Sums& to, const double* from) { std::memcpy(&to, from, sizeof to); }
+/// Sums 0 to 3, or 4 to 7, and the two that they become at the end.
+using Half [[gnu::vector_size(kSums / 2 * sizeof(double))]] = double;
+using Pair [[gnu::vector_size(2 * sizeof(double))]] = double;
 
-[[gnu::always_inline]] inline double total(const double* s) {
-  const double t0 = s[0] + s[4];
-  const double t1 = s[1] + s[5];
-  const double t2 = s[2] + s[6];
-  const double t3 = s[3] + s[7];
-  return (t0 + t2) + (t1 + t3);
+template <class Vector>
+[[gnu::always_inline]] inline void load(Vector& to, const double* from) {
+  std::memcpy(&to, from, sizeof to);
+}
+
+/// Adds the first n products, n < 4, and zeros: a partial sum is never a negative zero, so that they leave it as it is.
+[[gnu::always_inline]] inline void addFew(Half& sums, int n, const double* a, const double* b) {
+  switch (n) {
+    case 1:
+      sums += Half{a[0] * b[0], 0.0, 0.0, 0.0};
+      break;
+    case 2:
+      sums += Half{a[0] * b[0], a[1] * b[1], 0.0, 0.0};
+      break;
+    case 3:
+      sums += Half{a[0] * b[0], a[1] * b[1], a[2] * b[2], 0.0};
+      break;
+    default:
+      break;
+  }
+}
+
+/// The sum of a line from its partial sums and its last n entries, n < 8.
+[[gnu::always_inline]] inline double total(const Sums& sums, int n, const double* row, const double* x) {
+  Half low = __builtin_shufflevector(sums, sums, 0, 1, 2, 3);
+  Half high = __builtin_shufflevector(sums, sums, 4, 5, 6, 7);
+  if (n >= 4) {
+    Half a;
+    Half b;
+    load(a, row);
+    load(b, x);
+    low += a * b;
+    addFew(high, n - 4, row + 4, x + 4);
+  } else {
+    addFew(low, n, row, x);
+  }
+  const Half t = low + high;
+  const Pair two = __builtin_shufflevector(t, t, 0, 1) + __builtin_shufflevector(t, t, 2, 3);
+  return two[0] + two[1];
 }
 
 /// The sums of Rows rows with Vectors vectors: y[v][i] for row i. They are independent, and keep the processor busy together.
@@ -36,12 +71,8 @@ template <int Rows, int Vectors>
     }
   }
   for (int i = 0; i < Rows; ++i) {
-    const double* rest = pr + static_cast<std::ptrdiff_t>(i) * n + k;
     for (int v = 0; v < Vectors; ++v) {
-      double s[kSums];
-      std::memcpy(s, &sum[i][v], sizeof s);
-      for (int j = 0; j < n - k; ++j) s[j] += rest[j] * x[v][k + j];
-      y[v][first + i] = 0.0 + total(s);
+      y[v][first + i] = 0.0 + total(sum[i][v], n - k, pr + static_cast<std::ptrdiff_t>(i) * n + k, x[v] + k);
     }
   }
 }
@@ -66,16 +97,13 @@ template <int Columns>
   for (int k = 0; k < Columns; ++k) y[at + k] += sum[k];
 }
 
-[[gnu::always_inline]] inline void addOneRow(int n, const double* __restrict row, double p, double* __restrict y) {
-  for (int k = 0; k < n; ++k) y[k] += 0.0 + p * row[k];
-}
-
 }  // namespace
 
 QUARN_PROCESSOR_VERSIONS
 void denseSums(int rows, int n, const double* pr, const double* x, double* y) {
   const double* const vectors[] = {x};
   double* const sums[] = {y};
+  if (rows == 1) return sumTogether<1, 1>(n, pr, vectors, sums, 0);
   sumRows<4, 1>(rows, n, pr, vectors, sums);
 }
 
@@ -83,15 +111,17 @@ QUARN_PROCESSOR_VERSIONS
 void denseSumsOfTwo(int rows, int n, const double* pr, const double* u, double* yu, const double* v, double* yv) {
   const double* const vectors[] = {u, v};
   double* const sums[] = {yu, yv};
+  if (rows == 1) return sumTogether<1, 2>(n, pr, vectors, sums, 0);
   sumRows<2, 2>(rows, n, pr, vectors, sums);
 }
 
 QUARN_PROCESSOR_VERSIONS
+void addDenseRow(int n, const double* __restrict row, double f, double* __restrict y) {
+  for (int k = 0; k < n; ++k) y[k] += 0.0 + f * row[k];
+}
+
+QUARN_PROCESSOR_VERSIONS
 void addDenseRows(int rows, int n, const int* starts, const double* pr, const double* f, double* y) {
-  if (rows == 1) {
-    if (f[0] != 0.0 && starts[0] != starts[1]) addOneRow(n, pr + starts[0], f[0], y);
-    return;
-  }
   int at = 0;
   for (; at + 32 <= n; at += 32) addColumns<32>(rows, starts, pr, f, y, at);
   for (; at + 8 <= n; at += 8) addColumns<8>(rows, starts, pr, f, y, at);

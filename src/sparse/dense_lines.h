@@ -39,4 +39,7 @@ inline double denseSum(int n, const double* pr, const double* x) {
 /// entries (starts[i] == starts[i + 1]) and rows with f[i] == 0 are left out. y (in-out) may overlap neither f nor pr.
 void addDenseRows(int rows, int n, const int* starts, const double* pr, const double* f, double* y);
 
+/// y[k] += 0 + f * row[k], k < n, also for f == 0. y (in-out) may not overlap row.
+void addDenseRow(int n, const double* row, double f, double* y);
+
 }  // namespace quarn

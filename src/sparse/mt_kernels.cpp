@@ -21,7 +21,7 @@ void addLine(const int* ir, const int* jc, const double* pr, int i, double u, do
   if (entries == 1 && u != 0.0 && w[ir[first]] == 0.0) {
     w[ir[first]] = 0.0 + u * pr[first];
   } else if (isFull(entries, ir + first)) {
-    addDenseRows(1, entries, jc + i, pr, &u, w + ir[first]);
+    if (u != 0.0) addDenseRow(entries, pr + first, u, w + ir[first]);
   } else {
     cblas_daxpyi(entries, u, pr + first, ir + first, w);
   }

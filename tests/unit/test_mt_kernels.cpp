@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "random_matrix.h"
 #include "sparse/blas.h"
 #include "sparse/mt_kernels.h"
@@ -87,6 +89,28 @@ TEST(AddMtUb, GivenWorkVectorAndOwnGiveTheSameBits) {
     Add_Mt_ub(dims, m.ir.data(), m.jc.data(), m.pr.data(), u.data(), wanted.data());
     EXPECT_EQ(y, wanted);
   }
+}
+
+TEST(AddMtUb, ScatteredSumsBeginAtZeroWhichAddsToANegativeZero) {
+  const int dims[] = {1, 1, 1};
+  const int oneLine[] = {0, 1};
+  const int place[] = {0};
+  const double u[] = {-1.0};
+  const double zero[] = {0.0};
+  double y[] = {-0.0};
+  Add_Mt_ub(dims, place, oneLine, zero, u, y);
+  EXPECT_FALSE(std::signbit(y[0]));
+}
+
+TEST(Distinct, FindsAPairAnywhereAndLeavesNoMarks) {
+  std::vector<double> marks(8, 0.0);
+  const int first[] = {5, 5, 7};
+  const int last[] = {7, 5, 5};
+  const int apart[] = {5, 0, 7};
+  EXPECT_FALSE(distinct(3, first, marks.data()));
+  EXPECT_FALSE(distinct(3, last, marks.data()));
+  EXPECT_TRUE(distinct(3, apart, marks.data()));
+  EXPECT_EQ(marks, std::vector<double>(8, 0.0));
 }
 
 TEST(ProdMtUb, DenseOverwritesTheResult) {

@@ -82,7 +82,8 @@ function rows = number_arguments ()
       {'A|B', 'complex', 'bases may be complex'; 'A|B', 'longer', 'of any width'}
     'qn.rayleigh', {'HERTZ', 'ZETA'}, {[1 2], [0.1 0.2]}, {}
     'qn.resume', {'RES', 'FILE'}, {part, 'progress', false, 'piece', 5, 'save', '', 'interval', 30, 'stop', []}, {'piece', 'empty', optional}
-    'qn.run', {'SIM'}, {sim, 'progress', false, 'piece', 5, 'save', '', 'interval', 30, 'stop', []}, {'piece', 'empty', optional}
+    'qn.run', {'SIM'}, {sim, 'check', true, 'progress', false, 'piece', 5, 'save', '', 'interval', 30, 'stop', []}, ...
+      {'piece', 'empty', optional}
     'qn.scheme', {'[BETA GAMMA]'}, {[0.25 0.5]}, {'.*', 'cell', 'arguments in a cell'}
     'qn.scheme', {'NAME', 'RHO'}, {'damped', 0.5}, {}
     'qn.selftest', {}, {}, {}

@@ -77,6 +77,30 @@ void subStep(const Element& x, const Layout& at, const double* opt, double dt, d
   }
 }
 
+double outputOf(const chandleNl_inout& h, const Layout& at, std::ptrdiff_t o) {
+  const auto Dv = static_cast<std::ptrdiff_t>(at.Dv);
+  double force = 0.0;
+  for (std::ptrdiff_t i = 0; i <= at.q; ++i) force += h.opt[5 + i] * h.unl[o + i] + h.opt[Dv + i] * h.vnl[o + i];
+  return force;
+}
+
+/// Elements without values: each of n passes writes snl[0], and reads nothing that was written but this, where it lies on unl[0]. Once a
+/// pass ends where an earlier one did, the rest repeats what was between, whatever the counts say.
+void forceAlone(const chandleNl_inout& h, const Layout& at, long long n) {
+  double mark = h.snl[0];
+  long long marked = 0;
+  for (long long pass = 1; pass <= n; ++pass) {
+    h.snl[0] = outputOf(h, at, 0);
+    if (sameBits(h.snl[0], mark)) {
+      n = pass + (n - pass) % (pass - marked);
+      marked = pass;
+    } else if (pass >= 2 * marked) {
+      mark = h.snl[0];
+      marked = pass;
+    }
+  }
+}
+
 }  // namespace
 
 void checkMaxw(const chandleNl_inout& h, const ROr& /*ro*/) {
@@ -108,27 +132,19 @@ void Maxw(chandleNl_inout* h, ROr ro) {
   // "opt" may share memory with what a run writes: sub-steps can turn up where none were when the sizes were looked at.
   if (elements > 0) checkMaxw(*h, ro);
   const Layout at(*h);
-  const std::ptrdiff_t Dv = elements > 0 && at.q >= 0 ? static_cast<std::ptrdiff_t>(at.Dv) : 0;
+  if (at.q <= 0 && elements > 0) forceAlone(*h, at, static_cast<long long>(elements) * steps);
   const std::ptrdiff_t committed = 2 * static_cast<std::ptrdiff_t>(h->unlLen);
-  bool idle = false;
-  for (std::ptrdiff_t e = 0; e < elements && !idle; ++e) {
+  for (std::ptrdiff_t e = 0; e < elements && at.q > 0; ++e) {
     const std::ptrdiff_t o = e * at.q;
-    for (std::ptrdiff_t s = 1; s <= steps && !idle; ++s) {
-      if (at.q > 0) {
-        const Element x{h->unl + o,
-                        h->vnl + o,
-                        h->unl + committed + o,
-                        h->vnl + committed + o,
-                        room(h->vnlTotal, committed + o + 1, at.q),
-                        room(h->unlTotal, committed + o + 1, at.q)};
-        subStep(x, at, h->opt, dt, static_cast<double>(s) / steps);
-      }
-      double force = 0.0;
-      for (std::ptrdiff_t i = 0; i <= at.q; ++i) force += h->opt[5 + i] * h->unl[o + i] + h->opt[Dv + i] * h->vnl[o + i];
-      // Without values of an element every pass writes this one force, which may lie on unl[0]: once a pass leaves it as it was, the
-      // further ones would too, whatever the counts say.
-      idle = at.q <= 0 && sameBits(h->snl[o], force);
-      h->snl[o] = force;
+    for (std::ptrdiff_t s = 1; s <= steps; ++s) {
+      const Element x{h->unl + o,
+                      h->vnl + o,
+                      h->unl + committed + o,
+                      h->vnl + committed + o,
+                      room(h->vnlTotal, committed + o + 1, at.q),
+                      room(h->unlTotal, committed + o + 1, at.q)};
+      subStep(x, at, h->opt, dt, static_cast<double>(s) / steps);
+      h->snl[o] = outputOf(*h, at, o);
     }
   }
   StoreState(h, ro);

@@ -115,6 +115,15 @@ function test_state_store_needs_a_positive_offset_and_blocks ()
   end
 end
 
+% Blocks that step on by one value each, from far in front of unl to its beginning: the call took 20 s and more.
+function test_counts_of_states_beyond_the_arrays_hold_no_call ()
+  e = state_element ('DahlC', [0.5 10 1 4 2], [-1 2 -2^31+2 2^31-1 2^31-1], 4, 2);
+  begun = tic ();
+  [got, ~, u] = evaluate_law (e, (1:4)', ones (4, 1));
+  if toc (begun) > 2, error ('it took %g s', toc (begun)); end
+  expect_equal (u, [1; 2; reshape(got.unl(1:2), 2, 1)]);
+end
+
 % An element of LENGTH observed values and PAGES pages that holds 101, 102, ... behind the first page.
 function e = paged_element (len, pages)
   line = [ones(len, 1), zeros(len, 1)];

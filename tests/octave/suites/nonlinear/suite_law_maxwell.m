@@ -240,3 +240,33 @@ end
 function test_sub_steps_that_turn_up_during_a_run_stay_inside_the_arrays ()
   expect_error (@() run_with_shared_options (1e6), '', '~of law "Maxw" must hold');
 end
+
+% Without values of an element and without forces of its own, each pass overwrites the observed displacement and reads it again.
+function u = passes (weight, u, v, elements, steps)
+  e = state_element ('Maxw', [0.5; steps; 0; weight], [-1 0 0 0 elements], 1, 2);
+  e = rmfield (e, 'snl');
+  e.vnl = zeros (1, 1, 2);
+  e = evaluate_law (fresh (e), u, v);
+  u = e.unl(1);
+end
+
+function test_passes_of_elements_without_values_end_where_a_loop_over_them_ends ()
+  rand ('twister', 12);
+  for k = 1:200
+    weights = [-1, 1, 0.5, -0.5, 0, -0.75, 2, 2 * rand() - 1];
+    weight = weights(randi (numel (weights)));
+    [u, v, elements, steps] = deal (rand (), randi (3) / 2 - 1, randi (12), randi (12));
+    x = u;
+    for pass = 1:elements * steps, x = weight * x + weight * v; end
+    expect_equal (passes (weight, u, v, elements, steps), x);
+  end
+end
+
+function test_counts_without_values_hold_no_call ()
+  begun = tic ();
+  most = 2 ^ 31 - 1;
+  expect_equal (passes (-1, 3, 0.5, most, most), -3.5);       % an odd number of passes
+  expect_equal (passes (-1, 3, 0.5, most, most - 1), 3);
+  expect_equal (passes (0.5, 3, 0.5, most, most), 0.5);
+  if toc (begun) > 5, error ('it took %g s', toc (begun)); end
+end

@@ -1,15 +1,14 @@
 % Draws the force-displacement plots of docs/laws.md into docs/images (quarn must be on the path).
 %
 %   octave-cli --no-history -qf --path MODULE_DIR --path docs/figures --eval make_law_plots
-function make_law_plots ()
+%   make_law_plots                draws all of them
+%   make_law_plots ('maxwell')    draws one, by the name of its function below
+function make_law_plots (only)
   if exist ('graphics_toolkit'), graphics_toolkit ('gnuplot'); end
-  power ();
-  exponential ();
-  table ();
-  maxwell ();
-  dahl ();
-  stick_slip ();
-  clima2 ();
+  laws = {@power, @exponential, @table, @maxwell, @dahl, @stick_slip, @clima2};
+  for k = 1:numel (laws)
+    if nargin == 0 || strcmp (only, func2str (laws{k})), laws{k} (); end
+  end
 end
 
 function power ()

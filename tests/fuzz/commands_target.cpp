@@ -27,7 +27,7 @@ void oneCommand(fuzz::Session& session, std::size_t n) {
     mxArray* handles = session.handles();
     session.call(word, which % 2 == 0 ? fuzz::residualArguments(make, n, handles) : fuzz::newmarkArguments(make, n, handles), nlhs);
   } else if (which == 4) {
-    const int type = types[in.below(5)];
+    const int type = types[in.below(sizeof types / sizeof *types)];
     session.set(type, fuzz::handleValue(make, type, n));
   } else if (which == 5) {
     standin::Arguments args{mxCreateDoubleScalar(in.index(3))};

@@ -11,10 +11,10 @@ end
 
 function test_the_tables_are_read_from_the_sources ()
   tables = source_tables ();
-  expect_equal (tables.commands([1, end]), {'ismex', 'version'});
+  expect_equal (all (ismember ({'ismex', 'c<-a''*b', 'version'}, tables.commands)), true);
   expect_equal (numel (tables.commands), numel (unique (tables.commands)));
   expect_equal (all (ismember ({'Power', 'sts'}, tables.laws)), true);
-  expect_equal (tables.types, {'1', '2', '3', '1003', '2000'});
+  expect_equal (all (ismember ({'1', '2', '3', '1003', '2000'}, tables.types)), true);
 end
 
 function test_a_made_up_command_is_reported_at_every_place ()

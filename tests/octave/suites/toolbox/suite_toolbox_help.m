@@ -75,10 +75,6 @@ function test_the_help_of_quarn_names_every_function ()
       error ('the help of quarn does not name %s', list{k, 1});
     end
   end
-  commands = {'ismex', 'residual', 'chandleset', 'chandleget', 'chandleclear', 'chandlediagnewmark', 'setsparse', 'c<-a''*b', 'abc', 'cvs', 'version', 'tbbp'};
-  for command = commands
-    if isempty (strfind (strrep (text, '''''', ''''), command{1})), error ('the help of quarn does not name the command %s', command{1}); end
-  end
 end
 
 % One line a function: its name, and the first line of its help without it. The groups are those of the help of quarn.

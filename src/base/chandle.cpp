@@ -13,9 +13,9 @@ mxArray* chandle::get_val() {
 }
 
 void chandle::doFree() {
-  mxArray* old = type != 1003 ? val : nullptr;
+  mxArray* old = type != HandleType::nonlinear ? val : nullptr;
   val = nullptr;
-  type = -1;
+  type = HandleType::freed;
   if (!old) return;
   const host::UserCode running;  // the value may hold objects with a clean-up
   mxDestroyArray(old);

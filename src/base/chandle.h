@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "base/handle_type.h"
 #include "base/ror.h"
 #include "host/arrays.h"
 
@@ -48,7 +49,7 @@ class chandle {
   }
   /// The value; prints "Empty value\n" and makes a 0x0 matrix where there is none. Callers return duplicates of it, never itself.
   mxArray* get_val();
-  /// Destroys the value, except that of type 1003, which stays in memory by rule; then no value and type -1.
+  /// Destroys the value, except that of a nonlinear element, which stays in memory by rule; then no value and no type.
   void doFree();
 
   mxArray* val = nullptr;

@@ -8,12 +8,10 @@ namespace quarn {
 
 namespace {
 
-constexpr int integratorType = 2000;
-
 chandleDiagNewmark* integratorOf(chandle** list, int n) {
   if (n < 1) host::refuse("the handle list is empty, expected the integrator first");
-  if (!list[0] || list[0]->type != integratorType) {
-    host::refuse("the first handle must be the integrator (type %d), got type %d", integratorType, list[0] ? list[0]->type : 0);
+  if (!list[0] || list[0]->type != HandleType::newmark) {
+    host::refuse("the first handle must be the integrator (type %d), got type %d", HandleType::newmark, list[0] ? list[0]->type : 0);
   }
   return static_cast<chandleDiagNewmark*>(list[0]);
 }

@@ -2,6 +2,7 @@
 
 #include <climits>
 
+#include "base/handle_walk.h"
 #include "handles/handle_types.h"
 #include "handles/hindex.h"
 #include "host/arrays.h"
@@ -47,14 +48,14 @@ chandle* fromRegistry(int key) {
 
 void gatherElements(chandle** out, const mxArray* list, std::size_t n) {
   for (std::size_t i = 0; i < n; ++i) {
-    host::setElement(static_cast<int>(i) + 1);
+    nameElement(static_cast<int>(i) + 1);
     out[i] = fromElement(list, i);
     out[i]->initCpt();
   }
 }
 
 void gatherOne(chandle** out, int key, std::size_t i) {
-  host::setElement(static_cast<int>(i) + 1);
+  nameElement(static_cast<int>(i) + 1);
   out[i] = fromRegistry(key);
   out[i]->initCpt();
 }
@@ -68,7 +69,7 @@ void gatherRegistered(chandle** out, const mxArray* list, std::size_t n) {
   {
     const host::UserCode running;
     for (std::size_t i = 0; i < n; ++i) {
-      host::setElement(static_cast<int>(i) + 1);
+      nameElement(static_cast<int>(i) + 1);
       keys[i] = keyOf(list, place, i);
       gatherOne(out, keys[i], i);
     }
@@ -81,18 +82,9 @@ void gatherRegistered(chandle** out, const mxArray* list, std::size_t n) {
 }  // namespace
 
 void addResiduals(chandle** list, int n, const ROr& c, host::Doubles r) {
-  const auto live = [](const chandle* h) { return h && h->type >= 0; };
-  for (int i = 0; i < n; ++i) {
-    host::setElement(i + 1);
-    if (live(list[i])) list[i]->checkSizes(c, r.count);
-  }
-  host::setElement(0);
-  for (int i = 0; i < n; ++i) {
-    if (live(list[i])) list[i]->takeWork(r);
-  }
-  for (int i = 0; i < n; ++i) {
-    if (live(list[i])) list[i]->Residual(c, r.data);
-  }
+  checkAll(list, n, 1, c, r.count);
+  takeAllWork(list, n, r);
+  forLive(list, n, [&](chandle& h, int) { h.Residual(c, r.data); });
 }
 
 chandle** newHandleList(const mxArray* list) {
@@ -108,7 +100,7 @@ int fillVectP(chandle** out, const mxArray* list) {
   } else {
     gatherRegistered(out, list, n);
   }
-  host::setElement(0);
+  nameElement(0);
   return static_cast<int>(n);
 }
 

@@ -22,19 +22,19 @@ chandle* make() {
 chandle* chandleInitByType(int code, int* ok) {
   chandle* h = nullptr;
   switch (code) {
-    case 1:
+    case HandleType::stiffness:
       h = make<chandleSparseStiffness>();
       break;
-    case 2:
+    case HandleType::mass:
       h = make<chandleSparseMass>();
       break;
-    case 3:
+    case HandleType::damping:
       h = make<chandleSparseDamping>();
       break;
-    case 1003:
+    case HandleType::nonlinear:
       h = make<chandleNl_inout>();
       break;
-    case 2000:
+    case HandleType::newmark:
       h = make<chandleDiagNewmark>();
       break;
     default:

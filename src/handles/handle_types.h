@@ -5,7 +5,7 @@
 
 namespace quarn {
 
-/// 1 stiffness, 2 mass, 3 damping, 1003 nonlinear element, 2000 diagonal Newmark integrator. Sets *ok to 1.
+/// A handle of the type that base/handle_type.h lists. Sets *ok to 1.
 /// The object is host memory of the current call (mexMakeMemoryPersistent keeps it).
 /// Raises KORV:quarn:NonHandle "Not a valid chandle type" for any other code.
 chandle* chandleInitByType(int code, int* ok);

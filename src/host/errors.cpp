@@ -9,24 +9,29 @@
 namespace quarn::host {
 
 namespace {
-const char* commandWord = "";
-int listElement = 0;
+
+/// Where the call is, for the texts of refuse().
+struct Place {
+  const char* command = "";
+  const char* part = "";
+  int number = 0;
+};
+Place place;
+
 }  // namespace
 
-void setCommand(const char* word) noexcept {
-  commandWord = word;
-  listElement = 0;
+void setCommand(const char* word) noexcept { place = {word, "", 0}; }
+
+void setPart(const char* word, int number) noexcept {
+  place.part = word;
+  place.number = number;
 }
 
-void setElement(int element) noexcept { listElement = element; }
-
 void callHost(int nlhs, mxArray* plhs[], int nrhs, mxArray* prhs[], const char* function) {
-  const char* word = commandWord;
-  const int element = listElement;
+  const Place ours = place;
   const UserCode running;
   mexCallMATLAB(nlhs, plhs, nrhs, prhs, function);
-  commandWord = word;
-  listElement = element;
+  place = ours;
 }
 
 void fail(const char* identifier, const char* text) {
@@ -41,8 +46,9 @@ void fail(const char* text) {
 
 void refuse(const char* format, ...) {
   char text[512];
-  int used = std::snprintf(text, sizeof text, "quarn %s : ", commandWord);
-  if (listElement > 0) used += std::snprintf(text + used, sizeof text - static_cast<std::size_t>(used), "element %d : ", listElement);
+  int used = std::snprintf(text, sizeof text, "quarn %s : ", place.command);
+  if (place.number > 0)
+    used += std::snprintf(text + used, sizeof text - static_cast<std::size_t>(used), "%s %d : ", place.part, place.number);
   va_list args;
   va_start(args, format);
   std::vsnprintf(text + used, sizeof text - static_cast<std::size_t>(used), format, args);

@@ -12,8 +12,9 @@ namespace quarn::host {
 /// The command word that refuse() puts into its texts. The gateway sets it at every entry; the pointer must stay valid.
 void setCommand(const char* word) noexcept;
 
-/// The element of a handle list, counted from 1, that refuse() names behind the command; 0: none. Every entry begins with none.
-void setElement(int element) noexcept;
+/// The numbered part of the arguments that refuse() names after the command, "element" 3, say; number 0: none. Every entry begins with
+/// none. The pointer must stay valid.
+void setPart(const char* word, int number) noexcept;
 
 /// Raises TEXT under IDENTIFIER.
 [[noreturn]] void fail(const char* identifier, const char* text);
@@ -21,7 +22,7 @@ void setElement(int element) noexcept;
 /// Raises TEXT without an identifier.
 [[noreturn]] void fail(const char* text);
 
-/// Raises "quarn COMMAND : <formatted text>", or "quarn COMMAND : element K : <formatted text>". The text says what is wrong, what was
+/// Raises "quarn COMMAND : <formatted text>", or "quarn COMMAND : PART NUMBER : <formatted text>". The text says what is wrong, what was
 /// expected and what was got.
 [[noreturn]] [[gnu::format(printf, 1, 2)]] void refuse(const char* format, ...);
 

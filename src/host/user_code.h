@@ -1,5 +1,5 @@
 // The user's functions that run while a command runs: callbacks, methods of objects, and clean-ups of values that are destroyed. They may
-// call quarn, free handles that the command works with, and clear quarn itself.
+// call quarn, also to free what the command works with, and clear quarn itself.
 #pragma once
 
 #include "host/mex_api.h"
@@ -27,8 +27,8 @@ class UserCode {
 /// MATLAB hands on a itself. Host memory of the call.
 const mxArray* forUserCode(const mxArray* a);
 
-/// Whether a command waits for the user's functions: the current call comes from them, and that command may hold handles. Always false on
-/// MATLAB.
+/// Whether a command waits for the user's functions: the current call comes from them, and must leave alone what that command may hold.
+/// Always false on MATLAB.
 bool insideUserCode() noexcept;
 
 }  // namespace quarn::host

@@ -1,4 +1,5 @@
 // All steps of a run, in as few passes over the modes as the arguments allow.
+#include "base/handle_walk.h"
 #include "host/arrays.h"
 #include "host/errors.h"
 #include "integration/diag_newmark.h"
@@ -7,9 +8,6 @@
 namespace quarn {
 
 namespace {
-
-constexpr int stiffnessType = 1;
-constexpr int dampingType = 3;
 
 struct Range {
   const double* data;
@@ -76,7 +74,7 @@ void chandleDiagNewmark::checkGain(const ROr& c) const {
 /// Takes a diagonal stiffness at the head of the list, and a diagonal damping behind it, into the pass over the modes.
 void chandleDiagNewmark::foldDiagonals(const ROr& c, chandle** list, int nh) {
   const double* found[2] = {nullptr, nullptr};
-  constexpr int types[2] = {stiffnessType, dampingType};
+  constexpr int types[2] = {HandleType::stiffness, HandleType::damping};
   folded = 0;
   while (folded < 2 && folded < nh && list[folded] && list[folded]->type == types[folded]) {
     found[folded] = list[folded]->diagonalValues();
@@ -103,9 +101,9 @@ void chandleDiagNewmark::finishPass(const ROr& c) {
 void chandleDiagNewmark::findClosing(chandle** list, int nh) {
   closing = static_cast<chandle**>(mxCalloc(static_cast<std::size_t>(nh) + 1, sizeof(chandle*)));
   closingCount = 0;
-  for (int k = 0; k < nh; ++k) {
-    if (list[k] && list[k]->type >= 0 && list[k]->endsSteps()) closing[closingCount++] = list[k];
-  }
+  forLive(list, nh, [&](chandle& h, int) {
+    if (h.endsSteps()) closing[closingCount++] = &h;
+  });
 }
 
 void chandleDiagNewmark::plan(const ROr& c, chandle** list, int nh) {

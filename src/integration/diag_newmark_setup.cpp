@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "base/handle_walk.h"
 #include "host/errors.h"
 #include "integration/diag_newmark.h"
 #include "sparse/line_checks.h"
@@ -107,7 +108,7 @@ void chandleDiagNewmark::initCb(const ROr& c, const mxArray* model, const mxArra
   if (c.v == c.u && c.u) host::fail("KORV:quarn:Invalid", "Identical v & u");
   if (c.a == c.u && c.u) host::fail("KORV:quarn:Invalid", "Identical a & u");
   for (int k = 0; k < nh; ++k) {
-    if (list[k] && list[k]->type == 1003 && list[k]->stateEnd() > static_cast<std::int64_t>(Ndef) + 1) {
+    if (list[k] && list[k]->type == HandleType::nonlinear && list[k]->stateEnd() > static_cast<std::int64_t>(Ndef) + 1) {
       host::fail("KORV:quarn:Invalid", "iu+Nistate too large");
     }
   }
@@ -124,15 +125,9 @@ void chandleDiagNewmark::checkRun(const ROr& c, chandle** list, int nh) {
   fmod = uva.data ? uva.data + 3 * static_cast<std::ptrdiff_t>(Ndef) : nullptr;
   NFNL = static_cast<std::int32_t>(std::min(static_cast<std::size_t>(NFNL), store.count));
   coefficients = {data[0], data[1], data[2], data[3], data[4]};
-  for (int k = 0; k < nh; ++k) {
-    host::setElement(k + 2);  // the integrator is the first
-    if (list[k] && list[k]->type >= 0) list[k]->checkSizes(c, forceLen);
-  }
-  host::setElement(0);
+  checkAll(list, nh, 2, c, forceLen);  // the integrator is the first
   checkGain(c);
-  for (int k = 0; k < nh; ++k) {
-    if (list[k] && list[k]->type >= 0) list[k]->takeWork({fmod, forceLen});
-  }
+  takeAllWork(list, nh, {fmod, forceLen});
   plan(c, list, nh);
 }
 

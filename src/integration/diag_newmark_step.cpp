@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "host/errors.h"
+#include "base/handle_walk.h"
 #include "integration/diag_newmark.h"
 #include "integration/full_gain.h"
 #include "numbers/ranges.h"
@@ -13,8 +13,6 @@ namespace {
 void copyValues(double* to, const double* from, std::size_t n) {
   if (to && from && n > 0) std::memmove(to, from, n * sizeof(double));  // a caller's arrays may share memory
 }
-
-bool live(const chandle* h) { return h && h->type >= 0; }
 
 }  // namespace
 
@@ -44,13 +42,12 @@ void chandleDiagNewmark::doStep(chandle** list, int nh, int j, ROr c) {
     newmarkPredict(c.u, c.v, c.a, N, coefficients);
     newmarkLoad(fmod, r.data + N, N, loads, N, Nb);
   }
-  for (int k = folded; k < nh; ++k) {
-    if (!live(list[k])) continue;
+  forLive(list + folded, nh - folded, [&](chandle& h, int) {
 #ifdef QUARN_CHECKED
-    list[k]->checkSizes(c, uva.count - 3 * block);
+    h.checkSizes(c, uva.count - 3 * block);
 #endif
-    list[k]->Residual(c, fmod);
-  }
+    h.Residual(c, fmod);
+  });
   if (gainFull) {
     newmarkCorrectFull(c.u, c.v, c.a, fmod, gainFull, N, coefficients);
   } else {

@@ -1,0 +1,38 @@
+// The walk over the handles of a list.
+#pragma once
+
+#include "base/chandle.h"
+#include "host/errors.h"
+
+namespace quarn {
+
+/// Whether a place of a list holds a handle that has not been freed.
+inline bool live(const chandle* h) { return h && h->type >= 0; }
+
+/// Calls body(handle, k) for the live handles among the n of list, in order.
+template <class Body>
+inline void forLive(chandle* const* list, int n, const Body& body) {
+  for (int k = 0; k < n; ++k) {
+    if (live(list[k])) body(*list[k], k);
+  }
+}
+
+/// Errors name the element of the caller's list, counted from 1, until the next one is named; 0: none.
+inline void nameElement(int number) noexcept { host::setPart("element", number); }
+
+/// Has the live handles check their sizes against the context and rLen values of residual, naming each; the first of them is element
+/// `first` of the caller's list.
+inline void checkAll(chandle* const* list, int n, int first, const ROr& c, std::size_t rLen) {
+  forLive(list, n, [&](chandle& h, int k) {
+    nameElement(first + k);
+    h.checkSizes(c, rLen);
+  });
+  nameElement(0);
+}
+
+/// Has them take their work memory; r: the residual that they will add to.
+inline void takeAllWork(chandle* const* list, int n, host::Doubles r) {
+  forLive(list, n, [&](chandle& h, int) { h.takeWork(r); });
+}
+
+}  // namespace quarn

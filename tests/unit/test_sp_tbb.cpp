@@ -93,6 +93,15 @@ TEST(SparseMatVecTested, EqualsTheUntestedProduct) {
   }
 }
 
+TEST(SparseMatVecTested, WithoutLinesLeavesTheResultUntouched) {
+  const int starts[] = {0};
+  const int none[] = {0};
+  const double value[] = {1.0};
+  double y[] = {4.0};
+  EXPECT_EQ(SparseMatVecTested(y, value, value, none, starts, 0, 1), -1);
+  EXPECT_EQ(y[0], 4.0);
+}
+
 TEST(SparseMatVecTested, NamesALineWithAnIndexOutsideAndLeavesItOut) {
   for (const int outside : {-1, 5000, 1 << 30}) {
     Lines m = randomLines(5000, 5000, 250, 9);

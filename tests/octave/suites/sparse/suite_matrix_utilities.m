@@ -131,7 +131,7 @@ end
 
 function test_directzr_takes_any_list_of_matrices ()
   z = 1i;
-  lists = {{}, {1}, {[], 1i}, cell(1, 3), {sparse(1)}, {1; 2}, cell(0, 3)};
+  lists = {{}, {1}, {[], 1i}, cell(1, 3), {sparse(1)}, {1; 2}, cell(0, 3), {1 'a'; 2 'b'}};  % as many matrices as the list has columns, in storage order
   for k = 1:numel (lists)
     x = quarn ('directzr', z, lists{k}, z, 1);
     expect_equal (size (x), [1 1]);
@@ -157,6 +157,7 @@ end
 function test_directzr_refuses_what_it_cannot_pack ()
   b = ones (3, 2) * 1i;
   expect_error (@() quarn ('directzr', 1i, {1}, b, ones (4, 2)), '', '~^quarn directzr : F must hold 3 values .* got 2$');
+  expect_error (@() quarn ('directzr', 1i, {1}, [1i; 1i], 1), '', '~^quarn directzr : F must hold 2 values .* got 1$');
   expect_error (@() quarn ('directzr', 1i, {1}, b), '', '~^quarn directzr : F must be ');
   expect_error (@() quarn ('directzr', 1i, {1}, single (b), ones (4, 3)), '', '~^quarn directzr : B must be ');
   expect_error (@() quarn ('directzr', 1i, {1}, sparse (b), ones (4, 3)), '', '~^quarn directzr : B must be ');

@@ -62,6 +62,7 @@ function test_product_that_would_leave_its_vectors_is_refused ()
   refused (c, 1, 2, 'c : index 1 in "ir" reaches past u of 1 values');
   refused (c, [1; 10], 1, 'unl must hold 2 values (one for each row of c), got 1');
   refused ([1 2; 3 4], 1, 2, 'the observed vector must hold 2 values (one for each column of the observation matrix), got 1');
+  refused ([1 2], 1, 1, 'the observed vector must hold 2 values (one for each column of the observation matrix), got 1');
   refused ([1 2; 3 4], [1; 10], 1, 'the observation must hold 2 values (one for each row of the observation matrix), got 1');
   refused (struct ('pr', [1; 2; 3], 'dims', [2 2]), [1; 10], 2, 'c must hold 4 values (rows x cols of them), got 3');
   refused (struct ('pr', [1; 2; 3], 'dims', [-2 -2]), [1; 10], 2, 'c : size -2x-2 is negative');

@@ -1,11 +1,24 @@
 #include "integration/sparse_handles.h"
 
+#include <algorithm>
+
 #include "host/errors.h"
+#include "numbers/ranges.h"
 #include "sparse/line_checks.h"
+#include "sparse/line_runs.h"
 #include "sparse/line_sums.h"
 #include "sparse/sp_tbb.h"
 
 namespace quarn {
+
+namespace {
+
+/// Lines up to which a product stays on one thread, whatever it holds.
+constexpr int kLines = 1000;
+/// Full lines whose sums are formed before they are added.
+constexpr int kSumsAtOnce = 64;
+
+}  // namespace
 
 void addScaledLines(const SparseView& m, const double* x, double factor, int n, double* r) {
   for (int j = 0; j < n; ++j) {
@@ -17,6 +30,7 @@ void addScaledLines(const SparseView& m, const double* x, double factor, int n, 
 void chandleSparse::readView() {
   m = sparseView(val, name());
   if (m.throughObject) verified = false;
+  blockLength = 0;
 }
 
 void chandleSparse::markDiagonal() {
@@ -43,6 +57,31 @@ void chandleSparse::checkTerm(std::int32_t N, std::size_t vectorLen, std::size_t
   checkGather(largest, vectorLen, name(), vectorName);
 }
 
+/// Full lines, those of a coupled model in modal coordinates, are recognised once for all steps.
+void chandleSparse::takeWork(host::Doubles r) {
+  blockLength = 0;
+  const int n = verifiedLines;
+  if (!m.ir || !m.pr || diagonal() || n <= 0 || n > kLines) return;
+  int length = 0;
+  if (!isBlock({n, m.ir, m.jc, m.pr}, &blockFirst, &length) || m.jc[n] - m.jc[0] != n * length) return;
+  if (overlap(r.data, r.count, factor.data, factor.count) || overlap(r.data, r.count, m.pr, m.prLen)) return;
+  blockLength = length;
+}
+
+void chandleSparse::addProduct(const double* x, std::int32_t N, double* r) const {
+  if (blockLength == 0) {
+    SparseMatVec(r, x, m.pr, m.ir, m.jc, N);
+    return;
+  }
+  const double* rows = m.pr + m.jc[0];
+  double sums[kSumsAtOnce];
+  for (int first = 0; first < N; first += kSumsAtOnce) {
+    const int n = std::min(kSumsAtOnce, N - first);
+    denseSums(n, blockLength, rows + static_cast<std::ptrdiff_t>(first) * blockLength, x + blockFirst, sums);
+    for (int i = 0; i < n; ++i) r[first + i] += sums[i];
+  }
+}
+
 void chandleSparseStiffness::initCpt() {
   readView();
   markDiagonal();
@@ -51,6 +90,7 @@ void chandleSparseStiffness::initCpt() {
 void chandleSparseStiffness::checkTerms(const ROr& ctx, std::size_t rLen) {
   if (!m.ir || !m.pr) return;
   checkTerm(ctx.N, ctx.uLen, rLen, "u");
+  factor = {ctx.u, ctx.uLen};
   if (diagonal() || ctx.beta != 0.0) checkTerm(ctx.N, ctx.vLen, rLen, "v");
 }
 
@@ -60,7 +100,7 @@ void chandleSparseStiffness::Residual(ROr c, double* r) {
     for (int i = 0; i < c.N; ++i) r[i] += m.pr[i] * (c.u[i] + c.beta * c.v[i]);
     return;
   }
-  SparseMatVec(r, c.u, m.pr, m.ir, m.jc, c.N);
+  addProduct(c.u, c.N, r);
   if (c.beta != 0.0) addScaledLines(m, c.v, c.beta, c.N, r);
 }
 
@@ -76,6 +116,7 @@ void chandleSparseMass::checkTerms(const ROr& ctx, std::size_t rLen) {
   if (!m.ir && m.pr) host::fail("Implemented for sparse matrices");
   if (!m.ir) return;
   checkTerm(ctx.N, ctx.aLen, rLen, "a");
+  factor = {ctx.a, ctx.aLen};
   if (diagonal() || ctx.alpha != 0.0) checkTerm(ctx.N, ctx.vLen, rLen, "v");
 }
 
@@ -85,7 +126,7 @@ void chandleSparseMass::Residual(ROr c, double* r) {
     for (int i = 0; i < c.N; ++i) r[i] += m.pr[i] * (c.a[i] + c.alpha * c.v[i]);
     return;
   }
-  SparseMatVec(r, c.a, m.pr, m.ir, m.jc, c.N);
+  addProduct(c.a, c.N, r);
   if (c.alpha != 0.0) addScaledLines(m, c.v, c.alpha, c.N, r);
 }
 
@@ -104,7 +145,9 @@ void chandleSparseDamping::initCpt() {
 }
 
 void chandleSparseDamping::checkTerms(const ROr& ctx, std::size_t rLen) {
-  if (m.ir && m.pr) checkTerm(ctx.N, ctx.vLen, rLen, "v");
+  if (!m.ir || !m.pr) return;
+  checkTerm(ctx.N, ctx.vLen, rLen, "v");
+  factor = {ctx.v, ctx.vLen};
 }
 
 void chandleSparseDamping::Residual(ROr c, double* r) {
@@ -113,7 +156,7 @@ void chandleSparseDamping::Residual(ROr c, double* r) {
     for (int i = 0; i < c.N; ++i) r[i] += m.pr[i] * c.v[i];
     return;
   }
-  SparseMatVec(r, c.v, m.pr, m.ir, m.jc, c.N);
+  addProduct(c.v, c.N, r);
 }
 
 }  // namespace quarn

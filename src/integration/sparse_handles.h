@@ -14,6 +14,7 @@ class chandleSparse : public chandle {
  public:
   void checkSizes(const ROr& ctx, std::size_t rLen) override;
   bool endsSteps() const override { return false; }
+  void takeWork(host::Doubles r) override;
   const double* diagonalValues() const override { return diagonal() ? m.pr : nullptr; }
 
  protected:
@@ -24,12 +25,17 @@ class chandleSparse : public chandle {
   void checkTerm(std::int32_t N, std::size_t vectorLen, std::size_t rLen, const char* vectorName);
   virtual void checkTerms(const ROr& ctx, std::size_t rLen) = 0;
   virtual const char* name() const = 0;
+  /// r += the first N lines times x.
+  void addProduct(const double* x, std::int32_t N, double* r) const;
 
   SparseView m;
+  host::Doubles factor;  ///< what the matrix multiplies, as it was when the sizes were looked at
 
  private:
   int largest = -1;
   int verifiedLines = -1;
+  int blockLength = 0;  ///< entries of each line where all lines are full with the same indices; else 0
+  int blockFirst = 0;   ///< their first place
 };
 
 /// r += K*u + beta*K*v

@@ -100,6 +100,50 @@ function test_a_row_has_the_same_sum_in_every_command ()
   expect_equal (e.unl, wanted);
 end
 
+% More lines than sums are formed at once, and a matrix whose lines are full in some of its places only.
+function test_full_matrices_of_handles_have_the_same_sums ()
+  randn ('seed', 55);
+  for cols = [9 64 67 131]
+    rows = random_rows (cols, 1, cols);
+    part = random_rows (cols, 2, 8);
+    x = randn (cols, 1);
+    y = randn (cols, 1);
+    z = randn (cols, 1);
+    r = fresh (randn (cols, 1));
+    before = fresh (r);
+    h = registered ({typed(1, runs_of (rows, cols)), typed(3, runs_of (part, cols)), typed(2, runs_of (rows, cols))});
+    quarn ('residual', r, h, x, y, z);
+    expect_equal (r, ((before + sums_of (rows, x)) + sums_of (part, y)) + sums_of (rows, z));
+  end
+end
+
+function test_a_full_matrix_that_multiplies_the_residual_itself_takes_its_lines_one_by_one ()
+  randn ('seed', 56);
+  cols = 12;
+  rows = random_rows (cols, 1, cols);
+  r = fresh (randn (cols, 1));
+  wanted = fresh (r);
+  for k = 1:cols, wanted(k) = wanted(k) + sums_of (rows(k, :), wanted); end
+  quarn ('residual', r, registered ({typed(1, runs_of (rows, cols))}), r, zeros (cols, 1), []);
+  expect_equal (r, wanted);
+end
+
+function test_a_run_with_full_matrices_takes_the_stated_sums ()
+  randn ('seed', 57);
+  cols = 21;
+  k = random_rows (cols, 1, cols);
+  c = random_rows (cols, 1, cols);
+  [in, mem, out] = newmark_setup (ones (cols, 1), ones (cols, 1), ones (cols, 1), cos (1:cols)', sin (0:1), 1e-2, 0.25, 0.5, 2);
+  u = sin (1:cols)';
+  v = cos (1:cols)';
+  a = randn (cols, 1);
+  run_newmark ({in, typed(1, runs_of (k, cols)), typed(3, runs_of (c, cols))}, u, v, a, mem, out);
+  d = in.data;
+  predicted = (d(2) * a + d(1) * v) + u;
+  rate = d(3) * a + v;
+  expect_equal (mem.uva.uva(3 * cols + (1:cols)), ((0 + in.r(:, 2) * in.tft(2, 1)) + sums_of (k, predicted)) + sums_of (c, rate));
+end
+
 function test_the_integrator_observes_like_the_residual ()
   randn ('seed', 53);
   cols = 30;

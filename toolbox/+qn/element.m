@@ -18,7 +18,8 @@
 %     'slot'     place of the first force in the model's "FNL", from 1; 0: none (0)
 %
 % Output
-%   E     struct for quarn ('chandleset', 1003, E)
+%   E     struct for quarn ('chandleset', 1003, E). Laws without memory get no place for velocities ("vnl" is empty), which are not observed
+%         then. Rows that fill at least half of their places, and have 8 values or more, are stored with their zeros: the module is quicker so.
 %
 % Errors
 %   qn:input  rows, step, state or slot do not fit the law, or are not finite
@@ -63,6 +64,8 @@ function e = element (law, c, varargin)
   place = [o.slot - 1; 0; 0; 0; 0];
   if t.states > 0, place(2:5) = [o.state - 1; t.rows; t.states; 1]; end
   if t.inner > 0, place(3:5) = [t.width; t.inner; 1]; end
-  e = struct ('type', 1003, 'c', qn.pack (c, 'transposed'), 'b', qn.pack (b, 'transposed'), 'opt', opt, 'iopt', int32 ([place; own]), ...
-              'unl', zeros (t.width, 1, t.pages), 'vnl', zeros (t.width, 1, t.pages), 'snl', zeros (t.width, 1));
+  rates = zeros (0, 1);  % laws without memory look at no velocity: without a place for it none is observed
+  if t.memory, rates = zeros (t.width, 1, t.pages); end
+  e = struct ('type', 1003, 'c', qn.impl.pack_rows (c), 'b', qn.impl.pack_rows (b), 'opt', opt, 'iopt', int32 ([place; own]), ...
+              'unl', zeros (t.width, 1, t.pages), 'vnl', rates, 'snl', zeros (t.width, 1));
 end

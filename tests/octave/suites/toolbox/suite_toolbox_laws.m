@@ -135,3 +135,61 @@ function test_an_integrator_is_described ()
   text = qn.describe (qn.impl.integrator (sim, 1, 11));
   if isempty (strfind (text, 'beta 0.166667, gamma 0.5, step 0.01 s, 1 modes')), error ('got %s', text); end
 end
+
+% A mode that does not move the place leaves a zero in its row: with it the row stays one run of places, which the module sums quickly.
+function test_a_modal_row_with_zeros_is_stored_as_one_run ()
+  rand ('twister', 61);
+  law = qn.law ('power', 'stiffness', 2, 'exponent', 1);
+  for round = 1:40
+    n = 8 + floor (30 * rand ());
+    p = 1 + floor (3 * rand ());
+    c = rand (p, n) + 1;
+    c(rand (p, n) < 0.3) = 0;
+    b = c .* (rand (p, n) < 0.4);
+    e = qn.element (law, c, 'command', b);
+    expect_equal (full (qn.unpack (e.c)), c);
+    expect_equal (full (qn.unpack (e.b)), b);
+    long = find (sum (c ~= 0, 2) >= 8);
+    if ~isempty (long)
+      reached = find (any (c(long, :) ~= 0, 1));
+      for k = long.'
+        line = double (e.c.ir(e.c.jc(k) + 1:e.c.jc(k + 1))).' + 1;
+        if 2 * nnz (c(k, :)) >= reached(end) - reached(1) + 1
+          expect_equal (line, reached(1):reached(end));
+        else
+          expect_equal (line, find (c(k, :)));
+        end
+      end
+    end
+    u = rand (n, 1);
+    r = zeros (n, 1);
+    h = chandle (quarn ('chandleset', 1003, e));
+    quarn ('residual', r, h, u, u, []);
+    delete (h);
+    expect_equal (r, b.' * (2 * (c * u)), 1e-12);
+  end
+end
+
+function test_laws_without_memory_observe_no_velocity ()
+  laws = {qn.law('power', 'stiffness', 2, 'exponent', 3), qn.law('exponential', 'scale', 2, 'base', 3), qn.gap('gap', 0.1, 'stiffness', 5)};
+  u = (1:9)' / 10;
+  for k = 1:numel (laws)
+    quick = qn.element (laws{k}, ones (1, 9));
+    expect_equal (size (quick.vnl), [0 1]);
+    slow = quick;
+    slow.vnl = zeros (1, 1);
+    r = zeros (9, 2);
+    for which = 1:2
+      e = {quick, slow}{which};
+      h = chandle (quarn ('chandleset', 1003, e));
+      own = zeros (9, 1);
+      quarn ('residual', own, h, u, -u, []);
+      r(:, which) = own;
+      delete (h);
+    end
+    expect_equal (r(:, 1), r(:, 2));
+    expect_equal (any (r(:, 1)), true);
+  end
+  maxwell = qn.element (qn.law ('maxwell', 'springs', 1, 'dampers', 1), 1, 'step', 1e-3);
+  expect_equal (size (maxwell.vnl), size (maxwell.unl));
+end

@@ -3,7 +3,7 @@
 %   quarn ('command', arguments...)
 %   x = quarn ()                        1.0001: the module is there
 %
-% quarn is a compiled module. This file holds its help; called as a function, it steps behind the compiled one and passes the
+% quarn is a compiled module. This file holds its help; called as a function, it moves behind the compiled one on the path and passes the
 % call on.
 %
 % Most commands write their result into arrays that the caller passes. Such an array has to be one of its own: zeros (n, 1) or

@@ -65,7 +65,7 @@
 %   plot.phase     - phase plane: velocity against displacement
 %   plot.loop      - force of an element against its displacement
 %   plot.orbit     - orbit of a point: one displacement against another
-%   plot.waterfall - spectra behind one another
+%   plot.waterfall - spectra one behind another
 %
 % Without time
 %   static         - static equilibrium with nonlinear elements

@@ -2,7 +2,7 @@
 %
 % Purpose
 %   Follows one mode of the undamped structure with its nonlinear elements from small to large amplitudes (nonlinear normal mode),
-%   by harmonic balance on the module's "residual". Resonances of the damped, driven structure lie along this curve.
+%   by harmonic balance on the module's "residual". Resonances of the damped, driven structure are along this curve.
 %
 % Calls
 %   [HERTZ, R] = qn.backbone (MODEL, ELEMENTS, AMPLITUDE, ...)

@@ -60,7 +60,7 @@ function f = at_once (law, x)
   f = reshape (f, size (x));
 end
 
-% All laws in one call a step; behind the displacements, the memory of each.
+% All laws in one call a step; after the displacements, the memory of each.
 function f = step_by_step (law, rows, x, v, h)
   states = zeros (1, numel (law));
   for k = 1:numel (law), states(k) = getfield (qn.impl.traits (law(k), rows), 'states'); end

@@ -17,7 +17,7 @@
 %     'stiffnesses'  stiffness of every slider, or one for all [N/m]
 %
 % Output
-%   LAWS  1 x n struct array of laws; qn.simulation puts all of them behind the same observation
+%   LAWS  1 x n struct array of laws; qn.simulation gives all of them the same observation
 %
 % Errors
 %   qn:input  parameters are missing, not finite or not above 0, or the numbers of slips and stiffnesses differ

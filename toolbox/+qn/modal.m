@@ -29,7 +29,7 @@
 %                 that none was left out; in doubt 'auto' takes eig ('auto')
 %     'attach'    where stiff elements or point loads will act: numbers of degrees of freedom, or load shapes, n values a column or a
 %                 row. The static responses to unit forces there that the modes do not hold are added as further, orthogonal
-%                 shapes behind the modes, so that the flexibility at those places is exact (Rubin 1975; docs/theory.md). On a
+%                 shapes after the modes, so that the flexibility at those places is exact (Rubin 1975; docs/theory.md). On a
 %                 structure that is free to move they are responses with inertia relief; its rigid motions must be among the
 %                 modes. With one damping ratio a mode they take the last one.
 %   The dampings add up. Keep all modes that C, G or K need to move as they push: what is not in the modes is rigid.

@@ -3,7 +3,7 @@
 % Purpose
 %   Run it after installing. It looks for the compiled module, calls it, compares a linear run and every force law with their
 %   formulas and a parallel product with the host's own, lets the module call back a function, and writes a picture. Each line says
-%   ok or FAILED and the number that was seen. Nothing is left behind: no handle, no file, no figure.
+%   ok or FAILED and the number that was seen. Nothing remains: no handle, no file, no figure.
 %
 % Calls
 %   qn.selftest ()

@@ -20,7 +20,7 @@
 %     'base'      {PUSH, SIGNAL; ...}: motion of the base, PUSH as for qn.base, SIGNAL its acceleration [m/s^2]. The same as a load of
 %                 qn.base (MODEL, PUSH); displacements are relative to the base, and qn.acceleration knows what to add.
 %     'elements'  {LAW, C; ...} or {LAW, C, B; ...}: LAW from qn.law or a recipe, C observation rows (qn.observe) or numbers of
-%                 degrees of freedom as for qn.displacement, B rows through which the force acts (C). A bank of laws sits behind one C.
+%                 degrees of freedom as for qn.displacement, B rows through which the force acts (C). A bank of laws shares one C.
 %     'every'     results are kept at every k-th step (1), or
 %     'times'     at the steps next to these times [s]
 %     'u0', 'v0'  initial displacement and velocity of the structure [m, m/s] (0), or

@@ -1,7 +1,7 @@
 % QN.SLIDER  Coulomb slider: sticks like a stiff spring, slides at its slip force
 %
 % Purpose
-%   Dry friction, as a spring that carries at most the slip force (Jenkins element). The stiffness stands for the joint's own; the
+%   Dry friction, as a spring that carries at most the slip force (Jenkins element). The stiffness represents the joint's own; the
 %   stiffer, the nearer to ideal Coulomb friction and the shorter the step has to be.
 %
 % Calls

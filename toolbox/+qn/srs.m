@@ -20,9 +20,9 @@
 %   ACC     p x k base accelerations, one record a row [m/s^2]; a column of k values is one record too
 %   HERTZ   frequencies of the oscillators [Hz], below half the sampling rate
 %   Q       quality factor 1 / (2 zeta) (10); Inf is undamped
-%   RES     from qn.run, with every step kept: the spectrum of what an oscillator feels that stands on the structure. Accelerations
+%   RES     from qn.run, with every step kept: the spectrum of what an oscillator feels that is mounted on the structure. Accelerations
 %           are absolute, with the motion of the base that 'base' of qn.simulation gave.
-%   C       where it stands, p places: as for qn.acceleration
+%   C       where it is mounted, p places: as for qn.acceleration
 %
 % Output
 %   A         size of HERTZ, with several records p rows: largest magnitude (maximax) [m/s^2]

@@ -8,7 +8,7 @@
 %
 % Input
 %   S   structure as qn.pack gives it, flagged transposed or not; a structure without "ir" is a full matrix; a v_handle stands for
-%       the matrix in its field "file"; a matrix stands for itself. A first index of -1 marks a diagonal matrix, as the module
+%       the matrix in its field "file"; a matrix is taken as it is. A first index of -1 marks a diagonal matrix, as the module
 %       itself leaves it in the value of a matrix handle.
 %
 % Output

@@ -3,7 +3,7 @@
 % Purpose
 %   A handle is an object that the compiled module keeps alive between calls: a matrix, a nonlinear element or an
 %   integrator. The module knows it by an index. A chandle vector is how a list of them is passed to quarn ('residual', ...)
-%   and quarn ('chandlediagnewmark', ...); it holds the indices only, so copies stand for the same objects.
+%   and quarn ('chandlediagnewmark', ...); it holds the indices only, so copies refer to the same objects.
 %
 % Calls
 %   H = chandle (I)
@@ -17,7 +17,7 @@
 %
 % What can be done with it
 %   numel (H)     number of handles
-%   H(k), [H G]   part of a vector, vectors behind one another
+%   H(k), [H G]   part of a vector, vectors one after another
 %   remi (H, k)   index of element k
 %   H             at the prompt: what each handle is
 %   delete (H)    frees the handles; nothing is freed when H is only cleared

@@ -1,7 +1,7 @@
 % DELETE  frees the handles of a chandle vector
 %
 % Purpose
-%   Gives the handles back to the registry. H and its copies then stand for nothing; quarn refuses them as handles that do not
+%   Gives the handles back to the registry. H and its copies then refer to nothing; quarn refuses them as handles that do not
 %   exist. Handles that are not registered any more are passed over. The value of a nonlinear element stays in memory until the
 %   host ends: that is the module's rule.
 %

@@ -2,7 +2,7 @@
 %
 % Story
 %   An aluminium strip, 500 x 20 x 5 mm, is clamped to a shock table that makes a half sine of 50 g in 5 ms. From 20 beam elements
-%   come ten modes; the base motion loads all of them. The clamp jumps away, the tip stays behind and swings for a long time, and
+%   come ten modes; the base motion loads all of them. The clamp jumps away, the tip lags and swings for a long time, and
 %   the second mode rides on the first.
 %
 % Reference
@@ -12,7 +12,7 @@
 % Checked
 %   The first five frequencies to 0.05 %: the error of cubic elements, of the order of (b/20)^4/720, is 2e-4 for the fifth. Tip
 %   displacement to 0.05 % of its greatest value: the second mode, at 103 Hz and a tenth of the motion, has 970 steps a period and
-%   is late by less than 1e-4 in the time shown, and what lies above the fifth hardly moves under so long a pulse.
+%   is late by less than 1e-4 in the time shown, and what is above the fifth hardly moves under so long a pulse.
 %
 % Calls
 %   R = example_beam_shock ()

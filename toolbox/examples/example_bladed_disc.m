@@ -3,7 +3,7 @@
 % Story
 %   Twelve blades on an elastic disc are excited by three gas jets a turn (third engine order), a wave that runs around. Under each
 %   platform sits a friction damper. Pressed too lightly it slides without taking much out, too hard it sticks and is a spring only;
-%   in between lies a force with which the resonance is least. It is found by harmonic balance, and twelve blades run in time prove it.
+%   in between there is a force with which the resonance is least. It is found by harmonic balance, and twelve blades run in time prove it.
 %
 % Reference
 %   First harmonic of the elastic-sliding damper (Griffin, Friction damping of resonant stresses in gas turbine engine airfoils,

@@ -1,7 +1,7 @@
 % EXAMPLE_FRAME_STOP  Two buildings too close: a frame pounds against its neighbour in a ground shock
 %
 % Story
-%   A four-storey frame, 20 t and 30 MN/m a storey, sways after a short ground shock. Its stiff neighbour stands 20 mm away from the
+%   A four-storey frame, 20 t and 30 MN/m a storey, sways after a short ground shock. Its stiff neighbour is 20 mm away from the
 %   roof. The simulation takes 13 lines, from the matrices to the list of contacts.
 %
 % Reference
@@ -70,7 +70,7 @@ function r = example_frame_stop (folder, short)
   plot (res.time, 1e3 * u, '-', 'color', qn.impl.colours (1), 'linewidth', wide);
   plot ([0 last], [20 20], '--', 'color', [0 0 0]);
   axis ([0 last -60 90]);
-  labels ('Roof of the frame', 'Time [s]', 'Displacement [mm]', {'without neighbour', 'with neighbour', 'where it stands'}, 'north');
+  labels ('Roof of the frame', 'Time [s]', 'Displacement [mm]', {'without neighbour', 'with neighbour', 'where it is'}, 'north');
   qn.plot.panel (2, 1, 2);
   qn.plot.series (res, 'force', 1);
   title ('Force on the neighbour');

@@ -10,7 +10,7 @@
 %   other branches by Masing's rule, energy of a cycle k^2 X^3/(3 Fs), until all slips at 2 Fs/k.
 %
 % Checked
-%   First loading and settled loop to 0.05 %: 30 sliders make a polygon of the parabola, whose corners lie up to 1/(4*30^2) = 0.03 %
+%   First loading and settled loop to 0.05 %: 30 sliders make a polygon of the parabola, whose corners are up to 1/(4*30^2) = 0.03 %
 %   of the slip force beside it. Energy of a cycle to 1 %: at the smallest amplitude 7 of the sliders slip, and a polygon of so many
 %   sides may miss 1/(4*7^2) = 0.5 % of it.
 %

@@ -12,7 +12,7 @@
 %
 % Checked
 %   Deflection in the free run-up to 0.4 % of its greatest value: with 170 steps a turn the scheme lowers the critical speed by
-%   (w h)^2/12 = 1e-4, which shifts the beats behind the peak; half the step leaves a quarter of it. Mean radius of the whirl in the
+%   (w h)^2/12 = 1e-4, which shifts the beats after the peak; half the step leaves a quarter of it. Mean radius of the whirl in the
 %   ring to 0.2 %, greatest and smallest to 0.5 %: the shaft rests on 7 of the pads, one more or less in turn.
 %
 % Calls

@@ -10,7 +10,7 @@
 %
 % Checked
 %   The maximax spectrum of the run to 0.5 %: it looks for the highest of the values at the time steps; of a sine with 31 steps a
-%   period, at 800 Hz, the highest value seen may lie (pi/31)^2/2 = 0.5 % below its peak. That of qn.srs, which looks between them,
+%   period, at 800 Hz, the highest value seen may be (pi/31)^2/2 = 0.5 % below its peak. That of qn.srs, which looks between them,
 %   to 0.05 %. The greatest amplification, 1.77, to 0.2 %.
 %
 % Calls

@@ -1,4 +1,4 @@
-% [PHI, W, COUNT] = ATTACH (K, M, PHI, W, WHAT)  the modes PHI, W and behind them COUNT attachment vectors with their frequencies
+% [PHI, W, COUNT] = ATTACH (K, M, PHI, W, WHAT)  the modes PHI, W and after them COUNT attachment vectors with their frequencies
 %
 % WHAT says where unit forces act: numbers of degrees of freedom, or load shapes in columns or rows. What the modes hold of the static
 % response to them is taken off; the rest, made orthogonal in mass and stiffness among itself, follows as further "modes" (Rubin 1975;

@@ -1,4 +1,4 @@
-% [LIST, BASE] = BASE_LOADS (MODEL, LIST, MOTION)  loads with those of the moving base behind them
+% [LIST, BASE] = BASE_LOADS (MODEL, LIST, MOTION)  loads followed by those of the moving base
 %
 % MOTION is {PUSH, SIGNAL; ...}. BASE is [] without one, else a struct: push (n x b) and loads (their numbers among the loads).
 function [list, base] = base_loads (model, list, motion)

@@ -6,7 +6,7 @@ function found = check_step (sim)
   last = sim.time(end) - sim.time(1);
   all_of = qn.impl.frequencies (sim.model);
   [w, top] = max (all_of);
-  % Attached shapes stand for statics; how well they swing does not matter. They are the highest.
+  % Attached shapes represent statics; how well they swing does not matter. They are the highest.
   modes = all_of;
   if isfield (sim.model, 'attached') && sim.model.attached > 0
     modes = sort (all_of);

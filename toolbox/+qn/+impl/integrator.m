@@ -1,6 +1,6 @@
 % V = INTEGRATOR (SIM, FROM, TO)  value of the integrator handle for the time points FROM ... TO
 %
-% The module subtracts loads; its step to a time point reads the loads that stand one column earlier in the table; and the second
+% The module subtracts loads; its step to a time point reads the loads one column earlier in the table; and the second
 % load column is also the gain of the corrector, unless that is a matrix. So shapes change sign, loads move one column to the left, and
 % the second load is zero beside a gain per mode.
 function v = integrator (sim, from, to)

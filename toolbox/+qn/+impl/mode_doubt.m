@@ -1,7 +1,7 @@
 % TEXT = MODE_DOUBT (K, M, PHI, LAMBDA)  what speaks against PHI being the lowest modes of K and M, with LAMBDA = w^2; '' for nothing
 %
 % Residuals, orthogonality, and whether a mode was left out: subspace iteration among what is orthogonal to PHI must not find a
-% vector whose Rayleigh quotient, an upper bound of the lowest mode there, lies below the highest of LAMBDA (Bathe and Wilson 1972).
+% vector whose Rayleigh quotient, an upper bound of the lowest mode there, is below the highest of LAMBDA (Bathe and Wilson 1972).
 function text = mode_doubt (k, m, phi, lambda)
   text = '';
   lambda = lambda(:);

@@ -1,5 +1,5 @@
 % C = OBSERVED (WHO, MODEL, DOFS)           rows of the displacements of these degrees of freedom
-% C = OBSERVED (WHO, MODEL, DOFS, WEIGHTS)  one row, their weighted sum; physical rows stand for themselves (see qn.observe)
+% C = OBSERVED (WHO, MODEL, DOFS, WEIGHTS)  one row, their weighted sum; physical rows are taken as they are (see qn.observe)
 function c = observed (who, model, dofs, weights)
   n = size (model.shapes, 1);
   rows = isnumeric (dofs) && nargin < 4 && n > 1 && size (dofs, 2) == n && (size (dofs, 1) > 1 || issparse (dofs));

@@ -1,6 +1,6 @@
 % [P, GOOD] = PLACES (SHAPES, ROWS)  weights of degrees of freedom, n x p, sparse, that give the modal rows: ROWS = P.' * SHAPES
 %
-% A row is that of one degree of freedom, of two with weights that stand near one another in the numbering, or of few: those are
+% A row is that of one degree of freedom, of two with weights that are near one another in the numbering, or of few: those are
 % looked for by least squares that are weighted anew with their own result. What is found must give the row to rounding,
 % with no more than half as many degrees of freedom as there are modes; then no other so small set does. GOOD says which were found.
 function [p, good] = places (shapes, rows)

@@ -7,7 +7,7 @@ function e = remembered (e, before, law, old)
   end
   t = qn.impl.traits (law, 1);
   if isequal (law, old)
-    % The place of the last search in a table. Where a law knows the step, its own one stands.
+    % The place of the last search in a table. Where a law knows the step, its own value stays.
     step = e.opt(3);
     e.opt = before.opt;
     if t.memory, e.opt(3) = step; end

@@ -8,7 +8,7 @@ function [good, text] = host ()
   text = sprintf ('%s on %s', qn.impl.host_name (), computer ());
 end
 
-% Where the module is on the path, whatever stands in front of it.
+% Where the module is on the path, whatever is before it.
 function [good, text] = module ()
   name = ['quarn.' mexext()];
   folders = [{pwd()}, strsplit(path (), pathsep ())];

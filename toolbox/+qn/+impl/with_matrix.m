@@ -1,6 +1,6 @@
 % X = WITH_MATRIX (X, WHO, PHI, NAME, A)  X with the modal matrix of A added: m x 1 where both are diagonal, m x m else
 %
-% PHI.' * A * PHI counts as diagonal when what stands beside its diagonal is rounding.
+% PHI.' * A * PHI counts as diagonal when what is beside its diagonal is rounding.
 function x = with_matrix (x, who, phi, name, a)
   if isempty (a), return, end
   n = size (phi, 1);

@@ -53,7 +53,7 @@ function loop (what, force)
   qn.impl.style (name, sprintf ('Displacement [%s]', ux), sprintf ('Force [%s]', uf), {});
 end
 
-% Limits with a twentieth of the range to spare on either side, so that no part of the line lies on the frame.
+% Limits with a twentieth of the range to spare on either side, so that no part of the line is on the frame.
 function limits = around (x)
   x = x(isfinite (x));
   if isempty (x), x = 0; end

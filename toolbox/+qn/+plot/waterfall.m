@@ -1,4 +1,4 @@
-% QN.PLOT.WATERFALL  spectra behind one another
+% QN.PLOT.WATERFALL  spectra one behind another
 %
 % Purpose
 %   Shows how the frequencies in a signal change: over the time of one run-up, or from run to run.
@@ -53,7 +53,7 @@ function waterfall (x, y, varargin)
   [f, unit] = qn.impl.prefixed (y(:), o.unit);
   x = x(shown);
   y = f * abs (y(:, shown));
-  % From the back to the front, each line hiding what is behind it; the lines lie on a plane, so that it prints anywhere.
+  % From the back to the front, each line hiding what is behind it; the lines are in a plane, so that it prints anywhere.
   [along, order] = sort (o.along(:), 'descend');
   top = max (y(:)) + (max (y(:)) == 0);
   rise = max (along(1) - along(end), eps) * 4 / max (numel (along) - 1, 4) / top;

@@ -4,6 +4,7 @@
 %   - a command word of the command table without a section under docs/commands, or without a line in the table of docs/commands.md
 %   - a law keyword of the law table without a section in docs/laws.md
 %   - a code of a handle type without a section in docs/commands/handles.md
+%   - a folder of the sources that README.md does not name
 %   - a defined error text or identifier of the sources that does not stand in docs/commands.md
 %   - a relative link or image that leads to no file, or to no heading of it
 %   - nothing found of one of these kinds: the check would be looking at the wrong files
@@ -36,6 +37,14 @@ function [problems, counts] = document_problems (root)
   for k = 1:numel (tables.types)
     if all (cellfun (@isempty, regexp (headings, ['\(types?[^)]*\<' tables.types{k} '\>'], 'once')))
       problems{end + 1} = sprintf ('handle type %s has no section "... (type %s)" in docs/commands/handles.md', tables.types{k}, tables.types{k});
+    end
+  end
+
+  readme = fileread (fullfile (root, 'README.md'));
+  rooms = dir (fullfile (root, 'src'));
+  for name = {rooms([rooms.isdir]).name}
+    if name{1}(1) ~= '.' && isempty (strfind (readme, ['`' name{1} '`']))
+      problems{end + 1} = sprintf ('the folder src/%s is not in README.md', name{1});
     end
   end
 

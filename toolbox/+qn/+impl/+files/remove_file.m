@@ -1,4 +1,4 @@
-% REMOVE_FILE (FILE)  removes one file, by its name as it stands; nothing happens where there is none
+% REMOVE_FILE (FILE)  removes one file, by its name, taken literally; nothing happens where there is none
 function remove_file (file)
   if exist ('OCTAVE_VERSION', 'builtin')
     [~, ~] = unlink (file);

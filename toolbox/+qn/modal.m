@@ -9,7 +9,7 @@
 %   MODEL = qn.modal (S, ...)
 %
 % Input
-%   K, M   stiffness [N/m] and mass [kg], n x n, symmetric, M positive definite; or with rows of zeros for degrees of freedom
+%   K, M   stiffness [N/m] and mass [kg], n x n, symmetric, K without a negative eigenvalue, M positive definite; or with rows of zeros for degrees of freedom
 %          without mass. Those follow the others statically, which is exact where no load and no element acts on them: what acts
 %          there directly also bends them, and that no mode holds.
 %   S      structure with the fields K, M and, if there is one, C: a physical model
@@ -21,7 +21,7 @@
 %     'G'         gyroscopic matrix [kg m^2 or kg m, whatever times 'speed' gives N s/m], n x n, skew (G.' = -G)
 %     'speed'     speed of rotation [rad/s] that belongs to 'G': the damping gets speed*G
 %     'K'         further stiffness [N/m], any real n x n: bearings, with cross terms that differ. The modes stay those of K and M
-%                 alone; this one may couple them.
+%                 alone; this one may couple them. What pushes away from rest (the weight of an upright pendulum) belongs here.
 %                 C, G and K are projected onto the modes. Where that leaves more than rounding beside the diagonal, the full
 %                 modal matrix is kept, and integrated implicitly as it is (a matrix gain, see docs/theory.md).
 %     'method'    'auto': eigs for sparse matrices with more than 250 degrees of freedom and up to a quarter of the modes, where it
@@ -47,7 +47,8 @@
 %
 % Errors
 %   qn:input  sizes do not fit, K or M is not symmetric (to 1e-6 of its greatest entry), the mass is not positive
-%             definite, a damping is negative or no number, G is not skew or comes without a speed; the places of
+%             definite, K has a negative eigenvalue beyond the rounding of a rigid motion (from 1e-10 to 1e-6 of its entries it is
+%             taken for 0 with the warning qn:modal), a damping is negative or no number, G is not skew or comes without a speed; the places of
 %             'attach' are none, a static response does not exist, or what has no mass is not held
 %   qn:eigs   with 'eigs' a mode was left out or is inaccurate
 %

@@ -22,8 +22,9 @@
 %     'elements'  {LAW, C; ...} or {LAW, C, B; ...}: LAW from qn.law or a recipe, C observation rows (qn.observe) or numbers of
 %                 degrees of freedom as for qn.displacement, B rows through which the force acts (C). A bank of laws shares one C.
 %     'every'     results are kept at every k-th step (1), or
-%     'times'     at the steps next to these times [s]
-%     'u0', 'v0'  initial displacement and velocity of the structure [m, m/s] (0), or
+%     'times'     at the steps next to these times [s]; those outside the run give its first or last step
+%     'u0', 'v0'  initial displacement and velocity of the structure [m, m/s] (0); what the modes do not hold of them is left out, and
+%                 qn.check and qn.run warn where that is a tenth by mass; or
 %     'q0', 'dq0' initial modal state
 %     'a0'        'consistent': initial acceleration from the equation of motion, or m modal values ('consistent')
 %     'start'     result of an earlier run: its last state, its laws' memory and its time are where this one begins. Model, laws, step,
@@ -76,8 +77,9 @@ function sim = simulation (model, varargin)
     end
     o.until = [];
   end
-  o.steps = qn.impl.count (who, 'steps', o.steps);
+  o.steps = qn.impl.count (who, 'steps', o.steps, 2 ^ 31);
   sim = struct ('model', model, 'scheme', qn.scheme (o.scheme), 'step', o.step, 'first', first, 'time', (first + (0:o.steps)) * o.step);
+  if ~isempty (o.times) && o.every ~= 1, error ('qn:input', '%s: give "every" or "times", one of them', who); end
   if isempty (o.times)
     o.every = qn.impl.count (who, 'every', o.every);
     sim.saved = 1:o.every:o.steps + 1;

@@ -17,8 +17,7 @@ function found = check_arrays (sim)
   expect ('model', fits (k, m) && fits (c, m), ...
           'the model must have a modal stiffness and damping of %d values or %d x %d, got %s and %s', m, m, m, ...
           mat2str (size (k)), mat2str (size (c)));
-  expect ('stiffness', isreal (k) && all (isfinite (k(:))) && (size (k, 2) > 1 || all (k >= 0)), ...
-          'the modal stiffnesses must be finite and not negative');
+  expect ('stiffness', isreal (k) && all (isfinite (k(:))), 'the modal stiffnesses must be finite');
   expect ('damping', isreal (c) && all (isfinite (c(:))), 'the modal dampings must be finite');
   names = {'u', 'v', 'a'};
   for j = 1:3

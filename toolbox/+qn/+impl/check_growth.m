@@ -1,24 +1,29 @@
 % FOUND = CHECK_GROWTH (SIM, RES)  growth of the step as it will run, where the modes are coupled, against that of the equations themselves
 %
 % Uncoupled modes have closed limits (qn.impl.check_step, qn.impl.check_law). With a damping or stiffness matrix, or an element whose force
-% acts elsewhere than it observes, the spectral radius is computed: of the linear part, then with each such element at its stiffest, in
+% acts elsewhere than it observes, or with what feeds a mode (a negative stiffness or damping), the spectral radius is computed: of the linear part, then with each such element at its stiffest, in
 % the motion of the result RES where there is one ([]: none).
 function found = check_growth (sim, res)
   found = qn.impl.finding ();
   m = numel (sim.model.w);
   coupled = size (sim.model.damping, 2) > 1 || size (sim.model.stiffness, 2) > 1;
   if m > 250, return, end
-  if coupled
+  if coupled || any (sim.model.stiffness < 0) || any (sim.model.damping < 0)
     [grows, real_rate] = qn.impl.linear_step (sim, zeros (m));
     found = judge (found, sim, grows, real_rate, 'the linear model');
     if ~isempty (found), return, end
     unstable = real_rate * (sim.time(end) - sim.time(1)) > 0.05 && real_rate > 1e-7 * max (sim.model.w);
     if unstable
       found(end + 1) = qn.impl.finding ('model_grows', 'warning', ...
-        ['the model itself is unstable: its damping and stiffness matrices let the ' ...
-        'motion grow by a factor of e in %.3g s. If that is not meant (oil whirl, brake squeal, flutter), look at the signs of G ' ...
-        'and K'], ...
+        ['the model itself is unstable: its damping and stiffness let the ' ...
+        'motion grow by a factor of e in %.3g s. If that is not meant (oil whirl, brake squeal, flutter), look at the signs of C, ' ...
+        'G and K'], ...
         1 / real_rate);
+    end
+    if unstable && real_rate * sim.step > 1
+      found(end + 1) = qn.impl.finding ('growth', 'error', ...
+        'the step of %g s is longer than the %.3g s in which the model grows by a factor of e: it cannot follow that; shorten it', ...
+        sim.step, 1 / real_rate);
     end
   end
   for k = 1:numel (sim.elements)

@@ -33,6 +33,7 @@ function [phi, w] = modes (k, m, count, method)
       error ('qn:input', 'qn.modal: "method" is ''auto'', ''eig'' or ''eigs'', not ''%s''', method);
   end
   phi = upright (phi(:, 1:count));
+  no_push (k, phi, lambda(1:count));
   w = sqrt (max (lambda(1:count), 0));
   w(lambda(1:count) < 1e-12 * max (abs (lambda(1:count)))) = 0;
 end
@@ -61,6 +62,23 @@ function [phi, lambda] = scaled (phi, lambda, m)
   [lambda, order] = sort (real (lambda));
   phi = real (phi(:, order));
   for j = 1:numel (lambda), phi(:, j) = phi(:, j) / sqrt (phi(:, j).' * m * phi(:, j)); end
+end
+
+% A negative eigenvalue of K and M is a motion that grows, which no mode can hold: it is refused, not taken for a rigid motion. What the
+% rounding of K makes of a rigid motion is small beside what its entries do to the shape one by one.
+function no_push (k, phi, lambda)
+  for j = find (lambda(:).' < 0)
+    share = -lambda(j) / full (abs (phi(:, j)).' * abs (k) * abs (phi(:, j)));
+    if share < 1e-10, continue, end
+    text = sprintf (['K is not positive semidefinite: mode %d has a stiffness of %.3g 1/s^2, a motion that grows by a factor of e in ' ...
+                     '%.3g s'], j, lambda(j), 1 / sqrt (-lambda(j)));
+    if share > 1e-6
+      error ('qn:input', ['qn.modal: %s. Look at its signs; forces that push away from rest by right (the weight of an upright ' ...
+                          'pendulum, a load beyond buckling) belong into the option "K"'], text);
+    end
+    warning ('qn:modal', ['qn.modal: %s. It is %.1g of its entries and is taken for rounding of a rigid motion, 0; if it is meant, ' ...
+                          'put what pushes into the option "K"'], text, share);
+  end
 end
 
 function phi = upright (phi)

@@ -72,7 +72,7 @@ function c = cases ()
        'loads', 'error', {changed(pushed (sine), 'loads', 1:3)}, {pushed(sine)}
        'load_values', 'error', {changed(pushed (sine), 'loads', NaN (1, 2001))}, {pushed(sine)}
        'model', 'error', {in_model(good (), 'stiffness', [1; 2])}, {good()}
-       'stiffness', 'error', {in_model(good (), 'stiffness', -1)}, {good()}
+       'stiffness', 'error', {in_model(good (), 'stiffness', NaN)}, {good()}
        'damping', 'error', {in_model(good (), 'damping', NaN)}, {good()}
        'initial', 'error', {in_start(good (), 'v', NaN)}, {good()}
        'rows', 'error', {in_element(with (stop (1e-3)), 'observe', [1 2])}, {with(stop (1e-3))}
@@ -86,6 +86,7 @@ function c = cases ()
                                  {coupled(40 * eye (2), 1e4 * eye (2) + 3e3 * skew, 'average', 1e-3)}
        'run_short', 'note', {good('until', 0.01)}, {good()}
        'at_rest', 'warning', {good('v0', 0)}, {good()}
+       'initial_lost', 'warning', {given(chain ('modes', 2), [0; 0; 1; 0; 0])}, {given(chain ('modes', 2), (1:5).' / 5)}
        'load_zero', 'warning', {pushed(@(t) 5 * (t > 1e-5 & t < 3e-5))}, {pushed(@(t) 5 * (t > 1e-3))}
        'load_shape', 'note', {push_of(chain ('modes', 2), [1; 0])}, {push_of(chain ('modes', 2), [0.5; 0])}
        'load_ends', 'note', {pushed([0 0.1; 0 1])}, {pushed([0 0.2; 0 1])}
@@ -112,6 +113,10 @@ function c = cases ()
        'power_negative', 'warning', {with(qn.law ('power', 'stiffness', 1, 'exponent', 1.5))}, {with(qn.cubic ('stiffness', 1))}
        'stickslip_coarse', 'warning', {with(qn.law ('stickslip', 'contact', 1, 'slip', 2))}, ...
                                       {with(qn.law ('stickslip', 'contact', 1, 'slip', 200))}};
+end
+
+function sim = given (model, shape)
+  sim = qn.simulation (model, 'step', 1e-5, 'until', 0.1, 'u0', 1e-3 * shape);
 end
 
 function law = turned (law)

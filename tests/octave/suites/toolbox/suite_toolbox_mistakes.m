@@ -119,3 +119,9 @@ function test_tables_are_printed_without_an_output_argument ()
   expect_equal (numel (lines), 2);
   expect_equal (sscanf (lines{2}, '%g', 2), [1; d.absorbed(end)], 1e-3);
 end
+
+function test_every_and_times_together_are_refused_and_so_are_steps_without_end ()
+  model = qn.modal (1e4, 1);
+  refused (@() qn.simulation (model, 'step', 1e-3, 'steps', 9, 'times', 0.002, 'every', 3), 'give "every" or "times"');
+  refused (@() qn.simulation (model, 'step', 1e-15, 'until', 4), '"steps" must be from 1 to 2.*, got 4e\+15');
+end

@@ -63,3 +63,38 @@ function test_degrees_of_freedom_without_mass_are_condensed_exactly ()
   expect_error (@() qn.modal (diag ([1 0]), diag ([1 0])), 'qn:input', '~without mass .* are not held by the stiffness');
   expect_error (@() qn.modal (eye (2), ones (2)), 'qn:input', '~not positive definite');
 end
+
+% A stiffness with a negative eigenvalue was taken for a rigid motion: cosh (t) came out as a constant.
+function test_a_stiffness_that_pushes_away_is_refused_and_as_a_further_stiffness_grows_as_it_should ()
+  for form = {@full, @sparse}
+    expect_error (@() qn.modal (form{1} ([1 2; 2 1]), eye (2)), 'qn:input', '~mode 1 has a stiffness of -1 1/s.2.*option "K"');
+  end
+  expect_error (@() qn.modal (-1, 1), 'qn:input', '~not positive semidefinite');
+  model = qn.modal (eye (2), eye (2), 'K', [0 2; 2 0]);
+  upright = qn.modal (1, 1, 'K', -2);
+  before = warning ('off', 'qn:check:model_grows');
+  back = onCleanup (@() warning (before));
+  sim = @(m, u) qn.simulation (m, 'step', 1e-3, 'until', 3, 'u0', u);
+  res = qn.run (sim (model, [1; 0]));
+  expect_equal (model.shapes * res.q(:, end), [cosh(3) + cos(sqrt (3) * 3); cos(sqrt (3) * 3) - cosh(3)] / 2, 1e-5);
+  res = qn.run (sim (upright, 1));
+  expect_equal (res.q(end), cosh (3), 1e-5);
+  found = qn.check (sim (upright, 1));
+  expect_equal ({found(~strcmp ({found.level}, 'note')).code}, {'model_grows'});
+  found = qn.check (qn.simulation (upright, 'step', 1.5, 'until', 30, 'u0', 1));
+  expect_equal ({found(strcmp ({found.level}, 'error')).code}, {'growth'});
+end
+
+function test_a_rounded_stiffness_of_a_free_structure_keeps_its_rigid_motion_with_a_warning ()
+  k = 1e8 * [1 -1 0; -1 2 -1; 0 -1 1];
+  k(2, 2) = k(2, 2) - 1;                               % as from a file with eight digits
+  lastwarn ('', '');
+  model = qn.modal (k, eye (3));
+  [unused, id] = lastwarn ();
+  expect_equal (id, 'qn:modal');
+  expect_equal (model.w, sqrt ([0; 1; 3] * 1e8), 1e-3);
+  lastwarn ('', '');
+  qn.modal (1e8 * [1 -1 0; -1 2 -1; 0 -1 1], eye (3));
+  [unused, id] = lastwarn ();
+  expect_equal (id, '');
+end

@@ -9,9 +9,9 @@
 %   MODEL = qn.modal (S, ...)
 %
 % Input
-%   K, M   stiffness [N/m] and mass [kg], n x n, symmetric, K without a negative eigenvalue, M positive definite; or with rows of zeros for degrees of freedom
-%          without mass. Those follow the others statically, which is exact where no load and no element acts on them: what acts
-%          there directly also bends them, and that no mode holds.
+%   K, M   stiffness [N/m] and mass [kg], n x n, symmetric, K without negative eigenvalues, M positive definite; or with rows of
+%          zeros for degrees of freedom without mass. Those follow the others statically, which is exact where no load and no
+%          element acts on them: what acts there directly also bends them, and that no mode holds.
 %   S      structure with the fields K, M and, if there is one, C: a physical model
 %   Names and values
 %     'modes'     how many modes to keep (all, at most 200)

@@ -1,8 +1,8 @@
 % FOUND = CHECK_GROWTH (SIM, RES)  growth of the step as it will run, where the modes are coupled, against that of the equations themselves
 %
-% Uncoupled modes have closed limits (qn.impl.check_step, qn.impl.check_law). With a damping or stiffness matrix, or an element whose force
-% acts elsewhere than it observes, or with what feeds a mode (a negative stiffness or damping), the spectral radius is computed: of the linear part, then with each such element at its stiffest, in
-% the motion of the result RES where there is one ([]: none).
+% Uncoupled modes have closed limits (qn.impl.check_step, qn.impl.check_law). With a damping or stiffness matrix, what feeds a mode (a
+% negative stiffness or damping), or an element whose force acts elsewhere than it observes, the spectral radius is computed: of the
+% linear part, then with each such element at its stiffest, in the motion of the result RES where there is one ([]: none).
 function found = check_growth (sim, res)
   found = qn.impl.finding ();
   m = numel (sim.model.w);

@@ -48,8 +48,8 @@
 % Errors
 %   qn:input  sizes do not fit, K or M is not symmetric (to 1e-6 of its greatest entry), the mass is not positive
 %             definite, K has a negative eigenvalue beyond the rounding of a rigid motion (from 1e-10 to 1e-6 of its entries it is
-%             taken for 0 with the warning qn:modal), a damping is negative or no number, G is not skew or comes without a speed; the places of
-%             'attach' are none, a static response does not exist, or what has no mass is not held
+%             taken for 0 with the warning qn:modal), a damping is negative or no number, G is not skew or comes without a speed;
+%             the places of 'attach' are none, a static response does not exist, or what has no mass is not held
 %   qn:eigs   with 'eigs' a mode was left out or is inaccurate
 %
 % Source

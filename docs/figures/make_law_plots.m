@@ -105,7 +105,7 @@ function [x, v, h, last] = harmonic (amplitude, frequency, samples, cycles)
   last = (cycles - 1) * samples + 1:cycles * samples + 1;
 end
 
-% An element that observes each of its values as it stands and keeps its force in "snl".
+% An element that observes each of its values unchanged and keeps its force in "snl".
 function e = element (word, parameters, page, iopt, pages)
   if nargin < 5, pages = 1; end
   code = sum (double (word) .* 256 .^ (0:numel (word) - 1));

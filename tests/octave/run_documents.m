@@ -2,7 +2,7 @@
 %
 % An example is a fenced block of the language matlab. Each runs in a workspace of its own, in an empty folder, with the module and
 % the toolbox on the path and no handle registered. A document fails when one of its examples raises an error. What is not meant to
-% run stands in a block of another language.
+% run is in a block of another language.
 args = argv ();
 here = make_absolute_filename (fileparts (mfilename ('fullpath')));
 addpath (fullfile (here, '..', '..', 'toolbox'));

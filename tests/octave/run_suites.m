@@ -51,7 +51,7 @@ function put_on_path (here, options)
   if ~isempty (options.module)
     module = absolute (options.module);
     addpath (module);
-    % What the tests need compiled lies in the build directory, beside the module's folder.
+    % What the tests need compiled is in the build directory, beside the module's folder.
     compiled = fullfile (fileparts (module), 'tests', 'octave');
     if exist (compiled, 'dir'), addpath (compiled); end
   end

@@ -1,4 +1,4 @@
-% [TEXTS, COUNT] = SOAK_ERRORS (K, COUNT, REAL)  malformed calls: the texts of their errors, one character behind the other
+% [TEXTS, COUNT] = SOAK_ERRORS (K, COUNT, REAL)  malformed calls: the texts of their errors, one character after the other
 %
 % Calls with an error that is known, each several times, then arrays of every kind in one place of two commands, whose answers must be in
 % the module's own words. K says which place.

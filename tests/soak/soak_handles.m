@@ -13,7 +13,7 @@ function [numbers, count] = soak_handles (count)
     if k == 1, first = index - index(1); end
     same = same + isequal (index - index(1), first);
     if mod (k, 2) == 0, quarn ('chandleclear'); end
-    for j = [3 1 4 2], quarn ('chandleclear', index(j)); end   % keys stay listed behind a "chandleclear" of all
+    for j = [3 1 4 2], quarn ('chandleclear', index(j)); end   % keys stay listed after a "chandleclear" of all
   end
   count.handles = count.handles + 4800;
   numbers = [same; size(quarn ('chandleget'))'];

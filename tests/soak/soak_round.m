@@ -1,6 +1,6 @@
 % [NUMBERS, COUNT] = SOAK_ROUND (K, REAL)  one round of the mixed workload: all its results in one column, and what was done
 %
-% K numbers the rounds: every tenth one registers a nonlinear element, every 25th one unloads the module behind products on worker threads,
+% K numbers the rounds: every tenth one registers a nonlinear element, every 25th one unloads the module after products on worker threads,
 % every hundredth one with handles alive. Values that stay in memory by rule then are counted in COUNT.kept. REAL is false for the rounds
 % without the module.
 function [numbers, count] = soak_round (k, real)

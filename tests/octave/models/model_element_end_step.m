@@ -1,6 +1,6 @@
 % S = MODEL_ELEMENT_END_STEP (S)  copies a page within "unl" and "vnl" to the front, from element 2*PAGES on (0-based)
 %
-% The source offset is twice the number of pages, not twice their length. What would lie behind the last value is left out.
+% The source offset is twice the number of pages, not twice their length. What would be past the last value is left out.
 function s = model_element_end_step (s)
   [n, pages] = model_page (s);
   if pages <= 1, return, end

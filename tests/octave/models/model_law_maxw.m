@@ -1,7 +1,7 @@
 % [S, CTX] = MODEL_LAW_MAXW (S, T, CTX)  internal-state law with explicit sub-steps
 %
 % iopt(3) values of an element, iopt(4) of them states, iopt(5) elements; opt(3) increment, opt(4) sub-steps, then the blocks
-% Cu, Dv, B, A, E from opt(6) on. What would be committed behind the end of an array is dropped.
+% Cu, Dv, B, A, E from opt(6) on. What would be committed past the end of an array is dropped.
 function [s, ctx] = model_law_maxw (s, t, ctx)
   [len, pages] = model_page (s);
   if pages < 2, error ('Need unlj1 as last dim'); end

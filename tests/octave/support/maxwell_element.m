@@ -1,4 +1,4 @@
-% E = MAXWELL_ELEMENT (Q, M, ELEMENTS, H, STEPS, W)  element of the law "Maxw" that observes each row of u as it stands
+% E = MAXWELL_ELEMENT (Q, M, ELEMENTS, H, STEPS, W)  element of the law "Maxw" that observes each row of u as it is
 % E = MAXWELL_ELEMENT (Q, M, ELEMENTS, H, STEPS, W, PAGE, PAGES)
 %
 % Q values of each of the ELEMENTS, M of them states; W holds the weights Cu and Dv (up to (Q+M)*Q values each), B (Q*M), A (M x M) and

@@ -9,7 +9,7 @@
 %   BETA, GAMMA   Newmark parameters
 %   SAVE      columns of the time table at which the displacements are saved
 %   NDOF      rows of u, v and a where they hold more than the modes (internal states of elements)
-% The step to t(j+1) uses the loads of table column j, so P(:,j+1) stands there. Loads are residuals: minus the forces.
+% The step to t(j+1) uses the loads of table column j, so P(:,j+1) is there. Loads are residuals: minus the forces.
 function [integrator, mem, out] = newmark_setup (m, c, k, phi, p, h, beta, gamma, save, ndof)
   n = numel (m);
   if nargin < 10, ndof = n; end

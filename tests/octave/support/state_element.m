@@ -1,7 +1,7 @@
-% E = STATE_ELEMENT (WORD, PARAMETERS, IOPT, PAGE)  element of the force law WORD that observes each row of u as it stands
+% E = STATE_ELEMENT (WORD, PARAMETERS, IOPT, PAGE)  element of the force law WORD that observes each row of u as it is
 % E = STATE_ELEMENT (WORD, PARAMETERS, IOPT, PAGE, PAGES)
 %
-% PARAMETERS are those behind the law code and an unused value: opt = [code; 0; PARAMETERS]. The element observes PAGE rows of u and
+% PARAMETERS are those after the law code and an unused value: opt = [code; 0; PARAMETERS]. The element observes PAGE rows of u and
 % v; unl and vnl have PAGES pages (1). Force k goes to row k of the residual.
 function e = state_element (word, parameters, iopt, page, pages)
   if nargin < 5, pages = 1; end

@@ -1,4 +1,4 @@
-% USE_TOOLBOX ()  puts the toolbox on the path: in front of the classes of the tests, behind the module
+% USE_TOOLBOX ()  puts the toolbox on the path: before the classes of the tests, after the module
 %
 % Call it first in a suite, before any object of these classes exists.
 function use_toolbox ()

@@ -1,6 +1,6 @@
 % RECORDS = VALIDATION_RECORDS ()  runs every test that calls expect_published, and returns what they compared
 %
-% A test is run when the call stands in the test itself.
+% A test is run when the call is in the test itself.
 function records = validation_records ()
   folder = fullfile (project_folder (), 'tests', 'octave', 'suites');
   files = dir (fullfile (folder, '*', 'suite_*.m'));

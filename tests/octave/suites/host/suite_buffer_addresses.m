@@ -61,7 +61,7 @@ function test_maxwell_rates_are_committed_in_the_buffer_of_an_object ()
   e = maxwell_element (2, 1, 1, 0.5, 1, w);
   e.vnl(5:6) = [0.3 0.4];
   plain = evaluate_law (e, [1; 99], [2; 98]);
-  % The last rate lands one value behind the pages: an array drops it, a buffer must have room for it.
+  % The last rate lands one value past the pages: an array drops it, a buffer must have room for it.
   buffer = fresh ([e.vnl(:); -1]);
   e.vnl = holder (buffer);
   evaluate_law (e, [1; 99], [2; 98]);

@@ -149,7 +149,7 @@ function test_force_outputs_compare_with_the_output_times_at_their_own_cursor ()
   run = force_output_run ();
   run.out.FNL.data = fresh ([0.3; 0.6; 0.9]);
   got = same_as_model (run);
-  % The force cursor stands at 0, 1, 2 for t = 0.25, 0.5, 0.75, where the output times are equal to t.
+  % The force cursor is at 0, 1, 2 for t = 0.25, 0.5, 0.75, where the output times are equal to t.
   expect_equal (got.out.FNL.def, [8 99 5]);
   run.out.data = fresh ([0.5; 0.6; 0.75]);
   got = same_as_model (run);

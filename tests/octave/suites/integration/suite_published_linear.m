@@ -18,7 +18,7 @@ function list = at_times (what)
   list = arrayfun (@(t) sprintf (what, t), 0.1:0.1:1, 'uniformoutput', false);
 end
 
-% The run of that example; the state behind each step is seen by ending the table there.
+% The run of that example; the state after each step is seen by ending the table there.
 function run = half_cycle_run (points)
   m = 0.2533;
   k = 10;

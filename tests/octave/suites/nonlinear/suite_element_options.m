@@ -57,7 +57,7 @@ function test_code_is_truncated ()
   expect_equal (got.snl, 16);
 end
 
-% One step of a run with the element alone; states in rows of u behind the single mode.
+% One step of a run with the element alone; states in rows of u after the single mode.
 function [run, got] = one_step (e, ndof, fnl)
   [integrator, mem, out] = newmark_setup (1, 0, 0, 1, [0 0], 0.5, 0.25, 0.5, 2, ndof);
   run = struct ('model', struct ('FNL', -ones (fnl, 1)), 'u', (1:ndof)' * 1.5, 'v', -(1:ndof)' * 0.5, 'a', zeros (ndof, 1), 'opt', [0 0]);
@@ -94,7 +94,7 @@ end
 
 function test_every_state_block_goes_to_the_same_place ()
   % Two pairs: observed in rows 1 and 3, states (equal to the forces) in rows 2 and 4; each block is one value
-  % behind one skipped value.
+  % after one skipped value.
   e = state_element ('DahlC', [0.5 10 1 4 2], [-1 5 1 1 2], 4, 2);
   e.c = matrix_lines ([eye(4) zeros(4, 3)], true);
   e.b = e.c;
@@ -124,7 +124,7 @@ function test_counts_of_states_beyond_the_arrays_hold_no_call ()
   expect_equal (u, [1; 2; reshape(got.unl(1:2), 2, 1)]);
 end
 
-% An element of LENGTH observed values and PAGES pages that holds 101, 102, ... behind the first page.
+% An element of LENGTH observed values and PAGES pages that holds 101, 102, ... after the first page.
 function e = paged_element (len, pages)
   line = [ones(len, 1), zeros(len, 1)];
   e = struct ('type', 1003, 'c', matrix_lines (line, true), 'b', matrix_lines (line, true), 'opt', [law_code('Power'); 0; 1], 'snl', zeros (len, 1));

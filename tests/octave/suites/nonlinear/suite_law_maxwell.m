@@ -169,7 +169,7 @@ function test_committed_values_must_lie_inside_unl_and_vnl ()
   e = one_state (1);
   e.vnl = zeros (5, 1);
   expect_error (@() evaluate_law (e, [0; 0], [0; 0]), '', text);
-  % As many states as values: the last committed state lies behind the third page.
+  % As many states as values: the last committed state is past the third page.
   w = struct ('Cu', 0, 'Dv', 0, 'B', zeros (1, 4), 'A', zeros (2), 'E', [0 0]);
   expect_error (@() evaluate_law (maxwell_element (2, 2, 1, 0.5, 1, w), [0; 0], [0; 0]), '', text);
 end
@@ -209,7 +209,7 @@ function test_short_arrays_are_refused ()
   expect_error (@() evaluate_law (e, u(1:2), u(1:2)), '', '~iopt\(3\) of law "Maxw" must not be negative with 2 elements, got -1');
 end
 
-% Without "snl" the force lies on unl(1), so each of the 2 x 3 passes multiplies what the one before left there.
+% Without "snl" the force is on unl(1), so each of the 2 x 3 passes multiplies what the one before left there.
 function test_every_pass_forms_the_force_of_an_element_without_values_again ()
   e = rmfield (maxwell_element (0, 0, 2, 0.5, 3, struct ('Cu', [], 'Dv', [], 'B', [], 'A', [], 'E', []), 1), {'snl', 'b'});
   e.opt(6) = 3;

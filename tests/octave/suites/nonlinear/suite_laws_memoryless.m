@@ -261,7 +261,7 @@ function evaluate_in_place (e, u)
   quarn ('chandlediagnewmark', {integrator, e}, struct (), fresh (u), zeros (n, 1), zeros (n, 1), [0 0], mem, struct ());
 end
 
-% The same on places of the memory: table of nx knots at 2, record behind it; queries at AT, results at TO.
+% The same on places of the memory: table of nx knots at 2, record after it; queries at AT, results at TO.
 function m = table_on (m, nx, u, at, to)
   n = numel (u);
   rec = 2 + 2 * nx;

@@ -9,7 +9,7 @@ function n = scaled (n)
   if isempty (getenv ('QUARN_FULL')), n = ceil (n * 0.06); end
 end
 
-% Growth in KiB of COUNT rounds of FN behind a warm-up.
+% Growth in KiB of COUNT rounds of FN after a warm-up.
 function kib = growth (fn, count)
   fn (max (1000, ceil (count / 20)));
   before = resident_memory ();
@@ -33,7 +33,7 @@ function run = element_run ()
   run.list{4} = spring_element (1, 1, 3, [law_code('Power') 2 1]);
 end
 
-% Half of the calls fail: alternately when the list is gathered and when the arrays are checked, behind the handles' creation.
+% Half of the calls fail: alternately when the list is gathered and when the arrays are checked, after the handles' creation.
 function integrate (count)
   run = element_run ();
   other = element_run ();

@@ -99,7 +99,7 @@ function test_random_structures_stay_diagonal_and_have_exact_flexibility ()
   end
 end
 
-% Numbers, columns and rows name the same places; what is named twice or lies in the modes adds nothing.
+% Numbers, columns and rows name the same places; what is named twice or is in the modes adds nothing.
 function test_places_may_be_numbers_columns_or_rows ()
   randn ('state', 5);
   [k, m] = random_structure (8, true);

@@ -214,7 +214,7 @@ function test_stiffness_of_the_motion_that_occurred_is_looked_at_after_the_run (
   if isempty (strfind (said, 'element 1')), error ('said: "%s"', said); end
 end
 
-% A stop so stiff that it throws the mass back within the step of its prediction: no displacement lies beyond the gap, but the force acted.
+% A stop so stiff that it throws the mass back within the step of its prediction: no displacement is past the gap, but the force acted.
 function test_a_contact_that_only_the_prediction_meets_is_named ()
   sim = with (qn.gap ('gap', 1e-3, 'stiffness', 1e12));
   x = 0.9e-3 * sin (linspace (0, 6, 2001));

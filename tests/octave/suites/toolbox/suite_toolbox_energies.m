@@ -42,7 +42,7 @@ function test_forces_along_what_is_observed_keep_their_potential ()
   end
 end
 
-% Two rows behind one law, one of them astray: each is counted for itself.
+% Two rows of one law, one of them astray: each is counted for itself.
 function test_rows_of_one_element_are_told_apart ()
   model = two_masses ();
   c = qn.observe (model, [1 2]);

@@ -14,7 +14,7 @@ function names = all_examples ()
   names = regexprep ({files.name}, '\.m$', '');
 end
 
-% Runs an example; all of its checks hold, its picture is a picture, nothing is left behind, and qn.run has nothing to warn of.
+% Runs an example; all of its checks hold, its picture is a picture, no handle remains, and qn.run has nothing to warn of.
 function r = run_example (name)
   before = warning ();
   back = onCleanup (@() warning (before));
@@ -91,7 +91,7 @@ end
 
 function test_duffing_resonance_and_its_jumps ()
   r = run_example ('duffing_backbone');
-  % First harmonic: the tip lies where the damping alone carries the load, A = F/(2 zeta w0 w), on w^2 = w0^2 (1 + 3/4 A^2).
+  % First harmonic: the tip is where the damping alone carries the load, A = F/(2 zeta w0 w), on w^2 = w0^2 (1 + 3/4 A^2).
   w = 2 * pi * r.numbers.tip(1);
   w0 = 20 * pi;
   expect_equal (r.numbers.tip(2) / (0.1 * w0 ^ 2 * 1e-3 / (0.05 * w0 * w)), 1, 0.03);

@@ -54,7 +54,7 @@ function test_free_duffing_motion_has_the_frequency_of_the_backbone ()
   expect_published (c, 'angular frequency at A = 1.5 [rad/s]', duffing (1.5), 2 * pi / mean (diff (t)), 1e-5);
 end
 
-% Jump and fold: between the two answers of a hardening resonance lies a third one. First-harmonic formula: ((1 - w^2 + 3/4 A^2)^2 +
+% Jump and fold: between the two answers of a hardening resonance there is a third one. First-harmonic formula: ((1 - w^2 + 3/4 A^2)^2 +
 % (c w)^2) A^2 = F^2.
 function test_harmonic_balance_follows_the_curve_around_its_folds ()
   model = qn.modal (1, 1, 'damping', 0.05);

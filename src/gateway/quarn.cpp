@@ -55,6 +55,7 @@ bool run(const quarn::CommandRow& row, int nlhs, mxArray* plhs[], int nrhs, cons
 extern "C" [[gnu::visibility("default")]] void mexFunction(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
   registerExit();
   quarn::cIndex.destroyRetired();
+  const quarn::host::PropertiesOfCall properties;
   if (nrhs == 0) {
     plhs[0] = mxCreateDoubleScalar(presence);
     return;

@@ -68,6 +68,23 @@ mxArray* matrixCell(const mxArray* a, std::size_t i);
 /// Field or property of an object; null where it cannot be reached. Its data is the object's own on Octave.
 mxArray* objectField(const mxArray* object, const char* name);
 
+/// Alive around a call of the module: what objectField has got from properties meanwhile is freed with it. Octave hands out an array of its
+/// own for each look and never frees it; MATLAB frees what a call was given.
+class PropertiesOfCall {
+ public:
+#ifdef QUARN_HOST_OCTAVE
+  PropertiesOfCall();
+  ~PropertiesOfCall();
+  PropertiesOfCall(const PropertiesOfCall&) = delete;
+  PropertiesOfCall& operator=(const PropertiesOfCall&) = delete;
+
+ private:
+  std::size_t before;
+#else
+  PropertiesOfCall() {}
+#endif
+};
+
 /// A copy that shares no memory with a: deep on every host. Objects other than structs and cells are copied by the host.
 mxArray* duplicate(const mxArray* a);
 

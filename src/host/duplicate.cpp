@@ -3,6 +3,7 @@
 // MATLAB's mxDuplicateArray copies deep. Octave's shares the data and counts references, so that a write into the copy shows
 // in the original; there the arrays are built anew, level by level.
 #include <cstring>
+#include <vector>
 
 #include "host/arrays.h"
 #include "host/errors.h"
@@ -10,11 +11,40 @@
 
 namespace quarn::host {
 
+#ifdef QUARN_HOST_OCTAVE
+
+namespace {
+std::vector<mxArray*> properties;
+}
+
+PropertiesOfCall::PropertiesOfCall() : before(properties.size()) {}
+
+PropertiesOfCall::~PropertiesOfCall() {
+  if (properties.size() == before) return;
+  const UserCode running;
+  while (properties.size() > before) {
+    mxArray* last = properties.back();
+    properties.pop_back();
+    mxDestroyArray(last);
+  }
+}
+
+static mxArray* held(mxArray* property) {
+  if (property) properties.push_back(property);
+  return property;
+}
+
+#else
+
+static mxArray* held(mxArray* property) { return property; }
+
+#endif
+
 mxArray* objectField(const mxArray* object, const char* name) {
   if (count(object) == 0) return nullptr;
   {
     const UserCode running;
-    if (mxArray* property = mxGetProperty(object, 0, name)) return property;
+    if (mxArray* property = held(mxGetProperty(object, 0, name))) return property;
   }
 #ifdef QUARN_HOST_OCTAVE
   // An object of an old-style class: its fields are reached through struct(), the host's own. A method of that name could change arrays
@@ -93,7 +123,7 @@ mxArray* duplicateValues(const mxArray* a) {
   const auto dims = mxGetNumberOfDimensions(a);
   const mwSize* extents = mxGetDimensions(a);
   const std::size_t bytes = count(a) * static_cast<std::size_t>(mxGetElementSize(a));
-  mxArray* copy = mxIsChar(a) ? mxCreateCharArray(dims, extents)
+  mxArray* copy = mxIsChar(a)      ? mxCreateCharArray(dims, extents)
                   : mxIsLogical(a) ? mxCreateLogicalArray(dims, extents)
                                    : mxCreateNumericArray(dims, extents, mxGetClassID(a), mxIsComplex(a) ? mxCOMPLEX : mxREAL);
   copyBytes(mxGetData(copy), mxGetData(a), bytes);

@@ -175,3 +175,21 @@ end
 function test_products_on_worker_threads ()
   flat ('products on worker threads', @parallel_products, @parallel_idle, scaled (1e5), 64);
 end
+
+% A classdef object "v_handle" (the tests have an old-style class of that name, hence a process of its own) as matrix of 3 terms.
+function test_properties_of_objects_are_given_back ()
+  if ~isempty (getenv ('QUARN_SANITIZED')), skip_test ('the allocator of the sanitizers keeps freed memory'); end
+  [folder, clean] = new_folder ();
+  id = fopen (fullfile (folder, 'v_handle.m'), 'w');
+  fprintf (id, 'classdef v_handle < handle\n  properties\n    file\n  end\nend\n');
+  fclose (id);
+  for name = {'matrix_lines', 'resident_memory'}, copyfile (which (name{1}), folder); end
+  code = {sprintf('addpath (''%s''); ', fileparts (which ('quarn')), folder), 'o = v_handle (); o.file = matrix_lines (eye (2), true);', ...
+          'x = ones (2, 1); r = zeros (2, 1);', sprintf('n = %d;', scaled (100000)), ...
+          'for k = 1:n + 500, if k == 501, before = resident_memory (); end', ...
+          'quarn (''residual'', r, {o, o, o}, x, x, x, [0 0]); end', 'assert (all (r ~= 0));', 'disp ((resident_memory () - before) * 1024 / n)'};
+  [status, text] = octave_says (sprintf ('%s\n', code{:}));
+  if status ~= 0, error ('%s', text); end
+  bytes = sscanf (text, '%g', 1);
+  if ~(bytes < 150), error ('%s bytes a call', text); end
+end

@@ -1,5 +1,6 @@
 #include "base/ror.h"
 
+#include "base/fixed_errors.h"
 #include "host/arrays.h"
 #include "host/errors.h"
 
@@ -25,9 +26,9 @@ void readRayleigh(const mxArray* source, ROr& c) {
 
 ROr getROr(int nrhs, const mxArray** prhs) {
   if (nrhs < 6) host::refuse("expected at least 6 inputs (command, r or handles, model, u, v, a), got %d", nrhs);
-  if (!host::isClass(prhs[1], "chandle") && mxIsComplex(prhs[1])) host::fail("KORV:quarn:Invalid", "Real numbers for r");
+  if (!host::isClass(prhs[1], "chandle") && mxIsComplex(prhs[1])) host::fail(fixed::complexResidual);
   for (int k = 3; k <= 5; ++k) {
-    if (mxIsComplex(prhs[k])) host::fail("Real numbers needed.");
+    if (mxIsComplex(prhs[k])) host::fail(fixed::complexState);
   }
   ROr c;
   c.N = host::rows(prhs[3]);

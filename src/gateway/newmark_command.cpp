@@ -1,5 +1,6 @@
 #include "gateway/newmark_command.h"
 
+#include "base/fixed_errors.h"
 #include "handles/handle_list.h"
 #include "host/errors.h"
 #include "integration/diag_newmark.h"
@@ -22,7 +23,7 @@ void commandDiagNewmark(int /*nlhs*/, mxArray* /*plhs*/[], int nrhs, const mxArr
   if (nrhs < 9) host::refuse("expected 9 inputs (command, list, model, u, v, a, opt, mem, out), got %d", nrhs);
   const ROr c = getROr(nrhs, prhs);
   const mxArray* elements = prhs[1];
-  if (!mxIsCell(elements) && !host::isClass(elements, "chandle")) host::fail("KORV:quarn:Invalid", "Expecting chandle vector");
+  if (!mxIsCell(elements) && !host::isClass(elements, "chandle")) host::fail(fixed::notAHandleList);
   chandle** list = newHandleList(elements);
   const int n = fillVectP(list, elements);
   chandleDiagNewmark* integrator = integratorOf(list, n);

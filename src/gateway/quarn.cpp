@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <system_error>
 
+#include "base/fixed_errors.h"
 #include "gateway/command_table.h"
 #include "handles/hindex.h"
 #include "host/arrays.h"
@@ -61,7 +62,7 @@ extern "C" [[gnu::visibility("default")]] void mexFunction(int nlhs, mxArray* pl
     return;
   }
   const quarn::CommandRow* row = commandOf(prhs[0]);
-  if (!row) quarn::host::fail("quarn : Unknown command");
+  if (!row) quarn::host::fail(quarn::fixed::unknownCommand);
   quarn::host::setCommand(row->word);
   char text[256];
   if (!run(*row, nlhs, plhs, nrhs, prhs, text, sizeof text)) quarn::host::refuse("%s", text);

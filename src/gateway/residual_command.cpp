@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/fixed_errors.h"
 #include "gateway/structures/nl_structures.h"
 #include "handles/handle_list.h"
 #include "host/errors.h"
@@ -31,7 +32,7 @@ class Energy {
       matrix = {};
       return;
     }
-    if (!matrix.ir) host::fail("Implemented for sparse matrices");
+    if (!matrix.ir) host::fail(fixed::sparseOnly);
     checkLength(length, N, vectorName, "one for each row of u");
     checkLines(matrix, N, length, name, vectorName);
   }
@@ -59,7 +60,7 @@ Model readModel(const mxArray* model) {
     host::refuse("the model must be a chandle vector, a cell {M, C, K} or a struct with a field \"K\", got %s", host::describe(model).text);
   }
   const mxArray* K = matrices ? model : host::field(model, "K");
-  if (host::cols(K) <= 2) host::fail("model.K must be a 3*1 cell array");
+  if (host::cols(K) <= 2) host::fail(fixed::fewMatrices);
   if (!mxIsCell(K)) host::refuse("model.K must be a cell {M, C, K}, got %s", host::describe(K).text);
   const mxArray* NL = matrices ? nullptr : host::field(model, "NL");
   return {K, NL && mxIsCell(NL) ? NL : nullptr};

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/fixed_errors.h"
 #include "handles/handle_types.h"
 #include "handles/hindex.h"
 #include "host/arrays.h"
@@ -18,7 +19,7 @@ int indexArgument(const mxArray* a) { return toInt(host::number(a, "the handle's
 
 chandle* existing(int index) {
   chandle* h = cIndex.getStack(index);
-  if (!h) host::fail("KORV:quarn:NonHandle", "Handle does not exist");
+  if (!h) host::fail(fixed::noSuchHandle);
   return h;
 }
 
@@ -38,7 +39,7 @@ void commandChandleSet(int /*nlhs*/, mxArray* plhs[], int nrhs, const mxArray* p
   int ok = 0;
   chandle* h = chandleInitByType(code, &ok);
   const int index = cIndex.get_free_index();
-  if (host::isClass(prhs[2], "v_handle")) host::fail("KORV:quarn:NonHandle", "xxx");
+  if (host::isClass(prhs[2], "v_handle")) host::fail(fixed::valueIsObject);
   mxArray* value = host::duplicate(prhs[2]);
   h->set_val(code, value);
   plhs[0] = mxCreateDoubleScalar(index);
@@ -58,7 +59,7 @@ void commandChandleGet(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[
     return;
   }
   chandle* h = existing(indexArgument(prhs[2]));
-  if (nrhs > mostInputs) host::fail("KORV:quarn:WrongSize", "varargin too large");
+  if (nrhs > mostInputs) host::fail(fixed::tooManyArguments);
   mxArray* in[mostInputs];
   std::transform(prhs + 1, prhs + nrhs, in, [](const mxArray* a) { return const_cast<mxArray*>(a); });
   in[1] = host::duplicate(h->get_val());

@@ -2,6 +2,7 @@
 
 #include <climits>
 
+#include "base/fixed_errors.h"
 #include "base/handle_walk.h"
 #include "handles/handle_types.h"
 #include "handles/hindex.h"
@@ -34,7 +35,7 @@ int keyOf(const mxArray* list, mxArray* place, std::size_t i) {
   mxArray* in[2] = {const_cast<mxArray*>(list), place};
   mxArray* index = nullptr;
   host::callHost(1, &index, 2, in, "remi");
-  if (!index) host::fail("KORV:quarn:NonHandle", "Handle does not exist");
+  if (!index) host::fail(fixed::noSuchHandle);
   const int key = toInt(host::number(index, "the index that \"remi\" returned"));
   mxDestroyArray(index);
   return key;
@@ -42,7 +43,7 @@ int keyOf(const mxArray* list, mxArray* place, std::size_t i) {
 
 chandle* fromRegistry(int key) {
   chandle* h = cIndex.getStack(key);
-  if (!h) host::fail("KORV:quarn:NonHandle", "Handle does not exist");
+  if (!h) host::fail(fixed::noSuchHandle);
   return h;
 }
 

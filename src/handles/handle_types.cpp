@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "base/fixed_errors.h"
 #include "host/errors.h"
 #include "integration/diag_newmark.h"
 #include "integration/sparse_handles.h"
@@ -38,7 +39,7 @@ chandle* chandleInitByType(int code, int* ok) {
       h = make<chandleDiagNewmark>();
       break;
     default:
-      host::fail("KORV:quarn:NonHandle", "Not a valid chandle type");
+      host::fail(fixed::unknownHandleType);
   }
   *ok = 1;
   return h;

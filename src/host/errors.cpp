@@ -34,14 +34,13 @@ void callHost(int nlhs, mxArray* plhs[], int nrhs, mxArray* prhs[], const char* 
   place = ours;
 }
 
-void fail(const char* identifier, const char* text) {
-  mexErrMsgIdAndTxt(identifier, "%s", text);
-  std::abort();  // not reached: the host's error call does not return
-}
-
-void fail(const char* text) {
-  mexErrMsgTxt(text);
-  std::abort();
+void fail(const FixedError& error) {
+  if (error.identifier) {
+    mexErrMsgIdAndTxt(error.identifier, "%s", error.text);
+  } else {
+    mexErrMsgTxt(error.text);
+  }
+  std::abort();  // not reached: the host's error calls do not return
 }
 
 void refuse(const char* format, ...) {
@@ -53,7 +52,8 @@ void refuse(const char* format, ...) {
   va_start(args, format);
   std::vsnprintf(text + used, sizeof text - static_cast<std::size_t>(used), format, args);
   va_end(args);
-  fail(text);
+  mexErrMsgTxt(text);
+  std::abort();
 }
 
 }  // namespace quarn::host

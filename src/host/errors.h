@@ -16,11 +16,15 @@ void setCommand(const char* word) noexcept;
 /// none. The pointer must stay valid.
 void setPart(const char* word, int number) noexcept;
 
-/// Raises TEXT under IDENTIFIER.
-[[noreturn]] void fail(const char* identifier, const char* text);
+/// An error that the system defines to the letter.
+struct FixedError {
+  const char* identifier;  ///< null: none
+  const char* text;
+  const char* from;  ///< what raises it, for documents
+};
 
-/// Raises TEXT without an identifier.
-[[noreturn]] void fail(const char* text);
+/// Raises it.
+[[noreturn]] void fail(const FixedError& error);
 
 /// Raises "quarn COMMAND : <formatted text>", or "quarn COMMAND : PART NUMBER : <formatted text>". The text says what is wrong, what was
 /// expected and what was got.

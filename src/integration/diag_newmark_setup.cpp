@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "base/fixed_errors.h"
 #include "base/handle_walk.h"
 #include "host/errors.h"
 #include "integration/diag_newmark.h"
@@ -17,7 +18,7 @@ SparseView fullField(const mxArray* value, const char* field, const char* name) 
   const mxArray* a = host::field(value, field);
   if (!a) host::refuse("the integrator needs a field \"%s\"", field);
   SparseView v = sparseView(a, name);
-  if (v.ir && std::strcmp(field, "r") == 0) host::fail("KORV:quarn:Invalid", "Full r expected");
+  if (v.ir && std::strcmp(field, "r") == 0) host::fail(fixed::fullLoadsExpected);
   if (v.ir) host::refuse("%s must be a full matrix, got a sparse one", name);
   checkDense(v, name);
   return v;
@@ -57,14 +58,14 @@ void chandleDiagNewmark::initCpt() {
   tft = table.pr;
   NFNL = NSave = NFNLSave = jSave = jFNLSave = 0;
   snapshot = store = saveTimes = def = storeTimes = storeDef = {};
-  if (table.rows != Nb + 1) host::fail("KORV:quarn:Invalid", "Inconsistent Nb & NT");
+  if (table.rows != Nb + 1) host::fail(fixed::loadTableRows);
 
   const SparseView numbers = fullField(val, "data", "data");
-  if (static_cast<long long>(numbers.rows) * numbers.cols != 6) host::fail("KORV:quarn:Invalid", "Inconsistent data length");
+  if (static_cast<long long>(numbers.rows) * numbers.cols != 6) host::fail(fixed::dataLength);
   data = numbers.pr;
 
   const mxArray* ioptArray = host::field(val, "iopt");
-  if (ioptArray && !mxIsInt32(ioptArray)) host::fail("KORV:quarn:conform", "iopt must be int32");
+  if (ioptArray && !mxIsInt32(ioptArray)) host::fail(fixed::offsetsNotInt32);
   iopt = host::int32s(ioptArray, "iopt").data;
 
   if (Nb < 0) host::refuse("r must have 2 columns or more (one not read, loads, gain), got %d", load.cols);
@@ -75,7 +76,7 @@ void chandleDiagNewmark::initCpt() {
 void chandleDiagNewmark::bindWork(const mxArray* mem) {
   const mxArray* work = host::field(mem, "uva");
   uva = host::realDoubles(host::field(work, "uva"), "the work array uva");
-  if (work && uva.count < 4 * static_cast<std::size_t>(N)) host::fail("KORV:quarn:Invalid", "wrong uva size");
+  if (work && uva.count < 4 * static_cast<std::size_t>(N)) host::fail(fixed::workArraySize);
   const mxArray* target = host::field(work, "FNL");
   snapshot = host::realDoubles(target, "the force store's snapshot");
   NFNL = host::rows(target);
@@ -104,12 +105,12 @@ void chandleDiagNewmark::initCb(const ROr& c, const mxArray* model, const mxArra
   store = {c.FNL, c.fnlLen};
   NFNL = modelStore ? std::min(NFNL, host::rows(modelStore)) : 0;
   bindOutputs(out);
-  if (c.a == c.v && c.v) host::fail("KORV:quarn:Invalid", "Identical v & a");
-  if (c.v == c.u && c.u) host::fail("KORV:quarn:Invalid", "Identical v & u");
-  if (c.a == c.u && c.u) host::fail("KORV:quarn:Invalid", "Identical a & u");
+  if (c.a == c.v && c.v) host::fail(fixed::identicalVA);
+  if (c.v == c.u && c.u) host::fail(fixed::identicalVU);
+  if (c.a == c.u && c.u) host::fail(fixed::identicalAU);
   for (int k = 0; k < nh; ++k) {
     if (list[k] && list[k]->type == HandleType::nonlinear && list[k]->stateEnd() > static_cast<std::int64_t>(Ndef) + 1) {
-      host::fail("KORV:quarn:Invalid", "iu+Nistate too large");
+      host::fail(fixed::statesTooLong);
     }
   }
 }
@@ -120,7 +121,7 @@ void chandleDiagNewmark::checkRun(const ROr& c, chandle** list, int nh) {
   checkLength(c.vLen, length, "v", "one for each mode or row of out.def, whose columns are the save times");
   checkLength(c.aLen, length, "a", "one for each mode or row of out.def, whose columns are the save times");
   if (!uva && N > 0) host::refuse("mem.uva.uva, the work array, must hold %lld values, got none", 4LL * N);
-  if (uva.count < 3 * static_cast<std::size_t>(Ndef) + static_cast<std::size_t>(N)) host::fail("KORV:quarn:Invalid", "wrong uva size");
+  if (uva.count < 3 * static_cast<std::size_t>(Ndef) + static_cast<std::size_t>(N)) host::fail(fixed::workArraySize);
   const std::size_t forceLen = uva.count - 3 * static_cast<std::size_t>(Ndef);
   fmod = uva.data ? uva.data + 3 * static_cast<std::ptrdiff_t>(Ndef) : nullptr;
   NFNL = static_cast<std::int32_t>(std::min(static_cast<std::size_t>(NFNL), store.count));

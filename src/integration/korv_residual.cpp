@@ -1,5 +1,6 @@
 #include "integration/korv_residual.h"
 
+#include "base/fixed_errors.h"
 #include "host/errors.h"
 #include "integration/sparse_handles.h"
 #include "sparse/blas.h"
@@ -42,13 +43,13 @@ KorvTerm::KorvTerm(int code, const ROr& context, const mxArray* K, host::Doubles
       return;
     default:
       mexPrintf("Type %i", code);
-      host::fail("Not a supported residual");
+      host::fail(fixed::unknownTerm);
   }
 }
 
 void KorvTerm::readMatrix(const mxArray* a, Factor of) {
   matrix = sparseView(a, name);
-  if (of.data && !matrix.ir && matrix.pr) host::fail("Implemented for sparse matrices");
+  if (of.data && !matrix.ir && matrix.pr) host::fail(fixed::sparseOnly);
   if (!matrix.ir || !matrix.pr || c.N <= 0) {
     matrix = {};
     return;

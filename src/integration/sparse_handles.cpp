@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/fixed_errors.h"
 #include "host/errors.h"
 #include "numbers/ranges.h"
 #include "sparse/line_checks.h"
@@ -106,14 +107,14 @@ void chandleSparseStiffness::Residual(ROr c, double* r) {
 
 void chandleSparseMass::initCpt() {
   readView();
-  if (!m.pr) host::fail("KORV:quarn:empty", "no real part");
-  if (!m.ir) host::fail("KORV:quarn:empty", "Error not a valid mass");
+  if (!m.pr) host::fail(fixed::noRealPart);
+  if (!m.ir) host::fail(fixed::notAMass);
   markDiagonal();
 }
 
 void chandleSparseMass::checkTerms(const ROr& ctx, std::size_t rLen) {
   if (!ctx.a) return;
-  if (!m.ir && m.pr) host::fail("Implemented for sparse matrices");
+  if (!m.ir && m.pr) host::fail(fixed::sparseOnly);
   if (!m.ir) return;
   checkTerm(ctx.N, ctx.aLen, rLen, "a");
   factor = {ctx.a, ctx.aLen};

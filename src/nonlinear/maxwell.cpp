@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "base/fixed_errors.h"
 #include "host/errors.h"
 #include "nonlinear/state_laws.h"
 #include "numbers/convert.h"
@@ -104,8 +105,7 @@ void forceAlone(const chandleNl_inout& h, const Layout& at, long long n) {
 }  // namespace
 
 void checkMaxw(const chandleNl_inout& h, const ROr& /*ro*/) {
-  constexpr const char* kNoCommitted = "Need unlj1 as last dim";
-  if (h.unlSlices < 2) host::fail(kNoCommitted);
+  if (h.unlSlices < 2) host::fail(fixed::noCommittedPage);
   requireParameters(h, "Maxw", 4);
   if (h.ioptLen < 5) host::refuse("\"iopt\" of law \"Maxw\" must hold 5 values or more, got %d", h.ioptLen);
   const int elements = h.iopt[4];
@@ -120,7 +120,7 @@ void checkMaxw(const chandleNl_inout& h, const ROr& /*ro*/) {
   requireValues("Maxw", "vnl", h.vnlTotal, last + at.q + 1);
   if (at.q > 0) {
     const std::size_t end = static_cast<std::size_t>(2LL * h.unlLen + last + std::max(at.m, 0) + 1);
-    if (h.unlTotal < end || h.vnlTotal < end) host::fail(kNoCommitted);
+    if (h.unlTotal < end || h.vnlTotal < end) host::fail(fixed::noCommittedPage);
   }
   requireBlocks(h, at);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "base/fixed_errors.h"
 #include "host/errors.h"
 #include "nonlinear/laws.h"
 #include "numbers/ranges.h"
@@ -65,17 +66,17 @@ void chandleNl_inout::readOptions() {
   const host::Doubles o = host::doubles(host::field(val, "opt"), "opt");
   opt = o.data;
   optLen = valuesOf(o.count, "opt");
-  if (!opt) host::fail("KORV:quarn:empty", "ReportEB opt");
+  if (!opt) host::fail(fixed::noOptions);
   const mxArray* ioptArray = host::field(val, "iopt");
-  if (ioptArray && !mxIsInt32(ioptArray)) host::fail("KORV:quarn:conform", "iopt must be int32");
+  if (ioptArray && !mxIsInt32(ioptArray)) host::fail(fixed::offsetsNotInt32);
   const host::Ints io = host::int32s(ioptArray, "iopt");
   iopt = io.data;
   ioptLen = valuesOf(io.count, "iopt");
 
   const LawRow* row = findLaw(opt[0]);
-  if (!row) host::fail("KORV:quarn:empty", "Unknown .opt(1) choice");
-  if (row->law == FuPower && optLen < 3) host::fail("KORV:quarn:empty", "FuPower requires 3 parameters");
-  if (row->needsPages && unlSlices == 1) host::fail("KORV:quarn:empty", "Incorrect unl");
+  if (!row) host::fail(fixed::unknownLaw);
+  if (row->law == FuPower && optLen < 3) host::fail(fixed::powerParameters);
+  if (row->needsPages && unlSlices == 1) host::fail(fixed::noPages);
   law = row->law;
   check = row->check;
 }

@@ -1,6 +1,7 @@
 // "directzr".
 #include <algorithm>
 
+#include "base/fixed_errors.h"
 #include "host/arrays.h"
 #include "host/errors.h"
 #include "sparse/blas.h"
@@ -44,7 +45,7 @@ void checkBlocks(const mxArray* blocks) {
 void commandDirectZr(int, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
   const mxArray* matrixA = argument(nrhs, prhs, 1);
   const mxArray* matrixB = argument(nrhs, prhs, 3);
-  if (!matrixA || !matrixB || !mxIsComplex(matrixA) || !mxIsComplex(matrixB)) host::fail("Complex numbers needed.");
+  if (!matrixA || !matrixB || !mxIsComplex(matrixA) || !mxIsComplex(matrixB)) host::fail(fixed::complexNeeded);
   const DenseBase b = denseBase(matrixB, "B");
   const DenseBase f = denseBase(argument(nrhs, prhs, 4), "F");
   checkBlocks(prhs[2]);

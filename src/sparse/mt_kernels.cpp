@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/fixed_errors.h"
 #include "host/errors.h"
 #include "sparse/line_checks.h"
 #include "sparse/line_sums.h"
@@ -9,9 +10,6 @@
 namespace quarn {
 
 namespace {
-
-constexpr const char* addsSparseOnly = "Add_Mt_u implemented for sparse matrices";
-constexpr const char* takesTransposedOnly = "Prod_Mt_u implemented for transposed sparse matrices";
 
 /// u * line i into w: a cblas_daxpyi, but for full lines. A first product is rounded once, whether or not the routine fuses it with the
 /// sum.
@@ -50,7 +48,7 @@ void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, 
   } else if (transposed) {
     for (int j = 0; j < cols; ++j) y[j] += pr[j] * u[0];
   } else if (rows > 0) {
-    host::fail(addsSparseOnly);
+    host::fail(fixed::addsSparseOnly);
   }
 }
 
@@ -92,7 +90,7 @@ void Prod_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr,
   if (!ir) {
     if (rows > 0) cblas_dgemv(CblasColMajor, CblasNoTrans, rows, cols, 1.0, pr, rows, u, 1, 0.0, y, 1);
   } else if (dims[2] != 1) {
-    host::fail(takesTransposedOnly);
+    host::fail(fixed::takesTransposedOnly);
   } else {
     addGathered(rows, ir, jc, pr, u, y);
   }
@@ -116,11 +114,11 @@ void Prod_Mt_u(const mxArray* M, host::Doubles u, host::Doubles y, const char* n
 }
 
 void checkAddForm(const SparseView& v) {
-  if (!v.sparse() && v.trans != 1 && v.rows > 0) host::fail(addsSparseOnly);
+  if (!v.sparse() && v.trans != 1 && v.rows > 0) host::fail(fixed::addsSparseOnly);
 }
 
 void checkProdForm(const SparseView& v) {
-  if (v.sparse() && v.trans != 1) host::fail(takesTransposedOnly);
+  if (v.sparse() && v.trans != 1) host::fail(fixed::takesTransposedOnly);
 }
 
 void checkAdd(const SparseView& v, std::size_t uLen, std::size_t yLen, const char* name) {

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "base/fixed_errors.h"
 #include "host/arrays.h"
 #include "host/errors.h"
 #include "numbers/ranges.h"
@@ -38,9 +39,8 @@ void commandProjectLeft(int, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
   const SparseView s = sparseView(prhs[2], "b");
   const int shared = s.trans == 1 ? s.cols : s.rows;
   if (shared < 0 || host::rowCount(prhs[1]) != static_cast<std::size_t>(shared)) {
-    constexpr const char* text = "quarn c<-a'*b : vector a has a wrong size";
-    if (s.trans == 1) host::fail(text);  // this path has no identifier, on purpose
-    host::fail("KORV:quarn:WrongSize", text);
+    if (s.trans == 1) host::fail(fixed::projectionRowsTransposed);  // this path has no identifier, on purpose
+    host::fail(fixed::projectionRows);
   }
   if (s.lines() < 0) host::refuse("b : size %dx%d is negative", s.rows, s.cols);
   const DenseBase a = denseBase(prhs[1], "a");
@@ -70,12 +70,12 @@ void commandProjectLeft(int, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
 void commandTripleProduct(int, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
   if (nrhs < 3) host::refuse("TA, k, TB and opt expected, got %d operands", nrhs - 1);
   const SparseView s = sparseView(prhs[2], "k");
-  if (!s.sparse()) host::fail("quarn abc : b must be int32 sparse");
+  if (!s.sparse()) host::fail(fixed::abcNotSparse);
   const mxArray* opt = argument(nrhs, prhs, 4);
-  if (!opt || !mxIsInt32(opt)) host::fail("int32 needed : quarn('abc',TA,k,TB,int32([1 0 0]));");
-  if (!isFullProduct(opt)) host::fail("quarn('abc')");
-  if (static_cast<long long>(host::rowCount(prhs[1])) != s.rows) host::fail("abc : a and b have wrong size");
-  if (static_cast<long long>(host::rowCount(prhs[3])) != s.cols) host::fail("abc : b and c have wrong size");
+  if (!opt || !mxIsInt32(opt)) host::fail(fixed::abcFlagsNotInt32);
+  if (!isFullProduct(opt)) host::fail(fixed::abcFlags);
+  if (static_cast<long long>(host::rowCount(prhs[1])) != s.rows) host::fail(fixed::abcRows);
+  if (static_cast<long long>(host::rowCount(prhs[3])) != s.cols) host::fail(fixed::abcColumns);
 
   const DenseBase a = denseBase(prhs[1], "TA");
   const DenseBase b = denseBase(prhs[3], "TB");

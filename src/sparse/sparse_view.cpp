@@ -4,6 +4,7 @@
 #include <cstring>
 #include <limits>
 
+#include "base/fixed_errors.h"
 #include "host/errors.h"
 #include "numbers/convert.h"
 
@@ -65,7 +66,7 @@ SparseView sparseView(const mxArray* a, const char* name) {
     throughObject = true;
   }
   if (!a) return {};
-  if (mxIsSparse(a)) host::fail("ir must be int32");
+  if (mxIsSparse(a)) host::fail(fixed::nativeSparse);
   SparseView v = mxIsStruct(a) ? structView(a, name) : denseView(a, name);
   v.throughObject = throughObject;
   return v;

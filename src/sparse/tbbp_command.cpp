@@ -1,4 +1,5 @@
 // "tbbp".
+#include "base/fixed_errors.h"
 #include "host/errors.h"
 #include "sparse/line_checks.h"
 #include "sparse/matrix_commands.h"
@@ -13,7 +14,7 @@ void commandTbbp(int /*nlhs*/, mxArray* /*plhs*/[], int nrhs, const mxArray* prh
   const host::Doubles y = host::realDoubles(prhs[3], "y");
   const int n = host::rows(prhs[2]);
   if (!A.pr || n == 0) return;
-  if (!A.ir) host::fail("Implemented for sparse matrices");
+  if (!A.ir) host::fail(fixed::sparseOnly);
   checkLinePointers(A, n, "A");
   checkLength(x.count, n, "x", "one for each of its rows");
   checkLength(y.count, n, "y", "one for each row of x");

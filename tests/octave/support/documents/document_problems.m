@@ -5,7 +5,7 @@
 %   - a law keyword of the law table without a section in docs/laws.md
 %   - a code of a handle type without a section in docs/commands/handles.md
 %   - a folder of the sources that README.md does not name
-%   - a defined error text or identifier of the sources that does not stand in docs/commands.md
+%   - an error of src/base/fixed_errors.h without a line in docs/commands.md that has identifier, text and what raises it, or a line too many
 %   - a relative link or image that leads to no file, or to no heading of it
 %   - nothing found of one of these kinds: the check would be looking at the wrong files
 % COUNTS holds the numbers of documents, command words, law keywords, handle types, error texts and links.
@@ -48,9 +48,21 @@ function [problems, counts] = document_problems (root)
     end
   end
 
-  texts = error_texts (fullfile (root, 'src'));
-  for k = 1:numel (texts)
-    if isempty (strfind (listed, texts{k})), problems{end + 1} = sprintf ('error text "%s" is not in docs/commands.md', texts{k}); end
+  errors = fixed_errors (root);
+  lines = regexp (listed, '\n', 'split');
+  for k = 1:numel (errors)
+    e = errors(k);
+    start = ['| "' e.text '"'];
+    if ~isempty (e.identifier), start = ['| `' e.identifier '` ' start]; end
+    if ~any (strncmp (lines, start, numel (start)) & ~cellfun (@isempty, strfind (lines, ['| ' e.from])))
+      problems{end + 1} = sprintf ('error %s"%s", %s, has no line in the tables of docs/commands.md', e.identifier, e.text, e.from);
+    end
+  end
+  for line = lines(~cellfun (@isempty, regexp (lines, '^\| (`KORV:[^`]*` \| )?"', 'once')))
+    listed_text = regexp (line{1}, '"(.*?)" (\(two blanks\) )?\|', 'tokens', 'once');
+    if ~isempty (listed_text) && ~any (strcmp ({errors.text}, listed_text{1}))
+      problems{end + 1} = sprintf ('docs/commands.md lists the error "%s", which is not in src/base/fixed_errors.h', listed_text{1});
+    end
   end
 
   n_links = 0;
@@ -62,6 +74,6 @@ function [problems, counts] = document_problems (root)
     end
   end
 
-  counts = [numel(documents), numel(words), numel(keywords), numel(tables.types), numel(texts), n_links];
+  counts = [numel(documents), numel(words), numel(keywords), numel(tables.types), numel(errors), n_links];
   if any (counts == 0), problems{end + 1} = sprintf ('found %d documents, %d words, %d keywords, %d handle types, %d error texts, %d links', counts); end
 end

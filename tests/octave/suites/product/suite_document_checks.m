@@ -74,7 +74,7 @@ function test_a_law_without_a_section ()
 end
 
 function test_a_folder_that_the_readme_does_not_name ()
-  expect_problem ('README.md', '# Tree with `gateway` and `handles`, nonlinear as well', 'folder src/nonlinear is not in README.md');
+  expect_problem ('README.md', '# Tree with `base`, `gateway` and `handles`, nonlinear as well', 'folder src/nonlinear is not in README.md');
 end
 
 function test_a_handle_type_without_a_section ()

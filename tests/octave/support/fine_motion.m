@@ -11,7 +11,7 @@ function x = fine_motion (cases, parts)
   act = zeros (n * many, 0);
   rows = zeros (0, n * many);
   blank = struct ('power', 0, 'exponent', 1, 'scale', 0, 'base', 1, 'maxwell', 0, 'rate', 0, 'dahl', 0, 'slip', 1, 'slides', 0, ...
-                  'step', 0, 'knots', [], 'forces', []);
+                  'contact', 0, 'ground', 0, 'hold', 0, 'part', 0, 'step', 0, 'knots', [], 'forces', [], 'growth', []);
   for k = 1:many
     s = cases(k);
     at = n * (k - 1) + (1:n);
@@ -23,37 +23,53 @@ function x = fine_motion (cases, parts)
     about(at) = s.about;
     for j = 1:numel (s.laws)
       l = s.laws{j}.parameters;
-      e = blank;
-      e.step = s.step / parts;
-      switch s.laws{j}.kind
-        case 'power', e.power = l.stiffness; e.exponent = l.exponent;
-        case 'exponential', e.scale = l.scale; e.base = l.base;
-        case 'maxwell', e.maxwell = l.springs; e.rate = l.springs / l.dampers; e.power = l.stiffness;
-        case 'dahl', e.dahl = l.stiffness; e.slip = l.slip; e.slides = l.exponent == 0;
-        case 'table', e.knots = l.displacement; e.forces = l.force;
+      for i = 1:size (s.rows{j}, 1)
+        e = blank;
+        e.step = s.step / parts;
+        switch s.laws{j}.kind
+          case 'power', e.power = l.stiffness; e.exponent = l.exponent;
+          case 'exponential', e.scale = l.scale; e.base = l.base;
+          case 'maxwell', e.maxwell = l.springs; e.rate = l.springs / l.dampers; e.power = l.stiffness;
+          case 'dahl', e.dahl = l.stiffness; e.slip = l.slip; e.slides = l.exponent == 0;
+          case 'table', e.knots = l.displacement; e.forces = l.force;
+          case 'stickslip', e.contact = l.contact; e.hold = l.slip; e.ground = l.ground; e.power = l.stiffness;
+          case 'clima2'
+            e.part = i; e.power = -l.stiffness; e.slides = l.exponent == 0;
+            e.knots = l.displacement; e.forces = l.normal; e.growth = l.growth; e.slip = l.friction; e.hold = l.offset;
+        end
+        elements = [elements, e];
+        rows(end + 1, at) = s.rows{j}(i, :);
+        act(at, end + 1) = s.M \ s.rows{j}(i, :).';
       end
-      elements = [elements, e];
-      rows(end + 1, at) = s.rows(j, :);
-      act(at, end + 1) = s.M \ s.rows(j, :).';
     end
   end
   rows = sparse (rows);
   act = sparse (act);
   c = blank;
-  for name = {'power', 'exponent', 'scale', 'base', 'maxwell', 'rate', 'dahl', 'slip', 'slides', 'step'}
+  for name = {'power', 'exponent', 'scale', 'base', 'maxwell', 'rate', 'dahl', 'slip', 'slides', 'step', 'contact', ...
+              'ground', 'hold', 'part'}
     c.(name{1}) = [elements.(name{1})].';
   end
-  tables = find (~cellfun (@isempty, {elements.knots}));
+  tables = find (~cellfun (@isempty, {elements.knots})).';
   most = max ([2, cellfun(@numel, {elements(tables).knots})]);
-  [knots, forces] = deal (Inf (most, numel (tables)), zeros (most, numel (tables)));
+  [knots, forces, growth] = deal (Inf (most, numel (tables)), zeros (most, numel (tables)), zeros (most, numel (tables)));
   for j = 1:numel (tables)
     e = elements(tables(j));
     knots(1:numel (e.knots), j) = e.knots;
     forces(1:numel (e.knots), j) = e.forces;
+    growth(1:numel (e.growth), j) = e.growth;
   end
   last = sum (isfinite (knots), 1);
   first = most * (0:numel (tables) - 1);
   sliders = find (c.slides > 0 & c.dahl > 0);
+  sticks = find (c.contact > 0);
+  % Of the three rows of a pad two rub; its third one presses.
+  rubs = find (c.part == 1 | c.part == 2);
+  third = rubs + 3 - c.part(rubs);
+  read = tables + (3 - c.part(tables)) .* (c.part(tables) > 0);
+  single = find (c.part(tables) == 0);
+  pressed = find (c.part(tables) == 3);
+  [~, of_pad] = ismember (third, tables);
   u = zeros (n * many, 1);
   z = zeros (numel (elements), 1);
   t = u;
@@ -74,24 +90,50 @@ function x = fine_motion (cases, parts)
       z = z + c.step / 6 .* (z1 + 2 * z2 + 2 * z3 + z4);
       % A slider holds no more than its limit.
       z(sliders) = min (max (z(sliders), -c.slip(sliders)), c.slip(sliders));
+      [~, z] = held (rows * u, z);
       t = t + h;
     end
     x(:, k + 1) = u;
   end
   x = reshape (x, n, many, []);
 
+  % What the tables give, and the memory of stick-slip contacts (the place of a slider that is drawn along at its slip force) and of pads
+  % (no more than their limit) at the displacements s.
+  function [given, z] = held (s, z)
+    given = struct ('force', zeros (0, 1), 'stiff', zeros (0, 1), 'limit', zeros (0, 1));
+    if ~isempty (tables)
+      own = s(read).';
+      at = min (max (sum (bsxfun (@le, knots, own), 1), 1), last - 1) + first;
+      share = (own - knots(at)) ./ (knots(at + 1) - knots(at));
+      given.force = (forces(at) + (forces(at + 1) - forces(at)) .* share).';
+      given.stiff = (growth(at) + (growth(at + 1) - growth(at)) .* share).';
+    end
+    if ~isempty (sticks)
+      pull = c.contact(sticks) .* s(sticks);
+      both = c.contact(sticks) + c.ground(sticks);
+      z(sticks) = min (max (z(sticks), (pull - c.hold(sticks)) ./ both), (pull + c.hold(sticks)) ./ both);
+    end
+    if ~isempty (rubs)
+      given.limit = max (0, c.slip(rubs) .* given.force(of_pad));
+      z(rubs) = min (max (z(rubs), -given.limit), given.limit);
+    end
+  end
+
   function [a, dz] = rates (t, u, v, z)
     s = rows * u;
     ds = rows * v;
-    f = c.power .* s .^ c.exponent + c.scale .* c.base .^ s + c.maxwell .* (s - z) + (c.dahl > 0) .* z;
-    if ~isempty (tables)
-      own = s(tables).';
-      at = min (max (sum (bsxfun (@le, knots, own), 1), 1), last - 1) + first;
-      f(tables) = forces(at) + (forces(at + 1) - forces(at)) ./ (knots(at + 1) - knots(at)) .* (own - knots(at));
-    end
-    sliding = abs (z) >= c.slip & z .* ds > 0;
-    share = (1 - c.slides) .* (1 - z ./ c.slip .* sign (ds)) + c.slides .* ~sliding;
-    dz = c.rate .* (s - z) + c.dahl .* ds .* share;
+    [given, z] = held (s, z);
+    f = c.power .* s .^ c.exponent + c.scale .* c.base .^ s + c.maxwell .* (s - z) + (c.dahl > 0) .* z + c.contact .* (s - z);
+    f(tables(single)) = given.force(single);
+    f(rubs) = f(rubs) + z(rubs);
+    f(tables(pressed)) = f(tables(pressed)) + given.force(pressed) - c.hold(tables(pressed));
+    slip = c.slip;
+    grows = c.dahl;
+    slip(rubs) = max (given.limit, realmin ());
+    grows(rubs) = given.stiff(of_pad);
+    sliding = abs (z) >= slip & z .* ds > 0;
+    share = (1 - c.slides) .* (1 - z ./ slip .* sign (ds)) + c.slides .* ~sliding;
+    dz = c.rate .* (s - z) + grows .* ds .* share;
     a = push .* sin (about .* t) - stiff * u - damp * v - act * f;
   end
 end

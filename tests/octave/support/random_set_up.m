@@ -1,8 +1,9 @@
 % [SIM, CASE] = RANDOM_SET_UP ()  a random structure with one to three nonlinear elements, and its equations in physical coordinates
 %
-% CASE has M, K, C (4 x 4), laws (cell), rows (one each), push, force and about (a sine of that frequency), v0, step, steps. The step keeps
-% the phase of the highest mode to 2 % over the run, the elements may be too stiff for it or not. Laws: power, exponential, table (gap, stop, bearing), Maxwell,
-% Dahl with exponents 0 and 1. Damping: none, modal, Rayleigh, or dashpots and gyroscopic coupling. Draws from rand and randn.
+% CASE has M, K, C (4 x 4), laws (cell), rows (cell, a matrix each), push, force and about (a sine of that frequency), v0, step, steps. The
+% step keeps the phase of the highest mode to 2 % over the run, the elements may be too stiff for it or not. Laws: power, exponential, table
+% (gap, stop, bearing), Maxwell, Dahl and two Dahl branches under a normal force with exponents 0 and 1, stick-slip. Damping: none, modal,
+% Rayleigh, or dashpots and gyroscopic coupling. Draws from rand and randn.
 function [sim, case_of] = random_set_up ()
   n = 4;
   m = diag (0.5 + rand (1, n));
@@ -38,26 +39,27 @@ function [sim, case_of] = random_set_up ()
   linear = qn.run (qn.simulation (model, 'step', step, 'steps', steps, 'load', {model.shapes.' * push, signal}, 'v0', v0), ...
                    'progress', false, 'check', false);
   list = cell (1 + floor (3 * rand ()), 2);
-  rows = zeros (size (list, 1), n);
+  rows = cell (size (list, 1), 1);
   for j = 1:size (list, 1)
-    row = zeros (1, n);
-    row(1 + floor (n * rand ())) = 1;
-    if rand () < 0.3, row(1 + floor (n * rand ())) = -1; end
-    reach = max ([2e-3, abs(row * model.shapes * linear.q)]);
+    kind = floor (10 * rand ());
+    rows{j} = zeros (1 + 2 * (kind == 9), n);
+    for i = 1:size (rows{j}, 1)
+      rows{j}(i, 1 + floor (n * rand ())) = 1;
+      if rand () < 0.3, rows{j}(i, 1 + floor (n * rand ())) = -1; end
+    end
+    reach = max (2e-3, max (abs (rows{j} * model.shapes * linear.q), [], 2));
     % From soft to somewhat beyond the limit of the step.
-    mass = 1 / (row / m * row.');
+    mass = 1 / max (diag (rows{j} / m * rows{j}.'));
     stiff = mass / step ^ 2 * 10 ^ (-4 + 5 * rand ());
-    law = a_law (reach, stiff);
-    list(j, :) = {law, qn.observe(model, sparse (row))};
-    rows(j, :) = row;
+    list(j, :) = {a_law(kind, reach, stiff), qn.observe(model, sparse (rows{j}))};
   end
   sim = qn.simulation (model, 'step', step, 'steps', steps, 'load', {model.shapes.' * push, signal}, 'v0', v0, 'elements', list);
-  case_of = struct ('M', m, 'K', k, 'C', c, 'laws', {list(:, 1)}, 'rows', rows, 'push', push, 'force', force, 'about', about, ...
+  case_of = struct ('M', m, 'K', k, 'C', c, 'laws', {list(:, 1)}, 'rows', {rows}, 'push', push, 'force', force, 'about', about, ...
                     'v0', v0, 'step', step, 'steps', steps);
 end
 
-function law = a_law (reach, stiff)
-  switch floor (8 * rand ())
+function law = a_law (kind, reach, stiff)
+  switch kind
     case 0
       law = qn.law ('power', 'stiffness', stiff, 'exponent', 1);
     case 1
@@ -75,5 +77,23 @@ function law = a_law (reach, stiff)
       law = qn.maxwell ('springs', stiff, 'times', 10 ^ (-4 + 4 * rand ()));
     case 7
       law = qn.law ('dahl', 'stiffness', stiff, 'slip', stiff * reach * 10 ^ (-2 * rand ()), 'exponent', floor (2 * rand ()));
+    case 8
+      law = qn.law ('stickslip', 'contact', stiff, 'slip', max (20, stiff * reach * 10 ^ (1 - 2 * rand ())), ...
+                    'stiffness', stiff * 0.1 * floor (2 * rand ()), 'ground', stiff * rand () * floor (2 * rand ()));
+    case 9
+      law = a_pad (reach, stiff);
   end
+end
+
+% A pad whose normal force rises from 0.2 to 1.8 of what it is at rest, or lifts off; now and then with the term that the module takes off
+% anew at each step.
+function law = a_pad (reach, stiff)
+  friction = 0.1 + 0.5 * rand ();
+  normal = stiff * reach(1) * 10 ^ (-2 * rand ()) / friction;
+  knots = reach(3) * [-1; -0.5; 0.5; 1] / (0.2 + rand ());
+  share = [0.2; 0.2; 1.8; 1.8];
+  if rand () < 0.2, share = [-3; -1; 3; 5]; end
+  growth = stiff * (0.3 + 0.7 * rand (4, 1));
+  law = qn.law ('clima2', 'displacement', knots, 'normal', normal * share, 'growth', growth, 'friction', friction, ...
+                'exponent', floor (2 * rand ()), 'stiffness', stiff * 0.01 * (rand () < 0.2), 'offset', normal);
 end

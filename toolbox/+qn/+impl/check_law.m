@@ -1,8 +1,9 @@
-% FOUND = CHECK_LAW (SIM, K, X, MOTION)  element K against the step, the displacements X ([]: not known) and the motion that can be
+% FOUND = CHECK_LAW (SIM, K, X, MOTION, STATE)  element K against the step, the displacements X and the memory STATE of a result ([]: not
+% known), and the motion that can be
 %
 % An element's force is evaluated at the predictor. A spring kn there is stable while h sqrt (2 gamma kn mu) < 2 with the mobility mu
 % (qn.impl.mobility; docs/theory.md derives it). MOTION bounds each modal coordinate of the linear model (qn.impl.motion_bound).
-function found = check_law (sim, k, x, motion)
+function found = check_law (sim, k, x, motion, state)
   found = qn.impl.finding ();
   e = sim.elements(k);
   h = sim.step;
@@ -33,7 +34,7 @@ function found = check_law (sim, k, x, motion)
   end
   l = qn.impl.law_of (e.law.kind);
   if ~isempty (l.check)
-    own = l.check (e.law, x, h);
+    own = l.check (e.law, x, h, state);
     for j = 1:size (own, 1), say (own{j, 1}, own{j, 2}, '%s', own{j, 3}); end
   end
 

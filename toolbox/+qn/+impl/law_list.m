@@ -12,8 +12,8 @@
 %   stored      V = stored (P, X, F, STATE, H): energy in it along a history, up to a constant (qn.impl.stored) [J]
 %   reserve     V = reserve (P, X, STATE): energy that it can give back from the displacements X and its memory STATE, at most; Inf
 %               where that has no bound (qn.impl.energy_limit) [J]
-%   check       FOUND = check (LAW, X, H): what a user should know before a run with the step H, rows {code, level, text}
-%               (qn.check; docs/checks.md)
+%   check       FOUND = check (LAW, X, H, STATE): what a user should know of a run with the step H, rows {code, level, text}; X and STATE
+%               are displacements and memory in a result, [] before the run (qn.check; docs/checks.md)
 %   at_rest     LAW = at_rest (P): the law without memory that it becomes when nothing moves
 %
 % The last five may be []: no needs of its own, nothing stored, no bound, nothing to check, no force at rest without its past. The list is

@@ -112,7 +112,26 @@ function c = cases ()
        'maxwell_coarse', 'warning', {with(zener (4e-4))}, {with(zener (1e-3))}
        'power_negative', 'warning', {with(qn.law ('power', 'stiffness', 1, 'exponent', 1.5))}, {with(qn.cubic ('stiffness', 1))}
        'stickslip_coarse', 'warning', {with(qn.law ('stickslip', 'contact', 1, 'slip', 2))}, ...
-                                      {with(qn.law ('stickslip', 'contact', 1, 'slip', 200))}};
+                                      {with(qn.law ('stickslip', 'contact', 1, 'slip', 200))}
+       'stickslip_slips', 'warning', {with(sticks (20)), true}, {with(qn.slider ('stiffness', 1e4, 'slip', 20)), true}
+       'stickslip_slips', 'note', {with(sticks (200))}, {with(sticks (200)), true}
+       'clima2_stiffness', 'warning', {on_pad(pad (1, 10))}, {on_pad(pad (1, 0))}
+       'clima2_normal', 'warning', {on_pad(pad (-1, 0))}, {on_pad(pad (1, 0))}
+       'clima2_normal', 'warning', {on_pad(pad (-1, 0)), true}, {on_pad(pad (-1e-3, 0)), true}};
+end
+
+function law = sticks (slip)
+  law = qn.law ('stickslip', 'contact', 1e4, 'slip', slip);
+end
+
+% A pad whose normal force reaches LEAST newtons 10 mm below its place of rest.
+function law = pad (least, stiffness)
+  law = qn.law ('clima2', 'displacement', [-0.01; 0; 0.01], 'normal', [least; 10; 10], 'growth', [100; 100; 100], 'friction', 0.3, ...
+                'offset', 10, 'stiffness', stiffness);
+end
+
+function sim = on_pad (law)
+  sim = qn.simulation (qn.modal (diag ([4e4 4e4 4e4]), eye (3)), 'step', 1e-4, 'until', 0.2, 'v0', [1; 1; 1.99], 'elements', {law, eye(3)});
 end
 
 function sim = given (model, shape)
@@ -222,7 +241,7 @@ function test_a_contact_that_only_the_prediction_meets_is_named ()
   res.force(700) = 2e4;
   x = qn.impl.met (sim.elements.law, x, res.force);
   expect_equal (max (x), 1e-3 + 2e-8, 1e-12);
-  found = qn.impl.check_law (sim, 1, x, 1);
+  found = qn.impl.check_law (sim, 1, x, 1, []);
   expect_equal (found(1).code, 'element_unstable');
 end
 

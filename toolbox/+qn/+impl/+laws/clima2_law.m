@@ -34,12 +34,36 @@ function t = traits (p)
   t = struct ('rows', 3, 'forces', 3, 'width', 5, 'states', 2, 'pages', 2, 'memory', true);
 end
 
+% The two branches grow like Dahl's law; the third force follows the slope of its table.
 function k = stiffest (p, x)
-  k = abs (p.stiffness) + max (abs (p.growth)) * 2 ^ max (p.exponent, 0);
+  third = [];
+  if ~isempty (x), third = x(3, :); end
+  table = qn.impl.law_of ('table');
+  slope = table.stiffest (struct ('displacement', p.displacement, 'force', p.normal), third);
+  k = abs (p.stiffness) + max (slope, max (abs (met (p, p.growth, third))) * 2 ^ max (p.exponent, 0));
 end
 
 % The table is one of the third displacement.
-function found = check (law, x, h)
+function found = check (law, x, h, state)
+  p = law.parameters;
   if ~isempty (x), x = x(3, :); end
+  normal = met (p, p.normal, x);
   found = qn.impl.beyond_table (law, x);
+  if p.stiffness ~= 0
+    found(end + 1, :) = {'clima2_stiffness', 'warning', ...
+                         sprintf(['its stiffness of %g N/m times the displacement is taken off the branches anew at each step and adds up: ' ...
+                                  'the forces depend on the number of steps. Give 0, and a spring as an element of its own'], p.stiffness)};
+  end
+  if min (normal) < 0
+    found(end + 1, :) = {'clima2_normal', 'warning', ...
+                         sprintf(['its normal force falls to %g N: below zero the slip force changes its sign and the branches push as hard ' ...
+                                  'as they can. Let the table end at 0, with a knot beyond'], min (normal))};
+  end
+end
+
+% The values of a table column at its knots, where displacements x are known at their ends and at the knots between them.
+function values = met (p, values, x)
+  if isempty (x), return, end
+  at = [min(x); max(x); p.displacement(p.displacement > min (x) & p.displacement < max (x))];
+  values = qn.force (qn.law ('table', 'displacement', p.displacement, 'force', values), at);
 end

@@ -53,7 +53,7 @@ function v = stored (p, x, f, state, h)
   end
 end
 
-function found = check (law, x, h)
+function found = check (law, x, h, state)
   found = cell (0, 3);
   p = law.parameters;
   fast = h * max (p.springs ./ p.dampers);

@@ -32,7 +32,7 @@ function v = stored (p, x, f, state, h)
   v = p.stiffness * x .^ (p.exponent + 1) / (p.exponent + 1);
 end
 
-function found = check (law, x, h)
+function found = check (law, x, h, state)
   found = cell (0, 3);
   exponent = law.parameters.exponent;
   if exponent ~= fix (exponent) && (isempty (x) || any (x(:) < 0))

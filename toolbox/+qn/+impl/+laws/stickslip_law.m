@@ -34,10 +34,22 @@ function v = stored (p, x, f, state, h)
   v = p.stiffness * x .^ 2 / 2 + p.contact * (x - state) .^ 2 / 2;
 end
 
-function found = check (law, x, h)
+% A slider that is drawn along has moved in the result.
+function found = check (law, x, h, state)
   found = cell (0, 3);
-  slip = law.parameters.slip;
-  if slip < 10
-    found = {'stickslip_coarse', 'warning', sprintf('it compares whole newtons: a slip force of %g N is too coarse; use qn.slider', slip)};
+  p = law.parameters;
+  if p.slip < 10
+    found = {'stickslip_coarse', 'warning', sprintf('it compares whole newtons: a slip force of %g N is too coarse; use qn.slider', p.slip)};
+  end
+  if isempty (state)
+    found(end + 1, :) = {'stickslip_slips', 'note', ...
+                         sprintf(['it acts as a spring of %g N/m up to %g m, where it slips: from there on its force changes sign in each ' ...
+                                  'slipping step. Meant for a contact that sticks; for friction that slides take qn.slider'], ...
+                                 p.stiffness + p.contact, p.slip / abs (p.contact))};
+  elseif any (state(:) ~= state(1))
+    found(end + 1, :) = {'stickslip_slips', 'warning', ...
+                         sprintf(['it slips, at %g N, and this law throws the slider to the other side of the contact in each slipping ' ...
+                                  'step: the force jumps between %g and %g N, which no shorter step mends. For Coulomb friction ' ...
+                                  'take qn.slider'], p.slip, -p.slip, p.slip)};
   end
 end

@@ -55,7 +55,7 @@ function v = stored (p, x, f, state, h)
   v = reshape (at_knot(k) + (values(k) + force) / 2 .* (q - knots(k)), size (x));
 end
 
-function found = check (law, x, h)
+function found = check (law, x, h, state)
   found = qn.impl.beyond_table (law, x);
   p = law.parameters;
   slope = diff (p.force) ./ max (diff (p.displacement), realmin ());

@@ -1,4 +1,7 @@
-% N = ROUNDS (N)  number of random set-ups to run: a fifth of N under sanitizers, where the host is many times slower
+% N = ROUNDS (N)  number of random set-ups to run: N with QUARN_FULL=1 in the environment, a third of it else; of that a fifth under
+% sanitizers, where the host is many times slower
 function n = rounds (n)
-  if ~isempty (getenv ('QUARN_SANITIZED')), n = ceil (n / 5); end
+  if isempty (getenv ('QUARN_FULL')), n = n / 3; end
+  if ~isempty (getenv ('QUARN_SANITIZED')), n = n / 5; end
+  n = ceil (n);
 end

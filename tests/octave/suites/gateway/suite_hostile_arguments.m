@@ -24,7 +24,7 @@ function test_residual_of_a_model_structure ()
   sweep_fields ('residual', args, 2, model);
   fields = fieldnames (element);
   for k = find (~strcmp (fields, 'Fu')).'
-    for value = hostile_values ()
+    for value = hostile_share ()
       model.NL{3} = put (element, fields{k}, value{1});
       own_answer (@() quarn ('residual', zeros (3, 1), model, args{3:7}));
     end
@@ -34,7 +34,7 @@ end
 function test_matrices_of_a_model ()
   k = matrix_lines (speye (3));
   for place = 1:3
-    for value = hostile_values ()
+    for value = hostile_share ()
       cells = {k, k, k};
       cells{place} = value{1};
       own_answer (@() outputs (2, 'residual', zeros (3, 1), cells, ones (3, 1), ones (3, 1), ones (3, 1), [0.5 0.5]));
@@ -50,7 +50,7 @@ end
 function test_values_of_registered_handles ()
   tables = source_tables ();
   codes = str2double (tables.types);
-  for value = hostile_values ()
+  for value = hostile_share ()
     if isobject (value{1}) && isa (value{1}, 'v_handle'), continue; end
     for code = codes
       h = quarn ('chandleset', code, value{1});
@@ -66,7 +66,7 @@ function test_fields_of_an_element ()
   element.iopt = int32 ([0; 0; 0; 0; 0]);
   fields = fieldnames (element);
   for k = 1:numel (fields)
-    for value = hostile_values ()
+    for value = hostile_share ()
       h = quarn ('chandleset', 1003, put (element, fields{k}, value{1}));
       own_answer (@() quarn ('residual', zeros (3, 1), chandle (h), ones (3, 1), ones (3, 1), ones (3, 1)));
     end
@@ -130,7 +130,7 @@ end
 function matrix_fields (m)
   fields = fieldnames (m);
   for k = 1:numel (fields)
-    for value = hostile_values ()
+    for value = hostile_share ()
       bad = put (m, fields{k}, value{1});
       own_answer (@() quarn ('residual', zeros (3, 1), {bad, bad, bad}, ones (3, 1), ones (3, 1), ones (3, 1), [0.5 0.5]));
       own_answer (@() quarn ('tbbp', bad, ones (3, 1), zeros (3, 1)));
@@ -145,8 +145,8 @@ end
 
 % Every place of the call with every hostile value, and pairs of them in neighbouring places.
 function sweep (word, args, count)
-  values = hostile_values ();
   for place = 1:numel (args)
+    values = hostile_share ();
     for k = 1:numel (values)
       bad = args;
       bad{place} = values{k};
@@ -164,7 +164,7 @@ function sweep_fields (word, args, count, s, place)
   if nargin < 5, place = @(a, s) replaced (a, 2, s); end
   fields = fieldnames (s);
   for k = 1:numel (fields)
-    for value = hostile_values ()
+    for value = hostile_share ()
       bad = place (args, put (s, fields{k}, value{1}));
       own_answer (@() outputs (count, word, bad{:}));
     end

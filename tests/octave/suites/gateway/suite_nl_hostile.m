@@ -16,7 +16,7 @@ function sweep (e, left_out)
   names = fieldnames (e);
   for k = 1:numel (names)
     if any (strcmp (names{k}, left_out)), continue, end
-    for value = hostile_values ()
+    for value = hostile_share ()
       bad = e;
       bad(1).(names{k}) = value{1};
       own_answer (@() call (bad));
@@ -45,7 +45,7 @@ function test_paged_elements ()
   e.unl = zeros (2, 3, 3);
   e.vnl = zeros (2, 3, 3);
   sweep (repmat (e, [1 1 3]), {'Fu'});
-  for value = hostile_values ()
+  for value = hostile_share ()
     own_answer (@() call (repmat (e, [1 1 3]), struct ('tc', {value}), []));
     opt = struct ();
     opt.tc = value{1};
@@ -55,7 +55,7 @@ end
 
 function test_results_of_functions ()
   e = observed ('Fu');
-  for value = hostile_values ()
+  for value = hostile_share ()
     e.Fu = @(varargin) value{1};
     own_answer (@() call (e));
     result = struct ();
@@ -72,7 +72,7 @@ function test_parameters_of_rotcenter ()
     e = random_rotor (6, rows, 0);
     sweep (e, {'type'});
     for row = 1:rows
-      for value = hostile_values ()
+      for value = hostile_share ()
         bad = e;
         bad.Cell{row, 2} = value{1};
         own_answer (@() call (bad));
@@ -86,7 +86,7 @@ function test_matrix_of_mocirc2 ()
 end
 
 function test_elements_and_lists ()
-  for value = hostile_values ()
+  for value = hostile_share ()
     own_answer (@() call (value{1}));
     model = struct ('K', {cell(1, 3)});
     model.NL = value{1};

@@ -27,7 +27,7 @@ void Clima2(chandleNl_inout* h, ROr ro) {
     double* unl = h->unl;
     for (std::ptrdiff_t i = 0; i < h->unlLen; i += 5) {
       double g[2] = {0.0, 0.0};  // a table with one value column has no growth rate
-      vorel_LinInterp(place.table, unl + i + 2, place.record, g, place.nx, std::min(place.ny, 2), 1, 1, nullptr, nullptr);
+      vorel_LinInterp(place.table, unl + i + 2, place.record, g, place.nx, std::min(place.ny, 2), 1, 1, nullptr, nullptr, h->tableAscends);
       const double fMax = mu * g[0];
 
       double f = unl[i + 3];

@@ -13,9 +13,9 @@ namespace quarn {
 namespace {
 
 /// Segment that a pass over the queries would find first: all that it takes over from the pass before.
-double firstSegment(const TablePlace& t, const double* queries) {
+double firstSegment(const TablePlace& t, const double* queries, bool ascending) {
   double record[3] = {t.record[0], t.record[1], t.record[2]};
-  vorel_LinInterp(t.table, queries, record, nullptr, t.nx, t.ny, 1, 0, nullptr, nullptr);
+  vorel_LinInterp(t.table, queries, record, nullptr, t.nx, t.ny, 1, 0, nullptr, nullptr, ascending);
   return record[0];
 }
 
@@ -28,6 +28,15 @@ TablePlace tablePlace(const chandleNl_inout& h) {
   // Without knots there may be nothing at the table's place.
   double* table = h.iopt[7] > 0 || h.iopt[5] + 2LL <= h.optLen ? h.opt + h.iopt[5] : nullptr;
   return {table, h.opt + h.iopt[6], h.iopt[7], h.iopt[8]};
+}
+
+bool tableAscends(const chandleNl_inout& h) {
+  if (h.ioptLen < 9 || h.iopt[7] < 2) return false;
+  const TablePlace t = tablePlace(h);
+  for (int i = 0; i + 1 < t.nx; ++i) {
+    if (!(t.table[i] <= t.table[i + 1])) return false;
+  }
+  return true;
 }
 
 void checkTablePlace(const chandleNl_inout& h) {
@@ -69,11 +78,11 @@ void FuTable(chandleNl_inout* h, ROr ro) {
   // segment as the one before would only repeat it.
   const bool apart = h->unlLen > 1 && !overlap(h->unl, queries, h->snl, results) && !overlap(h->snl, results, h->opt, options) &&
                      !overlap(t.table, size, t.record, 3) && !overlap(h->unl, queries, h->opt, options);
-  double first = apart ? firstSegment(t, h->unl) : 0.0;
+  double first = apart ? firstSegment(t, h->unl, h->tableAscends) : 0.0;
   for (int repetition = 0; repetition < h->unlLen; ++repetition) {
-    vorel_LinInterp(t.table, h->unl, t.record, h->snl, t.nx, t.ny, h->unlLen, 1, nullptr, nullptr);
+    vorel_LinInterp(t.table, h->unl, t.record, h->snl, t.nx, t.ny, h->unlLen, 1, nullptr, nullptr, h->tableAscends);
     if (!apart) continue;
-    const double next = firstSegment(t, h->unl);
+    const double next = firstSegment(t, h->unl, h->tableAscends);
     if (next == first) break;
     first = next;
   }

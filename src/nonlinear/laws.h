@@ -36,5 +36,7 @@ struct TablePlace {
 };
 TablePlace tablePlace(const chandleNl_inout& h);
 void checkTablePlace(const chandleNl_inout& h);
+/// Whether the abscissae of the table ascend, without NaN. The table must have been checked.
+bool tableAscends(const chandleNl_inout& h);
 
 }  // namespace quarn

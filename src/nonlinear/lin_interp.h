@@ -13,8 +13,10 @@ namespace quarn {
 /// out  n rows and ny columns, column-major; with ny = 0 the 1-based segment number of each query
 /// mode 0: only the record is updated
 /// X2   optional second table over the same abscissae (null: none), its values go to out2
+/// ascending: the caller knows that no abscissa is below the one before it, or NaN. Far jumps then find their segment by halves, with the
+///      same results and record; otherwise the table is walked, whatever it holds.
 /// out may be x itself (the values then overwrite the queries as they are found).
 void vorel_LinInterp(const double* X, const double* x, double* rec, double* out, int nx, int ny, int n, int mode, const double* X2,
-                     double* out2);
+                     double* out2, bool ascending = false);
 
 }  // namespace quarn

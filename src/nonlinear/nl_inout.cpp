@@ -6,6 +6,7 @@
 #include "base/fixed_errors.h"
 #include "host/errors.h"
 #include "nonlinear/laws.h"
+#include "nonlinear/state_laws.h"
 #include "numbers/ranges.h"
 #include "sparse/dense_lines.h"
 #include "sparse/line_runs.h"
@@ -79,6 +80,7 @@ void chandleNl_inout::readOptions() {
   if (row->needsPages && unlSlices == 1) host::fail(fixed::noPages);
   law = row->law;
   check = row->check;
+  tableAscends = false;
 }
 
 /// Observed values: a page of zeros, then the product of the observation matrix.
@@ -199,7 +201,13 @@ void chandleNl_inout::planCommand(host::Doubles r) {
   bPicks = bSparse && picksOnly(b.rows, b.jc) && distinct(b.jc[b.rows] - b.jc[0], b.ir + b.jc[0], bWork);
 }
 
+void chandleNl_inout::planTable(host::Doubles r) {
+  tableAscends = (law == FuTable || law == Clima2) && unlLen > 0 && optApart &&
+                 !overlap(r.data, r.count, opt, static_cast<std::size_t>(optLen)) && quarn::tableAscends(*this);
+}
+
 void chandleNl_inout::takeWork(host::Doubles r) {
+  planTable(r);
   planObservation();
   planCommand(r);
 }

@@ -50,6 +50,7 @@ class chandleNl_inout final : public chandle {
   int unlSlices = 0;  ///< pages of unl; 0 when it is absent
   NlForceLaw law = nullptr;
   NlLawCheck check = nullptr;
+  bool tableAscends = false;  ///< the abscissae of the law's table ascend, and nothing that a run writes lies on them
 
   // Values that the arrays hold in all.
   std::size_t unlTotal = 0;
@@ -64,6 +65,7 @@ class chandleNl_inout final : public chandle {
   void observeBlock(const ROr& ro) const;
   void planObservation();
   void planCommand(host::Doubles r);
+  void planTable(host::Doubles r);
   void addForces(const ROr& ro, double* r);
   void checkViews(const ROr& ro, std::size_t rLen);
   void checkObservation(const ROr& ro);
@@ -74,6 +76,7 @@ class chandleNl_inout final : public chandle {
   double* bWork = nullptr;        ///< work vector of the scatter, host memory of the current call; zero between the steps if bSparse
   bool bSparse = false;           ///< b touches few of its columns
   bool pagesApart = false;        ///< unl and vnl lie apart from the state that they are observed from
+  bool optApart = false;          ///< and so do the law's parameters
   bool cApart = false;            ///< and the values of c as well
   bool bPicks = false;            ///< and each of its lines at most one, another one
   bool cPicks = false;            ///< each line of c picks at most one value

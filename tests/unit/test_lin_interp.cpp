@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <cstring>
+#include <limits>
 #include <random>
 #include <vector>
 
@@ -170,6 +173,35 @@ TEST(LinInterp, AgreesWithASearchFromScratchOnRandomTables) {
       const double f = (q - x0) / (table[static_cast<std::size_t>(s + 1)] - x0);
       const double wanted = f * table[static_cast<std::size_t>(nx + s + 1)] + (1.0 - f) * table[static_cast<std::size_t>(nx + s)];
       EXPECT_EQ(value(table.data(), nx, q, rec), wanted);
+    }
+  }
+}
+
+// Short and long tables, doubled knots, knots and queries at infinity, NaN, records from everywhere.
+TEST(LinInterp, FarJumpsInAscendingTablesFindWhatTheWalkFinds) {
+  std::mt19937 random(17);
+  const double inf = std::numeric_limits<double>::infinity();
+  for (int round = 0; round < 3000; ++round) {
+    const int nx = 1 + static_cast<int>(random() % (round % 2 ? 6 : 120));
+    std::vector<double> table;
+    for (int i = 0; i < nx; ++i) table.push_back(static_cast<double>(random() % static_cast<unsigned>(nx)));
+    if (random() % 4 == 0) table[0] = -inf;
+    if (random() % 4 == 0) table[table.size() - 1] = inf;
+    std::sort(table.begin(), table.end());
+    for (int i = 0; i < 2 * nx; ++i) table.push_back(std::sin(i));
+    double walked[3] = {static_cast<double>(random() % 200) - 40.0, 0.0, 0.0};
+    if (random() % 10 == 0) walked[0] = random() % 2 ? 1e300 : std::nan("");
+    double halved[3] = {walked[0], 0.0, 0.0};
+    for (int q = 0; q < 20; ++q) {
+      const double choices[] = {table[random() % static_cast<unsigned>(nx)], static_cast<double>(random() % 130) - 5.0 + 0.5,
+                                q % 5 ? -0.0 : std::nan(""), q % 2 ? inf : -inf};
+      const double x[] = {choices[random() % 4], choices[random() % 3]};
+      double one[4];
+      double other[4];
+      vorel_LinInterp(table.data(), x, walked, one, nx, 2, 2, 1, nullptr, nullptr, false);
+      vorel_LinInterp(table.data(), x, halved, other, nx, 2, 2, 1, nullptr, nullptr, true);
+      EXPECT_EQ(std::memcmp(one, other, sizeof one), 0);
+      EXPECT_EQ(std::memcmp(walked, halved, sizeof walked), 0);
     }
   }
 }

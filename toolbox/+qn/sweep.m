@@ -27,7 +27,7 @@
 %   RESULTS   cell array of the size of CASES, 1 x k for numbers; [] where a case failed
 %   REPORT    struct: done       logical, of the size of RESULTS
 %                     failed     struct array with a case in each element: number, identifier, message, parameters
-%                     ran        number of cases that were run by this call
+%                     ran        number of cases that ended during this call
 %                     waiting    number of cases that a job array still has to run
 %                     time       seconds that each case took, of the size of RESULTS; NaN where it is not done
 %                     seconds    what this call took [s]
@@ -70,14 +70,16 @@ function [results, report] = sweep (f, cases, varargin)
   end
   [done, failed] = qn.impl.sweep.state (job);
   if o.again
-    for k = find (failed), delete (qn.impl.sweep.file (job, 'failed', k)); end
+    for k = find (failed), qn.impl.files.remove_file (qn.impl.sweep.file (job, 'failed', k)); end
     failed(:) = false;
   end
   finished = done | failed;
   job.before = sum (finished);
   job.begun = now ();
   [engine, workers] = qn.impl.sweep.choose_engine (o.engine, o.workers, sum (~finished));
-  waiting = engine.run (job, find (~finished), workers, o);
+  pending = find (~finished);
+  if job.joined, pending = fliplr (pending); end          % one that works on it as well comes from the other end
+  waiting = engine.run (job, pending, workers, o);
   [results, report] = qn.impl.sweep.collect (job, waiting);
   report.ran = sum (report.done(:)) + numel (report.failed) - job.before;
   report.seconds = toc (begun);
@@ -91,7 +93,7 @@ end
 
 function remove (folder)
   if ~exist (folder, 'dir'), return, end
-  files = dir (folder);
-  for k = find (~[files.isdir]), delete (fullfile (folder, files(k).name)); end
-  rmdir (folder);
+  names = qn.impl.files.names_in (folder);
+  for k = 1:numel (names), qn.impl.files.remove_file (fullfile (folder, names{k})); end
+  [~, ~] = rmdir (folder);
 end

@@ -176,3 +176,64 @@ function test_a_grid_has_all_combinations ()
   expect_error (@() qn.grid ('a b', 1), 'qn:input', '~no name of a field');
   expect_error (@() qn.grid ('a', 1, 'a', 2), 'qn:input', '~twice');
 end
+
+function test_any_name_of_a_folder_is_taken_as_it_stands ()
+  [folder, clean] = new_folder ();
+  before = cd (folder);
+  back = onCleanup (@() cd (before));
+  qn.sweep (@(p) p, 1:2, 'folder', 'study1', 'engine', 'serial');
+  for name = {'study[1]', 'a*', 'x $(touch stolen)', 'it''s', 'back\slash'}
+    for engine = {'serial', 'parallel'}
+      f = @(p) p + numel (engine{1});
+      inner = fullfile (name{1}, engine{1});
+      mkdir (name{1});
+      expect_equal (qn.sweep (f, 1:2, 'folder', inner, 'engine', engine{1}, 'progress', false), num2cell ((1:2) + numel (engine{1})));
+      [~, report] = qn.sweep (f, 1:2, 'folder', inner, 'engine', engine{1});
+      expect_equal (report.ran, 0);
+      expect_equal (numel (readdir (inner)), 5);
+    end
+  end
+  [~, report] = qn.sweep (@(p) p, 1:2, 'folder', 'study1');
+  expect_equal (report.ran, 0);
+  expect_equal (exist ('stolen', 'file'), 0);
+  clear back
+end
+
+function test_a_function_with_an_empty_cell_runs_on_every_engine_and_goes_on ()
+  [folder, clean] = new_folder ();
+  kept = {@(x) x + numel({}), 3};
+  f = @(p) numel ({}) + kept{2} * p;
+  for engine = {'serial', 'parallel'}
+    inner = fullfile (folder, engine{1});
+    expect_equal (qn.sweep (f, 1:3, 'engine', engine{1}, 'folder', inner, 'progress', false), {3, 6, 9});
+    [~, report] = qn.sweep (f, 1:3, 'engine', engine{1}, 'folder', inner);
+    expect_equal (report.ran, 0);
+  end
+end
+
+% No file of the child may be longer than half of the second result: as on a disk with that much room.
+function test_a_full_disk_ends_a_sweep_in_words_and_the_case_runs_again ()
+  [folder, clean] = new_folder ();
+  code = sprintf ('qn.sweep (@(p) zeros (1, 10 ^ (2 * p)), 1:3, ''engine'', ''serial'', ''folder'', ''%s'');', folder);
+  [status, text] = system (sprintf ('ulimit -f 200; %s 2>&1', octave_command (code)));
+  if status == 0 || isempty (strfind (text, 'cannot write')) || isempty (strfind (text, 'is the disk full?')), error ('it said "%s"', text); end
+  expect_equal (sort (readdir (folder)).', {'.', '..', 'case_000001.mat', 'case_000002.mat', 'sweep.mat'});
+  [got, report] = qn.sweep (@(p) zeros (1, 10 ^ (2 * p)), 1:3, 'engine', 'serial', 'folder', folder);
+  expect_equal (report.ran, 1);
+  expect_equal (cellfun (@numel, got), [1e2 1e4 1e6]);
+end
+
+function test_of_two_sweeps_that_begin_together_one_says_what_the_folder_is_for ()
+  [folder, clean] = new_folder ();
+  for k = 1:2
+    inner = fullfile (folder, sprintf ('%d', k));
+    code = sprintf ('folder = ''%s''; qn.sweep (@(p) sweep_logged (p, folder), %%s, ''engine'', ''serial'', ''folder'', ''%s'');', folder, inner);
+    first = {'1:6', '1:6'};
+    second = {'2:7', '1:6'};
+    [~, text] = system (sprintf ('(%s) 2>&1 & (%s) 2>&1; wait', octave_command (sprintf (code, first{k})), octave_command (sprintf (code, second{k}))));
+    others = numel (strfind (text, 'belongs to a sweep with other cases'));
+    expect_equal (others, 2 - k);
+  end
+  ran = numel (dir (fullfile (folder, 'ran_*')));
+  if ran < 12 || ran > 14, error ('%d cases ran, 6 in the first folder and 6 shared in the second', ran); end
+end

@@ -83,14 +83,15 @@ function test_folders_of_another_format_are_refused_and_old_ones_go_on ()
   qn.sweep (f, 1:2, 'folder', folder, 'engine', 'serial');
   file = fullfile (folder, 'sweep.mat');
   s = load (file);
-  expect_equal (s.format, 1);
+  expect_equal (s.format, 2);
   old = rmfield (s, 'format');
+  old.f = f;
   save ('-binary', file, '-struct', 'old');
   [got, report] = qn.sweep (f, 1:2, 'folder', folder);
   expect_equal (got, {3, 6});
   expect_equal (report.ran, 0);
   s.format = 7;
   save ('-binary', file, '-struct', 's');
-  expect_error (@() qn.sweep (f, 1:2, 'folder', folder), 'qn:input', '~has files of format 7, this version reads format 1');
+  expect_error (@() qn.sweep (f, 1:2, 'folder', folder), 'qn:input', '~has files of format 7, this version reads format 2');
   expect_equal (exist (fullfile (folder, 'case_000001.mat'), 'file'), 2);
 end

@@ -18,7 +18,7 @@ function [results, report] = collect (job, waiting)
         % Half a file, as after a failure of the disk. It goes, so that the case is run again.
         message = ['its file cannot be read: ' err.message];
         done(k) = false;
-        delete (qn.impl.sweep.file (job, 'case', k));
+        qn.impl.files.remove_file (qn.impl.sweep.file (job, 'case', k));
       end
     end
     if failed(k)

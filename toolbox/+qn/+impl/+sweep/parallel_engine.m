@@ -41,7 +41,10 @@ function why = started (job, cases, workers)
   why = '';
   finish = onCleanup (@() parcellfun_set_nproc (0));
   try
-    n = pararrayfun (workers, @(k) qn.impl.sweep.one (job, k), cases, 'CumFunc', @(a, b) told (job, a + b)); % its value makes it call told
+    sent = job;
+    sent.f = qn.impl.sweep.carried (job.f);
+    sent.folder = double (job.folder);                     % a backslash in a text does not arrive
+    n = pararrayfun (workers, @(k) qn.impl.sweep.one (sent, k), cases, 'CumFunc', @(a, b) told (job, a + b)); % its value makes it call told
   catch err
     why = err.message;
   end
@@ -53,5 +56,5 @@ end
 
 function unmark (job, k)
   file = qn.impl.sweep.file (job, 'begun', k);
-  if exist (file, 'file'), delete (file); end
+  qn.impl.files.remove_file (file);
 end

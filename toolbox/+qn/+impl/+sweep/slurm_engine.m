@@ -18,7 +18,11 @@ end
 function waiting = run (job, pending, workers, o)
   file = fullfile (job.folder, 'slurm_job.txt');
   if exist (file, 'file')
-    waiting = queued (job, strtrim (fileread (file)), o.wait);
+    id = strtrim (fileread (file));
+    if isempty (regexp (id, '^\d{1,18}$', 'once'))
+      error ('qn:input', 'qn.sweep: %s must hold the number of a job and nothing else; remove it if no job is in the queue', file);
+    end
+    waiting = queued (job, id, o.wait);
     if waiting, return, end
   end
   [done, failed] = qn.impl.sweep.state (job);

@@ -1,7 +1,7 @@
 % [DONE, FAILED, BEGUN] = STATE (JOB)  which cases have which files, as rows of logical values
 function [done, failed, begun] = state (job)
-  files = dir (fullfile (job.folder, '*_*.mat'));
-  names = sprintf ('%s\n', files.name);
+  names = qn.impl.files.names_in (job.folder);
+  names = sprintf ('%s\n', names{:});
   done = having (names, 'case', job.n);
   failed = having (names, 'failed', job.n) & ~done;
   begun = having (names, 'begun', job.n) & ~done & ~failed;
@@ -9,6 +9,6 @@ end
 
 function is = having (names, kind, n)
   is = false (1, n);
-  found = regexp (names, ['(?<=^' kind '_)\d+(?=\.mat$)'], 'match', 'lineanchors');
-  is(cellfun (@str2double, found)) = true;
+  found = cellfun (@str2double, regexp (names, ['(?<=^' kind '_)\d{1,12}(?=\.mat$)'], 'match', 'lineanchors'));
+  is(found(found >= 1 & found <= n)) = true;
 end

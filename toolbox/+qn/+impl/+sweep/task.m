@@ -2,6 +2,7 @@
 function task (folder, task)
   list = load (fullfile (folder, 'slurm_tasks.mat'));
   job = load (fullfile (folder, 'sweep.mat'));
+  if isstruct (job.f), job.f = qn.impl.sweep.carried (job.f); end
   job.folder = folder;
   job.mark = false;
   for k = list.pending(task:list.tasks:end)

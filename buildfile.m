@@ -14,7 +14,7 @@ end
 function mexTask (varargin)
 % Compiles the module
   root = fileparts (mfilename ('fullpath'));
-  source = dir (fullfile (root, 'src', '*', '*.cpp'));
+  source = [dir(fullfile (root, 'src', '*', '*.cpp')); dir(fullfile (root, 'src', '*', '*', '*.cpp'))];
   files = strcat ({source.folder}, filesep (), {source.name});
   output = fullfile (root, 'build', 'matlab');
   if ~exist (output, 'dir'), mkdir (output); end

@@ -142,7 +142,7 @@ TEST_P(Elements, TextsNameTheOuterCommandAfterAFunctionMadeAnotherFail) {
     expectRefusal("expected 4 inputs", "tbbp");
     return {text("no number")};
   });
-  mxArray* list = cell(1, 3, {nullptr, nullptr, structure({{"Fu", law}, {"StoreFNL", scalar(0)}})});
+  mxArray* list = cell(1, 3, {nullptr, nullptr, structure({{"Fu", law}, {"b", tridiagonal(2, 2, -1)}, {"StoreFNL", scalar(0)}})});
   mxArray* model = structure({{"K", cell(1, 3, {})}, {"NL", list}});
   expectRefusal("the result of Fu must be", "residual", {zeros(2), model, zeros(2), zeros(2), zeros(2), zeros(0), zeros(0)});
 }

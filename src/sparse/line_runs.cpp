@@ -56,10 +56,9 @@ bool isBlock(const StoredLines& m, int* first, int* length) {
   int found = -1;
   for (int i = 0; i < m.lines; ++i) {
     if (entries(m, i) == 0) continue;
-    if (found < 0 ? !isFull(entries(m, i), m.ir + m.jc[i]) : !sameIndices(m, found, i) || !isFull(entries(m, i), m.ir + m.jc[i])) {
-      return false;
-    }
+    if (!isFull(entries(m, i), m.ir + m.jc[i])) return false;
     if (found < 0) found = i;
+    if (!sameIndices(m, found, i)) return false;
   }
   if (found < 0) return false;
   *first = m.ir[m.jc[found]];

@@ -79,8 +79,9 @@ void subStep(const Element& x, const Layout& at, const double* opt, double dt, d
 }
 
 double outputOf(const chandleNl_inout& h, const Layout& at, std::ptrdiff_t o) {
-  const auto Dv = static_cast<std::ptrdiff_t>(at.Dv);
   double force = 0.0;
+  if (at.q < 0) return force;  // nothing to sum, and the start of the block may be beyond every integer
+  const auto Dv = static_cast<std::ptrdiff_t>(at.Dv);
   for (std::ptrdiff_t i = 0; i <= at.q; ++i) force += h.opt[5 + i] * h.unl[o + i] + h.opt[Dv + i] * h.vnl[o + i];
   return force;
 }

@@ -133,6 +133,17 @@ function test_element_of_negative_width_only_clears_its_force ()
   expect_equal (e.snl, [0; 9]);
 end
 
+% The starts of the blocks of weights are then beyond every integer; nothing may be read there.
+function test_elements_of_the_smallest_widths_only_clear_their_force ()
+  least = -2 ^ 31;
+  for widths = [least, least, -2, -1; least, 0, least, least]
+    e = state_element ('Maxw', [0.5; 1; 0], [-1, 0, widths', 1], 2, 2);
+    e.snl(:) = [8; 9];
+    e = evaluate_law (e, [5; 6], [7; 8]);
+    expect_equal (e.snl, [0; 9]);
+  end
+end
+
 function test_force_replaces_the_displacement_without_snl ()
   e = rmfield (one_state (2), 'snl');
   expect_law_like_model (e, [1 2; 0 0], [2 3; 0 0]);

@@ -94,6 +94,8 @@ void lawLoop(const std::string& law, LawArrays& a) {
     for (std::size_t i = 0; i < n; ++i) a.snl[i] = o[1] * std::pow(a.unl[i], o[2]);
   } else if (law == "Expon") {
     for (std::size_t i = 0; i < n; ++i) a.snl[i] = o[1] * std::pow(o[2], a.unl[i]);
+  } else if (law == "Damper") {
+    for (std::size_t i = 0; i < n; ++i) a.snl[i] = o[1] * std::copysign(std::pow(std::fabs(a.vnl[i]), o[2]), a.vnl[i]);
   } else if (law == "Table") {
     int segment = 0;
     for (std::size_t i = 0; i < n; ++i) a.snl[i] = interpolate(o + 1, o + 6, 5, a.unl[i], segment);

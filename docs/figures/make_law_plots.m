@@ -5,7 +5,7 @@
 %   make_law_plots ('maxwell')    draws one, by the name of its function below
 function make_law_plots (only)
   if exist ('graphics_toolkit'), graphics_toolkit ('gnuplot'); end
-  laws = {@power, @exponential, @table, @maxwell, @dahl, @stick_slip, @clima2};
+  laws = {@power, @exponential, @table, @maxwell, @dahl, @stick_slip, @clima2, @damper};
   for k = 1:numel (laws)
     if nargin == 0 || strcmp (only, func2str (laws{k})), laws{k} (); end
   end
@@ -94,6 +94,15 @@ function clima2 ()
   end
   names = {'third value 0', 'third value 0.5', 'third value 1'};
   draw ('law_clima2', 1e3 * x(last), f, names, 'Clima2: first branch at three table values, k = 0', 'displacement [mm]');
+end
+
+% The loops of one cycle, of equal force at the greatest velocity.
+function damper ()
+  [x, v, h, last] = harmonic (0.01, 1, 400, 1);
+  exponents = [0.3 1 2];
+  f = zeros (3, numel (last));
+  for k = 1:3, f(k, :) = drive (element ('Damper', [100 / max(v) ^ exponents(k), exponents(k)], 1), x, v); end
+  draw ('law_damper', 1e3 * x, f, {'a = 0.3', 'a = 1', 'a = 2'}, 'Damper: 10 mm at 1 Hz, 100 N at the greatest velocity', 'displacement [mm]');
 end
 
 % Some cycles of a harmonic motion, the samples of the last one, and the time step.

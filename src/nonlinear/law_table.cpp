@@ -26,6 +26,7 @@ constexpr LawRow laws[] = {
     row("DahlC", FuDahlC, checkDahlC, true),
     row("Clima2", Clima2, checkClima2, true),
     row("sts", STS, checkSts),
+    row("Damper", FuDamper, checkDamper),
 };
 
 static_assert(codeOf("Power") == 491328597840 && codeOf("Clima2") == 55394028842051 && codeOf("sts") == 7566451);

@@ -23,9 +23,17 @@ void FuPower(chandleNl_inout* h, ROr ro);  ///< snl = opt[1] * pow(unl, opt[2])
 void FuExpon(chandleNl_inout* h, ROr ro);  ///< snl = opt[1] * pow(opt[2], unl)
 void FuTable(chandleNl_inout* h, ROr ro);  ///< snl interpolated in the table at opt[iopt[5]]
 
+/// snl = opt[1] * |vnl|^opt[2] with the sign of vnl, 0 at rest: a dashpot that is linear (opt[2] = 1), quadratic (2: drag, an orifice) or
+/// between them.
+void FuDamper(chandleNl_inout* h, ROr ro);
+
 void checkPower(const chandleNl_inout& h, const ROr& ro);
 void checkExpon(const chandleNl_inout& h, const ROr& ro);
 void checkTable(const chandleNl_inout& h, const ROr& ro);
+void checkDamper(const chandleNl_inout& h, const ROr& ro);
+
+/// Refuses a law that works on the velocities of a page without a place for them, or with one array for both observations.
+void requireRates(const chandleNl_inout& h, const char* law);
 
 /// Where iopt[5..8] place a table and its search record in opt; refuses one that does not lie there or does not ascend.
 struct TablePlace {

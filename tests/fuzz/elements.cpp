@@ -7,7 +7,7 @@ namespace fuzz {
 
 namespace {
 
-constexpr const char* lawWords[] = {"Power", "Maxw", "Table", "Expon", "DahlC", "Clima2", "sts"};
+constexpr const char* lawWords[] = {"Power", "Maxw", "Table", "Expon", "DahlC", "Clima2", "sts", "Damper"};
 
 double lawCode(const char* word) {
   double code = 0.0;

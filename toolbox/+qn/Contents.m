@@ -29,6 +29,7 @@
 %   bilinear       - elastic spring whose stiffness changes at a displacement
 %   cubic          - cubic spring, force = K * x^3
 %   slider         - Coulomb slider: sticks like a stiff spring, slides at its slip force
+%   damper         - damper whose force is a power of the velocity: linear, quadratic, or between them
 %   iwan           - bank of Coulomb sliders in parallel (parallel-series model of Iwan, 1966)
 %   zener          - Zener element (standard linear solid): a spring beside one Maxwell branch
 %   maxwell        - generalised Maxwell damper: spring-and-damper branches in parallel, and a spring beside them

@@ -1,8 +1,8 @@
 % QN.DISSIPATED  energy that each nonlinear element has taken up, stored, dissipated and exchanged
 %
 % Purpose
-%   Shows which element damps. What an element without memory "dissipates" is the error of the time step: its force is evaluated at
-%   the predictor. It should be small beside the rest.
+%   Shows which element damps. What an element of the displacement alone "dissipates" is the error of the time step: its force is
+%   evaluated at the predictor. It should be small beside the rest.
 %
 % Calls
 %   D = qn.dissipated (RES)

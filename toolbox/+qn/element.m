@@ -8,7 +8,7 @@
 %
 % Input
 %   LAW   from qn.law or a recipe (one law, not a bank)
-%   C     p x n observation rows, n the length of the displacement vector. 'power', 'exponential' and 'table' take any number of
+%   C     p x n observation rows, n the length of the displacement vector. 'power', 'exponential', 'table' and 'damper' take any number of
 %         rows, each with a force of its own; 'clima2' takes three; the others one.
 %   Names and values
 %     'command'  rows through which the forces act, size of C (C)
@@ -18,8 +18,8 @@
 %     'slot'     place of the first force in the model's "FNL", from 1; 0: none (0)
 %
 % Output
-%   E     struct for quarn ('chandleset', 1003, E). Laws without memory get no place for velocities ("vnl" is empty), which are not observed
-%         then. Rows that fill at least half of their places, and have 8 values or more, are stored with their zeros: the module is quicker so.
+%   E     struct for quarn ('chandleset', 1003, E). Laws of displacements alone get no place for velocities ("vnl" is empty), which are
+%         not observed then. Rows that fill at least half of their places, and have 8 values or more, are stored with their zeros: the module is quicker so.
 %
 % Errors
 %   qn:input  rows, step, state or slot do not fit the law, or are not finite
@@ -64,8 +64,8 @@ function e = element (law, c, varargin)
   place = [o.slot - 1; 0; 0; 0; 0];
   if t.states > 0, place(2:5) = [o.state - 1; t.rows; t.states; 1]; end
   if t.inner > 0, place(3:5) = [t.width; t.inner; 1]; end
-  rates = zeros (0, 1);  % laws without memory look at no velocity: without a place for it none is observed
-  if t.memory, rates = zeros (t.width, 1, t.pages); end
+  rates = zeros (0, 1);  % most laws without memory look at no velocity: without a place for it none is observed
+  if t.memory || t.rates, rates = zeros (t.width, 1, t.pages); end
   e = struct ('type', 1003, 'c', qn.impl.pack_rows (c), 'b', qn.impl.pack_rows (b), 'opt', opt, 'iopt', int32 ([place; own]), ...
               'unl', zeros (t.width, 1, t.pages), 'vnl', rates, 'snl', zeros (t.width, 1));
 end

@@ -18,7 +18,7 @@
 %           kinetic, strain   of the modes; strain is that of the symmetric part of the stiffness
 %           stored            in elements, since the start
 %           damped            by modal damping (the symmetric part of a full matrix)
-%           dissipated        by elements with memory
+%           dissipated        by elements with memory and by those that depend on the velocity
 %           exchanged         taken by elements that act elsewhere than they look ("B" beside "C"); negative: put in
 %           circulatory       taken by the skew part of a full stiffness (bearings with cross terms); negative: put in, as in oil whirl
 %           gyroscopic        taken by the skew part of a full damping matrix: nothing to rounding with average acceleration
@@ -55,7 +55,7 @@ function e = energies (res)
     e.stored = e.stored + d(k).stored;
     e.exchanged = e.exchanged + d(k).exchanged;
     t = qn.impl.traits (members(1).law, 1);
-    if t.memory, e.dissipated = e.dissipated + d(k).dissipated; end
+    if t.memory || t.rates, e.dissipated = e.dissipated + d(k).dissipated; end
   end
   now = e.kinetic + e.strain + e.stored + e.damped + e.dissipated + e.exchanged + e.circulatory + e.gyroscopic;
   e.residual = now - now(1) - e.work;

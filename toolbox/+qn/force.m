@@ -5,12 +5,13 @@
 %
 % Calls
 %   F = qn.force (LAW, X)
+%   F = qn.force (LAW, X, V)
 %   F = qn.force (LAW, X, V, H)
 %
 % Input
 %   LAW   from qn.law or a recipe; the forces of a bank add up
 %   X     row of displacements [m]; for 'clima2' three rows
-%   V     velocities, size of X [m/s]; laws with memory need them, and
+%   V     velocities, size of X [m/s]; laws that depend on them and laws with memory need them, and the latter also
 %   H     the time step between two columns [s]
 %
 % Output
@@ -32,14 +33,20 @@ function f = force (law, x, v, h)
   if nargin < 2, error ('qn:input', '%s: a law and displacements expected; see help %s', who, who); end
   law = qn.impl.sound_law (who, law);
   x = qn.impl.numbers (who, 'X', x, [NaN NaN]);
-  memory = false;
+  [memory, rates] = deal (false);
   for k = 1:numel (law)
     t = qn.impl.traits (law(k), 1);
     memory = memory || t.memory;
+    rates = rates || t.rates;
   end
   if ~memory
+    if nargin < 3 && rates
+      error ('qn:input', 'qn.force: the law "%s" depends on the velocity: give it behind the displacements', law(end).kind);
+    end
+    if nargin < 3, v = zeros (size (x)); end
+    v = qn.impl.numbers (who, 'V', v, size (x), 'each', 'as the displacements');
     f = 0;
-    for k = 1:numel (law), f = f + at_once (law(k), x); end
+    for k = 1:numel (law), f = f + at_once (law(k), x, v); end
     return
   end
   if nargin < 4, error ('qn:input', 'qn.force: the law "%s" has a memory: velocities and a time step are needed', law(end).kind); end
@@ -50,13 +57,13 @@ function f = force (law, x, v, h)
   f = step_by_step (law, rows, x, v, h);
 end
 
-function f = at_once (law, x)
+function f = at_once (law, x, v)
   n = numel (x);
   e = qn.element (law, eye (n));
   h = chandle (quarn ('chandleset', 1003, e));
   free = onCleanup (@() delete (h));
   f = zeros (n, 1);
-  quarn ('residual', f, h, qn.impl.fresh (x(:)), zeros (n, 1), zeros (n, 1));
+  quarn ('residual', f, h, qn.impl.fresh (x(:)), qn.impl.fresh (v(:)), zeros (n, 1));
   f = reshape (f, size (x));
 end
 

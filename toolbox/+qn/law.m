@@ -23,6 +23,7 @@
 %   'clima2'       displacement [m], normal [N],             two Dahl branches whose slip force is friction * normal(x3) and whose
 %                  growth [N/m], friction, exponent* (1),    stiffness is growth(x3), tables of a third displacement x3, and the
 %                  stiffness* [N/m] (0), offset* [N] (0)     force normal(x3) - offset along it. Observes three displacements.
+%   'damper'       damping [N (s/m)^a], exponent* a (1)      force = damping * |v|^a with the sign of the velocity v
 %
 % Output
 %   LAW   struct: kind, parameters (struct of the values), note (text)

@@ -23,6 +23,16 @@ TEST_P(Elements, PowerAndExponentialLawsAddTheirForce) {
   keptValues = 2;
 }
 
+TEST_P(Elements, DampersPushAlongTheVelocity) {
+  const double damper = set(1003, element("Damper", 3, {2, 2}, {{"unl", zeros(1)}, {"vnl", zeros(1)}, {"snl", zeros(1)}}));
+  mxArray* r = zeros(3);
+  run("residual", {r, handles({damper}), column({9, 9, 9}), column({-1.5, 9, 9}), zeros(0)}, 0);
+  EXPECT_EQ(values(r), (Values{-2 * 1.5 * 1.5, 0, 0}));
+  run("residual", {r, handles({damper}), column({9, 9, 9}), column({0, 9, 9}), zeros(0)}, 0);
+  EXPECT_EQ(values(r), (Values{-4.5, 0, 0}));
+  keptValues = 1;
+}
+
 TEST_P(Elements, TableLawInterpolatesAndKeepsItsRecord) {
   // opt: code, record (3), abscissae 0 1 2, forces 0 10 40
   const double table = set(1003, element("Table", 1, {0, 0, 0, 0, 1, 2, 0, 10, 40},

@@ -43,9 +43,11 @@ function rows = number_arguments ()
     'qn.displacement', {'RES', 'C'}, {res, row}, {}
     'qn.displacement', {'RES', 'C', 'DOFS'}, {res, [1; 3]}, {'C', 'longer|transposed', any_length}
     'qn.dissipated', {'RES'}, {res}, {}
+    'qn.damper', {}, {'damping', 2, 'exponent', 3}, {}
     'qn.element', {'LAW', 'C'}, {qn.slider('slip', 2, 'stiffness', 3), [1 0], 'command', [2 0], 'step', 0.1, 'state', 3, 'slot', 1}, {}
     'qn.energies', {'RES'}, {res}, {}
     'qn.force', {'LAW', 'X', 'V', 'H'}, {qn.slider('slip', 2, 'stiffness', 3), [1 2 3], [1 1 2], 0.1}, {}
+    'qn.force', {'LAW', 'X', 'V'}, {qn.damper('damping', 3), [1 2 3], [4 5 6]}, {'X', 'longer|transposed', 'the velocities are said to differ'}
     'qn.force', {'LAW', 'X'}, {qn.cubic('stiffness', 3), [1 2 3]}, {'X', 'longer|transposed', 'one force a displacement, of any shape'}
     'qn.gap', {}, {'gap', 0.1, 'stiffness', 10, 'side', 1, 'padding', 0.01, 'soft', 2}, {'soft', 'empty', optional}
     'qn.grid', {'NAME', 'VALUES'}, {'gap', [1 2 3]}, {'VALUES', '.*', anything}

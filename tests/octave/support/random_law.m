@@ -73,6 +73,12 @@ function x = random_knots (n)
   x = sort (round (4 * randn (n, 1)) / 2);
 end
 
+function law = random_damper (law, n)
+  law.rates = true;
+  exponents = [0 1 2 -1 3*rand];
+  law.parameters = [randn; exponents(randi (5))];
+end
+
 % The time increment of a law, sometimes left to the first step time.
 function h = increment (most)
   h = most * rand * (rand < 0.7);

@@ -1,9 +1,10 @@
-% FOUND = CHECK_LAW (SIM, K, X, MOTION, STATE)  element K against the step, the displacements X and the memory STATE of a result ([]: not
-% known), and the motion that can be
+% FOUND = CHECK_LAW (SIM, K, X, MOTION, STATE, F)  element K against the step, the displacements X, the memory STATE and the forces F of a
+% result ([]: not known), and the motion that can be
 %
 % An element's force is evaluated at the predictor. A spring kn there is stable while h sqrt (2 gamma kn mu) < 2 with the mobility mu
-% (qn.impl.mobility; docs/theory.md derives it). MOTION bounds each modal coordinate of the linear model (qn.impl.motion_bound).
-function found = check_law (sim, k, x, motion, state)
+% (qn.impl.mobility; docs/theory.md derives it), a damper cn while h cn mu < 2, both together while the sum of gamma kn mu h^2 / 2 and
+% cn mu h / 2 is below 1. MOTION bounds each modal coordinate of the linear model (qn.impl.motion_bound).
+function found = check_law (sim, k, x, motion, state, f)
   found = qn.impl.finding ();
   e = sim.elements(k);
   h = sim.step;
@@ -31,6 +32,17 @@ function found = check_law (sim, k, x, motion, state)
   elseif ratio > 0.3
     say ('element_coarse', 'warning', ['only %.0f steps pass in half a period of %g N/m on %g kg; contacts will gain or lose energy; ' ...
                                        'take %.2g s or less'], floor (pi / ratio), stiff, 1 / mobility, h * 0.3 / ratio);
+  end
+  viscous = qn.impl.viscous (e.law, x, f);
+  share = h * viscous * mobility / 2;
+  if ratio < 2 && (ratio / 2) ^ 2 + share >= 1
+    say ('damper_unstable', 'error', ['its damping is too strong for the step of %g s: with %g N s/m on %g kg the motion grows ' ...
+                                      'without bound; take at most %.2g s'], h, viscous, 1 / mobility, ...
+                                     h * min (0.1 / share, 0.3 / max (ratio, 0.3)));
+  elseif ratio < 2 && share > 0.1
+    say ('damper_coarse', 'warning', ['it slows %g kg down within %.1f steps, with %g N s/m: its damping may come out %.0f %% too ' ...
+                                      'strong; take %.2g s or less, or give linear damping to the model'], 1 / mobility, ...
+                                     0.5 / share, viscous, 100 * share, h * 0.05 / share);
   end
   l = qn.impl.law_of (e.law.kind);
   if ~isempty (l.check)

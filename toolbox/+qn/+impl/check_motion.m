@@ -7,8 +7,9 @@ function found = check_motion (res, before)
   none = inf (numel (res.sim.model.w), 1);
   for k = 1:numel (res.sim.elements)
     e = res.sim.elements(k);
-    x = qn.impl.met (e.law, e.observe * res.q(:, good), res.force(e.forces, good));
-    one = qn.impl.check_law (res.sim, k, x, none, qn.impl.memory_of (res.sim, k, res.state(:, good)));
+    f = res.force(e.forces, good);
+    x = qn.impl.met (e.law, e.observe * res.q(:, good), f);
+    one = qn.impl.check_law (res.sim, k, x, none, qn.impl.memory_of (res.sim, k, res.state(:, good)), f);
     for j = 1:numel (one)
       if ~any (strcmp (one(j).code, said)), found(end + 1) = one(j); end
     end

@@ -7,13 +7,14 @@ function found = findings (sim, res)
   for k = 1:numel (sim.elements)
     x = [];
     if ~isempty (res), x = sim.elements(k).observe * res.q; end
-    [seen, state] = deal (x, []);
+    [seen, state, f] = deal (x, [], []);
     if ~isempty (res)
-      seen = qn.impl.met (sim.elements(k).law, x, res.force(sim.elements(k).forces, :));
+      f = res.force(sim.elements(k).forces, :);
+      seen = qn.impl.met (sim.elements(k).law, x, f);
       state = qn.impl.memory_of (sim, k, res.state);
     end
-    lists{end + 1} = qn.impl.check_law (sim, k, seen, motion, state);
-    if ~isempty (res), lists{end + 1} = qn.impl.check_acts (sim, k, x, res.force(sim.elements(k).forces, :)); end
+    lists{end + 1} = qn.impl.check_law (sim, k, seen, motion, state, f);
+    if ~isempty (res), lists{end + 1} = qn.impl.check_acts (sim, k, x, f); end
   end
   lists{end + 1} = qn.impl.check_together (sim);
   lists{end + 1} = qn.impl.check_flexibility (sim);

@@ -52,11 +52,15 @@ function a = judge_steps (sim, x, runs, tolerance, longer)
 end
 
 % Error with h of the first and of the second order, from differences d1 = |a h/2 + 3/4 b h^2|, d2 = |a h/4 + 3/16 b h^2|. Where laws
-% with memory make an error of first order it is one of damping, beside one of phase: their squares add. Else what is missing to
+% with memory or of the velocity make an error of first order it is one of damping, beside one of phase: their squares add. Else what is missing to
 % the second order is mostly higher ones, and the sum is near enough.
 function [first, second] = parts_of (d, sim)
-  memory = arrayfun (@(e) getfield (qn.impl.traits (e.law, size (e.observe, 1)), 'memory'), sim.elements);
-  if any (memory)
+  first_order = false;
+  for e = sim.elements
+    t = qn.impl.traits (e.law, size (e.observe, 1));
+    first_order = first_order || t.memory || t.rates;
+  end
+  if first_order
     first = sqrt (max (0, 4 / 3 * (16 * d(2) ^ 2 - d(1) ^ 2)));
     second = 4 / 3 * sqrt (max (0, d(1) ^ 2 - first ^ 2 / 4));
   else

@@ -8,6 +8,8 @@
 %   unpack      P = unpack (OPT, IOPT): the parameters again; [] where qn.law cannot give such an element
 %   words       TEXT = words (P): the law with its numbers, one line
 %   stiffest    K = stiffest (P, X): greatest stiffness, among the displacements X where they are known ([]: not) [N/m]
+%   viscous     C = viscous (P, X, F): greatest slope of its force over the velocity, among the displacements X and forces F of a result
+%               where they are known ([]: not); its stability is that of a damper with this constant [N s/m]
 %   traits      T = traits (P): what it needs otherwise than a law without memory, fields of qn.impl.traits
 %   stored      V = stored (P, X, F, STATE, H): energy in it along a history, up to a constant (qn.impl.stored) [J]
 %   reserve     V = reserve (P, X, STATE): energy that it can give back from the displacements X and its memory STATE, at most; Inf
@@ -16,13 +18,23 @@
 %               are displacements and memory in a result, [] before the run (qn.check; docs/checks.md)
 %   at_rest     LAW = at_rest (P): the law without memory that it becomes when nothing moves
 %
-% The last five may be []: no needs of its own, nothing stored, no bound, nothing to check, no force at rest without its past. The list is
-% made once a session: "clear all" after a change to a law.
+% Those from "viscous" on may be [], or be left out: no force of the velocity, no needs of its own, nothing stored, no bound, nothing to
+% check, no force at rest without its past. The list is made once a session: "clear all" after a change to a law.
 function list = law_list ()
   persistent made
   if isempty (made)
-    made = [qn.impl.laws.power_law(), qn.impl.laws.exponential_law(), qn.impl.laws.table_law(), qn.impl.laws.maxwell_law(), ...
-            qn.impl.laws.dahl_law(), qn.impl.laws.stickslip_law(), qn.impl.laws.clima2_law()];
+    each = {qn.impl.laws.power_law(), qn.impl.laws.exponential_law(), qn.impl.laws.table_law(), qn.impl.laws.maxwell_law(), ...
+            qn.impl.laws.dahl_law(), qn.impl.laws.stickslip_law(), qn.impl.laws.clima2_law(), qn.impl.laws.damper_law()};
+    each = cellfun (@whole, each, 'UniformOutput', false);
+    made = [each{:}];
   end
   list = made;
+end
+
+% All fields, in one order.
+function l = whole (given)
+  names = {'kind', 'keyword', 'parameters', 'pack', 'unpack', 'words', 'stiffest', 'viscous', 'traits', 'stored', 'reserve', 'check', ...
+           'at_rest'};
+  l = cell2struct (cell (numel (names), 1), names.', 1);
+  for name = fieldnames (given).', l.(name{1}) = given.(name{1}); end
 end

@@ -16,8 +16,9 @@ function b = periodic (who, model, load, elements, harmonics, n)
   index = zeros (1, numel (e));
   for k = 1:numel (e)
     t = qn.impl.traits (e(k).law, 1);
-    if t.memory || size (e(k).observe, 1) > 1
-      error ('qn:input', '%s: element %d must have a law without memory and one observation row', who, e(k).item);
+    if t.memory || t.rates || size (e(k).observe, 1) > 1
+      error ('qn:input', '%s: element %d must have a law of the displacement alone, without memory, and one observation row', who, ...
+             e(k).item);
     end
   end
   for k = 1:numel (e), index(k) = quarn ('chandleset', 1003, qn.element (e(k).law, eye (n))); end

@@ -1,7 +1,7 @@
 % CHECKS = SELFTEST_LAWS ()  the checks of qn.selftest that compare runs and force laws with their formulas
 function checks = selftest_laws ()
   checks = {'linear run', @linear_run; 'law Power', @power; 'law Expon', @expon; 'law Table', @table; 'law Maxw', @maxw; ...
-            'law DahlC', @dahl; 'law sts', @stick_slip; 'law Clima2', @clima};
+            'law DahlC', @dahl; 'law sts', @stick_slip; 'law Clima2', @clima; 'law Damper', @damper};
 end
 
 % A free oscillation: average acceleration turns every step by the angle 2 atan (w h / 2) and keeps the amplitude.
@@ -79,11 +79,21 @@ function [good, text] = clima ()
   [good, text] = judged (f(1:3), [f1; f2; 20 - 3 * x(3) - 0.25]);
 end
 
+function [good, text] = damper ()
+  speed = [-2; -0.5; 0; 1; 3];
+  [good, text] = judged (evaluated (with_rates (element (5, 'Damper', [7; 2])), zeros (5, 1), speed, 1), 7 * speed .* abs (speed));
+end
+
 % An element that observes N values as they are.
 function e = element (n, law, parameters)
   lines = struct ('ir', int32 ((0:n - 1).'), 'jc', int32 ((0:n).'), 'pr', ones (n, 1), 'dims', [n n], 'trans', 1);
   e = struct ('type', 1003, 'c', lines, 'opt', [sum(double (law) .* 256 .^ (0:numel (law) - 1)); parameters], 'unl', zeros (n, 1), ...
               'snl', zeros (n, 1));
+end
+
+% It observes the velocities as well.
+function e = with_rates (e)
+  e.vnl = zeros (size (e.unl));
 end
 
 % Its state, row ROW, is written back to u, where the next step observes it.

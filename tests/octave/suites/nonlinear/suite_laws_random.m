@@ -17,6 +17,8 @@ function test_exponential_in_residual (), residual_like_model ('Expon', 11); end
 function test_exponential_in_the_integrator (), newmark_like_model ('Expon', 12); end
 function test_table_in_residual (), residual_like_model ('Table', 13); end
 function test_table_in_the_integrator (), newmark_like_model ('Table', 14); end
+function test_damper_in_residual (), residual_like_model ('Damper', 15); end
+function test_damper_in_the_integrator (), newmark_like_model ('Damper', 16); end
 
 % 150 set-ups, three evaluations of each.
 function residual_like_model (word, seed)

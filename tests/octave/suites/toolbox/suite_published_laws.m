@@ -18,6 +18,36 @@ function test_elastic_impact_after_hertz ()
                     [max(res.q), hit.peak, hit.duration], [1e-8 1e-3 3e-6]);
 end
 
+% m x'' + c x' + k x = 0, its damper an element, and x'' + e x'|x'| + w^2 x = 0, whose first integral gives one turning point from another:
+% (1 + 2 e a1) exp (-2 e a1) = (1 - 2 e a2) exp (2 e a2). A mass alone coasts as log (1 + e v0 t)/e.
+function test_free_decay_with_linear_and_quadratic_damping ()
+  c = published ('Free decay with linear and with quadratic damping', ...
+                 ['closed form: exponential decay; turning points by the first integral of x'''' + e x''|x''| + w^2 x = 0 (the equation: ' ...
+                  'A. H. Nayfeh and D. T. Mook, Nonlinear Oscillations, 1979)'], {'Damper', 'initial state'});
+  w = 10;
+  z = 0.05;
+  model = qn.modal (w ^ 2, 1);
+  row = qn.observe (model, 1);
+  linear = {qn.damper('damping', 2 * z * w), row};
+  r = qn.run (qn.simulation (model, 'step', 1e-5, 'until', 1, 'u0', 1, 'elements', linear), 'progress', false);
+  wd = w * sqrt (1 - z ^ 2);
+  exact = exp (-z * w) * (cos (wd) + z * w / wd * sin (wd));
+  expect_published (c, {'linear: displacement after 1 s [m]'}, exact, r.q(end), 1e-5);
+  e = 0.3;
+  a = 1;
+  for k = 1:4
+    a(k + 1) = fzero (@(y) (1 + 2 * e * a(k)) * exp (-2 * e * a(k)) - (1 - 2 * e * y) * exp (2 * e * y), [1e-9, a(k)]);
+  end
+  quadratic = {qn.damper('damping', e, 'exponent', 2), row};
+  r = qn.run (qn.simulation (model, 'step', 1e-5, 'until', 1.4, 'u0', 1, 'elements', quadratic), 'progress', false);
+  at = find (diff (sign (diff (r.q))) ~= 0) + 1;
+  names = arrayfun (@(k) sprintf ('quadratic: turning point %d [m]', k), 1:4, 'uniformoutput', false);
+  expect_published (c, names, a(2:5) .* [-1 1 -1 1], r.q(at(1:4)), 2e-5);
+  free = qn.modal (0, 1);
+  r = qn.run (qn.simulation (free, 'step', 1e-4, 'until', 2, 'v0', 3, 'elements', {quadratic{1}, qn.observe(free, 1)}), 'progress', false);
+  expect_published (c, {'quadratic: way of a free mass in 2 s [m]'}, log (1 + 3 * e * 2) / e, r.q(end), 2e-4);
+end
+
 % x'' + exp (x) = 1 keeps x'^2/2 + exp (x) - x.
 function test_a_toda_spring_turns_where_its_energy_says ()
   c = published ('Oscillator with an exponential spring', ...

@@ -115,6 +115,11 @@ function c = cases ()
                                       {with(qn.law ('stickslip', 'contact', 1, 'slip', 200))}
        'stickslip_slips', 'warning', {with(sticks (20)), true}, {with(qn.slider ('stiffness', 1e4, 'slip', 20)), true}
        'stickslip_slips', 'note', {with(sticks (200))}, {with(sticks (200)), true}
+       'damper_unstable', 'error', {with(qn.damper ('damping', 2.1e4))}, {with(qn.damper ('damping', 1.9e4))}
+       'damper_unstable', 'error', {with(qn.damper ('damping', 2.1e4, 'exponent', 2), 'v0', 1), true}, ...
+                                   {with(qn.damper ('damping', 0.9e4, 'exponent', 2), 'v0', 1), true}
+       'damper_coarse', 'warning', {with(qn.damper ('damping', 2.1e3))}, {with(qn.damper ('damping', 1.9e3))}
+       'damper_feeds', 'warning', {with(qn.law ('damper', 'damping', -1))}, {with(qn.law ('damper', 'damping', 1))}
        'clima2_stiffness', 'warning', {on_pad(pad (1, 10))}, {on_pad(pad (1, 0))}
        'clima2_normal', 'warning', {on_pad(pad (-1, 0))}, {on_pad(pad (1, 0))}
        'clima2_normal', 'warning', {on_pad(pad (-1, 0)), true}, {on_pad(pad (-1e-3, 0)), true}};
@@ -241,7 +246,7 @@ function test_a_contact_that_only_the_prediction_meets_is_named ()
   res.force(700) = 2e4;
   x = qn.impl.met (sim.elements.law, x, res.force);
   expect_equal (max (x), 1e-3 + 2e-8, 1e-12);
-  found = qn.impl.check_law (sim, 1, x, 1, []);
+  found = qn.impl.check_law (sim, 1, x, 1, [], []);
   expect_equal (found(1).code, 'element_unstable');
 end
 

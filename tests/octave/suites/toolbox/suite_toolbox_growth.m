@@ -112,3 +112,22 @@ function test_nothing_is_said_where_forces_may_feed_the_motion ()
   sim = qn.simulation (whirling, 'step', 1e-3, 'steps', 1, 'v0', [3; 4]);
   expect_equal (qn.impl.energy_limit (sim, sim.start), 5, 1e-12);
 end
+
+% docs/theory.md: kn h^2 gamma/2 + cn h/2 = 1 + (gamma - 1/2) h c + (beta - gamma/2) h^2 k, for a damper and a spring at one place.
+function test_a_damper_as_an_element_grows_from_its_limit_on ()
+  was = warning ('off', 'qn:growth');
+  back = onCleanup (@() warning (was));
+  h = 1e-2;
+  for c = {{[0.25 0.5], 0, 100}, {[0.25 0.5], 5e3, 400}, {[0.3025 0.6], 5e3, 400}}
+    [scheme, spring, k] = deal (c{1}{:});
+    model = qn.modal (k, 1, 'damping', 0.05);
+    own = 2 * 0.05 * sqrt (k);
+    limit = 2 / h * (1 + (scheme(2) - 0.5) * h * own + (scheme(1) - scheme(2) / 2) * h ^ 2 * k - spring * h ^ 2 * scheme(2) / 2);
+    for share = [0.97 1.03]
+      elements = {qn.damper('damping', share * limit), 1; qn.law('power', 'stiffness', spring, 'exponent', 1), 1};
+      sim = qn.simulation (model, 'step', h, 'steps', 10000, 'u0', 1, 'scheme', scheme, 'elements', elements);
+      res = qn.run (sim, 'progress', false, 'check', false, 'stop', @(r) max (abs (r.q)) > 1e3);
+      expect_equal (max (abs (res.q)) > 1e3, share > 1);
+    end
+  end
+end

@@ -80,8 +80,8 @@ function test_the_greatest_stiffness_bounds_the_slope_and_the_stored_energy_has_
     if t.memory, continue, end
     h = 1e-5;
     x = 0.2 + 2 * rand (1, 40);
-    f = qn.force (law, x);
-    slope = abs (qn.force (law, x + h) - qn.force (law, x - h)) / (2 * h);
+    f = qn.force (law, x, 0 * x);
+    slope = abs (qn.force (law, x + h, 0 * x) - qn.force (law, x - h, 0 * x)) / (2 * h);
     bound = qn.impl.stiffest (law, [x - h, x + h]);
     if any (slope > bound * (1 + 1e-6)), error ('%s: slope %g N/m, greatest stiffness %g N/m', l.kind, max (slope), bound); end
     v = cell (1, 2);
@@ -95,6 +95,26 @@ function test_the_greatest_stiffness_bounds_the_slope_and_the_stored_energy_has_
     seen = seen + 1;
   end
   if seen < 3, error ('only %d laws without memory', seen); end
+end
+
+% The same with the velocity.
+function test_the_greatest_damping_bounds_the_slope_over_the_velocity ()
+  seen = 0;
+  for l = qn.impl.law_list ()
+    law = drawn (l);
+    t = qn.impl.traits (law, 1);
+    if ~t.rates || t.rows > 1, continue, end
+    h = 1e-5;
+    x = 2 * rand (1, 40);
+    v = 2 * rand (1, 40) - 1;
+    f = qn.force (law, x, v);
+    slope = abs (qn.force (law, x, v + h) - qn.force (law, x, v - h)) / (2 * h);
+    bound = qn.impl.viscous (law, x, f);
+    if any (slope > bound * (1 + 1e-3)), error ('%s: slope %g N s/m, greatest damping %g N s/m', l.kind, max (slope), bound); end
+    expect_error (@() qn.force (law, x), 'qn:input', '~depends on the velocity');
+    seen = seen + 1;
+  end
+  if seen < 1, error ('no law of the velocity'); end
 end
 
 function test_every_law_runs_in_a_simulation_and_no_bad_number_passes ()

@@ -29,6 +29,8 @@ class chandle {
   /// Adds this handle's contribution to r (in-out, ctx.N values). Trusts what checkSizes has established.
   virtual void Residual(ROr /*ctx*/, double* /*r*/) {}
 
+  /// The times of the steps of a run that begins now, before checkSizes. Only the integrator has them.
+  virtual void takeTimes(const StepTimes& /*times*/) {}
   /// Refuses what Residual and EndStep would read or write outside the arrays of ctx and the rLen values of r.
   /// Called once for a call or a run of the integrator, before the first Residual.
   virtual void checkSizes(const ROr& /*ctx*/, std::size_t /*rLen*/) {}

@@ -20,14 +20,25 @@ inline void forLive(chandle* const* list, int n, const Body& body) {
 /// Errors name the element of the caller's list, counted from 1, until the next one is named; 0: none.
 inline void nameElement(int number) noexcept { host::setPart("element", number); }
 
+/// Calls body(handle) for the live handles, naming each for error texts; the first of them is element `first` of the caller's list.
+template <class Body>
+inline void forNamed(chandle* const* list, int n, int first, const Body& body) {
+  forLive(list, n, [&](chandle& h, int k) {
+    nameElement(first + k);
+    body(h);
+  });
+  nameElement(0);
+}
+
 /// Has the live handles check their sizes against the context and rLen values of residual, naming each; the first of them is element
 /// `first` of the caller's list.
 inline void checkAll(chandle* const* list, int n, int first, const ROr& c, std::size_t rLen) {
-  forLive(list, n, [&](chandle& h, int k) {
-    nameElement(first + k);
-    h.checkSizes(c, rLen);
-  });
-  nameElement(0);
+  forNamed(list, n, first, [&](chandle& h) { h.checkSizes(c, rLen); });
+}
+
+/// Gives them the times of a run's steps, in the same way.
+inline void giveTimes(chandle* const* list, int n, int first, const StepTimes& times) {
+  forNamed(list, n, first, [&](chandle& h) { h.takeTimes(times); });
 }
 
 /// Has them take their work memory; r: the residual that they will add to.

@@ -28,6 +28,13 @@ struct ROr {
   std::int32_t begunAtZero = 0;  ///< leading values of the residual that are sums begun at 0: none is a negative zero
 };
 
+/// The times at which the steps of a run end: count values, stride apart. Borrowed.
+struct StepTimes {
+  const double* first;
+  std::ptrdiff_t stride;
+  int count;
+};
+
 /// Builds the context of a call from its arguments: prhs[1] residual vector or handle list (only tested for complex values),
 /// prhs[2] model (field "FNL"), prhs[3..5] u, v, a, prhs[6] optional Rayleigh pair [alpha beta], or a struct with it in its field
 /// "Rayleigh". Missing coefficients are 0. t is 0.

@@ -11,6 +11,7 @@
 
 #include "base/chandle.h"
 #include "host/arrays.h"
+#include "integration/knots.h"
 #include "integration/newmark_fused.h"
 
 namespace quarn {
@@ -21,11 +22,12 @@ namespace quarn {
 ///   "tft"  (Nb+1) x NT: times in row 0, loads below. The step to column j+1 uses the loads of column j.
 ///   "data" 6 values: dt, (1/2-beta) dt^2, (1-gamma) dt, gamma/(beta dt), 1/(beta dt^2), and the current time (written at each step)
 ///   "iopt" optional int32: the first is the offset in the model's "FNL" at which the step's loads are stored
-///   "gain" optional N x N, full: takes the place of the gain column; see full_gain.h
+///   "gain" optional N x N, full: takes the place of the gain column; see full_gain.h. With "gaint" N x N x P
+///   "gaint" optional, P ascending times: page k of "gain" is the gain of a step that ends at time k, between two it is linear
 class chandleDiagNewmark final : public chandle {
  public:
-  /// Reads the value, and refuses a "gain" of another class or size. Raises KORV:quarn:Invalid "Full r expected", "Inconsistent Nb & NT",
-  /// "Inconsistent data length", KORV:quarn:conform "iopt must be int32".
+  /// Reads the value, and refuses a "gain" or "gaint" of another class, size or order. Raises KORV:quarn:Invalid "Full r expected",
+  /// "Inconsistent Nb & NT", "Inconsistent data length", KORV:quarn:conform "iopt must be int32".
   void initCpt() override;
 
   /// Binds the arrays of one run. mem: struct with "uva" = struct with "uva" (work array, 4*N values or more, layout: copies of u, v, a
@@ -53,6 +55,8 @@ class chandleDiagNewmark final : public chandle {
   void findClosing(chandle** list, int nh);
   bool apart(const ROr& c) const;
   void checkGain(const ROr& c) const;
+  void checkGainTimes(const StepTimes& times) const;
+  void correct(double t, const ROr& c);
   void finishPass(const ROr& c);
   bool saveDue(double t) const { return jSave < NSave && t >= saveTimes.data[jSave]; }
   double time(int column) const { return tft[static_cast<std::ptrdiff_t>(Nb + 1) * column]; }
@@ -71,7 +75,9 @@ class chandleDiagNewmark final : public chandle {
   const int* iopt = nullptr;
   host::Doubles r;
   const double* gain = nullptr;      ///< one value a mode
-  const double* gainFull = nullptr;  ///< N x N; null: the modes are corrected by themselves
+  const double* gainFull = nullptr;  ///< pages of N x N; null: the modes are corrected by themselves
+  Knots gainTimes;                   ///< of the pages; none where there is one page for all steps
+  double* between = nullptr;         ///< 2*N values for a gain between pages, in host memory of the current call
   const double* tft = nullptr;
   double* data = nullptr;
   host::Doubles uva;

@@ -1,4 +1,6 @@
 // All steps of a run, in as few passes over the modes as the arguments allow.
+#include <algorithm>
+
 #include "base/handle_walk.h"
 #include "host/arrays.h"
 #include "host/errors.h"
@@ -59,8 +61,9 @@ void chandleDiagNewmark::checkGain(const ROr& c) const {
                             {"out.FNL.def", {storeDef.data, storeDef.count}},
                             {"data", {data, 6}}};
   const auto n = static_cast<std::size_t>(N);
+  const auto pages = static_cast<std::size_t>(std::max(1, gainTimes.count()));
   for (const Written& a : arrays) {
-    if (overlap(a.range.data, a.range.count, gainFull, n * n)) {
+    if (overlap(a.range.data, a.range.count, gainFull, n * n * pages)) {
       host::refuse("the integrator's gain must have memory of its own, got that of %s, which a step writes", a.name);
     }
   }
@@ -68,6 +71,16 @@ void chandleDiagNewmark::checkGain(const ROr& c) const {
     if (overlap(arrays[k].range.data, arrays[k].range.count, uva.data, uva.count)) {
       host::refuse("mem.uva.uva must have memory of its own beside a gain that is a matrix, got that of %s", arrays[k].name);
     }
+  }
+}
+
+/// Refuses steps at whose ends the pages of the gain say nothing.
+void chandleDiagNewmark::checkGainTimes(const StepTimes& times) const {
+  for (int j = 0; gainTimes.count() > 0 && j < times.count; ++j) {
+    const double t = times.first[times.stride * j];
+    if (gainTimes.covers(t)) continue;
+    host::refuse("the integrator's gain must be given for every step: the times of gaint go from %g to %g, a step ends at %g",
+                 gainTimes.first(), gainTimes.last(), t);
   }
 }
 
@@ -108,6 +121,7 @@ void chandleDiagNewmark::findClosing(chandle** list, int nh) {
 
 void chandleDiagNewmark::plan(const ROr& c, chandle** list, int nh) {
   findClosing(list, nh);
+  if (gainTimes.count() > 0) between = static_cast<double*>(mxCalloc(2 * static_cast<std::size_t>(N), sizeof(double)));
   diagonals = {};
   folded = 0;
   if (c.N >= N) foldDiagonals(c, list, nh);

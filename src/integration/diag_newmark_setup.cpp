@@ -24,12 +24,33 @@ SparseView fullField(const mxArray* value, const char* field, const char* name) 
   return v;
 }
 
-/// Data of the field "gain", n x n; null where it is absent or has no elements. Refuses what the kernel could not take.
-const double* fullGain(const mxArray* value, int n) {
+/// Times of the field "gaint"; none where it is absent or has no elements.
+Knots timesOfGain(const mxArray* value) {
+  const host::Doubles times = host::realDoubles(host::field(value, "gaint"), "the integrator's gaint");
+  if (times.count > 0x7fffffff) host::refuse("the integrator's gaint may have up to %d times, got %zu", 0x7fffffff, times.count);
+  const Knots knots(times.data, 1, static_cast<int>(times.count));
+  const int wrong = knots.firstWrong();
+  if (wrong < knots.count()) {
+    host::refuse("the integrator's gaint must be finite and ascend (two equal times are a jump), got %g in place %d", times.data[wrong],
+                 wrong + 1);
+  }
+  return knots;
+}
+
+/// Data of the field "gain", n x n, with times so many pages; null where it is absent or has no elements. Refuses what the kernel could not
+/// take.
+const double* fullGain(const mxArray* value, int n, int times) {
   const mxArray* field = host::field(value, "gain");
-  if (host::count(field) == 0) return nullptr;
+  if (host::count(field) == 0) {
+    if (times > 0) host::refuse("the integrator's gaint has %d times for the pages of a gain, and there is no gain", times);
+    return nullptr;
+  }
   const host::Doubles gain = host::realDoubles(field, "the integrator's gain");
-  if (host::rows(field) != n || host::cols(field) != n) {
+  if (times > 0 && (host::rows(field) != n || host::cols(field) != static_cast<long long>(n) * times)) {
+    host::refuse("the integrator's gain must be %d x %d x %d, a page for each time of gaint, got %s", n, n, times,
+                 host::describe(field).text);
+  }
+  if (times == 0 && (host::rows(field) != n || host::cols(field) != n)) {
     host::refuse("the integrator's gain must be %d x %d, a row and a column for each row of r, got %s", n, n, host::describe(field).text);
   }
   for (std::size_t k = 0; k < gain.count; ++k) {
@@ -70,7 +91,8 @@ void chandleDiagNewmark::initCpt() {
 
   if (Nb < 0) host::refuse("r must have 2 columns or more (one not read, loads, gain), got %d", load.cols);
   gain = r.data ? r.data + static_cast<std::ptrdiff_t>(N) * (Nb > 0 ? 2 : 1) : nullptr;
-  gainFull = fullGain(val, N);
+  gainTimes = timesOfGain(val);
+  gainFull = fullGain(val, N, gainTimes.count());
 }
 
 void chandleDiagNewmark::bindWork(const mxArray* mem) {
@@ -126,6 +148,9 @@ void chandleDiagNewmark::checkRun(const ROr& c, chandle** list, int nh) {
   fmod = uva.data ? uva.data + 3 * static_cast<std::ptrdiff_t>(Ndef) : nullptr;
   NFNL = static_cast<std::int32_t>(std::min(static_cast<std::size_t>(NFNL), store.count));
   coefficients = {data[0], data[1], data[2], data[3], data[4]};
+  const StepTimes times{tft + Nb + 1, Nb + 1, steps()};
+  checkGainTimes(times);
+  giveTimes(list, nh, 2, times);
   checkAll(list, nh, 2, c, forceLen);  // the integrator is the first
   checkGain(c);
   takeAllWork(list, nh, {fmod, forceLen});

@@ -49,13 +49,24 @@ void chandleDiagNewmark::doStep(chandle** list, int nh, int j, ROr c) {
     h.Residual(c, fmod);
   });
   if (gainFull) {
-    newmarkCorrectFull(c.u, c.v, c.a, fmod, gainFull, N, coefficients);
+    correct(t, c);
   } else {
     newmarkCorrect(c.u, c.v, c.a, fmod, gain, N, coefficients);
   }
   for (int k = 0; k < closingCount; ++k) closing[k]->EndStep();
   save(t, c);
   saveStore(t);
+}
+
+/// With a gain that is a matrix, or one between two of its pages.
+void chandleDiagNewmark::correct(double t, const ROr& c) {
+  const KnotPlace place = gainTimes.count() > 0 ? gainTimes.find(t) : KnotPlace{0, 0.0};
+  const double* page = gainFull + static_cast<std::ptrdiff_t>(place.at) * N * N;
+  if (place.weight == 0.0) {
+    newmarkCorrectFull(c.u, c.v, c.a, fmod, page, N, coefficients);
+  } else {
+    newmarkCorrectBetween(c.u, c.v, c.a, fmod, page, place.weight, between, N, coefficients);
+  }
 }
 
 void chandleDiagNewmark::save(double t, const ROr& c) {

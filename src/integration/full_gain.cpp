@@ -42,23 +42,34 @@ constexpr int kColumns = 8;
   }
 }
 
-}  // namespace
-
 QUARN_PROCESSOR_VERSIONS
-void newmarkCorrectFull(double* __restrict u, double* __restrict v, double* __restrict a, const double* __restrict f,
-                        const double* __restrict gain, int n, const NewmarkCoefficients& k) {
+void correct(double* __restrict u, double* __restrict v, double* __restrict a, const double* __restrict f, int columns,
+             const double* __restrict gain, int n, const NewmarkCoefficients& k) {
   const double vFromD = k.vFromD;
   const double aFromD = k.aFromD;
   double d[kRows];
   for (int first = 0; first < n; first += kRows) {
     const int rows = std::min(kRows, n - first);
-    sums(d, gain + first, n, f, n, rows);
+    sums(d, gain + first, n, f, columns, rows);
     for (int i = 0; i < rows; ++i) {
       u[first + i] -= d[i];
       v[first + i] -= vFromD * d[i];
       a[first + i] -= d[i] * aFromD;
     }
   }
+}
+
+}  // namespace
+
+void newmarkCorrectFull(double* u, double* v, double* a, const double* f, const double* gain, int n, const NewmarkCoefficients& k) {
+  correct(u, v, a, f, n, gain, n, k);
+}
+
+void newmarkCorrectBetween(double* u, double* v, double* a, const double* f, const double* pages, double weight, double* work, int n,
+                           const NewmarkCoefficients& k) {
+  for (int i = 0; i < n; ++i) work[i] = (1.0 - weight) * f[i];
+  for (int i = 0; i < n; ++i) work[n + i] = weight * f[i];
+  correct(u, v, a, work, 2 * n, pages, n, k);
 }
 
 }  // namespace quarn

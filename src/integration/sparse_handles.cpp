@@ -40,7 +40,10 @@ void chandleSparse::markDiagonal() {
   if (m.jc && m.cols >= 0 && m.jc[m.cols] == m.cols) m.ir[0] = -1;
 }
 
-void chandleSparse::checkSizes(const ROr& ctx, std::size_t rLen) { checkTerms(ctx, rLen); }
+void chandleSparse::checkSizes(const ROr& ctx, std::size_t rLen) {
+  factor.checkTaken(name());
+  checkTerms(ctx, rLen);
+}
 
 void chandleSparse::checkTerm(std::int32_t N, std::size_t vectorLen, std::size_t rLen, const char* vectorName) {
   checkLength(rLen, N, "the residual (in an integration, the part of uva behind the copies of u, v and a)", "one for each row of u");
@@ -65,7 +68,7 @@ void chandleSparse::takeWork(host::Doubles r) {
   if (!m.ir || !m.pr || diagonal() || n <= 0 || n > kLines) return;
   int length = 0;
   if (!isBlock({n, m.ir, m.jc, m.pr}, &blockFirst, &length) || m.jc[n] - m.jc[0] != n * length) return;
-  if (overlap(r.data, r.count, factor.data, factor.count) || overlap(r.data, r.count, m.pr, m.prLen)) return;
+  if (overlap(r.data, r.count, operand.data, operand.count) || overlap(r.data, r.count, m.pr, m.prLen)) return;
   blockLength = length;
 }
 
@@ -83,20 +86,39 @@ void chandleSparse::addProduct(const double* x, std::int32_t N, double* r) const
   }
 }
 
+void chandleSparse::addTimes(double f, const double* x, std::int32_t N, double* r) const {
+  if (blockLength == 0) {
+    addScaledLines(m, x, f, N, r);
+    return;
+  }
+  const double* rows = m.pr + m.jc[0];
+  double sums[kSumsAtOnce];
+  for (int first = 0; first < N; first += kSumsAtOnce) {
+    const int n = std::min(kSumsAtOnce, N - first);
+    denseSums(n, blockLength, rows + static_cast<std::ptrdiff_t>(first) * blockLength, x + blockFirst, sums);
+    for (int i = 0; i < n; ++i) r[first + i] += sums[i] * f;
+  }
+}
+
 void chandleSparseStiffness::initCpt() {
   readView();
+  factor.read(val, name());
   markDiagonal();
 }
 
 void chandleSparseStiffness::checkTerms(const ROr& ctx, std::size_t rLen) {
   if (!m.ir || !m.pr) return;
   checkTerm(ctx.N, ctx.uLen, rLen, "u");
-  factor = {ctx.u, ctx.uLen};
+  operand = {ctx.u, ctx.uLen};
   if (diagonal() || ctx.beta != 0.0) checkTerm(ctx.N, ctx.vLen, rLen, "v");
 }
 
 void chandleSparseStiffness::Residual(ROr c, double* r) {
   if (!m.ir || !m.pr) return;
+  if (factor) {
+    addChanging(c, factor.value(c.t), r);
+    return;
+  }
   if (diagonal()) {
     for (int i = 0; i < c.N; ++i) r[i] += m.pr[i] * (c.u[i] + c.beta * c.v[i]);
     return;
@@ -105,8 +127,20 @@ void chandleSparseStiffness::Residual(ROr c, double* r) {
   if (c.beta != 0.0) addScaledLines(m, c.v, c.beta, c.N, r);
 }
 
+void chandleSparseStiffness::addChanging(const ROr& c, double f, double* r) const {
+  if (diagonal()) {
+    for (int i = 0; i < c.N; ++i) r[i] += f * (m.pr[i] * (c.u[i] + c.beta * c.v[i]));
+    return;
+  }
+  addTimes(f, c.u, c.N, r);
+  if (c.beta != 0.0) addTimes(f * c.beta, c.v, c.N, r);
+}
+
 void chandleSparseMass::initCpt() {
   readView();
+  if (host::count(host::field(val, "factor")) > 0) {
+    host::refuse("a mass matrix has no \"factor\" of time: the inertia is in the integrator's gain; stiffness and damping may have one");
+  }
   if (!m.pr) host::fail(fixed::noRealPart);
   if (!m.ir) host::fail(fixed::notAMass);
   markDiagonal();
@@ -117,7 +151,7 @@ void chandleSparseMass::checkTerms(const ROr& ctx, std::size_t rLen) {
   if (!m.ir && m.pr) host::fail(fixed::sparseOnly);
   if (!m.ir) return;
   checkTerm(ctx.N, ctx.aLen, rLen, "a");
-  factor = {ctx.a, ctx.aLen};
+  operand = {ctx.a, ctx.aLen};
   if (diagonal() || ctx.alpha != 0.0) checkTerm(ctx.N, ctx.vLen, rLen, "v");
 }
 
@@ -133,6 +167,7 @@ void chandleSparseMass::Residual(ROr c, double* r) {
 
 void chandleSparseDamping::initCpt() {
   readView();
+  factor.read(val, name());
   if (m.jc && m.cols >= 0) {
     checkLength(m.jcLen, static_cast<long long>(m.cols) + 1, "\"jc\"", "one more than the matrix has columns");
     if (m.jc[m.cols] == 0) {
@@ -148,16 +183,28 @@ void chandleSparseDamping::initCpt() {
 void chandleSparseDamping::checkTerms(const ROr& ctx, std::size_t rLen) {
   if (!m.ir || !m.pr) return;
   checkTerm(ctx.N, ctx.vLen, rLen, "v");
-  factor = {ctx.v, ctx.vLen};
+  operand = {ctx.v, ctx.vLen};
 }
 
 void chandleSparseDamping::Residual(ROr c, double* r) {
   if (!m.ir || !m.pr) return;
+  if (factor) {
+    addChanging(c, factor.value(c.t), r);
+    return;
+  }
   if (diagonal()) {
     for (int i = 0; i < c.N; ++i) r[i] += m.pr[i] * c.v[i];
     return;
   }
   addProduct(c.v, c.N, r);
+}
+
+void chandleSparseDamping::addChanging(const ROr& c, double f, double* r) const {
+  if (diagonal()) {
+    for (int i = 0; i < c.N; ++i) r[i] += f * (m.pr[i] * c.v[i]);
+    return;
+  }
+  addTimes(f, c.v, c.N, r);
 }
 
 }  // namespace quarn

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/chandle.h"
+#include "integration/time_factor.h"
 #include "sparse/sparse_view.h"
 
 namespace quarn {
@@ -10,12 +11,16 @@ namespace quarn {
 ///
 /// A matrix with as many stored entries as columns is taken as diagonal, wherever the entries lie: initCpt writes -1 into the first
 /// place of its index array, in the value itself, and from then on "pr" is the diagonal.
+///
+/// An optional field "factor" of stiffness and damping makes their forces, the Rayleigh term included, change with time in a run of the
+/// integrator: see time_factor.h. Each sum of a line, or product with a diagonal value, is formed first and then multiplied.
 class chandleSparse : public chandle {
  public:
   void checkSizes(const ROr& ctx, std::size_t rLen) override;
   bool endsSteps() const override { return false; }
+  void takeTimes(const StepTimes& times) override { factor.take(times, name()); }
   void takeWork(host::Doubles r) override;
-  const double* diagonalValues() const override { return diagonal() ? m.pr : nullptr; }
+  const double* diagonalValues() const override { return diagonal() && !factor ? m.pr : nullptr; }
 
  protected:
   void readView();
@@ -27,9 +32,12 @@ class chandleSparse : public chandle {
   virtual const char* name() const = 0;
   /// r += the first N lines times x.
   void addProduct(const double* x, std::int32_t N, double* r) const;
+  /// r += f * (the first N lines times x), one thread.
+  void addTimes(double f, const double* x, std::int32_t N, double* r) const;
 
   SparseView m;
-  host::Doubles factor;  ///< what the matrix multiplies, as it was when the sizes were looked at
+  TimeFactor factor;
+  host::Doubles operand;  ///< what the matrix multiplies, as it was when the sizes were looked at
 
  private:
   int largest = -1;
@@ -46,6 +54,7 @@ class chandleSparseStiffness final : public chandleSparse {
 
  private:
   void checkTerms(const ROr& ctx, std::size_t rLen) override;
+  void addChanging(const ROr& c, double f, double* r) const;
   const char* name() const override { return "the stiffness matrix"; }
 };
 
@@ -69,6 +78,7 @@ class chandleSparseDamping final : public chandleSparse {
 
  private:
   void checkTerms(const ROr& ctx, std::size_t rLen) override;
+  void addChanging(const ROr& c, double f, double* r) const;
   const char* name() const override { return "the damping matrix"; }
 };
 

@@ -5,12 +5,24 @@
 
 namespace fuzz {
 
+namespace {
+
+/// Random values with ascending times, half a second apart, in the first of each `rows`; they cover some seconds.
+mxArray* timed(Maker& make, std::size_t rows, std::size_t columns) {
+  mxArray* a = make.doubles(rows, columns);
+  double* table = make.in.rarely(8) ? nullptr : ordinary(a);
+  for (std::size_t j = 0; table && j < columns && j * rows < mxGetNumberOfElements(a); ++j) table[j * rows] = 0.5 * static_cast<double>(j);
+  return a;
+}
+
+}  // namespace
+
 mxArray* handleValue(Maker& make, int type, std::size_t n) {
   if (type == 1003) return elementValue(make, n);
   if (type == 2000) return integratorValue(make, n, 1 + make.in.below(4));
   mxArray* m = make.matrix(n, n);
   if (!m || !mxIsStruct(m)) return m;
-  Fields fields{{"type", make.number(type)}};
+  Fields fields{{"type", make.number(type)}, {"factor", make.in.rarely(3) ? timed(make, 2, 2 + make.in.below(8)) : nullptr}};
   for (const char* name : {"pr", "ir", "jc", "dims", "trans"}) {
     const mxArray* value = mxGetNumberOfElements(m) > 0 ? mxGetField(m, 0, name) : nullptr;
     if (value) fields.emplace_back(name, standin::share(value));
@@ -26,12 +38,15 @@ mxArray* integratorValue(Maker& make, std::size_t n, std::size_t steps) {
   for (std::size_t j = 0; table && j <= steps && j * (loads + 1) < mxGetNumberOfElements(tft); ++j) {
     table[j * (loads + 1)] = 0.5 * static_cast<double>(j);
   }
+  const std::size_t pages = in.rarely(3) ? 1 + in.below(8) : 0;
+  const std::size_t gains = pages > 0 ? pages : 1;
   return make.structure({{"type", make.number(2000)},
                          {"r", make.doubles(n, loads + 2)},
                          {"tft", tft},
                          {"data", make.doubles(6)},
                          {"iopt", in.rarely(3) ? make.int32s({in.index(4)}) : nullptr},
-                         {"gain", in.rarely(3) ? make.doubles(n, n) : nullptr}});
+                         {"gain", in.rarely(3) ? make.doubles(n, n, gains) : nullptr},
+                         {"gaint", pages > 0 ? timed(make, 1, pages) : nullptr}});
 }
 
 mxArray* matrixCell(Maker& make, std::size_t n) {

@@ -10,6 +10,12 @@ function integrator_cases (id)
     run (id, 'one integrator, matrix gain', n, c, k, {typed(1, diag (k)), typed(3, diag (c))}, 20, gain);
     coupled = diag (k) + 0.1 * randn (n);
     run (id, 'sum integrator', n, c, k, {typed(1, coupled), typed(3, diag (c) + 0.01 * randn (n))}, 20);
+    changing = {typed(1, diag (k)), typed(3, diag (c))};
+    for j = 1:2, changing{j}.factor = [0 0.1 0.1 0.2; randn(1, 4)]; end
+    run (id, 'one integrator, factors and a gain with pages', n, c, k, changing, 20, 0.001 * randn (n, n, 3), [0 0.07 0.2]);
+    full = typed (3, coupled);
+    full.factor = changing{1}.factor;
+    run (id, 'sum integrator, factor', n, c, k, [changing, {full}], 20);
   end
   tables = source_tables ();
   for w = tables.laws
@@ -22,10 +28,11 @@ function integrator_cases (id)
   end
 end
 
-function run (id, name, n, c, k, list, steps, gain)
+function run (id, name, n, c, k, list, steps, gain, gaint)
   h = 0.01;
   [integrator, mem, out] = newmark_setup (1 + rand (n, 1), c, k, randn (n, 1), randn (1, steps), h, 0.25, 0.5, 2:3:steps);
   if nargin > 7, integrator.gain = gain; end
+  if nargin > 8, integrator.gaint = gaint; end
   mem.uva.FNL = zeros (n, 1);
   model = struct ('FNL', zeros (n, 1));
   recorded_call (id, name, 0, 'chandlediagnewmark', fresh ([{integrator}, list]), fresh (model), 0.1 * randn (n, 1), randn (n, 1), ...

@@ -39,6 +39,38 @@ TEST(FullGain, CorrectionHasTheBitsOfSumsInColumnOrderAtEverySize) {
   }
 }
 
+TEST(FullGain, BetweenTwoPagesItIsOneSumOverBoth) {
+  for (const int n : {1, 3, 8, 33, 257}) {
+    const auto pages = randomVector(2 * n * n, 5);
+    const auto f = randomVector(n, 4);
+    auto u = randomVector(n, 1);
+    auto v = randomVector(n, 2);
+    auto a = randomVector(n, 3);
+    auto wantedU = u;
+    auto wantedV = v;
+    auto wantedA = a;
+    const double weight = 0.3;
+    for (std::size_t i = 0; i < u.size(); ++i) {
+      volatile double d = 0.0;
+      for (std::size_t j = 0; j < 2 * u.size(); ++j) {
+        volatile double part = j < u.size() ? (1.0 - weight) * f[j] : weight * f[j - u.size()];
+        volatile double term = pages[i + j * u.size()] * part;
+        d = d + term;
+      }
+      wantedU[i] -= d;
+      volatile double dv = k.vFromD * d;
+      wantedV[i] -= dv;
+      volatile double da = d * k.aFromD;
+      wantedA[i] -= da;
+    }
+    std::vector<double> work(2 * u.size());
+    newmarkCorrectBetween(u.data(), v.data(), a.data(), f.data(), pages.data(), weight, work.data(), n, k);
+    EXPECT_EQ(u, wantedU) << n;
+    EXPECT_EQ(v, wantedV) << n;
+    EXPECT_EQ(a, wantedA) << n;
+  }
+}
+
 TEST(FullGain, ADiagonalOneGivesTheBitsOfTheColumn) {
   const int n = 37;
   const auto f = randomVector(n, 4);

@@ -128,6 +128,14 @@ TEST_P(AllocationFailure, OfTheIntegrator) {
         return n.arguments(cell(1, 2, {coupled, listMatrix(1, {1, 4})}));
       },
       0);
+  failEach(
+      "chandlediagnewmark",
+      [] {
+        const NewmarkRun n = newmarkRun(2, 5);
+        mxArray* paged = withField(withField(n.integrator, "gain", pages(2, 2, 2, numbers(8, 0.1, 0.01))), "gaint", matrix(1, 2, {0, 1}));
+        return n.arguments(cell(1, 2, {paged, withField(listMatrix(1, {1, 4}), "factor", matrix(2, 2, {0, 1, 1, 2}))}));
+      },
+      0);
   const NewmarkRun n = newmarkRun(2, 5);
   const double integrator = set(2000, n.integrator);
   const double matrix = set(1, listMatrix(1, {1, 4}));

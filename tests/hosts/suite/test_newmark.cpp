@@ -144,6 +144,43 @@ TEST_P(Newmark, RefusesAMatrixGainThatDoesNotFit) {
   EXPECT_EQ(values(n.u), (Values{0, 0}));
 }
 
+TEST_P(Newmark, AFactorOfTimeMultipliesAMatrixAndPagesFollowIt) {
+  NewmarkRun n = newmarkRun(1, 1, 0.5);
+  mxGetPr(n.u)[0] = 1.0;
+  mxArray* paged = withField(withField(n.integrator, "gain", pages(1, 1, 2, {0.1, 0.3})), "gaint", matrix(1, 2, {0, 1}));
+  mxArray* changing = withField(listMatrix(1, {4}), "factor", matrix(2, 2, {0, 1, 1, 2}));
+  run("chandlediagnewmark", n.arguments(cell(1, 2, {paged, changing})), 0);
+  EXPECT_NEAR(values(n.u)[0], 1.0 - 0.2 * (1.5 * 4), 1e-15);  // halfway between the knots; the first load is zero
+}
+
+TEST_P(Newmark, RefusesAFactorThatDoesNotFit) {
+  NewmarkRun n = newmarkRun(2, 3);
+  const auto refused = [&](const char* text, int type, mxArray* factor) {
+    mxArray* m = withField(listMatrix(type, {1, 4}), "factor", factor);
+    expectRefusal(text, "chandlediagnewmark", n.arguments(cell(1, 2, {standin::share(n.integrator), m})));
+    EXPECT_EQ(values(field(n.integrator, "data"))[5], 0.0);
+  };
+  refused("element 2 : the factor of the stiffness matrix must be 2 x n", 1, zeros(3));
+  refused("element 2 : the factor of the damping matrix must be a full real double array, got int32 2x1", 3, int32s({0, 1}));
+  refused("a mass matrix has no \"factor\" of time", 2, matrix(2, 2, {0, 1, 1, 1}));
+  refused("must be finite and ascend (two equal ones are a jump), got 0 in column 2", 1, matrix(2, 2, {1, 1, 0, 1}));
+  refused("must be given for every step", 3, matrix(2, 2, {0, 1, 0.1, 1}));
+  const double k = set(1, withField(listMatrix(1, {1, 4}), "factor", matrix(2, 2, {0, 1, 1, 1})));
+  expectRefusal("which only a run of the integrator has", "residual", {zeros(2), handles({k}), zeros(2), zeros(2), zeros(2)});
+}
+
+TEST_P(Newmark, RefusesPagesOfAGainThatDoNotFit) {
+  NewmarkRun n = newmarkRun(1, 3);
+  const auto refused = [&](const char* text, mxArray* gain, mxArray* times) {
+    mxArray* integrator = withField(withField(n.integrator, "gain", gain), "gaint", times);
+    expectRefusal(text, "chandlediagnewmark", n.arguments(cell(1, 1, {integrator})));
+  };
+  refused("gain must be 1 x 1 x 3, a page for each time of gaint", pages(1, 1, 2, {1, 1}), column({0, 1, 2}));
+  refused("and there is no gain", zeros(0), column({0, 1, 2}));
+  refused("gaint must be finite and ascend", pages(1, 1, 2, {1, 1}), column({0, -1}));
+  refused("gain must be given for every step", pages(1, 1, 2, {1, 1}), column({0, 0.1}));
+}
+
 TEST_P(Newmark, RefusesAMatrixGainInMemoryThatAStepWrites) {
   NewmarkRun n = newmarkRun(1, 3);
   const auto refused = [&](const char* text, mxArray* gain) {

@@ -64,6 +64,7 @@ function [s, ctx, run] = one_step (s, ctx, run, j)
   % The handles see the work array from 3*Ndef on: one value per row of u.
   fmod = uva(3 * run.Ndef + 1:end);
   fmod(n) = 0;
+  ctx.t = t;
   for k = 1:run.Nb, fmod(n) = fmod(n) + integrator.r(:, k + 1) * f(k); end
   for k = 2:numel (s.list)
     if s.list{k}.type == 1003
@@ -74,7 +75,7 @@ function [s, ctx, run] = one_step (s, ctx, run, j)
   end
   uva(3 * run.Ndef + 1:end) = fmod;
   s.mem.uva.uva = reshape (uva, size (s.mem.uva.uva));
-  step = correction (integrator, fmod(n), run.gain);
+  step = correction (integrator, fmod(n), run.gain, t);
   ctx.u(n) = ctx.u(n) - step;
   ctx.v(n) = ctx.v(n) - d(4) * step;
   ctx.a(n) = ctx.a(n) - step * d(5);
@@ -84,14 +85,23 @@ function [s, ctx, run] = one_step (s, ctx, run, j)
   [s, run] = save_outputs (s, ctx, run, t);
 end
 
-% A matrix gain adds its columns times the residuals in ascending order.
-function step = correction (integrator, f, gain)
+% A matrix gain adds its columns times the residuals in ascending order; between two pages, those of both.
+function step = correction (integrator, f, gain, t)
   if ~isfield (integrator, 'gain') || isempty (integrator.gain)
     step = f .* gain;
     return
   end
   step = zeros (numel (f), 1);
-  for j = 1:numel (f), step = step + integrator.gain(:, j) * f(j); end
+  page = integrator.gain;
+  if isfield (integrator, 'gaint') && ~isempty (integrator.gaint)
+    [at, w] = place_of_time (integrator.gaint(:).', t);
+    page = integrator.gain(:, :, at);
+    if w > 0
+      page = [page, integrator.gain(:, :, at + 1)];
+      f = [(1 - w) * f; w * f];
+    end
+  end
+  for j = 1:numel (f), step = step + page(:, j) * f(j); end
 end
 
 function [s, run] = save_outputs (s, ctx, run, t)

@@ -32,13 +32,14 @@
 % Working with models instead of index vectors: package qn (help qn.Contents has one line on each)
 %   matrices       qn.pack, qn.unpack, qn.mmread, qn.mmwrite, qn.project
 %   models         qn.modal, qn.rayleigh, qn.observe, qn.load_at, qn.base
+%   rotors         qn.rotor, qn.campbell, qn.unbalance, qn.gravity
 %   force laws     qn.law, qn.describe, qn.element, qn.force
 %   recipes        qn.gap, qn.stop, qn.bilinear, qn.cubic, qn.damper, qn.slider, qn.iwan, qn.zener, qn.maxwell, qn.bearing
 %   simulation     qn.scheme, qn.simulation, qn.check, qn.advise, qn.run, qn.resume, qn.interrupted
 %   sweeps         qn.sweep, qn.grid
 %   results        qn.displacement, qn.velocity, qn.acceleration, qn.energies, qn.dissipated, qn.contacts, qn.spectrum, qn.srs
 %   pictures       qn.plot.page, qn.plot.panel, qn.plot.picture, qn.plot.series, qn.plot.phase, qn.plot.loop, qn.plot.orbit,
-%                  qn.plot.waterfall
+%                  qn.plot.waterfall, qn.plot.campbell
 %   without time   qn.static, qn.harmonic, qn.backbone
 %   setting up     install_quarn, qn.selftest, qn.version
 %   older names    qn.command (now qn.load_at)

@@ -17,6 +17,12 @@
 %   load_at        - load columns: from forces on the structure to modal forces
 %   base           - modal force of a base acceleration
 %
+% Rotors
+%   rotor          - a rotor: shaft, disks, bearings, seals and stator as plain matrices
+%   campbell       - whirl speeds, damping and critical speeds of a rotor over its speed of rotation
+%   unbalance      - loads of unbalances, at a constant speed or along a run-up
+%   gravity        - load of the own weight
+%
 % Force laws
 %   law            - force law of a nonlinear element, by named parameters
 %   describe       - a law, a handle or its value in words, with its numbers
@@ -67,6 +73,7 @@
 %   plot.loop      - force of an element against its displacement
 %   plot.orbit     - orbit of a point: one displacement against another
 %   plot.waterfall - spectra one behind another
+%   plot.campbell  - Campbell diagram: whirl speeds over the speed of rotation
 %
 % Without time
 %   static         - static equilibrium with nonlinear elements

@@ -12,7 +12,8 @@
 %   K, M   stiffness [N/m] and mass [kg], n x n, symmetric, K without negative eigenvalues, M positive definite; or with rows of
 %          zeros for degrees of freedom without mass. Those follow the others statically, which is exact where no load and no
 %          element acts on them: what acts there directly also bends them, and that no mode holds.
-%   S      structure with the fields K, M and, if there is one, C: a physical model
+%   S      structure with the fields K, M and, where there are such, C, G, speed: a physical model. Of a rotor of qn.rotor the modes are
+%          those of M and the symmetric part Ks; the rest of K goes the way of 'K'.
 %   Names and values
 %     'modes'     how many modes to keep (all, at most 200)
 %     'damping'   modal damping ratios, one for all or one a mode, 1 being critical (0)
@@ -67,8 +68,7 @@ function model = modal (varargin)
   if nargin > 0 && isstruct (varargin{1})
     s = varargin{1};
     if ~isfield (s, 'K') || ~isfield (s, 'M'), error ('qn:input', '%s: the model needs the fields K and M', who); end
-    args = [{s.K, s.M}, varargin(2:end)];
-    if isfield (s, 'C') && ~isempty (s.C), args = [args, {'C', s.C}]; end
+    args = structure (who, s, varargin(2:end));
   else
     args = varargin;
   end
@@ -106,6 +106,24 @@ function model = modal (varargin)
   stiffness = qn.impl.with_matrix (w .^ 2, who, phi, 'K', o.K);
   model = struct ('shapes', phi, 'w', w, 'hertz', w / (2 * pi), 'stiffness', stiffness, 'damping', damping, 'M', m, ...
                   'K', k, 'attached', attached);
+end
+
+% Arguments from the fields of a structure. Without a speed of its own the structure takes 'speed' from the arguments ARGS.
+function args = structure (who, s, args)
+  if isempty (s.K) && isfield (s, 'Ks')
+    error ('qn:input', '%s: the bearings of this rotor depend on the speed; give it with qn.rotor (R, ''speed'', W)', who);
+  end
+  own = isfield (s, 'Ks');
+  further = {};
+  k = s.K;
+  if own
+    k = s.Ks;
+    if ~isequal (s.K, s.Ks), further = {'K', s.K - s.Ks}; end
+  end
+  args = [{k, s.M}, args, further];
+  for name = {'C', 'G', 'speed'}
+    if isfield (s, name{1}) && ~isempty (s.(name{1})), args = [args, name, {s.(name{1})}]; end
+  end
 end
 
 % speed * G

@@ -32,6 +32,9 @@ function rows = number_arguments ()
     'qn.bearing', {}, {'stiffness', 1e9, 'exponent', 1.5, 'clearance', 1e-5, 'range', 1e-3, 'knots', 5}, {}
     'qn.bearing', {}, {'deflection', [1 2 4], 'force', [1 2 3]}, {'deflection', 'empty', '"stiffness" is then said to be missing'}
     'qn.bilinear', {}, {'first', 1, 'second', 2, 'at', 0.1}, {}
+    'qn.campbell', {'R', 'SPEEDS'}, {struct('M', eye(2), 'K', [4 1; 0 9], 'C', [1 0.5; 0 2], 'G', [0 1; -1 0]), [1 3], 'modes', 2, ...
+                                     'orders', [1 2], 'places', [1 2], 'basis', 2}, ...
+      {'places|basis', 'empty', optional; 'C|G', 'empty', 'none'; 'orders|places', 'longer', any_length}
     'qn.check', {'SIM', 'RES'}, {sim, res}, {}
     'qn.load_at', {'MODEL', 'DOFS', 'WEIGHTS'}, {model, [1 3], [1 -1]}, {}
     'qn.load_at', {'MODEL', 'ROWS'}, {model, [1 0 2; 0.5 0 1]}, {'ROWS', 'logical|empty|char|cell', 'the message is that for DOFS'}
@@ -50,6 +53,7 @@ function rows = number_arguments ()
     'qn.force', {'LAW', 'X', 'V'}, {qn.damper('damping', 3), [1 2 3], [4 5 6]}, {'X', 'longer|transposed', 'the velocities are said to differ'}
     'qn.force', {'LAW', 'X'}, {qn.cubic('stiffness', 3), [1 2 3]}, {'X', 'longer|transposed', 'one force a displacement, of any shape'}
     'qn.gap', {}, {'gap', 0.1, 'stiffness', 10, 'side', 1, 'padding', 0.01, 'soft', 2}, {'soft', 'empty', optional}
+    'qn.gravity', {'MODEL', 'PUSH'}, {model, [0; 1; -1], 'g', 1.6, 'ramp', 0.1}, {}
     'qn.grid', {'NAME', 'VALUES'}, {'gap', [1 2 3]}, {'VALUES', '.*', anything}
     'qn.harmonic', {'MODEL', 'LOAD', 'ELEMENTS', 'HERTZ'}, ...
       {model, [1 2 0.5], spring, [2 3], 'harmonics', 1, 'samples', 16, 'points', 3, 'step', 0.02}, {}
@@ -68,6 +72,8 @@ function rows = number_arguments ()
     'qn.observe', {'MODEL', 'ROWS'}, {model, sparse([1 0 2])}, ...
       {'ROWS', 'empty|logical|char|cell|deep|longer|transposed', 'what is not sparse is read as DOFS, and named so'}
     'qn.pack', {'A'}, {[1 2; 3 4; 5 6]}, {'A', 'longer|transposed|empty|logical', 'any matrix'}
+    'qn.plot.campbell', {'D'}, {qn.campbell(struct ('M', 1, 'K', 4), [1 3]), 'show', 'whirl', 'modes', 1, 'top', 3}, ...
+      {'modes', 'longer', any_length; 'top', 'empty', optional}
     'qn.plot.loop', {'RES', 'K'}, {res, 1}, {}
     'qn.plot.loop', {'X', 'F'}, {t, t}, {}
     'qn.plot.orbit', {'RES', 'CX', 'CY', 'CLEARANCE'}, {res, row, qn.observe(model, 1), 0.1}, {}
@@ -84,6 +90,15 @@ function rows = number_arguments ()
       {'A|B', 'complex', 'bases may be complex'; 'A|B', 'longer', 'of any width'}
     'qn.rayleigh', {'HERTZ', 'ZETA'}, {[1 2], [0.1 0.2]}, {}
     'qn.resume', {'RES', 'FILE'}, {part, 'progress', false, 'piece', 5, 'save', '', 'interval', 30, 'stop', []}, {'piece', 'empty', optional}
+    'qn.rotor', {}, {'nodes', [0 1 3], 'outer', [0.2 0.3], 'inner', [0.1 0.05], 'young', [1e9 2e9], 'density', [2 3], 'poisson', [0.2 0.3], ...
+                     'shear', true, 'disks', [1 1 2 3; 2 1 3 4], 'cylinders', [3 0.1 2 1 7], ...
+                     'bearings', {1, [1 2; 4 3], [2 1; 1 3]; [2 1 2], [5 1; 2 2], [1 0; 0 2]}, 'seals', {3, [1 2; -2 1], [2 1; 1 2], [1 2; 1 4]}, ...
+                     'stator', struct('M', [2 1; 1 3], 'K', [4 1; 1 5], 'C', [1 2; 2 7]), 'speed', 5}, ...
+      {'outer|inner|young|density|poisson', 'named', 'an error of another one'; 'disks|cylinders|nodes|speed|C|seals{1, [234]|bearings{., [23]', 'empty', optional
+       'nodes|outer|inner|young|density|poisson', 'longer', any_length}
+    'qn.rotor', {'R'}, {qn.rotor('nodes', [0 1], 'outer', 0.1, 'bearings', {1, @(w) 1e6 + w}), 'speed', 5}, {}
+    'qn.rotor', {}, {'shaft', struct('M', eye(4), 'K', [4 1 0 0; 1 3 0 0; 0 0 2 1; 0 0 1 2], 'C', eye(4), 'places', [1 3; 2 4])}, ...
+      {'places', 'longer', 'four columns are x, y, thx, thy'; 'C', 'empty', optional}
     'qn.run', {'SIM'}, {sim, 'check', true, 'progress', false, 'piece', 5, 'save', '', 'interval', 30, 'stop', []}, ...
       {'piece', 'empty', optional}
     'qn.scheme', {'[BETA GAMMA]'}, {[0.25 0.5]}, {'.*', 'cell', 'arguments in a cell'}
@@ -105,6 +120,10 @@ function rows = number_arguments ()
     'qn.sweep', {'F', 'CASES'}, {@(p) 1, [1 2], 'folder', '', 'engine', 'serial', 'workers', 1, 'again', false, 'progress', false, ...
                                  'sbatch', '', 'wait', true}, ...
       {'CASES', '.*', anything; 'workers', 'empty', optional}
+    'qn.unbalance', {'MODEL', 'DOFS', 'ME'}, {model, [1 2; 2 3], [1 2], 'phase', [0 1], 'speed', 30, 'angle', 1}, ...
+      {'speed', 'empty', '"profile" is then said to be missing'}
+    'qn.unbalance', {'MODEL', 'DOFS', 'ME'}, {model, [1 2], 1, 'profile', [0 1 3; 1 2 4]}, ...
+      {'profile', 'empty', '"speed" is then said to be missing'; 'profile', 'longer', any_length}
     'qn.unpack', {'S'}, {[1 2; 3 4; 5 6]}, {'S', '.*', 'a matrix stands for itself'}
     'qn.velocity', {'RES', 'C'}, {res, row}, {}
     'qn.version', {}, {}, {}

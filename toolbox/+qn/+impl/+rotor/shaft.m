@@ -1,0 +1,55 @@
+% S = SHAFT (WHO, O)  matrices of a shaft from the options of qn.rotor: K, M, C, G, places, nodes
+%
+% A node has x, y, thx, thy: displacements, and the rotations about x and y (thy = dx/dz, thx = -dy/dz). The spin turns x towards y.
+function s = shaft (who, o)
+  if ~isempty (o.shaft)
+    s = qn.impl.rotor.matrices (who, 'shaft', o.shaft);
+    n = size (s.M, 1);
+    if isfield (o.shaft, 'places')
+      s.places = qn.impl.numbers (who, 'places', o.shaft.places, [NaN NaN], 'from', 1, 'to', n, 'whole', 'each', ...
+                                  'x and y, or x, y, thx, thy, of a node in a row');
+      if all (size (s.places, 2) ~= [2 4]), error ('qn:input', '%s: "places" has 2 or 4 columns, got %d', who, size (s.places, 2)); end
+    elseif mod (n, 4) == 0
+      s.places = reshape (1:n, 4, []).';
+    else
+      error ('qn:input', '%s: a shaft of %d degrees of freedom has no 4 a node; say with "places" which are x and y of each node', who, n);
+    end
+    s.nodes = 1:size (s.places, 1);
+    return
+  end
+  z = qn.impl.numbers (who, 'nodes', o.nodes, [], 'list', 'ascending');
+  count = numel (z) - 1;
+  if count < 1, error ('qn:input', '%s: "nodes" must be the positions of two nodes or more, got 1', who); end
+  outer = each (who, 'outer', o.outer, count, 'above', 0);
+  inner = each (who, 'inner', o.inner, count, 'from', 0);
+  young = each (who, 'young', o.young, count, 'above', 0);
+  density = each (who, 'density', o.density, count, 'above', 0);
+  poisson = each (who, 'poisson', o.poisson, count, 'from', 0, 'to', 0.5);
+  shear = qn.impl.flag (who, 'shear', o.shear);
+  bad = find (inner >= outer, 1);
+  if ~isempty (bad)
+    error ('qn:input', '%s: "inner" of element %d is %g m, its "outer" %g m', who, bad, inner(bad), outer(bad));
+  end
+  n = 4 * (count + 1);
+  s = struct ('M', zeros (n), 'K', zeros (n), 'C', zeros (n), 'G', zeros (n), 'places', reshape (1:n, 4, []).', 'nodes', z(:).');
+  turned = diag ([1 -1 1 -1]);
+  for e = 1:count
+    [k, m, r] = qn.impl.rotor.beam (z(e + 1) - z(e), outer(e), inner(e), young(e), density(e), poisson(e), shear);
+    x = 4 * e - 4 + [1 4 5 8];
+    y = 4 * e - 4 + [2 3 6 7];
+    s.K(x, x) = s.K(x, x) + k;
+    s.K(y, y) = s.K(y, y) + turned * k * turned;
+    s.M(x, x) = s.M(x, x) + m + r;
+    s.M(y, y) = s.M(y, y) + turned * (m + r) * turned;
+    g = 2 * r * turned;
+    s.G(x, y) = s.G(x, y) + g;
+    s.G(y, x) = s.G(y, x) - g.';
+  end
+end
+
+function x = each (who, name, x, count, varargin)
+  n = count;
+  if numel (x) == 1, n = 1; end
+  x = qn.impl.numbers (who, name, x, n, varargin{:}, 'each', 'one for all elements or one an element');
+  x = reshape (x, 1, []) .* ones (1, count);
+end

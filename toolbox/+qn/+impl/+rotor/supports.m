@@ -1,0 +1,75 @@
+% LIST = SUPPORTS (WHO, NAME, ROWS, R)  bearings or seals of qn.rotor as a struct array: rows, K, C, M, name
+%
+% rows is 2 x n or 4 x n: what the support sees of the displacements. K, C and M are matrices over these, or functions of the speed.
+function list = supports (who, name, rows, r)
+  list = struct ('rows', {}, 'K', {}, 'C', {}, 'M', {}, 'name', {});
+  if isempty (rows) && iscell (rows), return, end
+  widths = [2 3];
+  if strcmp (name, 'seals'), widths = [2 3 4]; end
+  if ~iscell (rows) || ~any (size (rows, 2) == widths)
+    error ('qn:input', '%s: "%s" is a cell {node, K, C; ...} with %d or %d columns, got %s of class %s', who, name, widths([1 end]), ...
+           mat2str (size (rows)), class (rows));
+  end
+  n = size (r.M, 1);
+  for k = 1:size (rows, 1)
+    label = @(j) sprintf ('%s{%d, %d}', name, k, j);
+    at = qn.impl.numbers (who, label (1), rows{k, 1}, [], 'list', 'whole', 'from', 1);
+    if ~any (numel (at) == [1 3]) || at(1) > size (r.places, 1)
+      error ('qn:input', ['%s: "%s" must be the number of a node, from 1 to %d, or [node a b] with two degrees of freedom of the ' ...
+                          'stator, got %s'], who, label (1), size (r.places, 1), mat2str (at));
+    end
+    values = cell (1, 3);
+    size_of = 2;
+    for j = 2:size (rows, 2)
+      values{j - 1} = value_of (who, label (j), rows{k, j});
+      if isnumeric (values{j - 1}), size_of = max (size_of, size (values{j - 1}, 1)); end
+      if isa (values{j - 1}, 'function_handle') && numel (at) == 1, size_of = max (size_of, size (r.places, 2)); end
+    end
+    if numel (at) > 1 || size (r.places, 2) < 4, size_of = 2; end
+    s = struct ('rows', zeros (size_of, n), 'K', [], 'C', [], 'M', [], 'name', sprintf ('row %d of "%s"', k, name));
+    s.rows(:, r.places(at(1), 1:size_of)) = eye (size_of);
+    if numel (at) == 3
+      if any (at(2:3) > numel (r.stator))
+        error ('qn:input', '%s: "%s" names degree of freedom %d of a stator that has %d', who, label (1), max (at(2:3)), numel (r.stator));
+      end
+      s.rows(:, r.stator(at(2:3))) = s.rows(:, r.stator(at(2:3))) - eye (2);
+    end
+    names = 'KCM';
+    for j = 1:3, s.(names(j)) = widened (who, label (j + 1), values{j}, size_of); end
+    list(end + 1) = s;
+  end
+end
+
+% A number, two or a matrix as a matrix; functions of the speed give such ones.
+function x = value_of (who, name, x)
+  if isa (x, 'function_handle')
+    f = x;
+    x = @(speed) value_of (who, sprintf ('%s at %g rad/s', name, speed), f (speed));
+    return
+  end
+  if isempty (x) && isnumeric (x), x = 0; end
+  x = qn.impl.numbers (who, name, x, [NaN NaN]);
+  if numel (x) == 1, x = x * eye (2); end
+  if numel (x) == 2, x = diag (x); end
+  if ~isequal (size (x), [2 2]) && ~isequal (size (x), [4 4])
+    error ('qn:input', '%s: "%s" must be one value, two (along x and y), 2 x 2 or 4 x 4, got %d x %d', who, name, size (x));
+  end
+end
+
+function x = widened (who, name, x, n)
+  if isa (x, 'function_handle')
+    f = x;
+    x = @(speed) wide (who, name, f (speed), n);
+  else
+    x = wide (who, name, x, n);
+  end
+end
+
+% A matrix over x and y as one over the N degrees of freedom of a node; [] is none.
+function x = wide (who, name, x, n)
+  if isempty (x), x = zeros (n); end
+  if size (x, 1) > n
+    error ('qn:input', '%s: "%s" has moments, for which a node needs four degrees of freedom of its own', who, name);
+  end
+  if size (x, 1) < n, x = blkdiag (x, zeros (n - size (x, 1))); end
+end

@@ -1,0 +1,120 @@
+% QN.CAMPBELL  whirl speeds, damping and critical speeds of a rotor over its speed of rotation
+%
+% Purpose
+%   The poles of M q'' + (C + W G) q' + K q = 0 at every speed W, followed from speed to speed by their shapes, with the direction of the
+%   whirl; the critical speeds, where a whirl speed meets an order of the speed of rotation; and the speeds where a mode loses its damping.
+%
+% Calls
+%   D = qn.campbell (R, SPEEDS, ...)
+%
+% Input
+%   R        from qn.rotor, with bearings by speed or without, or a structure with the fields M, K and perhaps C and G [per rad/s]
+%   SPEEDS   speeds of rotation, ascending, two or more [rad/s]
+%   Names and values
+%     'modes'   how many modes to give, those that come lowest (8)
+%     'orders'  multiples of the speed for the critical speeds: 1 for unbalance, 2 for a shaft that bends differently in two planes (1)
+%     'places'  rows [x y]: numbers of the degrees of freedom of each node, for the direction of the whirl; those of qn.rotor are known
+%     'basis'   how many modes of the rotor at rest to form the poles with, for large models; all degrees of freedom without it ([])
+%
+% Output
+%   D   struct: speed      1 x k, as given [rad/s]
+%               whirl      p x k whirl speeds, the imaginary parts of the poles [rad/s], NaN where a mode does not oscillate
+%               damping    p x k damping ratios; negative: the motion grows
+%               direction  p x k, 1 for circles forward (in the sense of rotation) through 0 for lines to -1 for circles backward, by the
+%                          areas of the orbits; of two equal whirl speeds one is taken forward, one backward; NaN without places
+%               pole       p x k [1/s]
+%               critical   struct array by speed: speed, order, mode (row), whirl, damping, direction, shape (n x 1)
+%               unstable   the same, without order, where a damping falls below 0 within the speeds
+%   Critical speeds are found between SPEEDS that they lie between; two of one mode between two neighbours are missed.
+%
+% Errors
+%   qn:input  matrices or options do not fit, a value is not finite, speeds do not ascend, M is singular
+%
+% Source
+%   W. Campbell, ASME Transactions 46, 1924; G. Genta, Dynamics of Rotating Systems, 2005
+%
+% Example
+%   r = qn.rotor ('nodes', 0:0.25:1.5, 'outer', 0.05, 'cylinders', [3 0.07 0.28 0.05 7810; 5 0.07 0.35 0.05 7810], ...
+%                 'bearings', {1, 1e6, 100; 7, 1e6, 100});
+%   d = qn.campbell (r, (0:250:4000) * pi / 30);
+%   rpm = [d.critical.speed] * 30 / pi
+%
+% See also qn.rotor, qn.plot.campbell, qn.unbalance
+function d = campbell (r, speeds, varargin)
+  who = 'qn.campbell';
+  if nargin < 2, error ('qn:input', '%s: a rotor and speeds expected; see help %s', who, who); end
+  o = qn.impl.options (who, struct ('modes', 8, 'orders', 1, 'places', [], 'basis', []), varargin);
+  speeds = reshape (qn.impl.numbers (who, 'SPEEDS', speeds, [], 'list', 'ascending'), 1, []);
+  if numel (speeds) < 2, error ('qn:input', '%s: "SPEEDS" must be two speeds or more, got 1', who); end
+  o.modes = qn.impl.count (who, 'modes', o.modes);
+  o.orders = reshape (qn.impl.numbers (who, 'orders', o.orders, [], 'list', 'above', 0), 1, []);
+  middle = speeds(ceil (numel (speeds) / 2));
+  s = qn.impl.rotor.eigenproblem (who, r, o.places, struct ('count', o.basis, 'speed', middle));
+  at = cell (size (speeds));
+  for k = 1:numel (speeds), at{k} = qn.impl.rotor.poles (s, speeds(k)); end
+  number = chains (s, at, o.modes);
+  d = struct ('speed', speeds, 'whirl', [], 'damping', [], 'direction', [], 'pole', []);
+  d.pole = complex (NaN (size (number)), NaN (size (number)));
+  d.direction = NaN (size (number));
+  for k = 1:numel (speeds)
+    there = number(:, k) > 0;
+    d.pole(there, k) = at{k}.pole(number(there, k));
+    d.direction(there, k) = at{k}.whirl(number(there, k));
+  end
+  d.whirl = imag (d.pole);
+  d.damping = -real (d.pole) ./ abs (d.pole);
+  d.critical = struct ('speed', {}, 'order', {}, 'mode', {}, 'whirl', {}, 'damping', {}, 'direction', {}, 'shape', {});
+  for order = o.orders
+    d.critical = [d.critical, found(s, at, number, order, @(pole, speed) imag (pole) - order * abs (speed))];
+  end
+  % What rounding leaves of no damping is no loss of it.
+  lost = found (s, at, number, 0, @(pole, speed) real (pole) + 0 * speed);
+  d.unstable = rmfield (lost, 'order');
+  [unused, by] = sort ([d.critical.speed]);
+  d.critical = d.critical(by);
+end
+
+% One row a mode, one column a speed: the number of the mode among the poles of that speed, 0 where it does not oscillate.
+function number = chains (s, at, count)
+  number = (1:numel (at{1}.pole)).';
+  for k = 2:numel (at)
+    ceiling = 0;
+    for p = at([k - 1, k])
+      w = imag (p{1}.pole);
+      if ~isempty (w), ceiling = max (ceiling, w(min (count, end))); end
+    end
+    to = qn.impl.rotor.follow (s, at{k - 1}, at{k}, 1.0001 * ceiling, 5);
+    there = find (number(:, k - 1) > 0);
+    number(:, k) = 0;
+    number(there, k) = to(number(there, k - 1));
+    new = setdiff (1:numel (at{k}.pole), number(:, k));
+    number = [number; zeros(numel (new), k - 1), new(:)];
+  end
+  lowest = Inf (size (number, 1), 1);
+  for k = 1:numel (at)
+    there = number(:, k) > 0;
+    lowest(there) = min (lowest(there), imag (at{k}.pole(number(there, k))).');
+  end
+  [unused, order] = sort (lowest);
+  number = number(order(1:min (count, end)), :);
+end
+
+function list = found (s, at, number, order, measure)
+  list = struct ('speed', {}, 'order', {}, 'mode', {}, 'whirl', {}, 'damping', {}, 'direction', {}, 'shape', {});
+  for mode = 1:size (number, 1)
+    for k = 2:size (number, 2)
+      [i, j] = deal (number(mode, k - 1), number(mode, k));
+      if i == 0 || j == 0, continue, end
+      first = measure (at{k - 1}.pole(i), at{k - 1}.speed);
+      last = measure (at{k}.pole(j), at{k}.speed);
+      if order == 0
+        if ~(first < -1e-8 * abs (at{k - 1}.pole(i)) && last > 1e-8 * abs (at{k}.pole(j))), continue, end
+      elseif (first > 0) == (last > 0)
+        continue
+      end
+      [p, n] = qn.impl.rotor.crossing (s, at{k - 1}, i, at{k}, j, measure);
+      list(end + 1) = struct ('speed', p.speed, 'order', order, 'mode', mode, 'whirl', imag (p.pole(n)), ...
+                              'damping', -real (p.pole(n)) / abs (p.pole(n)), 'direction', p.whirl(n), 'shape', s.basis * p.shape(:, n));
+    end
+  end
+end

@@ -1,0 +1,44 @@
+% QN.GRAVITY  load of the own weight
+%
+% Purpose
+%   Weight of all masses of a model, as qn.simulation takes loads. It may be put on slowly, so that the structure does not swing when it
+%   begins.
+%
+% Calls
+%   LOAD = qn.gravity (MODEL, PUSH)
+%   LOAD = qn.gravity (MODEL, PUSH, NAME, VALUE, ...)
+%
+% Input
+%   MODEL   from qn.modal, n degrees of freedom
+%   PUSH    n x 1: displacement of every degree of freedom when the whole structure moves by 1 downwards: 1 where it points down, -1 where
+%           it points up, 0 for the others
+%   Names and values
+%     'g'     acceleration of gravity [m/s^2] (9.80665)
+%     'ramp'  the weight grows from nothing at time 0 to the whole at this time, along half a cosine [s] (0: whole from the beginning)
+%
+% Output
+%   LOAD    {SHAPE, SIGNAL} for 'load' of qn.simulation; append other loads below. SHAPE is the modal force of the whole weight
+%           [N/sqrt(kg)], so that qn.static (MODEL, LOAD{1}, ELEMENTS) is the rest position; SIGNAL is its share, from 0 to 1.
+%
+% Errors
+%   qn:input  PUSH has not n values, or a value is not finite; the ramp is negative
+%
+% Example
+%   model = qn.modal (4e4 * eye (2), 3 * eye (2), 'damping', 0.05);
+%   load = qn.gravity (model, [0; -1], 'ramp', 0.2);
+%   res = qn.run (qn.simulation (model, 'step', 1e-3, 'until', 1, 'load', load), 'progress', false);
+%
+% See also qn.unbalance, qn.base, qn.static, qn.simulation
+function load = gravity (model, push, varargin)
+  who = 'qn.gravity';
+  if nargin < 1, model = []; end
+  qn.impl.expect_result_of (who, model, 'qn.modal');
+  if nargin < 2, push = []; end
+  o = qn.impl.options (who, struct ('g', 9.80665, 'ramp', 0), varargin);
+  push = qn.impl.numbers (who, 'PUSH', push, size (model.shapes, 1), 'each', 'one a degree of freedom');
+  g = qn.impl.scalar (who, 'g', o.g);
+  ramp = qn.impl.scalar (who, 'ramp', o.ramp, 0);
+  grown = @(t) ones (size (t));
+  if ramp > 0, grown = @(t) 0.5 - 0.5 * cos (pi * min (max (t / ramp, 0), 1)); end
+  load = {g * (model.shapes.' * (model.M * push(:))), grown};
+end

@@ -1,0 +1,108 @@
+% QN.ROTOR  a rotor: shaft, disks, bearings, seals and stator as plain matrices
+%
+% Purpose
+%   Builds M, K, C and G of M q'' + (C + W G) q' + K q = F at the speed of rotation W. A node has four degrees of freedom x, y, thx, thy:
+%   displacements across the shaft, and rotations about the axes x and y (thy = dx/dz, thx = -dy/dz, z along the shaft). The spin turns
+%   x towards y. The elements are beams with shear and rotary inertia (Timoshenko) of round section.
+%
+% Calls
+%   R = qn.rotor (NAME, VALUE, ...)
+%   R = qn.rotor (R, 'speed', W)
+%
+% Input
+%   R   from qn.rotor, as it was made: what depends on the speed is formed again at W
+%   Names and values
+%     'nodes'      positions of the nodes along the shaft, ascending [m]; or
+%     'shaft'      a structure with the fields M, K and perhaps C and G [per rad/s], from another program. Where its degrees of freedom
+%                  are not four a node in the order above, its field "places" has a row a node with the numbers of x and y, or of
+%                  x, y, thx, thy.
+%     'outer'      outer diameter, one for all elements or one an element [m]
+%     'inner'      inner diameter [m] (0)
+%     'young'      Young's modulus [N/m^2] (2.1e11)
+%     'density'    [kg/m^3] (7850)
+%     'poisson'    Poisson's ratio (0.3)
+%     'shear'      false: beams without shear deformation (true)
+%     'disks'      rows [node mass Id Ip]: moments of inertia about a diameter and about the axis [kg, kg m^2]
+%     'cylinders'  rows [node width outer inner density]: solid disks by their dimensions [m, kg/m^3]
+%     'bearings'   {NODE, K, C; ...}: stiffness [N/m] and damping [N s/m], each one value, two (along x and y), a matrix 2 x 2 with
+%                  cross-coupling, or 4 x 4 with moments over x, y, thx, thy; or a function of the speed [rad/s] that gives one of these.
+%                  NODE is the number of a node, which is then held against the ground, or [node a b]: against the degrees of freedom
+%                  a and b of the stator.
+%     'seals'      {NODE, K, C, M; ...}: the same with an added mass [kg]
+%     'stator'     a structure with the fields M, K and perhaps C: what carries bearings and seals. It does not turn.
+%     'speed'      speed of rotation [rad/s] that the matrices belong to; needed only where a bearing depends on it ([])
+%
+% Output
+%   R   struct: M, K, C  n x n, with all bearings and seals; K and C may be unsymmetric. [] while a bearing depends on a speed that was
+%                not given.
+%                G       n x n, skew, per rad/s: W * G is added to C
+%                Ks      symmetric part of K from which qn.modal takes the modes; the rest of K it adds as a further stiffness
+%                places  nodes x 4: numbers of the degrees of freedom x, y, thx, thy
+%                stator  numbers of those of the stator
+%                nodes   positions of the nodes [m]
+%                speed   as given
+%                parts   what it was made of
+%
+% Errors
+%   qn:input  something is missing, unknown, of the wrong size or no finite real number; G is not skew, M not symmetric; a node or a
+%             degree of freedom is not there; an inertia is not that of a body; a matrix of R was changed
+%
+% Source
+%   H. D. Nelson, J. Mechanical Design 102, 1980; M. I. Friswell, J. E. T. Penny, S. D. Garvey and A. W. Lees, Dynamics of Rotating
+%   Machines, 2010
+%
+% Example
+%   r = qn.rotor ('nodes', 0:0.25:1.5, 'outer', 0.05, 'cylinders', [3 0.07 0.28 0.05 7810; 5 0.07 0.35 0.05 7810], ...
+%                 'bearings', {1, 1e6, 100; 7, 1e6, 100});
+%   model = qn.modal (r, 'speed', 400);
+%   whirl = sort (abs (imag (eig ([zeros(28), eye(28); -(r.M \ [r.K, r.C + 400 * r.G])]))));
+%
+% See also qn.campbell, qn.unbalance, qn.gravity, qn.modal
+function r = rotor (varargin)
+  who = 'qn.rotor';
+  if nargin > 0 && isstruct (varargin{1})
+    r = varargin{1};
+    if ~isfield (r, 'parts') || ~isfield (r, 'places')
+      error ('qn:input', '%s: the structure is no result of qn.rotor; see help %s', who, who);
+    end
+    o = qn.impl.options (who, struct ('speed', '<required>'), varargin(2:end));
+    o.speed = qn.impl.scalar (who, 'speed', o.speed);
+    qn.impl.rotor.unchanged (who, r);
+    r = qn.impl.rotor.at_speed (r, o.speed);
+    return
+  end
+  o = struct ('nodes', [], 'shaft', [], 'outer', [], 'inner', 0, 'young', 2.1e11, 'density', 7850, 'poisson', 0.3, 'shear', true, ...
+              'disks', [], 'cylinders', [], 'bearings', {{}}, 'seals', {{}}, 'stator', [], 'speed', []);
+  o = qn.impl.options (who, o, varargin);
+  if isempty (o.nodes) == isempty (o.shaft), error ('qn:input', '%s: give "nodes" or "shaft", one of them', who); end
+  if ~isempty (o.speed), o.speed = qn.impl.scalar (who, 'speed', o.speed); end
+  r = qn.impl.rotor.shaft (who, o);
+  r = qn.impl.rotor.disks (who, r, o);
+  n = size (r.M, 1);
+  r.stator = [];
+  if ~isempty (o.stator)
+    if isstruct (o.stator) && isfield (o.stator, 'G') && any (any (o.stator.G))
+      error ('qn:input', '%s: "stator" does not turn, it has no G', who);
+    end
+    s = qn.impl.rotor.matrices (who, 'stator', o.stator);
+    r.stator = n + (1:size (s.M, 1));
+    for field = 'MKCG', r.(field) = blkdiag (r.(field), s.(field)); end
+  end
+  beside = norm (r.K - r.K.', 'fro') / norm (r.K, 'fro');
+  if beside > 1e-6
+    error ('qn:input', ['%s: K of shaft and stator must be symmetric, K - K.'' is %.2g of it; cross-coupling of bearings belongs into ' ...
+                        '"bearings"'], who, beside);
+  end
+  list = [qn.impl.rotor.supports(who, 'bearings', o.bearings, r), qn.impl.rotor.supports(who, 'seals', o.seals, r)];
+  r.parts = struct ('M', r.M, 'K', r.K, 'C', r.C, 'supports', list);
+  turning = false;
+  for s = list
+    for field = 'KCM', turning = turning || isa (s.(field), 'function_handle'); end
+  end
+  r.parts.by_speed = turning;
+  if turning && isempty (o.speed)
+    for field = {'M', 'K', 'C', 'Ks', 'speed'}, r.(field{1}) = []; end
+  else
+    r = qn.impl.rotor.at_speed (r, o.speed);
+  end
+end

@@ -1,0 +1,70 @@
+% QN.UNBALANCE  loads of unbalances, at a constant speed or along a run-up
+%
+% Purpose
+%   A mass m, e off the axis, at the angle a of the turning shaft is a force m e (W^2 - i A) exp (i (th + a)) over x + i y: th is the
+%   angle of the shaft, W its speed, A its angular acceleration. The loads are as qn.simulation takes them.
+%
+% Calls
+%   LOAD = qn.unbalance (MODEL, DOFS, ME, 'speed', W, ...)
+%   LOAD = qn.unbalance (MODEL, DOFS, ME, 'profile', P, ...)
+%
+% Input
+%   MODEL   from qn.modal
+%   DOFS    [x y], the degrees of freedom across the shaft where the unbalance is, or one such row for each of several
+%   ME      mass times distance from the axis, one for each row [kg m]
+%   Names and values
+%     'phase'    angle at which each unbalance is on the shaft, from x towards y, one for all or one a row [rad] (0)
+%     'speed'    constant speed [rad/s]; negative: the shaft turns from y towards x
+%     'profile'  speed over time: a 2 x k table [times; speeds], linear in between and constant before and after, or a function of a row of
+%                times that gives three rows: angle [rad], speed [rad/s], angular acceleration [rad/s^2]
+%     'angle'    angle of the shaft at time 0; with a function of 'profile' it is added [rad] (0)
+%
+% Output
+%   LOAD    {SHAPE, SIGNAL; SHAPE, SIGNAL} for 'load' of qn.simulation, whatever the number of unbalances; append other loads below
+%
+% Errors
+%   qn:input  neither or both of 'speed' and 'profile', a degree of freedom is not there, sizes do not fit, times do not ascend, or the
+%             function of 'profile' does not give three rows
+%
+% Source
+%   R. Gasch, R. Nordmann and H. Pfützner, Rotordynamik, 2006
+%
+% Example
+%   model = qn.modal (4e6 * eye (2), 10 * eye (2), 'damping', 0.05);
+%   run_up = [0 2; 0 1200];
+%   load = qn.unbalance (model, [1 2], 10 * 50e-6, 'profile', run_up);
+%   res = qn.run (qn.simulation (model, 'step', 1e-4, 'until', 2, 'load', load), 'progress', false);
+%
+% See also qn.gravity, qn.rotor, qn.campbell, qn.simulation, qn.load_at
+function load = unbalance (model, dofs, me, varargin)
+  who = 'qn.unbalance';
+  if nargin < 1, model = []; end
+  qn.impl.expect_result_of (who, model, 'qn.modal');
+  if nargin < 3, error ('qn:input', '%s: degrees of freedom and unbalances expected; see help %s', who, who); end
+  o = qn.impl.options (who, struct ('phase', 0, 'speed', [], 'profile', [], 'angle', 0), varargin);
+  n = size (model.shapes, 1);
+  dofs = qn.impl.numbers (who, 'DOFS', dofs, [NaN 2], 'from', 1, 'to', n, 'whole', 'each', 'x and y of an unbalance in a row');
+  same = find (dofs(:, 1) == dofs(:, 2), 1);
+  if ~isempty (same), error ('qn:input', '%s: row %d of "DOFS" names %d for x and for y', who, same, dofs(same, 1)); end
+  count = size (dofs, 1);
+  me = qn.impl.numbers (who, 'ME', me, count, 'each', 'one for each row of DOFS');
+  phases = count;
+  if numel (o.phase) == 1, phases = 1; end
+  phase = qn.impl.numbers (who, 'phase', o.phase, phases, 'each', 'one for all or one for each row of DOFS');
+  if isempty (o.speed) == isempty (o.profile), error ('qn:input', '%s: give "speed" or "profile", one of them', who); end
+  angle = qn.impl.scalar (who, 'angle', o.angle);
+  if ~isempty (o.speed)
+    speed = qn.impl.scalar (who, 'speed', o.speed);
+    motion = @(t) [speed * t; speed + 0 * t; 0 * t];
+  else
+    motion = qn.impl.rotor.turning (who, o.profile);
+  end
+  shape = model.shapes(dofs(:, 1), :) - 1i * model.shapes(dofs(:, 2), :);
+  shape = (me(:).' .* exp (1i * phase(:).') .* ones (1, count)) * shape;
+  push = @(t) along (motion (t), angle);
+  load = {real(shape(:)), @(t) real(push (t)); -imag(shape(:)), @(t) imag(push (t))};
+end
+
+function f = along (m, angle)
+  f = (m(2, :) .^ 2 - 1i * m(3, :)) .* exp (1i * (m(1, :) + angle));
+end

@@ -37,7 +37,8 @@
 %
 % Output
 %   MODEL  struct: shapes     n x m, one mode a column [1/sqrt(kg)]
-%                  w          m x 1 angular frequencies [rad/s]
+%                  w          m x 1 angular frequencies [rad/s]; 0 where a shape strains K by less than 1e-13 of what its entries add
+%                             up to without their signs: a rigid motion, to rounding. qn.check notes what may be a soft support.
 %                  hertz      m x 1 frequencies [Hz]
 %                  stiffness  m x 1, w.^2 [1/s^2], or m x m where 'K' couples the modes
 %                  damping    m x 1, 2*zeta*w [1/s], or m x m where 'C' or 'G' couples them
@@ -50,7 +51,8 @@
 %   qn:input  sizes do not fit, K or M is not symmetric (to 1e-6 of its greatest entry), the mass is not positive
 %             definite, K has a negative eigenvalue beyond the rounding of a rigid motion (from 1e-10 to 1e-6 of its entries it is
 %             taken for 0 with the warning qn:modal), a damping is negative or no number, G is not skew or comes without a speed;
-%             the places of 'attach' are none, a static response does not exist, or what has no mass is not held
+%             the places of 'attach' are none, a static response does not exist, what has no mass is not held, or stiffness over
+%             mass or a modal value is beyond all numbers
 %   qn:eigs   with 'eigs' a mode was left out or is inaccurate
 %
 % Source
@@ -106,6 +108,11 @@ function model = modal (varargin)
   stiffness = qn.impl.with_matrix (w .^ 2, who, phi, 'K', o.K);
   model = struct ('shapes', phi, 'w', w, 'hertz', w / (2 * pi), 'stiffness', stiffness, 'damping', damping, 'M', m, ...
                   'K', k, 'attached', attached);
+  for name = {'shapes', 'stiffness', 'damping'}
+    if ~all (isfinite (model.(name{1})(:)))
+      error ('qn:input', '%s: the modal %s is beyond all numbers; look at the units of K, M and of what damps', who, name{1});
+    end
+  end
 end
 
 % Arguments from the fields of a structure. Without a speed of its own the structure takes 'speed' from the arguments ARGS.

@@ -28,12 +28,18 @@ function found = check_growth (sim, res)
   end
   for k = 1:numel (sim.elements)
     e = sim.elements(k);
-    x = [];
-    if ~isempty (res), x = e.observe * res.q; end
-    stiff = qn.impl.stiffest (e.law, x);
+    [x, state] = deal ([]);
+    if ~isempty (res)
+      x = e.observe * res.q;
+      state = qn.impl.memory_of (sim, k, res.state);
+    end
+    stiff = qn.impl.stiffest (e.law, x, state);
     if stiff == 0 || ~isfinite (stiff) || (~coupled && isequal (e.observe, e.command)), continue, end
     [grows, real_rate] = qn.impl.linear_step (sim, stiff * e.command.' * e.observe);
+    before = numel (found);
     found = judge (found, sim, grows, real_rate, sprintf ('with element %d at its stiffest, %g N/m, the linear model', e.item, stiff));
+    % How long it stays there is not known.
+    if numel (found) > before && qn.impl.softest (e.law) < stiff, found(end).level = 'warning'; end
     if numel (found) > 8, return, end
   end
 end

@@ -24,11 +24,15 @@ function found = check_law (sim, k, x, motion, state, f)
     far ();
     within = [-can, can];
   end
-  stiff = qn.impl.stiffest (e.law, within);
+  stiff = qn.impl.stiffest (e.law, within, state);
   ratio = h * sqrt (stiff * mobility * 2 * sim.scheme.gamma);
-  if ratio >= 2
+  if ratio >= 2 && lasts ()
     say ('element_unstable', 'error', ['too stiff for the step of %g s: with %g N/m on %g kg the motion grows without bound; take at ' ...
                                        'most %.2g s'], h, stiff, 1 / mobility, h * 0.3 / ratio);
+  elseif ratio >= 2
+    say ('element_unstable', 'warning', ['too stiff for the step of %g s where it has %g N/m on %g kg: a contact there throws the ' ...
+                                         'structure back with energy of its own, and where that lasts the motion grows without bound; ' ...
+                                         'take at most %.2g s'], h, stiff, 1 / mobility, h * 0.3 / ratio);
   elseif ratio > 0.3
     say ('element_coarse', 'warning', ['only %.0f steps pass in half a period of %g N/m on %g kg; contacts will gain or lose energy; ' ...
                                        'take %.2g s or less'], floor (pi / ratio), stiff, 1 / mobility, h * 0.3 / ratio);
@@ -48,6 +52,17 @@ function found = check_law (sim, k, x, motion, state, f)
   if ~isempty (l.check)
     own = l.check (e.law, x, h, state);
     for j = 1:size (own, 1), say (own{j, 1}, own{j, 2}, '%s', own{j, 3}); end
+  end
+
+  % Whether it is above the limit all the time or, in a result, for three steps in succession, in which the motion grows many times.
+  function yes = lasts ()
+    limit = 4 / (h ^ 2 * mobility * 2 * sim.scheme.gamma);
+    yes = qn.impl.softest (e.law) >= limit;
+    if ~yes && ~isempty (x)
+      % After the displacements of the result come those that only the prediction met.
+      if size (state, 2) == 0, state = zeros (0, size (x, 2)); end
+      yes = qn.impl.stiff_for_long (e.law, x(:, 1:size (state, 2)), state, limit);
+    end
   end
 
   function far ()

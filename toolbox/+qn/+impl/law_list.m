@@ -7,7 +7,9 @@
 %   pack        [OPT, OWN] = pack (P, STEP): "opt" with the keyword's code in front, and what follows the five common values of "iopt"
 %   unpack      P = unpack (OPT, IOPT): the parameters again; [] where qn.law cannot give such an element
 %   words       TEXT = words (P): the law with its numbers, one line
-%   stiffest    K = stiffest (P, X): greatest stiffness, among the displacements X where they are known ([]: not) [N/m]
+%   stiffest    K = stiffest (P, X, STATE): greatest stiffness, among the displacements X and with the memory STATE, one row each, where
+%               they are known ([]: not) [N/m]
+%   softest     K = softest (P): least size of the stiffness, wherever it is and whatever was before [N/m]
 %   viscous     C = viscous (P, X, F): greatest slope of its force over the velocity, among the displacements X and forces F of a result
 %               where they are known ([]: not); its stability is that of a damper with this constant [N s/m]
 %   traits      T = traits (P): what it needs otherwise than a law without memory, fields of qn.impl.traits
@@ -18,8 +20,8 @@
 %               are displacements and memory in a result, [] before the run (qn.check; docs/checks.md)
 %   at_rest     LAW = at_rest (P): the law without memory that it becomes when nothing moves
 %
-% Those from "viscous" on may be [], or be left out: no force of the velocity, no needs of its own, nothing stored, no bound, nothing to
-% check, no force at rest without its past. The list is made once a session: "clear all" after a change to a law.
+% Those from "softest" on may be [], or be left out: no stiffness everywhere, no force of the velocity, no needs of its own, nothing stored,
+% no bound, nothing to check, no force at rest without its past. The list is made once a session: "clear all" after a change to a law.
 function list = law_list ()
   persistent made
   if isempty (made)
@@ -33,8 +35,8 @@ end
 
 % All fields, in one order.
 function l = whole (given)
-  names = {'kind', 'keyword', 'parameters', 'pack', 'unpack', 'words', 'stiffest', 'viscous', 'traits', 'stored', 'reserve', 'check', ...
-           'at_rest'};
+  names = {'kind', 'keyword', 'parameters', 'pack', 'unpack', 'words', 'stiffest', 'softest', 'viscous', 'traits', 'stored', 'reserve', ...
+           'check', 'at_rest'};
   l = cell2struct (cell (numel (names), 1), names.', 1);
   for name = fieldnames (given).', l.(name{1}) = given.(name{1}); end
 end

@@ -15,6 +15,8 @@ function [phi, w] = modes (k, m, count, method)
     return
   end
   n = size (k, 1);
+  own = full (abs (diag (k) ./ diag (m)));
+  if any (diag (k)) && all (diag (m) > 0) && (max (own) > 1e300 || max (own) < 1e-300), beyond_numbers (k, m); end
   switch method
     case 'auto'
       small = ~issparse (k) || n <= 250 || count > n / 4;
@@ -32,10 +34,26 @@ function [phi, w] = modes (k, m, count, method)
     otherwise
       error ('qn:input', 'qn.modal: "method" is ''auto'', ''eig'' or ''eigs'', not ''%s''', method);
   end
-  phi = upright (phi(:, 1:count));
-  no_push (k, phi, lambda(1:count));
-  w = sqrt (max (lambda(1:count), 0));
-  w(lambda(1:count) < 1e-12 * max (abs (lambda(1:count)))) = 0;
+  [phi, lambda] = small_ones (k, phi(:, 1:count), lambda(1:count));
+  phi = upright (phi);
+  no_push (k, phi, lambda);
+  w = sqrt (max (lambda, 0));
+end
+
+% Eigenvalues below 1e-12 of the greatest are rounding of it. Where the shapes strain K by more than the rounding of its own entries they
+% are found again from that, else they belong to rigid motions, of 0 Hz (qn.check notes what may be neither).
+function [phi, lambda] = small_ones (k, phi, lambda)
+  small = find (abs (lambda) < 1e-12 * max (abs (lambda)));
+  if isempty (small), return, end
+  [strain, terms] = qn.impl.strain_of (k, phi(:, small));
+  if any (strain > 1e-13 * terms)
+    own = phi(:, small).' * (k * phi(:, small));
+    [turn, found] = eig ((own + own.') / 2);
+    [unused, order] = sort (diag (found));
+    phi(:, small) = phi(:, small) * turn(:, order);
+    [strain, terms] = qn.impl.strain_of (k, phi(:, small));
+  end
+  lambda(small) = strain .* (abs (strain) > 1e-13 * terms);
 end
 
 function [phi, lambda] = dense_modes (k, m)
@@ -45,6 +63,7 @@ function [phi, lambda] = dense_modes (k, m)
                         'rows of M are zero']);
   end
   a = (factor.' \ full (k)) / factor;
+  if ~all (isfinite (a(:)) & abs (a(:)) < 1e300), beyond_numbers (k, m); end
   [x, lambda] = eig ((a + a.') / 2);
   [phi, lambda] = scaled (factor \ x, diag (lambda), m);
 end
@@ -58,6 +77,11 @@ function [phi, lambda] = sparse_modes (k, m, count)
   [phi, lambda] = scaled (phi, diag (lambda), m);
 end
 
+function beyond_numbers (k, m)
+  error ('qn:input', ['qn.modal: stiffness over mass is beyond all numbers: K has entries up to %.3g N/m, M has masses from %.3g to %.3g ' ...
+                      'kg'], full (max (abs (k(:)))), full (min (diag (m))), full (max (diag (m))));
+end
+
 function [phi, lambda] = scaled (phi, lambda, m)
   [lambda, order] = sort (real (lambda));
   phi = real (phi(:, order));
@@ -68,7 +92,8 @@ end
 % rounding of K makes of a rigid motion is small beside what its entries do to the shape one by one.
 function no_push (k, phi, lambda)
   for j = find (lambda(:).' < 0)
-    share = -lambda(j) / full (abs (phi(:, j)).' * abs (k) * abs (phi(:, j)));
+    [unused, terms] = qn.impl.strain_of (k, phi(:, j));
+    share = -lambda(j) / terms;
     if share < 1e-10, continue, end
     text = sprintf (['K is not positive semidefinite: mode %d has a stiffness of %.3g 1/s^2, a motion that grows by a factor of e in ' ...
                      '%.3g s'], j, lambda(j), 1 / sqrt (-lambda(j)));

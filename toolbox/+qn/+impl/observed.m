@@ -2,7 +2,7 @@
 % C = OBSERVED (WHO, MODEL, DOFS, WEIGHTS)  one row, their weighted sum; physical rows are taken as they are (see qn.observe)
 function c = observed (who, model, dofs, weights)
   n = size (model.shapes, 1);
-  rows = isnumeric (dofs) && nargin < 4 && n > 1 && size (dofs, 2) == n && (size (dofs, 1) > 1 || issparse (dofs));
+  rows = isnumeric (dofs) && nargin < 4 && size (dofs, 2) == n && (issparse (dofs) || (n > 1 && size (dofs, 1) > 1));
   if rows
     c = full (qn.impl.numbers (who, 'ROWS', dofs, [NaN n]) * model.shapes);
     return

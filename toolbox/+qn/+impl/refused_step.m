@@ -1,4 +1,4 @@
-% YES = REFUSED_STEP (SIM, STEP, SEEN)  whether qn.check has an error to name for SIM with this step
+% YES = REFUSED_STEP (SIM, STEP, SEEN)  whether qn.check has an error to name for SIM with this step, or an element above its limit
 %
 % SEEN is a result whose displacements laws are judged with, or [].
 function yes = refused_step (sim, step, seen)
@@ -10,5 +10,5 @@ function yes = refused_step (sim, step, seen)
   else
     found = qn.check (s, seen);
   end
-  yes = any (strcmp ({found.level}, 'error'));
+  yes = any (strcmp ({found.level}, 'error') | strcmp ({found.code}, 'element_unstable'));
 end

@@ -21,7 +21,6 @@ end
 
 % A motion without strain, to rounding.
 function yes = is_rigid (k, phi, w)
-  strain = sum (phi .* (k * phi), 1);
-  terms = sum (abs (phi) .* (abs (k) * abs (phi)), 1);
-  yes = (w(:).' == 0) | abs (strain) <= 1e-13 * terms;
+  [strain, terms] = qn.impl.strain_of (k, phi);
+  yes = (w(:) == 0 | abs (strain) <= 1e-13 * terms).';
 end

@@ -18,10 +18,11 @@ function which = chosen (some, all_of_them)
   if numel (range) == 2, which = range(1):range(2); end
 end
 
-% What becomes of a set-up whose motion is known: error over the greatest displacement, whether anything was said, and the errors named.
+% What becomes of a set-up whose motion is known: error over the greatest displacement, whether anything was said, and the errors named
+% before and after the run.
 function [off, announced, errors] = outcome (sim, exact)
   res = qn.run (sim, 'progress', false, 'check', false);
-  found = qn.check (sim, res);
+  found = [qn.check(sim), qn.check(sim, res)];
   errors = found(strcmp ({found.level}, 'error'));
   announced = ~res.complete || any (~strcmp ({found.level}, 'note'));
   off = Inf;

@@ -122,7 +122,39 @@ function c = cases ()
        'damper_feeds', 'warning', {with(qn.law ('damper', 'damping', -1))}, {with(qn.law ('damper', 'damping', 1))}
        'clima2_stiffness', 'warning', {on_pad(pad (1, 10))}, {on_pad(pad (1, 0))}
        'clima2_normal', 'warning', {on_pad(pad (-1, 0))}, {on_pad(pad (1, 0))}
-       'clima2_normal', 'warning', {on_pad(pad (-1, 0)), true}, {on_pad(pad (-1e-3, 0)), true}};
+       'clima2_normal', 'warning', {on_pad(pad (-1, 0)), true}, {on_pad(pad (-1e-3, 0)), true}
+       'element_unstable', 'warning', {with(qn.gap ('gap', 4.9e-3, 'stiffness', 1e8), 'step', 1e-3)}, ...
+                                      {with(qn.gap ('gap', 5.1e-3, 'stiffness', 1e8), 'step', 1e-3)}
+       'mode_rounded', 'note', {pair_on(1)}, {pair_on(0)}
+       'base_units', 'warning', {shaken(100)}, {shaken(1)}
+       'base_units', 'note', {shaken(0.1)}, {shaken(1)}
+       'base_push', 'warning', {cantilever(ones (20, 1))}, {cantilever(repmat ([1; 0], 10, 1))}};
+end
+
+% Two masses with a stiff spring between them, on one of SUPPORT newtons a metre.
+function sim = pair_on (support)
+  sim = qn.simulation (qn.modal (1e13 * [1 -1; -1 1] + diag ([support, 0]), eye (2)), 'step', 1e-8, 'until', 1e-4, 'v0', [1; 1]);
+end
+
+% A base that shakes for ten seconds as an earthquake of 0.3 g does, in m/s^2 times FACTOR.
+function sim = shaken (factor)
+  t = 0:0.01:10;
+  record = [t; 3 * factor * sin(2 * pi * 1.3 * t) .* exp(-((t - 4) / 2) .^ 2)];
+  sim = qn.simulation (qn.modal (4e4, 1, 'damping', 0.02), 'step', 1e-3, 'until', 10, 'base', {1, record});
+end
+
+% A cantilever of ten beams, displacement and rotation at each node.
+function sim = cantilever (push)
+  l = 0.3;
+  own = 1e5 / l ^ 3 * [12 6*l -12 6*l; 6*l 4*l^2 -6*l 2*l^2; -12 -6*l 12 -6*l; 6*l 2*l^2 -6*l 4*l^2];
+  mass = 3 / 420 * [156 22*l 54 -13*l; 22*l 4*l^2 13*l -3*l^2; 54 13*l 156 -22*l; -13*l -3*l^2 -22*l 4*l^2];
+  [k, m] = deal (zeros (22));
+  for j = 1:2:19
+    k(j:j + 3, j:j + 3) = k(j:j + 3, j:j + 3) + own;
+    m(j:j + 3, j:j + 3) = m(j:j + 3, j:j + 3) + mass;
+  end
+  model = qn.modal (k(3:end, 3:end), m(3:end, 3:end), 'modes', 2, 'damping', 0.02);
+  sim = qn.simulation (model, 'step', 1e-3, 'until', 2, 'base', {push, @(t) 5 * sin(20 * t)});
 end
 
 function law = sticks (slip)

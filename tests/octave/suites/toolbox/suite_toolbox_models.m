@@ -84,3 +84,13 @@ function test_mistakes_in_models_are_explained ()
   expect_error (@() qn.modal (eye (2), eye (2), 'zeta', 1), 'qn:input', '~no parameter called "zeta"; there are modes');
   expect_error (@() qn.modal (struct ('K', 1)), 'qn:input', '~fields K and M');
 end
+
+% A sparse row is a row, with one degree of freedom as with many: -1 was taken for its number and refused.
+function test_a_sparse_row_of_one_degree_of_freedom_is_a_row ()
+  model = qn.modal (4, 4);
+  expect_equal (qn.observe (model, sparse (-1)), -0.5);
+  expect_equal (qn.observe (model, sparse (3)), 1.5);
+  expect_equal (qn.load_at (model, sparse (0.5)), 0.25);
+  expect_error (@() qn.observe (model, -1), 'qn:input', '~"DOFS".1. is -1');
+  expect_error (@() qn.observe (model, sparse ([1 1])), 'qn:input', '~DOFS');
+end

@@ -98,3 +98,26 @@ function test_a_rounded_stiffness_of_a_free_structure_keeps_its_rigid_motion_wit
   [unused, id] = lastwarn ();
   expect_equal (id, '');
 end
+
+% Eigenvalues below 1e-12 of the greatest were set to zero without a word, though two parts that do not meet have each their own.
+function test_a_slow_part_beside_a_fast_one_keeps_its_frequency ()
+  model = qn.modal (diag ([1 1e-13 1e13]), eye (3));
+  expect_equal (model.w ./ sqrt ([1e-13; 1; 1e13]), ones (3, 1), 1e-9);
+  expect_equal (abs (model.shapes), eye (3)(:, [2 1 3]), 1e-9);
+  turned = [0.6 0.8 0; -0.8 0.6 0; 0 0 1];
+  model = qn.modal (turned * diag ([3 2 1e15]) * turned.', eye (3));
+  expect_equal (model.w(1:2), sqrt ([2; 3]), 1e-9);
+  % What is below the rounding of the entries is a rigid motion, and noted.
+  model = qn.modal (1e13 * [1 -1; -1 1] + [1 0; 0 0], eye (2));
+  expect_equal (model.w(1), 0);
+end
+
+function test_numbers_beyond_all_bounds_are_named_and_end_in_no_error_of_the_host ()
+  beyond = '~stiffness over mass is beyond all numbers';
+  expect_error (@() qn.modal (1e300, 1e-300), 'qn:input', beyond);
+  expect_error (@() qn.modal (1e-300, 1e300), 'qn:input', beyond);
+  expect_error (@() qn.modal (1e300 * speye (300), 1e-300 * speye (300), 'modes', 3), 'qn:input', beyond);
+  expect_error (@() qn.modal ([2 1; 1 2] * 1e200, [1 0.9; 0.9 1] * 1e-200), 'qn:input', beyond);
+  expect_error (@() qn.modal (1e10, 1, 'rayleigh', [1e300 1e300]), 'qn:input', '~modal damping is beyond all numbers');
+  expect_error (@() qn.modal (1, 1e-300, 'K', 1e308), 'qn:input', '~modal stiffness is beyond all numbers');
+end

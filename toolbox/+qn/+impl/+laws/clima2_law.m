@@ -35,11 +35,11 @@ function t = traits (p)
 end
 
 % The two branches grow like Dahl's law; the third force follows the slope of its table.
-function k = stiffest (p, x)
+function k = stiffest (p, x, state)
   third = [];
   if ~isempty (x), third = x(3, :); end
   table = qn.impl.law_of ('table');
-  slope = table.stiffest (struct ('displacement', p.displacement, 'force', p.normal), third);
+  slope = table.stiffest (struct ('displacement', p.displacement, 'force', p.normal), third, []);
   k = abs (p.stiffness) + max (slope, max (abs (met (p, p.growth, third))) * 2 ^ max (p.exponent, 0));
 end
 

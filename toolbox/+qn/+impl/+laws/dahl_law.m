@@ -25,8 +25,11 @@ function t = traits (p)
   t = struct ('rows', 1, 'forces', 1, 'width', 2, 'states', 1, 'pages', 2, 'memory', true);
 end
 
-function k = stiffest (p, x)
-  k = p.stiffness * 2 ^ max (p.exponent, 0);
+% Where the motion turns with the force F it grows by stiffness * (1 + |F| / slip)^exponent.
+function k = stiffest (p, x, state)
+  share = 1;
+  if ~isempty (state), share = min (1, max (abs (state(:))) / p.slip); end
+  k = p.stiffness * (1 + share) ^ max (p.exponent, 0);
 end
 
 % What it gives back when it is unloaded along its first stiffness.

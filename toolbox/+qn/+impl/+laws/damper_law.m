@@ -24,7 +24,7 @@ function t = traits (p)
   t = struct ('rates', true);
 end
 
-function k = stiffest (p, x)
+function k = stiffest (p, x, state)
   k = 0;
 end
 

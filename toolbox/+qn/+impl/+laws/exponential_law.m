@@ -19,7 +19,7 @@ function text = words (p)
   text = sprintf ('exponential law, force = %g * %g^x', p.scale, p.base);
 end
 
-function k = stiffest (p, x)
+function k = stiffest (p, x, state)
   k = 0;
   if ~isempty (x) && p.base > 0, k = max (abs (p.scale * log (p.base) * p.base .^ x(:))); end
 end

@@ -4,7 +4,8 @@ function l = maxwell_law ()
                 'dampers', '<required>', 'positive list'
                 'stiffness', 0, 'number'};
   l = struct ('kind', 'maxwell', 'keyword', 'Maxw', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'traits', @traits, 'stored', @stored, 'reserve', @reserve, 'check', @check, 'at_rest', @at_rest);
+              'stiffest', @stiffest, 'softest', @softest, 'traits', @traits, 'stored', @stored, 'reserve', @reserve, 'check', @check, ...
+              'at_rest', @at_rest);
 end
 
 % One state a branch, the displacement s of the joint between spring and damper: s' = (k/c) (x - s). Force: sum of
@@ -40,7 +41,11 @@ function t = traits (p)
   t = struct ('rows', 1, 'forces', 1, 'width', numel (p.springs) + 1, 'inner', numel (p.springs), 'pages', 3, 'memory', true);
 end
 
-function k = stiffest (p, x)
+function k = stiffest (p, x, state)
+  k = p.stiffness + sum (p.springs);
+end
+
+function k = softest (p)
   k = p.stiffness + sum (p.springs);
 end
 

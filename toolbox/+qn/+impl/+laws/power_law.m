@@ -3,7 +3,7 @@ function l = power_law ()
   parameters = {'stiffness', '<required>', 'number'
                 'exponent', '<required>', 'number'};
   l = struct ('kind', 'power', 'keyword', 'Power', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'traits', [], 'stored', @stored, 'reserve', @reserve, 'check', @check, 'at_rest', []);
+              'stiffest', @stiffest, 'softest', @softest, 'traits', [], 'stored', @stored, 'reserve', @reserve, 'check', @check, 'at_rest', []);
 end
 
 function [opt, own] = pack (p, step)
@@ -19,13 +19,17 @@ function text = words (p)
   text = sprintf ('power law, force = %g * x^%g', p.stiffness, p.exponent);
 end
 
-function k = stiffest (p, x)
+function k = stiffest (p, x, state)
   k = 0;
   if p.exponent == 1
     k = abs (p.stiffness);
   elseif ~isempty (x)
     k = abs (p.stiffness * p.exponent) * max (abs (x(:))) ^ (p.exponent - 1);
   end
+end
+
+function k = softest (p)
+  k = abs (p.stiffness) * (p.exponent == 1);
 end
 
 function v = stored (p, x, f, state, h)

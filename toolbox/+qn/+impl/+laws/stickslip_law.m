@@ -26,7 +26,7 @@ function t = traits (p)
   t = struct ('rows', 1, 'forces', 1, 'width', 2, 'states', 1, 'memory', true);
 end
 
-function k = stiffest (p, x)
+function k = stiffest (p, x, state)
   k = p.stiffness + p.contact;
 end
 

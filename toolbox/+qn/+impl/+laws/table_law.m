@@ -3,7 +3,7 @@ function l = table_law ()
   parameters = {'displacement', '<required>', 'ascending list'
                 'force', '<required>', 'list'};
   l = struct ('kind', 'table', 'keyword', 'Table', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'traits', [], 'stored', @stored, 'reserve', @reserve, 'check', @check, 'at_rest', []);
+              'stiffest', @stiffest, 'softest', @softest, 'traits', [], 'stored', @stored, 'reserve', @reserve, 'check', @check, 'at_rest', []);
 end
 
 function [opt, own] = pack (p, step)
@@ -26,7 +26,7 @@ function text = words (p)
   end
 end
 
-function k = stiffest (p, x)
+function k = stiffest (p, x, state)
   slope = abs (diff (p.force)) ./ max (diff (p.displacement), realmin ());
   slope(diff (p.displacement) == 0) = 0;
   if ~isempty (x) && numel (slope) > 1
@@ -36,6 +36,11 @@ function k = stiffest (p, x)
     slope = slope(above >= min (x(:)) & below <= max (x(:)));
   end
   k = max ([0; slope]);
+end
+
+function k = softest (p)
+  k = min ([abs(diff (p.force)) ./ max(diff (p.displacement), realmin ()); Inf]);
+  if numel (p.displacement) < 2, k = 0; end
 end
 
 % The integral of the force from the first knot.

@@ -108,11 +108,7 @@ function model = modal (varargin)
   stiffness = qn.impl.with_matrix (w .^ 2, who, phi, 'K', o.K);
   model = struct ('shapes', phi, 'w', w, 'hertz', w / (2 * pi), 'stiffness', stiffness, 'damping', damping, 'M', m, ...
                   'K', k, 'attached', attached);
-  for name = {'shapes', 'stiffness', 'damping'}
-    if ~all (isfinite (model.(name{1})(:)))
-      error ('qn:input', '%s: the modal %s is beyond all numbers; look at the units of K, M and of what damps', who, name{1});
-    end
-  end
+  qn.impl.finite_model (who, model);
 end
 
 % Arguments from the fields of a structure. Without a speed of its own the structure takes 'speed' from the arguments ARGS.

@@ -78,8 +78,8 @@ function [phi, lambda] = sparse_modes (k, m, count)
 end
 
 function beyond_numbers (k, m)
-  error ('qn:input', ['qn.modal: stiffness over mass is beyond all numbers: K has entries up to %.3g N/m, M has masses from %.3g to %.3g ' ...
-                      'kg'], full (max (abs (k(:)))), full (min (diag (m))), full (max (diag (m))));
+  error ('qn:input', ['qn.modal: stiffness over mass is beyond all numbers: K has entries up to %.3g N/m, M has masses from %.3g to ' ...
+                      '%.3g kg'], full (max (abs (k(:)))), full (min (diag (m))), full (max (diag (m))));
 end
 
 function [phi, lambda] = scaled (phi, lambda, m)

@@ -92,5 +92,4 @@ function test_a_sparse_row_of_one_degree_of_freedom_is_a_row ()
   expect_equal (qn.observe (model, sparse (3)), 1.5);
   expect_equal (qn.load_at (model, sparse (0.5)), 0.25);
   expect_error (@() qn.observe (model, -1), 'qn:input', '~"DOFS".1. is -1');
-  expect_error (@() qn.observe (model, sparse ([1 1])), 'qn:input', '~DOFS');
 end

@@ -3,7 +3,8 @@ function l = power_law ()
   parameters = {'stiffness', '<required>', 'number'
                 'exponent', '<required>', 'number'};
   l = struct ('kind', 'power', 'keyword', 'Power', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'softest', @softest, 'traits', [], 'stored', @stored, 'reserve', @reserve, 'check', @check, 'at_rest', []);
+              'stiffest', @stiffest, 'softest', @softest, 'traits', [], 'stored', @stored, 'reserve', @reserve, 'check', @check, ...
+              'at_rest', []);
 end
 
 function [opt, own] = pack (p, step)

@@ -3,7 +3,8 @@ function l = table_law ()
   parameters = {'displacement', '<required>', 'ascending list'
                 'force', '<required>', 'list'};
   l = struct ('kind', 'table', 'keyword', 'Table', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'softest', @softest, 'traits', [], 'stored', @stored, 'reserve', @reserve, 'check', @check, 'at_rest', []);
+              'stiffest', @stiffest, 'softest', @softest, 'traits', [], 'stored', @stored, 'reserve', @reserve, 'check', @check, ...
+              'at_rest', []);
 end
 
 function [opt, own] = pack (p, step)

@@ -1,16 +1,18 @@
 % QN.HARMONIC  steady response to a harmonic load, by harmonic balance and continuation
 %
 % Purpose
-%   Finds periodic answers to LOAD * cos (2 pi f t) over a range of frequencies, stable or not, and follows the curve around its
-%   folds (arc-length continuation). The forces of the elements are evaluated by the module's "residual" at the points of one period
-%   and brought back to harmonics (alternating frequency and time, Cameron and Griffin, 1989).
+%   Finds periodic answers to the real part of LOAD * exp (2i pi f t) over a range of frequencies, stable or not, and follows the curve
+%   around its folds (arc-length continuation). The load may grow with the frequency, and the model may have a gyroscopic matrix that
+%   does: the response of a rotor to its unbalance, with the speed of rotation 2 pi f. The forces of the elements are evaluated by the
+%   module's "residual" at the points of one period and brought back to harmonics (alternating frequency and time, Cameron and
+%   Griffin, 1989).
 %
 % Calls
 %   R = qn.harmonic (MODEL, LOAD, ELEMENTS, HERTZ, ...)
 %
 % Input
 %   MODEL     from qn.modal, m modes
-%   LOAD      m x 1 modal force amplitude (qn.load_at times forces) [N]
+%   LOAD      m x 1 modal force amplitude (qn.load_at times forces) [N], complex where phases differ: c - 1i * s is c cos + s sin
 %   ELEMENTS  {LAW, C; ...} as for qn.simulation; laws without memory
 %   HERTZ     [first last] frequency, in the direction to follow the curve [Hz]
 %   Names and values
@@ -18,6 +20,10 @@
 %     'samples'    points of one period (128)
 %     'points'     greatest number of points on the curve (400)
 %     'step'       first step along the curve, relative (0.02)
+%     'power'      the load is LOAD * (2 pi f)^power; 2 for an unbalance, with LOAD in kg m: m e at x, -1i * m e at y, or L{1, 1} -
+%                  1i * L{2, 1} of L = qn.unbalance (...) (0)
+%     'G'          gyroscopic matrix of the structure, n x n, skew: the damping gets 2 pi f * G. The model is the one at rest, made with
+%                  'speed', 0 ([])
 %
 % Output
 %   R     struct: hertz      1 x k frequencies along the curve
@@ -39,12 +45,14 @@ function r = harmonic (model, load, elements, hertz, varargin)
   if nargin < 1, model = []; end
   qn.impl.expect_result_of ('qn.harmonic', model, 'qn.modal');
   who = 'qn.harmonic';
-  o = qn.impl.options (who, struct ('harmonics', 5, 'samples', 128, 'points', 400, 'step', 0.02), varargin);
+  o = qn.impl.options (who, struct ('harmonics', 5, 'samples', 128, 'points', 400, 'step', 0.02, 'power', 0, 'G', []), ...
+                       varargin);
   hertz = qn.impl.numbers (who, 'HERTZ', hertz, 2, 'above', 0, 'each', '[first last] frequency');
   if hertz(1) == hertz(2), error ('qn:input', '%s: "HERTZ" must be two different frequencies, got %g twice', who, hertz(1)); end
   o.points = qn.impl.count (who, 'points', o.points);
   o.step = qn.impl.scalar (who, 'step', o.step, realmin ());
-  b = qn.impl.periodic (who, model, load, elements, o.harmonics, o.samples);
+  o.power = qn.impl.scalar (who, 'power', o.power, 0);
+  b = qn.impl.periodic (who, model, load, elements, o.harmonics, o.samples, o.power, turning (who, model, o.G));
   free = onCleanup (@() delete (b.handles));
   omega = 2 * pi * hertz;
   % First point: Newton at a fixed frequency, from the linear answer.
@@ -75,6 +83,19 @@ function r = harmonic (model, load, elements, hertz, varargin)
     if (f - omega(2)) * sign (omega(2) - omega(1)) >= 0 || (omega(1) - f) * sign (omega(2) - omega(1)) > 1e-9 * omega(1), break, end
   end
   r = b.result (bsxfun (@times, curve, unit));
+end
+
+% Modal gyroscopic matrix, per rad/s; 0 without one.
+function g = turning (who, model, g)
+  if isempty (g)
+    g = 0;
+    return
+  end
+  n = size (model.shapes, 1);
+  g = qn.impl.numbers (who, 'G', g, [n n]);
+  beside = norm (g + g.', 'fro') / norm (g, 'fro');
+  if beside > 1e-6, error ('qn:input', '%s: "G" must be skew (G.'' = -G): its symmetric part is %.2g of it', who, beside / 2); end
+  g = qn.project (model.shapes, g);
 end
 
 function [g, j] = fixed (b, z, omega)

@@ -56,7 +56,8 @@ function rows = number_arguments ()
     'qn.gravity', {'MODEL', 'PUSH'}, {model, [0; 1; -1], 'g', 1.6, 'ramp', 0.1}, {}
     'qn.grid', {'NAME', 'VALUES'}, {'gap', [1 2 3]}, {'VALUES', '.*', anything}
     'qn.harmonic', {'MODEL', 'LOAD', 'ELEMENTS', 'HERTZ'}, ...
-      {model, [1 2 0.5], spring, [2 3], 'harmonics', 1, 'samples', 16, 'points', 3, 'step', 0.02}, {}
+      {model, [1 2 0.5], spring, [2 3], 'harmonics', 1, 'samples', 16, 'points', 3, 'step', 0.02, 'power', 1, 'G', [0 1 0; -1 0 2; 0 -2 0]}, ...
+      {'LOAD', 'complex', 'phases'; 'G', 'empty', optional}
     'qn.interrupted', {}, {}, {}
     'qn.iwan', {}, {'slip', 10, 'stiffness', 100, 'sliders', 3}, {}
     'qn.iwan', {}, {'slips', [1 2], 'stiffnesses', [10 20]}, {'slips', 'empty', '"slip" is then said to be missing'}

@@ -1,4 +1,6 @@
-% B = PERIODIC (WHO, MODEL, LOAD, ELEMENTS, H, N)  harmonic-balance equations of a modal model
+% B = PERIODIC (WHO, MODEL, LOAD, ELEMENTS, H, N, POWER, G)  harmonic-balance equations of a modal model
+%
+% The load is the real part of LOAD * omega^POWER * exp (i omega t), the damping has omega * G besides (modal); both 0 where not given.
 %
 % Unknowns z: for every mode in turn [c0; c1; s1; ...; cH; sH]. B has the functions
 %   equations (z, omega)  residual, Jacobian, and derivative for omega
@@ -6,9 +8,10 @@
 %   result (y)            structure of qn.harmonic from columns [z; omega]
 % and the handles of the elements' laws, which the caller deletes. Every law is evaluated at all N points of a period in one call
 % of "residual", as N springs side by side.
-function b = periodic (who, model, load, elements, harmonics, n)
+function b = periodic (who, model, load, elements, harmonics, n, power, g)
+  if nargin < 8, [power, g] = deal (0); end
   m = numel (model.w);
-  load = qn.impl.numbers (who, 'LOAD', load, m, 'each', 'one a mode (qn.load_at times forces)');
+  load = qn.impl.numbers (who, 'LOAD', load, m, 'complex', 'each', 'one a mode (qn.load_at times forces)');
   harmonics = qn.impl.count (who, 'harmonics', harmonics);
   n = qn.impl.count (who, 'samples', n);
   if n <= 4 * harmonics, error ('qn:input', '%s: %d harmonics need more than %d samples', who, harmonics, 4 * harmonics); end
@@ -34,20 +37,22 @@ function b = periodic (who, model, load, elements, harmonics, n)
     turn(2 * k:2 * k + 1, 2 * k:2 * k + 1) = [0 k; -k 0];
   end
   push = zeros (p, m);
-  if harmonics > 0, push(2, :) = load(:).'; end
-  damping = qn.impl.matrix (model.damping);
+  if harmonics > 0, push(2:3, :) = [real(load(:)), -imag(load(:))].'; end
+  damping = @(w) qn.impl.matrix (model.damping) + w * g;
   stiffness = qn.impl.matrix (model.stiffness);
   % In one period x = series.' * z; its rate is omega * turn * z.
-  linear = @(w) kron (stiffness, eye (p)) + w * kron (damping, turn) + w ^ 2 * kron (eye (m), turn ^ 2);
-  by_omega = @(w) kron (damping, turn) + 2 * w * kron (eye (m), turn ^ 2);
-  b.linear = @(w) linear (w) \ push(:);
-  b.equations = @(z, w) equations (z, w, linear, by_omega, push, e, index, series, back, p, m, n);
+  linear = @(w) kron (stiffness, eye (p)) + w * kron (damping (w), turn) + w ^ 2 * kron (eye (m), turn ^ 2);
+  by_omega = @(w) kron (damping (2 * w), turn) + 2 * w * kron (eye (m), turn ^ 2);
+  grown = @(w) w ^ power * push(:);
+  b.linear = @(w) linear (w) \ grown (w);
+  more = @(w) power * w ^ (power - 1) * push(:);
+  b.equations = @(z, w) equations (z, w, linear, by_omega, grown, more, e, index, series, back, p, m, n);
   b.result = @(y) result (y, series, harmonics, m);
 end
 
-function [g, j, slope] = equations (z, w, linear, by_omega, push, e, index, series, back, p, m, n)
+function [g, j, slope] = equations (z, w, linear, by_omega, grown, more, e, index, series, back, p, m, n)
   j = linear (w);
-  g = j * z - push(:);
+  g = j * z - grown (w);
   q = reshape (z, p, m);
   for k = 1:numel (e)
     x = (q * e(k).observe.').' * series;
@@ -58,7 +63,7 @@ function [g, j, slope] = equations (z, w, linear, by_omega, push, e, index, seri
     g = g + kron (e(k).command.', (f * back).');
     j = j + kron (e(k).command.' * e(k).observe, back.' * bsxfun (@times, stiffness.', series.'));
   end
-  slope = by_omega (w) * z;
+  slope = by_omega (w) * z - more (w);
 end
 
 function f = evaluate (h, x, n)

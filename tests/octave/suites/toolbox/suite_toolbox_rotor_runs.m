@@ -44,3 +44,58 @@ function test_steady_orbit_of_a_rotor_of_24_elements_is_its_complex_frequency_re
   expect_published (c, 'distance from the orbit by its radius, 360 steps a turn [1e-4]', 0, 1e4 * e(3), 1);
   expect_published (c, 'order of the scheme', 2, order(2), 0.05);
 end
+
+function test_response_to_unbalance_over_the_speed_has_the_square_of_the_speed_and_the_gyroscopic_matrix ()
+  r = disk_rotor (6);
+  model = qn.modal (r, 'speed', 0);
+  at = r.places(4, 1:2);
+  me = [3e-4 1e-4];
+  both = [at; r.places(6, 1:2)];
+  load = qn.unbalance (model, both, me, 'phase', [0 1], 'speed', 1);
+  h = qn.harmonic (model, load{1, 1} - 1i * load{2, 1}, {}, [45 60], 'harmonics', 1, 'samples', 32, 'power', 2, 'G', r.G);
+  assert (numel (h.hertz) > 10 && h.hertz(end) >= 60);
+  for k = [1, round(numel (h.hertz) / 2), numel(h.hertz)]
+    w = 2 * pi * h.hertz(k);
+    push = zeros (28, 1);
+    push(both(1, :)) = me(1) * w ^ 2 * [1; -1i];
+    push(both(2, :)) = me(2) * w ^ 2 * exp (1i) * [1; -1i];
+    answer = (r.K + 1i * w * (r.C + w * r.G) - w ^ 2 * r.M) \ push;
+    expect_equal (model.shapes * (h.cosines(:, k, 2) - 1i * h.sines(:, k, 2)), answer, 1e-7 * max (abs (answer)));
+  end
+  skew = r.G;
+  skew(1, 1) = 1;
+  expect_error (@() qn.harmonic (model, load{1, 1}, {}, [20 60], 'G', skew), 'qn:input', '~"G" must be skew');
+end
+
+function test_jeffcott_rotor_has_its_resonance_curve ()
+  c = published ('Unbalance response of a Jeffcott rotor', 'H. H. Jeffcott, Philosophical Magazine 37, 1919: h^2/|1 - h^2 + 2 i zeta h|', ...
+                 {'harmonic balance', 'unbalance', 'modal damping'});
+  [m, k, e] = deal (10, 4e6, 5e-5);
+  model = qn.modal (k * eye (2), m * eye (2), 'damping', 0.05);
+  wn = sqrt (k / m);
+  push = qn.load_at (model, [1 2]) * m * e * [1; -1i];
+  wanted = [.33259505 10 5.10407694 1.33038021];
+  got = zeros (1, 4);
+  at = [0.5 1 1.1 2];
+  for j = 1:4
+    h = qn.harmonic (model, push, {}, at(j) * wn / (2 * pi) * [1 1.01], 'harmonics', 1, 'samples', 8, 'power', 2);
+    x = model.shapes * (h.cosines(:, 1, 2) - 1i * h.sines(:, 1, 2));
+    got(j) = abs (x(1)) / e;
+    expect_equal (x(2), -1i * x(1), 1e-9 * e);
+  end
+  expect_published (c, arrayfun (@(x) sprintf ('radius by eccentricity at %g of the critical speed', x), at, 'uniformoutput', false), wanted, got, 1e-7);
+end
+
+% Contact far away from linear: a ring of springs, in time and by harmonic balance with the load that grows.
+function test_growing_loads_and_elements_together_agree_with_a_run ()
+  [m, k, e] = deal (10, 4e6, 5e-5);
+  model = qn.modal (k * eye (2), m * eye (2), 'damping', 0.1);
+  ring = {qn.cubic('stiffness', 2e15), qn.observe(model, 1); qn.cubic('stiffness', 2e15), qn.observe(model, 2)};
+  w = 1.05 * sqrt (k / m);
+  push = qn.load_at (model, [1 2]) * m * e * [1; -1i];
+  h = qn.harmonic (model, push, ring, w / (2 * pi) * [1 1.01], 'harmonics', 5, 'samples', 64, 'power', 2);
+  load = qn.unbalance (model, [1 2], m * e, 'speed', w);
+  res = qn.run (qn.simulation (model, 'step', 2 * pi / w / 720, 'steps', 720 * 60, 'load', load, 'elements', ring), 'progress', false);
+  last = res.q(:, end - 719:end);
+  expect_equal (max (abs (last), [], 2), h.amplitude(:, 1), 2e-3 * h.amplitude(1, 1));
+end

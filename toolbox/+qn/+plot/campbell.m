@@ -13,7 +13,7 @@
 %   Names and values
 %     'show'   'whirl' frequencies in Hz or 'damping' ratios in percent ('whirl')
 %     'modes'  rows to draw (all)
-%     'top'    upper end of the axis, in Hz or percent (that of the lines)
+%     'top'    upper end of the axis, in Hz or percent (that of the lines); above it is room for the legend
 %
 % Errors
 %   qn:input  D is no result of qn.campbell, a row is not there, or a value is not finite
@@ -50,7 +50,7 @@ function campbell (d, varargin)
   wide = qn.impl.width ();
   colour = {[0.5 0.5 0.5], qn.impl.colours(1), qn.impl.colours(2)};
   names = {'planar', 'forward', 'backward'};
-  first = zeros (1, 3);
+  first = cell (1, 3);
   for mode = o.modes
     sense = d.direction(mode, :);
     kind = 1 + (sense > 0.02) + 2 * (sense < -0.02);
@@ -59,7 +59,7 @@ function campbell (d, varargin)
       % A line goes on to the next speed, where the sense may be another one.
       part(kind ~= j & [0, kind(1:end - 1)] ~= j) = NaN;
       h = plot (x, part, '-', 'color', colour{j}, 'linewidth', wide);
-      if first(j) == 0, first(j) = h; end
+      if isempty (first{j}), first{j} = h; end
       hold on;
     end
   end
@@ -75,9 +75,13 @@ function campbell (d, varargin)
   hold off;
   if ~(top > low), top = low + 1; end
   axis ([x([1 end]), low, top]);
-  there = first > 0;
+  there = ~cellfun (@isempty, first);
   qn.impl.style (heading, 'Speed of rotation [rpm]', up, {});
-  if any (there(2:3)), legend (first(there), names(there), 'location', 'northwest'); end
+  if any (there(2:3))
+    set (gca (), 'ylim', [low, top + 0.15 * (top - low)]);
+    legend ([first{there}], names(there), 'location', 'north', 'orientation', 'horizontal');
+    legend ('boxoff');
+  end
 end
 
 function mark (list, what, modes, sign, top)

@@ -97,6 +97,7 @@ function test_a_campbell_diagram_has_a_line_a_mode_and_a_mark_a_critical_speed (
   x = get (lines(strcmp (get (lines, 'linestyle'), '--')), 'ydata');
   expect_equal (x(:).', d.speed / (2 * pi), 1e-9);
   expect_equal (get (get (gca (), 'xlabel'), 'string'), 'Speed of rotation [rpm]');
+  expect_equal (numel (findobj (fig, 'tag', 'legend')), 1);
   qn.plot.campbell (d, 'show', 'damping', 'modes', 2);
   lines = findobj (gca (), 'type', 'line');
   drawn = get (lines, 'ydata');

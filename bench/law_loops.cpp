@@ -85,6 +85,49 @@ void stickSlipLoop(LawArrays& a) {
   a.snl[0] = (a.unl[0] - a.unl[1]) * o[4] + o[3] * a.unl[0];
 }
 
+void radialLoop(LawArrays& a) {
+  const double* o = a.opt.data();
+  for (std::size_t i = 0; i < a.n; i += 2) {
+    const double x = a.unl[i] - o[9];
+    const double y = a.unl[i + 1] - o[10];
+    const double r = std::sqrt(x * x + y * y);
+    if (r <= o[1]) {
+      a.snl[i] = a.snl[i + 1] = 0.0;
+      continue;
+    }
+    const double c = x / r;
+    const double s = y / r;
+    const double n = std::max(0.0, o[2] * std::pow(r - o[1], o[3]) * (1.0 + o[4] * (c * a.vnl[i] + s * a.vnl[i + 1])));
+    const double v = c * a.vnl[i + 1] - s * a.vnl[i] + o[7] * o[8];
+    const double t = o[5] * n * v / std::sqrt(v * v + o[6] * o[6]);
+    a.snl[i] = n * c - t * s;
+    a.snl[i + 1] = n * s + t * c;
+  }
+}
+
+void filmLoop(LawArrays& a) {
+  const double* o = a.opt.data();
+  const double scale = o[1] * o[3] * std::pow(o[2], 3.0) / (2.0 * o[4] * o[4]);
+  for (std::size_t i = 0; i < a.n; i += 2) {
+    double x = (a.unl[i] - o[7]) / o[4];
+    double y = (a.unl[i + 1] - o[8]) / o[4];
+    const double inside = std::min(1.0, o[6] / std::hypot(x, y));
+    x *= inside;
+    y *= inside;
+    const double c = y * o[5] + 2.0 * a.vnl[i] / o[4];
+    const double d = x * o[5] - 2.0 * a.vnl[i + 1] / o[4];
+    const double n = std::hypot(c, d);
+    const double p = (x * c - y * d) / n;
+    const double q = (x * d + y * c) / n;
+    const double s = 1.0 - x * x - y * y;
+    const double g = std::atan2(std::sqrt(s), -p) / std::sqrt(s);
+    const double f = scale * (3.0 * p + g * (s + 3.0 * p * p)) / (s * s);
+    const double t = scale * q * (2.0 + p * p / (1.0 - q * q) + 3.0 * p * g) / (s * s);
+    a.snl[i] = f * c + t * d;
+    a.snl[i + 1] = t * c - f * d;
+  }
+}
+
 }  // namespace
 
 void lawLoop(const std::string& law, LawArrays& a) {
@@ -105,6 +148,10 @@ void lawLoop(const std::string& law, LawArrays& a) {
     stickSlipLoop(a);
   } else if (law == "Maxw") {
     maxwellLoop(a);
+  } else if (law == "Radial") {
+    radialLoop(a);
+  } else if (law == "Ocvirk") {
+    filmLoop(a);
   } else if (law == "Clima2") {
     climaLoop(a);
   } else {

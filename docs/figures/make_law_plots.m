@@ -5,7 +5,7 @@
 %   make_law_plots ('maxwell')    draws one, by the name of its function below
 function make_law_plots (only)
   if exist ('graphics_toolkit'), graphics_toolkit ('gnuplot'); end
-  laws = {@power, @exponential, @table, @maxwell, @dahl, @stick_slip, @clima2, @damper};
+  laws = {@power, @exponential, @table, @maxwell, @dahl, @stick_slip, @clima2, @damper, @radial, @film};
   for k = 1:numel (laws)
     if nargin == 0 || strcmp (only, func2str (laws{k})), laws{k} (); end
   end
@@ -103,6 +103,48 @@ function damper ()
   f = zeros (3, numel (last));
   for k = 1:3, f(k, :) = drive (element ('Damper', [100 / max(v) ^ exponents(k), exponents(k)], 1), x, v); end
   draw ('law_damper', 1e3 * x, f, {'a = 0.3', 'a = 1', 'a = 2'}, 'Damper: 10 mm at 1 Hz, 100 N at the greatest velocity', 'displacement [mm]');
+end
+
+function radial ()
+  % Pressed in and out again along x at half a cycle of 50 Hz, while the surface slides past at 6 m/s.
+  t = linspace (0, 0.01, 201);
+  w = 2 * pi * 50;
+  x = [1.3e-3 * sin(w * t); 0 * t];
+  v = [1.3e-3 * w * cos(w * t); 0 * t];
+  e = element ('Radial', [1e-3 2e6 1.5 2 0.2 0.01 0.02 300 0 0], 2);
+  e.opt(3) = 2e6 / sqrt (3e-4);
+  draw ('law_radial', 1e3 * x(1, :), drive (e, x, v), {'along x', 'along y'}, 'Radial: gap 1 mm, damped contact, friction 0.2', ...
+        'displacement [mm]');
+end
+
+function film ()
+  % At rest on x, turned until the force points upwards. The clearance is the circle.
+  c = 1e-4;
+  eccentricity = linspace (0.005, 0.985, 99);
+  e = element ('Ocvirk', [0.02 0.03 0.05 c 157 0.99 0 0 0], 2);
+  f = drive (e, [c * eccentricity; 0 * eccentricity], zeros (2, 99));
+  place = eccentricity .* exp (1i * (-pi / 2 - atan2 (f(2, :), f(1, :))));
+  figure (1, 'visible', 'off');
+  clf ();
+  hold ('on');
+  circle = exp (2i * pi * (0:180) / 180);
+  plot (real (circle), imag (circle), 'k-', 'linewidth', 3);
+  plot (real (place), imag (place), '-', 'color', [0 0.32 0.62], 'linewidth', 4);
+  for shown = [0.2 0.4 0.6 0.8]
+    [unused, k] = min (abs (eccentricity - shown));
+    plot (real (place(k)), imag (place(k)), 'ko', 'markersize', 7, 'linewidth', 2);
+    text (real (place(k)) - 0.08, imag (place(k)), sprintf ('e = %.1f', shown), 'fontsize', 11, 'horizontalalignment', 'right');
+  end
+  hold ('off');
+  axis ('equal');
+  axis ([-1.1 1.1 -1.1 1.1]);
+  grid ('on');
+  box ('on');
+  set (gca (), 'gridlinestyle', ':', 'gridcolor', 0.6 * ones (1, 3), 'fontsize', 11);
+  title ('Ocvirk: the journal under a load downwards, turning anticlockwise', 'fontweight', 'normal');
+  xlabel ('x / clearance');
+  ylabel ('y / clearance');
+  save_plot ('law_ocvirk');
 end
 
 % Some cycles of a harmonic motion, the samples of the last one, and the time step.

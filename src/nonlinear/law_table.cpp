@@ -1,4 +1,5 @@
 #include "nonlinear/laws.h"
+#include "nonlinear/shaft_laws.h"
 #include "nonlinear/state_laws.h"
 #include "numbers/convert.h"
 
@@ -27,6 +28,8 @@ constexpr LawRow laws[] = {
     row("Clima2", Clima2, checkClima2, true),
     row("sts", STS, checkSts),
     row("Damper", FuDamper, checkDamper),
+    row("Radial", FuRadial, checkRadial),
+    row("Ocvirk", FuOcvirk, checkOcvirk),
 };
 
 static_assert(codeOf("Power") == 491328597840 && codeOf("Clima2") == 55394028842051 && codeOf("sts") == 7566451);

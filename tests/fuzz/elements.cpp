@@ -1,5 +1,7 @@
 // Nonlinear elements: every law with parameters that fit, mostly.
 #include <algorithm>
+#include <cmath>
+#include <string>
 
 #include "models.h"
 
@@ -7,7 +9,7 @@ namespace fuzz {
 
 namespace {
 
-constexpr const char* lawWords[] = {"Power", "Maxw", "Table", "Expon", "DahlC", "Clima2", "sts", "Damper"};
+constexpr const char* lawWords[] = {"Power", "Maxw", "Table", "Expon", "DahlC", "Clima2", "sts", "Damper", "Radial", "Ocvirk"};
 
 double lawCode(const char* word) {
   double code = 0.0;
@@ -61,6 +63,13 @@ Law makeLaw(Bytes& in, const char* word, std::size_t which) {
   if (which == 5) {
     law.page = 5 * (1 + in.below(2));
     addTable(in, law, 1 + static_cast<int>(in.below(5)), 2);
+  }
+  if (std::string(word) == "Radial" || std::string(word) == "Ocvirk") {
+    law.page = 2 * (1 + in.below(3)) + in.below(20) / 19;
+    law.opt[1] = std::abs(law.opt[1]);  // gap
+    law.opt[4] = std::abs(law.opt[4]);  // clearance
+    law.opt[6] = in.rarely(8) ? law.opt[6] : 0.9;
+    while (law.opt.size() < 11) law.opt.push_back(in.number());
   }
   return law;
 }

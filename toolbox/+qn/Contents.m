@@ -39,6 +39,9 @@
 %   iwan           - bank of Coulomb sliders in parallel (parallel-series model of Iwan, 1966)
 %   zener          - Zener element (standard linear solid): a spring beside one Maxwell branch
 %   maxwell        - generalised Maxwell damper: spring-and-damper branches in parallel, and a spring beside them
+%   radial         - contact of a round shaft in a round clearance, with friction
+%   journal        - oil film of a short plain bearing, or of a squeeze film damper
+%   journal_coefficients - equilibrium, stiffness and damping of a journal bearing under a load
 %   bearing        - table of a rolling bearing: clearance, then Hertzian contact
 %
 % Simulation

@@ -16,7 +16,8 @@
 %           law         text
 %           absorbed    1 x k work done on it since the start [J]
 %           stored      1 x k change of its stored energy [J]: of memoryless laws their potential; of sliders and Dahl elements
-%                       force^2 / (2 stiffness); of Maxwell elements that of their springs; of 'clima2' not known, 0
+%                       force^2 / (2 stiffness); of Maxwell elements that of their springs; of 'radial' that of the contact
+%                       without its damping; of 'journal' 0, of 'clima2' not known, 0
 %           exchanged   1 x k work taken by forces that act elsewhere than the element looks: rows "B" that are no multiple of "C".
 %                       They have no potential: this depends on the path, and negative is energy that they put in [J]
 %           dissipated  1 x k, absorbed less stored and exchanged [J]
@@ -50,7 +51,7 @@ function d = dissipated (res)
     exchanged = sum (absorbed(isnan (share), :), 1);
     stored = zeros (size (res.time));
     t = qn.impl.traits (e.law, size (x, 1));
-    if t.memory
+    if t.memory || t.rows > 1
       if ~isnan (share(1)), stored = share(1) * qn.impl.stored (e.law, x, f, state, sim.step); end
     else
       for k = find (~isnan (share))

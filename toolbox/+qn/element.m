@@ -9,7 +9,7 @@
 % Input
 %   LAW   from qn.law or a recipe (one law, not a bank)
 %   C     p x n observation rows, n the length of the displacement vector. 'power', 'exponential', 'table' and 'damper' take any number of
-%         rows, each with a force of its own; 'clima2' takes three; the others one.
+%         rows, each with a force of its own; 'radial' and 'journal' take two, 'clima2' three; the others one.
 %   Names and values
 %     'command'  rows through which the forces act, size of C (C)
 %     'step'     time step [s]; laws with memory need it

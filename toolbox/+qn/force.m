@@ -10,12 +10,12 @@
 %
 % Input
 %   LAW   from qn.law or a recipe; the forces of a bank add up
-%   X     row of displacements [m]; for 'clima2' three rows
+%   X     row of displacements [m]; for 'radial' and 'journal' two rows, for 'clima2' three
 %   V     velocities, size of X [m/s]; laws that depend on them and laws with memory need them, and the latter also
 %   H     the time step between two columns [s]
 %
 % Output
-%   F     row of forces [N]; for 'clima2' three rows. Laws with memory start without force or displacement.
+%   F     forces [N], as many rows as X. Laws with memory start without force or displacement.
 %
 % Errors
 %   qn:input  V or H is missing or has another size, or a value is not finite
@@ -34,10 +34,12 @@ function f = force (law, x, v, h)
   law = qn.impl.sound_law (who, law);
   x = qn.impl.numbers (who, 'X', x, [NaN NaN]);
   [memory, rates] = deal (false);
+  rows = 0;
   for k = 1:numel (law)
     t = qn.impl.traits (law(k), 1);
     memory = memory || t.memory;
     rates = rates || t.rates;
+    rows = max (rows, t.rows);
   end
   if ~memory
     if nargin < 3 && rates
@@ -46,25 +48,47 @@ function f = force (law, x, v, h)
     if nargin < 3, v = zeros (size (x)); end
     v = qn.impl.numbers (who, 'V', v, size (x), 'each', 'as the displacements');
     f = 0;
+    if rows > 1 && size (x, 1) ~= rows
+      error ('qn:input', '%s: the law "%s" observes %d displacements: "X" must have %d rows, got %d', who, law(1).kind, rows, rows, ...
+             size (x, 1));
+    end
     for k = 1:numel (law), f = f + at_once (law(k), x, v); end
     return
   end
   if nargin < 4, error ('qn:input', 'qn.force: the law "%s" has a memory: velocities and a time step are needed', law(end).kind); end
-  rows = max (t.rows, 1);
+  rows = max (rows, 1);
   x = qn.impl.numbers (who, 'X', x, [rows NaN]);
   v = qn.impl.numbers (who, 'V', v, size (x), 'each', 'as the displacements');
   h = qn.impl.scalar (who, 'H', h, realmin ());
   f = step_by_step (law, rows, x, v, h);
 end
 
+% All columns side by side in one element; where a law couples its rows, in its own groups.
 function f = at_once (law, x, v)
   n = numel (x);
+  t = qn.impl.traits (law, n);
+  if t.rows > 1
+    f = column_by_column (law, x, v);
+    return
+  end
   e = qn.element (law, eye (n));
   h = chandle (quarn ('chandleset', 1003, e));
   free = onCleanup (@() delete (h));
   f = zeros (n, 1);
   quarn ('residual', f, h, qn.impl.fresh (x(:)), qn.impl.fresh (v(:)), zeros (n, 1));
   f = reshape (f, size (x));
+end
+
+function f = column_by_column (law, x, v)
+  n = size (x, 1);
+  h = chandle (quarn ('chandleset', 1003, qn.element (law, eye (n))));
+  free = onCleanup (@() delete (h));
+  f = zeros (size (x));
+  for k = 1:size (x, 2)
+    r = zeros (n, 1);
+    quarn ('residual', r, h, qn.impl.fresh (x(:, k)), qn.impl.fresh (v(:, k)), zeros (n, 1));
+    f(:, k) = r;
+  end
 end
 
 % All laws in one call a step; after the displacements, the memory of each.

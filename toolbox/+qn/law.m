@@ -24,6 +24,14 @@
 %                  growth [N/m], friction, exponent* (1),    stiffness is growth(x3), tables of a third displacement x3, and the
 %                  stiffness* [N/m] (0), offset* [N] (0)     force normal(x3) - offset along it. Observes three displacements.
 %   'damper'       damping [N (s/m)^a], exponent* a (1)      force = damping * |v|^a with the sign of the velocity v
+%   'radial'       gap [m], stiffness [N/m^p],               a round shaft in a round clearance around x0, y0: force
+%                  exponent* p (1), damping* [s/m] (0),      stiffness * d^p * (1 + damping * d') along the radius, d the depth beyond
+%                  friction* (0), onset* [m/s] (0.01),       the gap, and friction times that against sliding, with the surface speed
+%                  radius* [m] (0), speed* [rad/s] (0),      radius * speed of the shaft. Observes two displacements, x and y, and
+%                  x0*, y0* [m] (0)                          their velocities. See qn.radial.
+%   'journal'      viscosity [Pa s], length [m], radius [m], oil film of a short plain bearing around x0, y0 (Ocvirk), of a journal that
+%                  clearance [m], speed [rad/s],             turns at speed; up to the eccentricity limit, in parts of the clearance.
+%                  limit* (0.99), x0*, y0* [m] (0)           Observes two displacements and their velocities. See qn.journal.
 %
 % Output
 %   LAW   struct: kind, parameters (struct of the values), note (text)
@@ -35,7 +43,7 @@
 %   brace = qn.law ('power', 'stiffness', 5e9, 'exponent', 3);
 %   qn.describe (brace)
 %
-% See also qn.describe, qn.element, qn.force, qn.gap, qn.slider, qn.zener
+% See also qn.describe, qn.element, qn.force, qn.gap, qn.journal, qn.radial, qn.slider, qn.zener
 function law = law (kind, varargin)
   if nargin < 1 || ~ischar (kind), error ('qn:input', 'qn.law: the kind of law expected, such as ''table''; see help qn.law'); end
   who = sprintf ('qn.law, ''%s''', kind);
@@ -63,6 +71,13 @@ function law = law (kind, varargin)
   end
   for name = of_sort (l, 'positive')
     qn.impl.numbers (who, name{1}, p.(name{1}), [], 'above', 0);
+  end
+  for name = of_sort (l, 'not negative')
+    qn.impl.numbers (who, name{1}, p.(name{1}), [], 'from', 0);
+  end
+  for name = of_sort (l, 'fraction')
+    x = qn.impl.numbers (who, name{1}, p.(name{1}), [], 'above', 0);
+    if x >= 1, error ('qn:input', '%s: "%s" must be below 1, got %.15g', who, name{1}, x); end
   end
   law = struct ('kind', kind, 'parameters', p, 'note', '');
 end

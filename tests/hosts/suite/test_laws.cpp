@@ -1,4 +1,6 @@
 // Laws with states and the laws of the list that quarn computes itself, on numbers that can be followed by hand.
+#include <cmath>
+
 #include "fixture.h"
 #include "setups.h"
 
@@ -53,6 +55,42 @@ TEST_P(Laws, Clima2AddsTwoBranchesAndTheTabulatedForce) {
   EXPECT_NEAR(got[0], 1 - 0.3, 1e-14);
   EXPECT_NEAR(got[1], -1 - 0.6, 1e-14);
   EXPECT_NEAR(got[2], 15 - 1.5 - 2, 1e-14);
+}
+
+/// Value of an element that observes two rows as they stand.
+mxArray* shaft(const char* law, const Values& parameters) {
+  Values opt{lawCode(law)};
+  opt.insert(opt.end(), parameters.begin(), parameters.end());
+  return structure({{"type", scalar(1003)},
+                    {"c", compressed(2, 2, {1, 0, 0, 1}, true)},
+                    {"b", compressed(2, 2, {1, 0, 0, 1}, true)},
+                    {"opt", column(opt)},
+                    {"unl", zeros(2)},
+                    {"vnl", zeros(2)},
+                    {"snl", zeros(2)}});
+}
+
+TEST_P(Laws, RadialPushesBackAndRubs) {
+  // opt: gap, k, p, chi, mu, onset, radius, spin, centre. The place is 3, 4: a depth of 3, deeper at 1 m/s, surfaces at 3 * 2 m/s.
+  mxArray* r = zeros(2);
+  run("residual",
+      {r, handles({set(1003, shaft("Radial", {2, 10, 2, 0.5, 0.25, 0, 2, 3, 0, 0}))}), column({3, 4}), column({0.6, 0.8}), zeros(0)}, 0);
+  const double normal = 10 * 9 * 1.5;
+  EXPECT_NEAR(values(r)[0], normal * (0.6 - 0.25 * 0.8), 1e-12);
+  EXPECT_NEAR(values(r)[1], normal * (0.8 + 0.25 * 0.6), 1e-12);
+  keptValues = 1;
+}
+
+TEST_P(Laws, OcvirkCarriesAShaftOnItsFilm) {
+  // opt: mu, L, R, c, spin, limit, centre, record. At the eccentricity e = 0.5 on x, at rest: 2 e^2/(1-e^2)^2 and pi e/(2 (1-e^2)^1.5).
+  const double index = set(1003, shaft("Ocvirk", {2, 1, 3, 0.5, 7, 0.9, 0, 0, 0}));
+  mxArray* r = zeros(2);
+  run("residual", {r, handles({index}), column({0.25, 0}), zeros(2), zeros(0)}, 0);
+  const double unit = 2.0 * 7 * 3 / (2 * 0.25);
+  EXPECT_NEAR(values(r)[0], unit * 0.5 / (0.75 * 0.75), 1e-11);
+  EXPECT_NEAR(values(r)[1], -unit * 0.25 * 3.14159265358979 / std::pow(0.75, 1.5), 1e-11);
+  EXPECT_EQ(values(field(run("chandleget", {scalar(index)}), "opt"))[9], 0.5);
+  keptValues = 1;
 }
 
 /// NL of one element and the model around it.

@@ -36,6 +36,12 @@ function rows = number_arguments ()
                                      'orders', [1 2], 'places', [1 2], 'basis', 2}, ...
       {'places|basis', 'empty', optional; 'C|G', 'empty', 'none'; 'orders|places', 'longer', any_length}
     'qn.check', {'SIM', 'RES'}, {sim, res}, {}
+    'qn.journal', {}, {'viscosity', 0.1, 'length', 0.03, 'radius', 0.05, 'clearance', 1e-4, 'speed', 100, 'limit', 0.9, 'centre', [1e-5 2e-5]}, ...
+      {'radius', 'empty', '"diameter" is then said to be missing'}
+    'qn.journal', {}, {'viscosity', 0.1, 'length', 0.03, 'diameter', 0.1, 'clearance', 1e-4, 'speed', 100}, ...
+      {'diameter', 'empty', '"radius" is then said to be missing'}
+    'qn.journal_coefficients', {'LAW', 'LOAD'}, ...
+      {qn.journal('viscosity', 0.1, 'length', 0.03, 'radius', 0.05, 'clearance', 1e-4, 'speed', 100), [100 -200]}, {}
     'qn.load_at', {'MODEL', 'DOFS', 'WEIGHTS'}, {model, [1 3], [1 -1]}, {}
     'qn.load_at', {'MODEL', 'ROWS'}, {model, [1 0 2; 0.5 0 1]}, {'ROWS', 'logical|empty|char|cell', 'the message is that for DOFS'}
     'qn.command', {'MODEL', 'DOFS', 'WEIGHTS', 'ROWS'}, {model, [1 3], [1 -1]}, {'.*', 'named', 'an older name of qn.load_at'}
@@ -89,6 +95,8 @@ function rows = number_arguments ()
       {'SPECTRA', 'complex', 'amplitudes may be complex'; 'along', 'empty', 'times and a signal are then expected, and said to be missing'}
     'qn.project', {'A', 'K', 'B'}, {[1 2; 3 4; 5 6], magic(3), [1; 2; 3]}, ...
       {'A|B', 'complex', 'bases may be complex'; 'A|B', 'longer', 'of any width'}
+    'qn.radial', {}, {'gap', 0.1, 'stiffness', 10, 'exponent', 1.5, 'damping', 0.1, 'friction', 0.2, 'onset', 0.1, 'radius', 1, 'speed', 2, ...
+                      'centre', [0.1 0.2]}, {}
     'qn.rayleigh', {'HERTZ', 'ZETA'}, {[1 2], [0.1 0.2]}, {}
     'qn.resume', {'RES', 'FILE'}, {part, 'progress', false, 'piece', 5, 'save', '', 'interval', 30, 'stop', []}, {'piece', 'empty', optional}
     'qn.rotor', {}, {'nodes', [0 1 3], 'outer', [0.2 0.3], 'inner', [0.1 0.05], 'young', [1e9 2e9], 'density', [2 3], 'poisson', [0.2 0.3], ...
@@ -141,6 +149,7 @@ function rows = laws ()
     for k = 1:size (l.parameters, 1)
       value = 2;
       if ~isempty (strfind (l.parameters{k, 3}, 'list')), value = [1 2]; end
+      if strcmp (l.parameters{k, 3}, 'fraction'), value = 0.5; end
       args = [args, l.parameters(k, 1), {value}];
     end
     rows(end + 1, :) = {'qn.law', {'KIND'}, args, {}};

@@ -68,6 +68,20 @@ function law = random_clima2 (law, n)
   if law.page < 3, law.forces = 3; end
 end
 
+function law = random_radial (law, n)
+  law.rates = true;
+  law.page = 2 * randi ([0, 3]);
+  exponents = [0 1 1.5 2 3*rand];
+  law.parameters = [rand*(rand<0.8); 5*rand; exponents(randi (5)); rand*(rand<0.7); rand*(rand<0.7); 0.5*rand*(rand<0.7); rand; randn; ...
+                    0.3*randn(2, 1)*(rand<0.5)];
+end
+
+function law = random_ocvirk (law, n)
+  law.rates = true;
+  law.page = 2 * randi ([0, 3]);
+  law.parameters = [rand(3, 1); 0.5 + 2*rand; 3*randn*(rand<0.8); 0.1+0.85*rand; 0.3*randn(2, 1)*(rand<0.5); rand*(rand<0.5)];
+end
+
 % Some of them doubled: jumps in the table.
 function x = random_knots (n)
   x = sort (round (4 * randn (n, 1)) / 2);

@@ -2,7 +2,8 @@
 %
 % Uncoupled modes have closed limits (qn.impl.check_step, qn.impl.check_law). With a damping or stiffness matrix, what feeds a mode (a
 % negative stiffness or damping), or an element whose force acts elsewhere than it observes, the spectral radius is computed: of the
-% linear part, then with each such element at its stiffest, in the motion of the result RES where there is one ([]: none).
+% linear part, then with each such element at its stiffest, in the motion of the result RES where there is one ([]: none), and with all
+% elements together whose laws couple their rows (films, rings), at the start or farthest out in the result.
 function found = check_growth (sim, res)
   found = qn.impl.finding ();
   m = numel (sim.model.w);
@@ -26,7 +27,29 @@ function found = check_growth (sim, res)
         sim.step, 1 / real_rate);
     end
   end
-  for k = 1:numel (sim.elements)
+  together = find (arrayfun (@(e) couples (e), sim.elements));
+  [stiffness, damping] = deal (zeros (m));
+  for k = together
+    e = sim.elements(k);
+    x = e.observe * sim.start.u(1:m);
+    if ~isempty (res)
+      x = e.observe * res.q;
+      [unused, far] = max (sum (x .^ 2, 1));
+      x = x(:, far);
+    end
+    [kt, ct] = qn.impl.tangent (e.law, x);
+    stiffness = stiffness + e.command.' * kt * e.observe;
+    damping = damping + e.command.' * ct * e.observe;
+  end
+  if all (isfinite ([stiffness(:); damping(:)])) && any ([stiffness(:); damping(:)])
+    [grows, real_rate] = qn.impl.linear_step (sim, stiffness, damping);
+    before = numel (found);
+    found = judge (found, sim, grows, real_rate, sprintf ('with element %d, and others that couple two directions, the linear model', ...
+                                                          sim.elements(together(1)).item));
+    % How long it stays farthest out is not known.
+    if numel (found) > before && ~isempty (res), found(end).level = 'warning'; end
+  end
+  for k = setdiff (1:numel (sim.elements), together)
     e = sim.elements(k);
     [x, state] = deal ([]);
     if ~isempty (res)
@@ -42,6 +65,11 @@ function found = check_growth (sim, res)
     if numel (found) > before && qn.impl.softest (e.law) < stiff, found(end).level = 'warning'; end
     if numel (found) > 8, return, end
   end
+end
+
+function yes = couples (e)
+  t = qn.impl.traits (e.law, size (e.observe, 1));
+  yes = t.rows > 1 && t.rates;
 end
 
 % What the scheme adds to the growth counts, over the time of the run; 3e-7 a step is the rounding of coinciding eigenvalues.

@@ -1,10 +1,10 @@
-% FOUND = CHECK_LAW (SIM, K, X, MOTION, STATE, F)  element K against the step, the displacements X, the memory STATE and the forces F of a
-% result ([]: not known), and the motion that can be
+% FOUND = CHECK_LAW (SIM, K, X, MOTION, STATE, F, RECORD)  element K against the step, the displacements X, the memory STATE, the forces F
+% and the law's RECORD of a result ([]: not known), and the motion that can be
 %
 % An element's force is evaluated at the predictor. A spring kn there is stable while h sqrt (2 gamma kn mu) < 2 with the mobility mu
 % (qn.impl.mobility; docs/theory.md derives it), a damper cn while h cn mu < 2, both together while the sum of gamma kn mu h^2 / 2 and
 % cn mu h / 2 is below 1. MOTION bounds each modal coordinate of the linear model (qn.impl.motion_bound).
-function found = check_law (sim, k, x, motion, state, f)
+function found = check_law (sim, k, x, motion, state, f, record)
   found = qn.impl.finding ();
   e = sim.elements(k);
   h = sim.step;
@@ -22,7 +22,7 @@ function found = check_law (sim, k, x, motion, state, f)
   % What the linear model cannot reach, and nothing else pushes it to, does not count before the run.
   if isempty (x) && isfinite (kink) && kink > can && can > 0 && ~any (sim.start.FNL)
     far ();
-    within = [-can, can];
+    within = ones (size (e.observe, 1), 1) * [-can, can];
   end
   stiff = qn.impl.stiffest (e.law, within, state);
   ratio = h * sqrt (stiff * mobility * 2 * sim.scheme.gamma);
@@ -50,6 +50,8 @@ function found = check_law (sim, k, x, motion, state, f)
   end
   l = qn.impl.law_of (e.law.kind);
   if ~isempty (l.check)
+    t = qn.impl.traits (e.law, size (e.observe, 1));
+    if t.record > 0, state = record; end
     own = l.check (e.law, x, h, state);
     for j = 1:size (own, 1), say (own{j, 1}, own{j, 2}, '%s', own{j, 3}); end
   end

@@ -9,7 +9,7 @@ function found = check_motion (res, before)
     e = res.sim.elements(k);
     f = res.force(e.forces, good);
     x = qn.impl.met (e.law, e.observe * res.q(:, good), f);
-    one = qn.impl.check_law (res.sim, k, x, none, qn.impl.memory_of (res.sim, k, res.state(:, good)), f);
+    one = qn.impl.check_law (res.sim, k, x, none, qn.impl.memory_of (res.sim, k, res.state(:, good)), f, qn.impl.record_of (res, k));
     for j = 1:numel (one)
       if ~any (strcmp (one(j).code, said)), found(end + 1) = one(j); end
     end

@@ -8,13 +8,14 @@ function found = findings (sim, res)
   for k = 1:numel (sim.elements)
     x = [];
     if ~isempty (res), x = sim.elements(k).observe * res.q; end
-    [seen, state, f] = deal (x, [], []);
+    [seen, state, f, record] = deal (x, [], [], []);
     if ~isempty (res)
       f = res.force(sim.elements(k).forces, :);
       seen = qn.impl.met (sim.elements(k).law, x, f);
       state = qn.impl.memory_of (sim, k, res.state);
+      record = qn.impl.record_of (res, k);
     end
-    lists{end + 1} = qn.impl.check_law (sim, k, seen, motion, state, f);
+    lists{end + 1} = qn.impl.check_law (sim, k, seen, motion, state, f, record);
     if ~isempty (res), lists{end + 1} = qn.impl.check_acts (sim, k, x, f); end
   end
   lists{end + 1} = qn.impl.check_together (sim);

@@ -1,7 +1,8 @@
 % CHECKS = SELFTEST_LAWS ()  the checks of qn.selftest that compare runs and force laws with their formulas
 function checks = selftest_laws ()
   checks = {'linear run', @linear_run; 'law Power', @power; 'law Expon', @expon; 'law Table', @table; 'law Maxw', @maxw; ...
-            'law DahlC', @dahl; 'law sts', @stick_slip; 'law Clima2', @clima; 'law Damper', @damper};
+            'law DahlC', @dahl; 'law sts', @stick_slip; 'law Clima2', @clima; 'law Damper', @damper; ...
+            'law Radial', @radial; 'law Ocvirk', @film};
 end
 
 % A free oscillation: average acceleration turns every step by the angle 2 atan (w h / 2) and keeps the amplitude.
@@ -82,6 +83,21 @@ end
 function [good, text] = damper ()
   speed = [-2; -0.5; 0; 1; 3];
   [good, text] = judged (evaluated (with_rates (element (5, 'Damper', [7; 2])), zeros (5, 1), speed, 1), 7 * speed .* abs (speed));
+end
+
+% A shaft that has moved by 3, 4, and slides around: depth 5 - 2, pushed deeper at 1, surface speed 2 * 3 and 7 of its own.
+function [good, text] = radial ()
+  e = with_rates (element (2, 'Radial', [2; 10; 2; 0.5; 0.25; 0; 2; 3; 0; 0]));
+  v = [0.6 - 7 * 0.8; 0.8 + 7 * 0.6];
+  f = evaluated (e, [3; 4], v, 1);
+  normal = 10 * 3 ^ 2 * (1 + 0.5 * 1);
+  [good, text] = judged (f, normal * [0.6 - 0.25 * 0.8; 0.8 + 0.25 * 0.6]);
+end
+
+% At rest at half the clearance: 2 e^2/(1-e^2)^2 along the line of centres, pi e/(2 (1-e^2)^1.5) across it.
+function [good, text] = film ()
+  f = evaluated (with_rates (element (2, 'Ocvirk', [2; 1; 3; 0.5; 7; 0.9; 0; 0; 0])), [0.25; 0], [0; 0], 1);
+  [good, text] = judged (f, 2 * 7 * 3 / (2 * 0.25) * [0.5 / 0.75 ^ 2; -pi / 4 / 0.75 ^ 1.5]);
 end
 
 % An element that observes N values as they are.

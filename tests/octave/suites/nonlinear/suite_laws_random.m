@@ -19,6 +19,10 @@ function test_table_in_residual (), residual_like_model ('Table', 13); end
 function test_table_in_the_integrator (), newmark_like_model ('Table', 14); end
 function test_damper_in_residual (), residual_like_model ('Damper', 15); end
 function test_damper_in_the_integrator (), newmark_like_model ('Damper', 16); end
+function test_radial_contact_in_residual (), residual_like_model ('Radial', 31); end
+function test_radial_contact_in_the_integrator (), newmark_like_model ('Radial', 32); end
+function test_oil_film_in_residual (), residual_like_model ('Ocvirk', 33); end
+function test_oil_film_in_the_integrator (), newmark_like_model ('Ocvirk', 34); end
 
 % 150 set-ups, three evaluations of each.
 function residual_like_model (word, seed)

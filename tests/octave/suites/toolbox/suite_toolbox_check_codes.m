@@ -120,6 +120,10 @@ function c = cases ()
                                    {with(qn.damper ('damping', 0.9e4, 'exponent', 2), 'v0', 1), true}
        'damper_coarse', 'warning', {with(qn.damper ('damping', 2.1e3))}, {with(qn.damper ('damping', 1.9e3))}
        'damper_feeds', 'warning', {with(qn.law ('damper', 'damping', -1))}, {with(qn.law ('damper', 'damping', 1))}
+       'film_left', 'error', {on_film(5000), true}, {on_film(300), true}
+       'film_left', 'warning', {on_film(790, 'every', 10), true}, {on_film(700, 'every', 10), true}
+       'film_long', 'note', {on_film(300, 'until', 1e-3, 'length', 0.051)}, {on_film(300, 'until', 1e-3, 'length', 0.049)}
+       'film_long', 'warning', {on_film(300, 'until', 1e-3, 'length', 0.101)}, {on_film(300, 'until', 1e-3, 'length', 0.03)}
        'clima2_stiffness', 'warning', {on_pad(pad (1, 10))}, {on_pad(pad (1, 0))}
        'clima2_normal', 'warning', {on_pad(pad (-1, 0))}, {on_pad(pad (1, 0))}
        'clima2_normal', 'warning', {on_pad(pad (-1, 0)), true}, {on_pad(pad (-1e-3, 0)), true}
@@ -159,6 +163,16 @@ end
 
 function law = sticks (slip)
   law = qn.law ('stickslip', 'contact', 1e4, 'slip', slip);
+end
+
+% A journal of 10 kg on its film, which carries 774 N at its limit, pushed from the middle with LOAD newtons.
+function sim = on_film (load, varargin)
+  o = struct ('length', 0.03, 'until', 0.1, 'every', 1);
+  for k = 1:2:numel (varargin), o.(varargin{k}) = varargin{k + 1}; end
+  film = qn.journal ('viscosity', 0.01, 'length', o.length, 'radius', 0.05, 'clearance', 1e-4, 'speed', 100, 'limit', 0.8);
+  model = qn.modal (zeros (2), 10 * eye (2));
+  sim = qn.simulation (model, 'step', 1e-5, 'until', o.until, 'every', o.every, 'elements', {film, qn.observe(model, eye (2))}, ...
+                       'load', {qn.load_at(model, 1), @(t) load * (t >= 0)});
 end
 
 % A pad whose normal force reaches LEAST newtons 10 mm below its place of rest.
@@ -278,7 +292,7 @@ function test_a_contact_that_only_the_prediction_meets_is_named ()
   res.force(700) = 2e4;
   x = qn.impl.met (sim.elements.law, x, res.force);
   expect_equal (max (x), 1e-3 + 2e-8, 1e-12);
-  found = qn.impl.check_law (sim, 1, x, 1, [], []);
+  found = qn.impl.check_law (sim, 1, x, 1, [], [], []);
   expect_equal (found(1).code, 'element_unstable');
 end
 

@@ -207,7 +207,7 @@ function test_a_stop_that_is_touched_once_is_a_warning_and_no_error ()
   spring = {qn.law('table', 'displacement', [-1 0 1], 'force', [-1.1e7 0 1e7]), qn.observe(model, 1)};
   says (qn.check (qn.simulation (model, 'step', 1e-3, 'until', 0.02, 'v0', 1, 'elements', spring)), 'error', 'grows without bound');
   x = [0, 1, 1, 0, 1, 1, 1, 0] * 6e-3;
-  found = qn.impl.check_law (sim, 1, x, 1, [], []);
+  found = qn.impl.check_law (sim, 1, x, 1, [], [], []);
   expect_equal ({found.code, found.level}, {'element_unstable', 'error'});
   found = qn.impl.check_law (sim, 1, x(1:6), 1, [], []);
   expect_equal ({found.code, found.level}, {'element_unstable', 'warning'});

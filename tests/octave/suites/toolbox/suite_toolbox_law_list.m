@@ -15,6 +15,8 @@ function law = drawn (l)
       x = cumsum (0.1 + rand (n, 1));
     elseif ~isempty (strfind (sort_of, 'list'))
       x = 0.5 + rand (n, 1);
+    elseif strcmp (sort_of, 'fraction')
+      x = rand ();
     else
       x = 1 + 2 * rand ();
     end
@@ -77,7 +79,7 @@ function test_the_greatest_stiffness_bounds_the_slope_and_the_stored_energy_has_
   for l = qn.impl.law_list ()
     law = drawn (l);
     t = qn.impl.traits (law, 1);
-    if t.memory, continue, end
+    if t.memory || t.rows > 1, continue, end
     h = 1e-5;
     x = 0.2 + 2 * rand (1, 40);
     f = qn.force (law, x, 0 * x);
@@ -117,12 +119,36 @@ function test_the_greatest_damping_bounds_the_slope_over_the_velocity ()
   if seen < 1, error ('no law of the velocity'); end
 end
 
+% Laws of several observations: at rest no direction has more stiffness or more damping.
+function test_the_greatest_stiffness_and_damping_bound_the_slopes_of_coupled_laws ()
+  seen = 0;
+  for l = qn.impl.law_list ()
+    law = drawn (l);
+    t = qn.impl.traits (law, 1);
+    if ~t.rates || t.rows < 2, continue, end
+    for trial = 1:20
+      x = 4 * randn (t.rows, 1);
+      if isfield (law.parameters, 'limit')
+        x = [law.parameters.x0; law.parameters.y0] + law.parameters.clearance * law.parameters.limit * rand () * x / norm (x);
+      end
+      [k, c] = qn.impl.tangent (law, x);
+      most_k = qn.impl.stiffest (law, x);
+      most_c = qn.impl.viscous (law, x, []);
+      if norm (k) > most_k * (1 + 1e-4), error ('%s: slope %g N/m, greatest stiffness %g N/m', l.kind, norm (k), most_k); end
+      if norm (c) > most_c * (1 + 1e-4), error ('%s: slope %g N s/m, greatest damping %g N s/m', l.kind, norm (c), most_c); end
+      seen = seen + any (k(:)) + any (c(:));
+    end
+  end
+  if seen < 40, error ('only %d slopes', seen); end
+end
+
 function test_every_law_runs_in_a_simulation_and_no_bad_number_passes ()
   model = qn.modal (diag ([1e2 2e2 3e2]), eye (3), 'damping', 0.02);
   for l = qn.impl.law_list ()
     law = drawn (l);
     t = qn.impl.traits (law, 1);
-    sim = qn.simulation (model, 'step', 1e-4, 'steps', 50, 'v0', [1; 1; 1], 'elements', {law, eye(3)(1:max (t.rows, 1), :)});
+    away = 6 * (t.rows == 2) * [1; 1; 1];      % beyond every clearance that is drawn
+    sim = qn.simulation (model, 'step', 1e-4, 'steps', 50, 'u0', away, 'v0', [1; 1; 1], 'elements', {law, eye(3)(1:max (t.rows, 1), :)});
     res = qn.run (sim, 'progress', false);
     if ~all (isfinite (res.q(:))) || ~any (res.force(:)), error ('the law %s does nothing in a run', l.kind); end
     for k = 1:size (l.parameters, 1)

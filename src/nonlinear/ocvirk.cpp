@@ -1,0 +1,52 @@
+#include <cmath>
+
+#include "host/errors.h"
+#include "nonlinear/shaft_laws.h"
+
+namespace quarn {
+
+void checkOcvirk(const chandleNl_inout& h, const ROr& /*ro*/) {
+  requirePairs(h, "Ocvirk", 10);
+  if (!(h.opt[4] > 0.0)) host::refuse("the clearance of law \"Ocvirk\", opt(5), must be above 0, got %g", h.opt[4]);
+  if (!(h.opt[6] > 0.0 && h.opt[6] < 1.0)) {
+    host::refuse("the greatest eccentricity of law \"Ocvirk\", opt(7), must be between 0 and 1, got %g", h.opt[6]);
+  }
+}
+
+void FuOcvirk(chandleNl_inout* h, ROr ro) {
+  const double length = h->opt[2];
+  const double clearance = h->opt[4];
+  const double spin = h->opt[5];
+  const double most = h->opt[6];
+  const double scale = h->opt[1] * h->opt[3] * length * length * length / (2.0 * clearance * clearance);
+  for (int i = 0; i < h->unlLen; i += 2) {
+    double x = (h->unl[i] - h->opt[7]) / clearance;
+    double y = (h->unl[i + 1] - h->opt[8]) / clearance;
+    const double eccentricity = std::sqrt(x * x + y * y);
+    if (eccentricity > h->opt[9]) h->opt[9] = eccentricity;
+    if (eccentricity > most) {
+      x = x * (most / eccentricity);
+      y = y * (most / eccentricity);
+    }
+    const double a = y * spin + 2.0 * (h->vnl[i] / clearance);
+    const double b = x * spin - 2.0 * (h->vnl[i + 1] / clearance);
+    const double n = std::sqrt(a * a + b * b);
+    if (n == 0.0) {
+      h->snl[i] = 0.0;
+      h->snl[i + 1] = 0.0;
+      continue;
+    }
+    const double X = (x * a - y * b) / n;
+    const double Y = (x * b + y * a) / n;
+    const double s = 1.0 - x * x - y * y;
+    const double q = std::sqrt(s);
+    const double g = std::atan2(q, -X) / q;
+    const double A = (3.0 * X + g * (s + 3.0 * X * X)) / (s * s);
+    const double B = Y * (2.0 + X * X / (1.0 - Y * Y) + 3.0 * X * g) / (s * s);
+    h->snl[i] = scale * (A * a + B * b);
+    h->snl[i + 1] = scale * (B * a - A * b);
+  }
+  storeForces(*h, ro);
+}
+
+}  // namespace quarn

@@ -1,0 +1,78 @@
+% L = RADIAL_LAW ()  contact and friction of a round shaft in a round clearance; the fields are those of qn.impl.law_list
+function l = radial_law ()
+  parameters = {'gap', '<required>', 'not negative'
+                'stiffness', '<required>', 'not negative'
+                'exponent', 1, 'positive'
+                'damping', 0, 'not negative'
+                'friction', 0, 'not negative'
+                'onset', 0.01, 'positive'
+                'radius', 0, 'number'
+                'speed', 0, 'number'
+                'x0', 0, 'number'
+                'y0', 0, 'number'};
+  l = struct ('kind', 'radial', 'keyword', 'Radial', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
+              'stiffest', @stiffest, 'viscous', @viscous, 'traits', @traits, 'stored', @stored, 'reserve', @reserve);
+end
+
+function [opt, own] = pack (p, step)
+  opt = [qn.impl.keyword('Radial'); p.gap; p.stiffness; p.exponent; p.damping; p.friction; p.onset; p.radius; p.speed; p.x0; p.y0];
+  own = zeros (0, 1);
+end
+
+function p = unpack (opt, iopt)
+  p = struct ('gap', opt(2), 'stiffness', opt(3), 'exponent', opt(4), 'damping', opt(5), 'friction', opt(6), 'onset', opt(7), ...
+              'radius', opt(8), 'speed', opt(9), 'x0', opt(10), 'y0', opt(11));
+end
+
+function text = words (p)
+  text = sprintf ('round contact behind %g m, force = %g * depth^%g', p.gap, p.stiffness, p.exponent);
+  if p.damping ~= 0, text = sprintf ('%s * (1 + %g * its rate)', text, p.damping); end
+  if p.friction ~= 0
+    text = sprintf ('%s, friction %g (from %g m/s on), shaft of radius %g m at %g rad/s', text, p.friction, p.onset, p.radius, p.speed);
+  end
+  if any ([p.x0, p.y0] ~= 0), text = sprintf ('%s, centre at %g, %g m', text, p.x0, p.y0); end
+end
+
+function t = traits (p)
+  t = struct ('rows', 2, 'forces', 2, 'width', 2, 'rates', true);
+end
+
+% Slope of the force along the radius, and force over radius across it, with friction at right angles to both.
+function k = stiffest (p, x, state)
+  k = 0;
+  d = deepest (p, x);
+  if isempty (d) && p.exponent == 1
+    k = p.stiffness * sqrt (1 + p.friction ^ 2);
+  elseif any (d > 0)
+    k = max (p.exponent, 1) * p.stiffness * d ^ (p.exponent - 1) * sqrt (1 + p.friction ^ 2);
+  end
+end
+
+% Damping of the contact along the radius, and across it friction where the surfaces do not slide.
+function c = viscous (p, x, f)
+  c = 0;
+  d = deepest (p, x);
+  if any (d > 0)
+    c = p.stiffness * d ^ p.exponent * sqrt (p.damping ^ 2 * (1 + p.friction ^ 2) + (p.friction / p.onset) ^ 2);
+  end
+end
+
+function d = deepest (p, x)
+  d = [];
+  if ~isempty (x), d = max (0, max (away (p, x)) - p.gap); end
+end
+
+function v = stored (p, x, f, state, h)
+  d = max (0, away (p, x) - p.gap);
+  v = p.stiffness * d .^ (p.exponent + 1) / (p.exponent + 1);
+end
+
+% A shaft that turns can be fed by its rubbing.
+function v = reserve (p, x, state)
+  v = Inf;
+  if p.friction == 0 || p.radius * p.speed == 0, v = stored (p, x, [], [], []); end
+end
+
+function r = away (p, x)
+  r = sqrt ((x(1, :) - p.x0) .^ 2 + (x(2, :) - p.y0) .^ 2);
+end

@@ -16,13 +16,23 @@ namespace quarn::bench {
 
 namespace {
 
+/// Whether a run came to nothing: `error_occurred` in Google Benchmark up to 1.7, `skipped` from 1.8 on.
+template <class Run>
+auto cameToNothing(const Run& r, int /*first*/) -> decltype(static_cast<bool>(r.error_occurred)) {
+  return r.error_occurred;
+}
+template <class Run>
+auto cameToNothing(const Run& r, long /*second*/) -> decltype(static_cast<bool>(r.skipped)) {
+  return static_cast<bool>(r.skipped);
+}
+
 /// Best and median time of the repetitions of each benchmark, by name.
 class Collector final : public benchmark::BenchmarkReporter {
  public:
   bool ReportContext(const Context& /*context*/) override { return true; }
   void ReportRuns(const std::vector<Run>& runs) override {
     for (const Run& r : runs) {
-      if (r.run_type != Run::RT_Iteration || r.error_occurred) continue;
+      if (r.run_type != Run::RT_Iteration || cameToNothing(r, 0)) continue;
       const std::string& name = r.run_name.function_name;
       times[name].push_back(threaded[name] ? r.GetAdjustedRealTime() : r.GetAdjustedCPUTime());
     }

@@ -4,7 +4,10 @@
 # processor.
 add_library(quarn_flags INTERFACE)
 target_compile_options(quarn_flags INTERFACE
-  -ffp-contract=off -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+  -ffp-contract=off -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(QUARN_WERROR)
+  target_compile_options(quarn_flags INTERFACE -Werror)
+endif()
 
 if(QUARN_CHECKED)
   target_compile_definitions(quarn_flags INTERFACE QUARN_CHECKED)

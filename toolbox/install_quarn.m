@@ -27,6 +27,7 @@
 function folder = install_quarn (folder, keep)
   toolbox = fileparts (mfilename ('fullpath'));
   name = ['quarn.' mexext()];
+  if nargin > 0 && isa (folder, 'string'), folder = convertStringsToChars (folder); end
   if nargin < 1 || isempty (folder)
     found = find_module (toolbox, name);
   elseif ~ischar (folder)

@@ -33,6 +33,7 @@ inline constexpr FixedError valueIsObject{"KORV:quarn:NonHandle", "xxx", "`chand
 inline constexpr FixedError tooManyArguments{"KORV:quarn:WrongSize", "varargin too large", "`chandleget` with more than 9 inputs"};
 inline constexpr FixedError projectionRows{"KORV:quarn:WrongSize", "quarn c<-a'*b : vector a has a wrong size", "`c<-a'*b`"};
 inline constexpr FixedError unknownCommand{nullptr, "quarn : Unknown command", "any other word"};
+inline constexpr FixedError stringWord{nullptr, "quarn : a command word is a character vector, got string", "a word in double quotes in MATLAB, which is a string object"};
 inline constexpr FixedError nativeSparse{nullptr, "ir must be int32", "every command and handle that gets a native sparse matrix where it needs a sparse structure"};
 inline constexpr FixedError complexState{nullptr, "Real numbers needed.", "`residual`, `chandlediagnewmark`: complex `u`, `v` or `a`"};
 inline constexpr FixedError fewMatrices{nullptr, "model.K must be a 3*1 cell array", "`residual`: a matrix cell with fewer than three *columns*"};

@@ -62,7 +62,10 @@ extern "C" [[gnu::visibility("default")]] void mexFunction(int nlhs, mxArray* pl
     return;
   }
   const quarn::CommandRow* row = commandOf(prhs[0]);
-  if (!row) quarn::host::fail(quarn::fixed::unknownCommand);
+  if (!row) {
+    const bool isString = quarn::host::isClass(prhs[0], "string");
+    quarn::host::fail(isString ? quarn::fixed::stringWord : quarn::fixed::unknownCommand);
+  }
   quarn::host::setCommand(row->word);
   char text[256];
   if (!run(*row, nlhs, plhs, nrhs, prhs, text, sizeof text)) quarn::host::refuse("%s", text);

@@ -37,10 +37,26 @@ template <class Vector>
   }
 }
 
+/// The values of v from number first on, as many as part has.
+template <int first, class Part, class Vector>
+[[gnu::always_inline]] inline void take(Part& part, const Vector& v) {
+#if __has_builtin(__builtin_shufflevector)
+  if constexpr (sizeof(Part) == 4 * sizeof(double)) {
+    part = __builtin_shufflevector(v, v, first, first + 1, first + 2, first + 3);
+  } else {
+    part = __builtin_shufflevector(v, v, first, first + 1);
+  }
+#else
+  std::memcpy(&part, reinterpret_cast<const char*>(&v) + first * sizeof(double), sizeof part);
+#endif
+}
+
 /// The sum of a line from its partial sums and its last n entries, n < 8.
 [[gnu::always_inline]] inline double total(const Sums& sums, int n, const double* row, const double* x) {
-  Half low = __builtin_shufflevector(sums, sums, 0, 1, 2, 3);
-  Half high = __builtin_shufflevector(sums, sums, 4, 5, 6, 7);
+  Half low;
+  Half high;
+  take<0>(low, sums);
+  take<4>(high, sums);
   if (n >= 4) {
     Half a;
     Half b;
@@ -52,7 +68,11 @@ template <class Vector>
     addFew(low, n, row, x);
   }
   const Half t = low + high;
-  const Pair two = __builtin_shufflevector(t, t, 0, 1) + __builtin_shufflevector(t, t, 2, 3);
+  Pair first;
+  Pair second;
+  take<0>(first, t);
+  take<2>(second, t);
+  const Pair two = first + second;
   return two[0] + two[1];
 }
 

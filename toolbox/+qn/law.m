@@ -45,6 +45,7 @@
 %
 % See also qn.describe, qn.element, qn.force, qn.gap, qn.journal, qn.radial, qn.slider, qn.zener
 function law = law (kind, varargin)
+  if nargin > 0, kind = qn.impl.chars (kind); end
   if nargin < 1 || ~ischar (kind), error ('qn:input', 'qn.law: the kind of law expected, such as ''table''; see help qn.law'); end
   who = sprintf ('qn.law, ''%s''', kind);
   l = qn.impl.law_of (kind);

@@ -24,6 +24,7 @@
 %
 % See also qn.mmwrite, qn.pack
 function a = mmread (file)
+  file = qn.impl.chars (file);
   [id, why] = fopen (file, 'r');
   if id < 0, error ('qn:input', 'qn.mmread: cannot open %s: %s', file, why); end
   close_file = onCleanup (@() fclose (id));

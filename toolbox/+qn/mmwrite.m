@@ -25,6 +25,7 @@
 % See also qn.mmread, qn.unpack
 function mmwrite (file, a, comment)
   if nargin < 2, error ('qn:input', 'qn.mmwrite: a file name and a matrix expected; see help qn.mmwrite'); end
+  file = qn.impl.chars (file);
   a = qn.impl.numbers ('qn.mmwrite', 'A', a, [NaN NaN], 'complex');
   [id, why] = fopen (file, 'w');
   if id < 0, error ('qn:input', 'qn.mmwrite: cannot write %s: %s', file, why); end
@@ -34,7 +35,7 @@ function mmwrite (file, a, comment)
   symmetry = {'general', 'symmetric'};
   half = isreal (a) && size (a, 1) == size (a, 2) && isequal (a, a.');
   fprintf (id, '%%%%MatrixMarket matrix %s %s %s\n', form{1 + issparse(a)}, field{1 + isreal(a)}, symmetry{1 + half});
-  if nargin > 2, fprintf (id, '%% %s\n', strrep (comment, sprintf ('\n'), ' ')); end
+  if nargin > 2, fprintf (id, '%% %s\n', strrep (qn.impl.chars (comment), sprintf ('\n'), ' ')); end
   inside = true (size (a));
   if issparse (a)
     stored = a;

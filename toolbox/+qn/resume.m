@@ -28,6 +28,7 @@
 % See also qn.run
 function res = resume (what, varargin)
   if nargin < 1, what = []; end
+  what = qn.impl.chars (what);
   file = '';
   if ischar (what)
     file = what;

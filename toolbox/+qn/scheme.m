@@ -26,6 +26,7 @@
 %
 % See also qn.simulation, qn.check
 function s = scheme (name, rho)
+  if nargin > 0, name = qn.impl.chars (name); end
   if isstruct (name)
     s = name;
     return

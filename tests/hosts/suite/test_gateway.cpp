@@ -35,6 +35,11 @@ TEST_P(Gateway, NoCommandMatchesByPrefixOrInAnotherCase) {
   EXPECT_EQ(module(0, {zeros(2)}).text, "quarn : Unknown command");
 }
 
+TEST_P(Gateway, AStringObjectIsToldFromAnUnknownCommand) {
+  EXPECT_EQ(module(0, {standin::object("string", {{"data", text("ismex")}})}).text, "quarn : a command word is a character vector, got string");
+  EXPECT_EQ(module(0, {standin::object("strings", {{"data", text("ismex")}})}).text, "quarn : Unknown command");
+}
+
 TEST_P(Gateway, WordsOfAThousandCharactersAreUnknown) { expectError("", "quarn : Unknown command", std::string(1000, 'a').c_str()); }
 
 TEST_P(Gateway, NlV1RefusesWhatHasNoUnl) {

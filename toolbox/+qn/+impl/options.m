@@ -1,6 +1,7 @@
 % O = OPTIONS (WHO, DEFAULTS, ARGS)  name-value pairs ARGS on top of the structure DEFAULTS
 %
-% A default of '<required>' has to be given. Names are those of DEFAULTS, in any case of letters. Errors name the function WHO.
+% A default of '<required>' has to be given. Names are those of DEFAULTS, in any case of letters; a string object
+% counts as the text that it holds. Errors name the function WHO.
 function o = options (who, defaults, args)
   o = defaults;
   names = fieldnames (defaults);
@@ -8,6 +9,7 @@ function o = options (who, defaults, args)
     error ('qn:input', '%s: names and values expected in pairs, got %d arguments', who, numel (args));
   end
   given = false (size (names));
+  args = cellfun (@qn.impl.chars, args, 'UniformOutput', false);
   for k = 1:2:numel (args)
     if ~ischar (args{k})
       error ('qn:input', '%s: the name of a parameter expected, got an array of class %s', who, class (args{k}));

@@ -23,6 +23,7 @@
 %
 % See also qn.plot.page
 function picture (fig, file)
+  file = qn.impl.chars (file);
   [unused, unused2, ending] = fileparts (file);
   devices = {'.png', '-dpng'; '.pdf', '-dpdf'; '.svg', '-dsvg'; '.eps', '-depsc'};
   k = find (strcmpi (ending, devices(:, 1)));

@@ -29,6 +29,7 @@ function series (res, c, varargin)
   if nargin < 1, res = []; end
   qn.impl.expect_result_of ('qn.plot.series', res, 'qn.run');
   if nargin < 2, error ('qn:input', 'qn.plot.series: observation rows or ''force'' expected; see help qn.plot.series'); end
+  c = qn.impl.chars (c);
   if ischar (c)
     if ~strcmp (c, 'force') || isempty (varargin)
       error ('qn:input', 'qn.plot.series: observation rows or ''force'' and its rows expected');

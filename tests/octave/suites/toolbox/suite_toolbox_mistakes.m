@@ -42,6 +42,25 @@ function test_numbers_of_degrees_of_freedom_are_never_weights_of_modes ()
   expect_equal (qn.displacement (res, [1 1]), sum (res.q, 1));
 end
 
+% In MATLAB a text in double quotes is a string object; a class of that name is in its place here.
+function test_texts_in_double_quotes_are_taken_like_those_in_single_ones ()
+  place = fullfile (fileparts (which ('fresh')), 'string_objects');
+  addpath (place);
+  back = onCleanup (@() rmpath (place));
+  expect_equal (qn.law (string ('power'), string ('stiffness'), 3, 'exponent', 2), qn.law ('power', 'stiffness', 3, 'exponent', 2));
+  expect_equal (qn.scheme (string ('linear')), qn.scheme ('linear'));
+  [model, res, sim] = chain (2);
+  file = [tempname() '.mat'];
+  again = qn.run (sim, string ('save'), string (file));
+  expect_equal (again.q, res.q);
+  expect_equal (getfield (qn.resume (string (file)), 'q'), res.q);
+  delete (file);
+  qn.mmwrite (string (file), [1 2; 3 4], string ('by rows'));
+  expect_equal (qn.mmread (string (file)), [1 2; 3 4]);
+  delete (file);
+  expect_error (@() quarn (string ('ismex')), '', 'quarn : a command word is a character vector, got string');
+end
+
 function test_options_that_contradict_each_other_are_refused ()
   [model, res, sim] = chain (3);
   refused (@() qn.simulation (model, 'step', 1, 'until', 5, 'steps', 3), '"until" or "steps", one of them');

@@ -26,6 +26,11 @@ int rows(const mxArray* a) { return narrow(rowCount(a)); }
 
 int cols(const mxArray* a) { return narrow(columnCount(a)); }
 
+const char* className(const mxArray* a) {
+  const char* name = mxGetClassName(a);
+  return name ? name : mxIsStruct(a) ? "struct" : mxIsCell(a) ? "cell" : "unknown";
+}
+
 Description describe(const mxArray* a) {
   Description d{};
   if (!a) {
@@ -33,7 +38,7 @@ Description describe(const mxArray* a) {
     return d;
   }
   const char* kind = mxIsSparse(a) ? "sparse " : mxIsComplex(a) ? "complex " : "";
-  std::snprintf(d.text, sizeof d.text, "%s%.60s %dx%d", kind, mxGetClassName(a), rows(a), cols(a));
+  std::snprintf(d.text, sizeof d.text, "%s%.60s %dx%d", kind, className(a), rows(a), cols(a));
   return d;
 }
 

@@ -27,6 +27,8 @@ std::size_t columnCount(const mxArray* a);
 int rows(const mxArray* a);
 int cols(const mxArray* a);
 
+/// Name of the class of an array. Octave 11 tells none for some structs and cells.
+const char* className(const mxArray* a);
 /// What an array is, for error texts: "double 3x1", "sparse double 4x4", "nothing".
 struct Description {
   char text[96];

@@ -136,7 +136,7 @@ mxArray* duplicateByHost(const mxArray* a) {
   mxArray* in = const_cast<mxArray*>(a);
   mxArray* out = nullptr;
   callHost(1, &out, 1, &in, "deal");  // mxDuplicateArray raises an error for an object
-  if (!out) refuse("a value of class %.60s cannot be copied", mxGetClassName(a));
+  if (!out) refuse("a value of class %.60s cannot be copied", className(a));
   return out;
 }
 

@@ -78,7 +78,7 @@ host::Doubles pmatDoubles(const mxArray* a, const char* name) {
   const bool word = address && mxIsNumeric(address) && !mxIsSparse(address) &&
                     host::count(address) * static_cast<std::size_t>(mxGetElementSize(address)) >= sizeof(std::uint64_t);
   if (!word) {
-    host::refuse("%s is an object of class %.60s whose property \"c\" holds no 64-bit address", name, mxGetClassName(a));
+    host::refuse("%s is an object of class %.60s whose property \"c\" holds no 64-bit address", name, host::className(a));
   }
   std::uint64_t bits = 0;
   std::memcpy(&bits, mxGetData(address), sizeof bits);

@@ -9,8 +9,7 @@
 % makes it, cannot meet the copy that MATLAB brings along.
 function plan = buildfile
   plan = buildplan (localfunctions ());
-  plan('test').Dependencies = 'mex';
-  plan.DefaultTasks = 'test';
+  plan.DefaultTasks = {'mex', 'test'};
 end
 
 function mexTask (varargin)
@@ -33,6 +32,7 @@ end
 function testTask (varargin)
 % Says what works on this machine
   root = fileparts (mfilename ('fullpath'));
+  if ~exist (fullfile (root, 'build', 'matlab', ['quarn.' mexext()]), 'file'), mexTask (); end
   addpath (fullfile (root, 'toolbox'));
   install_quarn (fullfile (root, 'build', 'matlab'));
   qn.selftest ();

@@ -1,4 +1,4 @@
 % PLAN = BUILDPLAN (FUNCTIONS)  stands for MATLAB's function of this name: keeps the tasks, runs none
 function plan = buildplan (functions)
-  plan = build_plan (functions);
+  plan = struct ('Tasks', {functions});
 end

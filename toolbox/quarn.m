@@ -31,6 +31,7 @@
 %
 % Working with models instead of index vectors: package qn (help qn.Contents has one line on each)
 %   matrices       qn.pack, qn.unpack, qn.mmread, qn.mmwrite, qn.project
+%   exchange       qn.read_hb, qn.read_coordinates, qn.read_op4, qn.read_dmig, qn.read_unv, qn.write_unv58
 %   models         qn.modal, qn.rayleigh, qn.observe, qn.load_at, qn.base
 %   rotors         qn.rotor, qn.campbell, qn.unbalance, qn.gravity
 %   force laws     qn.law, qn.describe, qn.element, qn.force

@@ -10,6 +10,14 @@
 %   mmwrite        - writes a matrix to a Matrix Market file
 %   project        - projects a sparse matrix onto bases, with the module's own products
 %
+% Exchange
+%   read_hb        - reads a matrix from a Harwell-Boeing file, with its right-hand sides
+%   read_coordinates - reads a matrix from coordinate text: an entry a line, by node and degree of freedom or by row and column
+%   read_op4       - reads the matrices of a Nastran OUTPUT4 file
+%   read_dmig      - reads the matrices of Nastran DMIG entries from bulk data or a punch file
+%   read_unv       - reads nodes, mode shapes and measured functions from a universal file
+%   write_unv58    - writes time histories or frequency responses as functions of a universal file (dataset 58)
+%
 % Models
 %   modal          - modal model of a structure: the coordinates in which quarn integrates
 %   rayleigh       - coefficients of proportional damping from two damping ratios

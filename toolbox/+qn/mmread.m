@@ -7,14 +7,16 @@
 %   A = qn.mmread (FILE)
 %
 % Input
-%   FILE   name of the file: "coordinate" or "array", field real, integer, pattern or complex, symmetry general, symmetric,
-%          skew-symmetric or hermitian
+%   FILE   name of the file: "coordinate" or "array", field real, integer, pattern (read as ones) or complex, symmetry general,
+%          symmetric, skew-symmetric or hermitian
 %
 % Output
 %   A      matrix, sparse for "coordinate", full for "array", with both triangles of a symmetric one filled in
 %
 % Errors
-%   qn:input  the file cannot be opened, has another header, or ends early
+%   qn:input  the file cannot be opened, has another header, ends early or goes on after its end, a number is none or outside the
+%             matrix, or an entry is above the diagonal where the lower triangle stands for both; the message has file and line. The
+%             warning qn:file says that entries come twice: they are added.
 %
 % Example
 %   file = [tempname() '.mtx'];
@@ -22,68 +24,61 @@
 %   a = qn.mmread (file);
 %   delete (file);
 %
-% See also qn.mmwrite, qn.pack
+% See also qn.mmwrite, qn.read_hb, qn.read_coordinates, qn.pack
 function a = mmread (file)
-  file = qn.impl.chars (file);
-  [id, why] = fopen (file, 'r');
-  if id < 0, error ('qn:input', 'qn.mmread: cannot open %s: %s', file, why); end
-  close_file = onCleanup (@() fclose (id));
-  head = strsplit (lower (strtrim (fgetl (id))));
-  if numel (head) < 5 || ~strcmp (head{1}, '%%matrixmarket') || ~strcmp (head{2}, 'matrix')
-    error ('qn:input', 'qn.mmread: %s does not begin with a Matrix Market header', file);
+  if nargin < 1, error ('qn:input', 'qn.mmread: the name of a file expected; see help qn.mmread'); end
+  t = qn.impl.formats.open_text ('qn.mmread', file);
+  [h, from] = qn.impl.formats.mm_header (t);
+  per_line = h.parts + 2 * h.sparse;
+  if h.count * per_line > numel (t.text), say_short (t, h.count * per_line); end
+  [x, lines] = qn.impl.formats.free_numbers (t, from, h.count * per_line);
+  x = reshape (x, per_line, []);
+  lines = lines(1:per_line:end);
+  v = ones (1, size (x, 2));
+  if h.parts > 0, v = x(end - h.parts + 1, :); end
+  if h.parts > 1, v = complex (v, x(end, :)); end
+  if strcmp (h.field, 'integer')
+    k = find (v ~= fix (v) | abs (v) > 2 ^ 53, 1);
+    if ~isempty (k), qn.impl.formats.refuse (t, lines(k), '%.17g in a matrix of integers; whole numbers to 2^53 expected', v(k)); end
   end
-  form = head{3};
-  field = head{4};
-  symmetry = head{5};
-  line = fgetl (id);
-  while ischar (line) && (isempty (strtrim (line)) || line(1) == '%'), line = fgetl (id); end
-  if ~ischar (line), error ('qn:input', 'qn.mmread: %s ends before its sizes', file); end
-  sizes = sscanf (line, '%f').';
-  values = find (strcmp (field, {'pattern', 'real', 'complex'})) - 1;
-  if strcmp (field, 'integer'), values = 1; end
-  if isempty (values) || ~any (strcmp (form, {'coordinate', 'array'}))
-    error ('qn:input', 'qn.mmread: %s holds "%s %s", which is not a form of this format', file, form, field);
-  end
-  if strcmp (form, 'coordinate')
-    a = coordinates (read (id, file, 2 + values, sizes(3)), sizes, values);
+  if h.sparse
+    a = coordinates (t, h, x, v, lines);
   else
-    a = columns_of (id, file, sizes, values, symmetry);
+    inside = true (h.sizes);
+    if strcmp (h.symmetry, 'skew-symmetric')
+      inside = tril (inside, -1);
+    elseif ~strcmp (h.symmetry, 'general')
+      inside = tril (inside);
+    end
+    a = zeros (h.sizes);
+    a(inside) = v;
   end
-  switch symmetry
-    case 'general'
+  switch h.symmetry
     case 'symmetric',      a = a + tril (a, -1).';
     case 'skew-symmetric', a = a - tril (a, -1).';
     case 'hermitian',      a = a + tril (a, -1)';
-    otherwise
-      error ('qn:input', 'qn.mmread: %s has the unknown symmetry "%s"', file, symmetry);
   end
 end
 
-function x = read (id, file, per_line, lines)
-  [x, got] = fscanf (id, '%f', [per_line, lines]);
-  if got < per_line * lines
-    error ('qn:input', 'qn.mmread: %s ends early: %d numbers expected, got %d', file, per_line * lines, got);
-  end
+function say_short (t, count)
+  qn.impl.formats.refuse (t, numel (t.first), 'the file ends early: %.15g numbers expected, in %d bytes', count, numel (t.text));
 end
 
-function a = coordinates (x, sizes, values)
-  v = ones (1, size (x, 2));
-  if values > 0, v = x(3, :); end
-  if values > 1, v = v + 1i * x(4, :); end
-  a = sparse (x(1, :), x(2, :), v, sizes(1), sizes(2));
-end
-
-% Full matrices are stored column by column; of symmetric ones the lower triangle, of skew-symmetric ones without the diagonal.
-function a = columns_of (id, file, sizes, values, symmetry)
-  inside = true (sizes(1:2));
-  if strcmp (symmetry, 'skew-symmetric')
-    inside = tril (inside, -1);
-  elseif ~strcmp (symmetry, 'general')
-    inside = tril (inside);
+function a = coordinates (t, h, x, v, lines)
+  i = x(1, :);
+  j = x(2, :);
+  k = find (i ~= fix (i) | j ~= fix (j) | i < 1 | j < 1 | i > h.sizes(1) | j > h.sizes(2), 1);
+  if ~isempty (k)
+    hint = '';
+    if any ([i, j] == 0), hint = '; was it written with numbers from 0?'; end
+    qn.impl.formats.refuse (t, lines(k), 'row %.15g, column %.15g, in a matrix of %d x %d%s', i(k), j(k), h.sizes, hint);
   end
-  x = read (id, file, max (values, 1), sum (inside(:)));
-  v = x(1, :);
-  if values > 1, v = v + 1i * x(2, :); end
-  a = zeros (sizes(1:2));
-  a(inside) = v;
+  k = find (j > i | (strcmp (h.symmetry, 'skew-symmetric') & j == i), 1);
+  if ~strcmp (h.symmetry, 'general') && ~isempty (k)
+    qn.impl.formats.refuse (t, lines(k), 'row %d, column %d; of a %s matrix the entries below the diagonal are expected', i(k), j(k), ...
+                            h.symmetry);
+  end
+  twice = numel (i) - numel (unique (i + h.sizes(1) * (j - 1)));
+  if twice > 0, warning ('qn:file', 'qn.mmread: %s has %d entries that come twice; they are added', t.file, twice); end
+  a = sparse (i, j, v, h.sizes(1), h.sizes(2));
 end

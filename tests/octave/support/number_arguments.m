@@ -98,6 +98,11 @@ function rows = number_arguments ()
     'qn.radial', {}, {'gap', 0.1, 'stiffness', 10, 'exponent', 1.5, 'damping', 0.1, 'friction', 0.2, 'onset', 0.1, 'radius', 1, 'speed', 2, ...
                       'centre', [0.1 0.2]}, {}
     'qn.rayleigh', {'HERTZ', 'ZETA'}, {[1 2], [0.1 0.2]}, {}
+    'qn.read_coordinates', {'FILE'}, {'no file', 'form', 'dofs', 'symmetric', [], 'repeated', 'refuse', 'dofs', ''}, {}
+    'qn.read_dmig', {'FILE', 'NAME'}, {}, {}
+    'qn.read_hb', {'FILE', 'mapping'}, {}, {}
+    'qn.read_op4', {'FILE', 'NAME'}, {}, {}
+    'qn.read_unv', {'FILE'}, {}, {}
     'qn.resume', {'RES', 'FILE'}, {part, 'progress', false, 'piece', 5, 'save', '', 'interval', 30, 'stop', []}, {'piece', 'empty', optional}
     'qn.rotor', {}, {'nodes', [0 1 3], 'outer', [0.2 0.3], 'inner', [0.1 0.05], 'young', [1e9 2e9], 'density', [2 3], 'poisson', [0.2 0.3], ...
                      'shear', true, 'disks', [1 1 2 3; 2 1 3 4], 'cylinders', [3 0.1 2 1 7], ...
@@ -136,6 +141,8 @@ function rows = number_arguments ()
     'qn.unpack', {'S'}, {[1 2; 3 4; 5 6]}, {'S', '.*', 'a matrix stands for itself'}
     'qn.velocity', {'RES', 'C'}, {res, row}, {}
     'qn.version', {}, {}, {}
+    'qn.write_unv58', {'FILE', 'X', 'SIGNALS'}, {file, t, [t; t + 1], 'type', 'time', 'quantity', 'force', 'unit', 'N', 'node', [1 2], ...
+                                                 'direction', [1 -2], 'description', 'a', 'date', ''}, {'SIGNALS', 'complex', 'may be complex'}
     'qn.zener', {}, {'stiffness', 1, 'spring', 2, 'damper', 3}, {}
   };
   rows = [rows; laws()];

@@ -80,7 +80,7 @@ function test_bad_matrix_market_files_are_refused ()
   write (file, {'1 2 3'});
   expect_error (@() qn.mmread (file), 'qn:input', '~header');
   write (file, {'%%MatrixMarket matrix coordinate real general', '2 2 2', '1 1 1'});
-  expect_error (@() qn.mmread (file), 'qn:input', '~ends early: 6 numbers expected, got 3');
+  expect_error (@() qn.mmread (file), 'qn:input', '~line 3: the file ends early: 6 numbers expected, got 3');
   write (file, {'%%MatrixMarket matrix coordinate quaternion general', '1 1 1'});
   expect_error (@() qn.mmread (file), 'qn:input', '~quaternion');
   expect_error (@() qn.mmread ([file 'x']), 'qn:input', '~cannot open');

@@ -1,0 +1,96 @@
+% S = FORMAT_SAMPLES ()  small files of models from other programs, as rows {name, bytes, reader}; READER (FILE) reads such a file
+function s = format_samples ()
+  lines = @(varargin) sprintf ('%s\n', varargin{:});
+  s = {
+    'hb', lines(hb()), @qn.read_hb
+    'hb elements', lines(hb_elements()), @qn.read_hb
+    'mm', lines('%%MatrixMarket matrix coordinate real symmetric', '% K', '3 3 5', '1 1 4', '2 1 -1', '2 2 3', '3 2 -2', '3 3 5'), @qn.mmread
+    'mm array', lines('%%MatrixMarket matrix array complex hermitian', '2 2', '2.0 0.0', '1.0 -1.0', '3.0 0.0'), @qn.mmread
+    'dofs', lines('** K', '*MATRIX INPUT, NAME=K, TYPE=SYMMETRIC', '12,1, 12,1,  4.0E+00', '12,1, 12,2, -1.0E+00', ...
+                   '12,2, 12,2,  3.0E+00', '12,2, 30,1, -2.0E+00', '30,1, 30,1,  5.0E+00'), @qn.read_coordinates
+    'rows', lines('1 1 4', '2 1 -1', '2 2 3', '3 2 -2', '3 3 5'), @(file) qn.read_coordinates(file, 'form', 'rows', 'symmetric', true)
+    'sized', lines('3 3 3', '1 1 4', '2 2 3', '3 3 5'), @(file) qn.read_coordinates(file, 'form', 'sized')
+    'op4 dense', lines('       3       3       6       2KDEMO   1P,5E16.9', '       1       1       2', ' 4.000000000E+00-1.000000000E+00', ...
+                        '       2       1       3', '-1.000000000E+00 3.000000000E+00-2.000000000E+00', '       3       2       2', ...
+                        '-2.000000000E+00 5.000000000E+00', '       4       1       1', ' 1.000000000E+00'), @qn.read_op4
+    'op4 sparse', lines('       2       3       2       2BDEMO   1P,5E16.9', '       1       0       6', '  196609', ' 7.000000000E+00', ...
+                         '  196611', '-9.000000000E+00', '       2       0       5', '  327682', ' 5.000000000E-01 2.500000000E-01', ...
+                         '       3       1       1', ' 1.000000000E+00'), @qn.read_op4
+    'op4 bigmat', lines('       2      -3       2       2BDEMO   1P,5E16.9', '       1       0       8', '       3       1', ...
+                         ' 7.000000000E+00', '       3       3', '-9.000000000E+00', '       2       0       6', '       5       2', ...
+                         ' 5.000000000E-01 2.500000000E-01', '       3       1       1', ' 1.000000000E+00'), @qn.read_op4
+    'op4 little', op4_bytes([4 -1; -1 3], 2, 'little', 4, 'dense'), @qn.read_op4
+    'op4 big', op4_bytes([4 0; -1 3], 2, 'big', 4, 'sparse'), @qn.read_op4
+    'op4 long', op4_bytes([4 0; -1 3], 1, 'little', 8, 'bigmat'), @qn.read_op4
+    'dmig', lines(dmig()), @qn.read_dmig
+    'unv', lines(unv()), @qn.read_unv
+    'unv binary', [lines(unv58_head('    58b     1     2          11          40     0     0           0           0')) ...
+                   char(typecast ([0 0.5 -1.25 3e-7 2], 'uint8')) sprintf('    -1\n')], @qn.read_unv
+  };
+end
+
+function lines = hb ()
+  lines = {[pad('3-DOF demo stiffness, lower triangle', 72) 'DEMO3']
+           '             5             1             1             2             1'
+           'RSA                        3             3             5             0'
+           '(4I5)           (5I5)           (1P,3D15.7)         (1P,3D15.7)'
+           'F                          1             0'
+           '    1    3    5    6'
+           '    1    2    2    3    3'
+           '  4.0000000D+00 -1.0000000D+00  3.0000000D+00'
+           ' -2.0000000D+00  5.0000000D+00'
+           '  1.0000000D+00  0.0000000D+00 -2.0000000D+00'}.';
+  lines = strjoin (lines, sprintf ('\n'));
+end
+
+% Two springs in a row, of stiffness 2 and 3, between three points.
+function lines = hb_elements ()
+  lines = {[pad('two springs', 72) 'TWO']
+           '             4             1             1             2             0'
+           'RSE                        3             2             4             6'
+           '(3I5)           (4I5)           (3F8.2)             '
+           '    1    3    5'
+           '    1    2    2    3'
+           '    2.00   -2.00    2.00'
+           '    3.00   -3.00    3.00'}.';
+  lines = strjoin (lines, sprintf ('\n'));
+end
+
+function lines = dmig ()
+  lines = {'$ a part of a deck', 'GRID,12,,0.,0.,0.', ...
+           'DMIG    KD             0       6       2       0', ...
+           'DMIG    KD            12       1              12       1    4.+3        +D1', ...
+           '+D1           12       2   -1.-2', ...
+           'DMIG*   KD                            12               2', ...
+           '*                     12               2 3.000000000D+03', ...
+           '*                     30               0        -2.5D+00', ...
+           'DMIG,KD,30,0,,30,0,5.0E3', 'ENDDATA'};
+  lines = strjoin (lines, sprintf ('\n'));
+end
+
+function lines = unv58_head (number)
+  lines = strjoin ({'    -1', number, 'accel at node 2, -Z', 'NONE', '21-NOV-26 10:00:00', 'NONE', 'NONE', ...
+                    '    1         0    1         0 NONE               2  -3 NONE               0   0', ...
+                    '         4         5         1  0.00000E+00  5.00000E-03  0.00000E+00', ...
+                    '        17    0    0    0 Time                 s', '        12    0    0    0 Acceleration         m/s^2', ...
+                    '         0    0    0    0 NONE                 NONE', '         0    0    0    0 NONE                 NONE'}, sprintf ('\n'));
+end
+
+function lines = unv ()
+  lines = {'    -1', '   151', 'demo model', 'NONE', '    -1', '    -1', '   164', '         1SI: Meter (newton)           2', ...
+           '  1.00000000000000000D+00  1.00000000000000000D+00  1.00000000000000000D+00', '  2.73149999999999977D+02', '    -1', ...
+           '    -1', '    15', '         1         0         0         8  0.00000E+00  0.00000E+00  0.00000E+00', ...
+           '         2         0         0         8  1.50000E+00  0.00000E+00 -2.50000E-01', '    -1', ...
+           '    -1', '  2411', '         3         1         1        11', ...
+           '   1.5000000000000000D+00   0.0000000000000000D+00  -2.5000000000000000D-01', '    -1', ...
+           '    -1', '    55', 'mode 1', 'NONE', 'NONE', 'NONE', 'NONE', '         1         2         2         8         2         3', ...
+           '         2         4         1         1', '  1.25000E+01  1.00000E+00  1.00000E-02  0.00000E+00', '         1', ...
+           '  0.00000E+00  0.00000E+00  0.00000E+00', '         2', '  0.00000E+00  0.00000E+00 -1.00000E+00', '    -1', ...
+           unv58_head('    58'), '  0.000000000000E+00  5.000000000000E-01 -1.250000000000E+00  3.000000000000E-07', ...
+           '  2.000000000000E+00', '    -1'};
+  lines = strjoin (lines, sprintf ('\n'));
+end
+
+function text = pad (text, n)
+  text(end + 1:n) = ' ';
+end

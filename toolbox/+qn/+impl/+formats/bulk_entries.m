@@ -1,0 +1,37 @@
+% LIST = BULK_ENTRIES (T)  the DMIG entries of bulk data: rows {line, data fields}, continuations joined
+%
+% Comments, other entries and what stands before and after are passed over; DMI, DMIAX and DMIJ are refused by name.
+function list = bulk_entries (t)
+  list = cell (0, 2);
+  open = false;
+  key = '';
+  for k = 1:numel (t.first)
+    line = t.text(t.first(k):t.last(k));
+    dollar = find (line == '$', 1);
+    if ~isempty (dollar), line = line(1:dollar - 1); end
+    line = deblank (line);
+    if isempty (line), continue, end
+    word = upper (strtrim (regexprep (line(1:min (8, end)), '[,*].*$', '')));
+    follows = any (line(1) == '+*') || (isempty (word) && line(1) ~= ',') || line(1) == ',';
+    if follows && ~open, continue, end
+    if ~follows
+      open = strcmp (word, 'DMIG');
+      if strcmp (word, 'ENDDATA'), break, end
+      if any (strcmp (word, {'DMI', 'DMIAX', 'DMIJ'})), qn.impl.formats.refuse (t, k, 'an entry %s; only DMIG is read', word); end
+      if ~open, continue, end
+    end
+    [fields, next] = qn.impl.formats.bulk_fields (t, k, upper (line));
+    if follows
+      mine = regexprep (fields{1}, '^[+*]\s*', '');
+      wanted = regexprep (key, '^[+*]\s*', '');
+      if ~isempty (mine) && ~isempty (wanted) && ~strcmp (mine, wanted)
+        qn.impl.formats.refuse (t, k, 'the continuation "%s"; "%s" expected', qn.impl.formats.shown (mine), qn.impl.formats.shown (wanted));
+      end
+      list{end, 2} = [list{end, 2}, fields(2:end)];
+      list{end, 1} = [list{end, 1}, k * ones(1, numel (fields) - 1)];
+    else
+      list(end + 1, :) = {k * ones(1, numel (fields) - 1), fields(2:end)};
+    end
+    key = next;
+  end
+end

@@ -34,7 +34,7 @@
 %   exchange       qn.read_hb, qn.read_coordinates, qn.read_op4, qn.read_dmig, qn.read_unv, qn.write_unv58
 %   models         qn.modal, qn.rayleigh, qn.observe, qn.load_at, qn.base
 %   rotors         qn.rotor, qn.campbell, qn.unbalance, qn.gravity
-%   force laws     qn.law, qn.describe, qn.element, qn.force
+%   force laws     qn.law, qn.table, qn.describe, qn.element, qn.force
 %   recipes        qn.gap, qn.stop, qn.bilinear, qn.cubic, qn.damper, qn.slider, qn.iwan, qn.zener, qn.maxwell, qn.bearing,
 %                  qn.radial, qn.journal, qn.journal_coefficients
 %   simulation     qn.scheme, qn.simulation, qn.check, qn.advise, qn.run, qn.resume, qn.interrupted

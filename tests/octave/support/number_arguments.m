@@ -138,6 +138,7 @@ function rows = number_arguments ()
       {'speed', 'empty', '"profile" is then said to be missing'}
     'qn.unbalance', {'MODEL', 'DOFS', 'ME'}, {model, [1 2], 1, 'profile', [0 1 3; 1 2 4]}, ...
       {'profile', 'empty', '"speed" is then said to be missing'; 'profile', 'longer', any_length}
+    'qn.table', {'X', 'F'}, {[1 2 4], [1 3 2], 'merge', 0.1, 'monotonic', 'none', 'plot', false}, {}
     'qn.unpack', {'S'}, {[1 2; 3 4; 5 6]}, {'S', '.*', 'a matrix stands for itself'}
     'qn.velocity', {'RES', 'C'}, {res, row}, {}
     'qn.version', {}, {}, {}

@@ -6,12 +6,14 @@
 % Memory. The same rounds are run first against a function of the module's name that does nothing (folder idle): what the host itself grows
 % by. The module may add 4 MiB to that, in a run of any length: arrays of 2 MiB come and go, and the host's allocator gives their memory
 % back when it likes. Values that stay in memory by rule (freed handles of type 1003, handles still registered at a reload) are counted and
-% cost 10 KiB each at most. Rounds of both kinds warm up first.
+% cost 10 KiB each at most. Rounds of both kinds warm up first. A run of some seconds makes a tenth of the calls of a round, unless QUARN_FULL=1.
 args = argv ();
 module = make_absolute_filename (args{1});
 seconds = str2double (args{2});
 calls = 0;
 if numel (args) > 2, calls = str2double (args{3}); end
+share = 1;
+if seconds < 10 && calls == 0 && isempty (getenv ('QUARN_FULL')), share = 0.1; end
 here = fileparts (mfilename ('fullpath'));
 addpath (here, fullfile (here, '..', 'octave', 'support'));
 warning ('off', 'Octave:classdef-to-struct');
@@ -22,13 +24,13 @@ fewest = 2;
 if watched
   fewest = 6;
   addpath (fullfile (here, 'idle'));
-  for k = 0:4, soak_round (k, false); end
+  for k = 0:4, soak_round (k, false, share); end
   start = tic ();
   idle_start = resident_memory ();
   idle_rounds = 0;
   while toc (start) < seconds / 20 || idle_rounds < 3
     idle_rounds = idle_rounds + 1;
-    soak_round (idle_rounds, false);
+    soak_round (idle_rounds, false, share);
   end
   noise = max (resident_memory () - idle_start, 0);
   rmpath (fullfile (here, 'idle'));
@@ -44,7 +46,7 @@ fault = '';
 memory = 0;
 start = tic ();
 while isempty (fault) && (toc (start) < seconds || total.calls < calls || total.rounds < fewest)
-  [numbers, count] = soak_round (total.rounds, true);
+  [numbers, count] = soak_round (total.rounds, true, share);
   total.rounds = total.rounds + 1;
   for n = names(2:end), total.(n{1}) = total.(n{1}) + count.(n{1}); end
   bits = typecast (numbers, 'uint64');

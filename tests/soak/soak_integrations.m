@@ -1,8 +1,8 @@
-% [NUMBERS, COUNT] = SOAK_INTEGRATIONS (COUNT)  runs of the integrator, with handles of the call and with registered ones
+% [NUMBERS, COUNT] = SOAK_INTEGRATIONS (COUNT, SHARE)  runs of the integrator, with handles of the call and with registered ones
 %
 % The matrices are full, so that the integrator calls every handle in every step.
-function [numbers, count] = soak_integrations (count)
-  n = 40001;
+function [numbers, count] = soak_integrations (count, share)
+  n = 40000 * share + 1;
   h = 0.001;
   k = [4 0.1 0; 0.1 5 0.2; 0 0.2 60];
   c = [0.3 0.01 0; 0.01 0.1 0; 0 0 0.1];
@@ -16,7 +16,7 @@ function [numbers, count] = soak_integrations (count)
   dahl.b = dahl.c;
   numbers = zeros (0, 1);
   for round = 1:2
-    [integrator, mem, out] = newmark_setup ([1; 2; 3], [0.3; 0.1; 0.1], [4; 5; 60], [1; -1; 0.5], loads, h, 0.25, 0.5, 4001:4000:n);
+    [integrator, mem, out] = newmark_setup ([1; 2; 3], [0.3; 0.1; 0.1], [4; 5; 60], [1; -1; 0.5], loads, h, 0.25, 0.5, (4000:4000:40000) * share + 1);
     if round == 1
       list = fresh ({integrator, stiffness, damping, cubic, stop, dahl});
       handles = 5;

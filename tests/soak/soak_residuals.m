@@ -1,27 +1,27 @@
-% [NUMBERS, COUNT] = SOAK_RESIDUALS (COUNT)  residual commands in all forms of a model
+% [NUMBERS, COUNT] = SOAK_RESIDUALS (COUNT, SHARE)  residual commands in all forms of a model
 %
 % The residuals are added up over the calls: every one of them shows in the result.
-function [numbers, count] = soak_residuals (count)
+function [numbers, count] = soak_residuals (count, share)
   m = matrix_lines ([2 0.25 0; 0.25 3 0.5; 0 0.5 4]);
   c = matrix_lines ([0.1 0 0; 0 0.2 0.3; 0 0.3 0.1]);
   k = matrix_lines ([7 -2 1; -2 8 -3; 1 -3 9]);
   index = [quarn('chandleset', 2, m), quarn('chandleset', 3, c), quarn('chandleset', 1, k)];
   one = matrix_lines (3);
-  stiffness = repeat ({[], [], one}, 1, 60000);
-  all = repeat ({m, c, k}, 3, 6000);
-  structure = repeat (struct ('K', {{m, c, k}}), 3, 3000);
-  nonlinear = repeat (nonlinear_model (k), 6, 1000);
-  handles = repeat (chandle (index), 3, 1500);
+  stiffness = repeat ({[], [], one}, 1, 60000 * share);
+  all = repeat ({m, c, k}, 3, 6000 * share);
+  structure = repeat (struct ('K', {{m, c, k}}), 3, 3000 * share);
+  nonlinear = repeat (nonlinear_model (k), 6, 1000 * share);
+  handles = repeat (chandle (index), 3, 1500 * share);
   energies = zeros (2, 1);
-  for j = 1:1000
+  for j = 1:1000 * share
     [kinetic, potential] = quarn ('residual', zeros (3, 1), {m, c, k}, state (3, 7), state (3, 5), state (3, 3), [0.5 0.25]);
     energies = energies + [kinetic; potential];
   end
   for i = index, quarn ('chandleclear', i); end
   numbers = [stiffness; all; structure; nonlinear; handles; energies];
-  commands = 60000 + 6000 + 3000 + 1000 + 1500 + 1000;
+  commands = (60000 + 6000 + 3000 + 1000 + 1500 + 1000) * share;
   count.calls = count.calls + commands;
-  count.evaluations = count.evaluations + commands + 2 * 1500;   % three handles in each of 1500
+  count.evaluations = count.evaluations + commands + 2 * 1500 * share;   % three handles in each of 1500
 end
 
 function u = state (n, divisor)

@@ -68,6 +68,35 @@ function test_without_observations_the_forces_stand_as_they_are ()
   expect_equal (r, b' * [77; 77]);
 end
 
+function test_observations_with_extents_but_no_page_are_no_observations ()
+  [e, ~, b] = linear_element ();
+  [u, v] = states ();
+  e = rmfield (e, 'vnl');
+  e.unl = zeros (2, 1, 0);
+  [got, r] = evaluate_law (e, u, v);
+  expect_equal (got.snl, [77; 77]);
+  expect_equal (r, b' * [77; 77]);
+end
+
+function test_forces_in_the_observations_are_as_many_as_those ()
+  e = rmfield (linear_element (), 'snl');
+  [u, v] = states ();
+  e.b = matrix_lines ([3 0 1; 0 -1 4; 1 1 1], true);
+  expect_refused (@() evaluate_law (e, u, v), 'quarn residual : element 1 : snl must hold 3 values (one for each line of b), got 2');
+end
+
+function test_places_of_the_residual_without_a_force_lose_a_negative_zero ()
+  e = linear_element ();
+  u = (1:20)';
+  e.c = matrix_lines (eye (2, 20), true);
+  e.b = struct ('ir', int32 ([3; 7]), 'jc', int32 ([0; 1; 2]), 'pr', [2; 5], 'dims', [2 20], 'trans', 1);
+  r = -zeros (20, 1);
+  quarn ('residual', r, registered ({e}), u, u, zeros (20, 1), [0 0]);
+  wanted = zeros (20, 1);
+  wanted([4 8]) = [2 * 1; 5 * 2];
+  expect_equal (r, wanted);
+end
+
 function test_without_command_matrix_nothing_is_added ()
   [e, c] = linear_element ();
   [u, v] = states ();

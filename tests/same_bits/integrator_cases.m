@@ -19,7 +19,7 @@ function integrator_cases (id)
   end
   tables = source_tables ();
   for w = tables.laws
-    for trial = 1:6
+    for trial = 1:rounds (6)
       n = 7;
       e = random_law_element (w{1}, n);
       if double (e.iopt(2)) + double (e.iopt(4)) > n + 1, e.iopt(2) = 0; end

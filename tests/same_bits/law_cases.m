@@ -5,13 +5,13 @@ function law_cases (id)
   for w = tables.laws
     for single = [true false]
       name = sprintf ('%s law %s', kinds{1 + single}, w{1});
-      for k = 1:12, one_element (id, name, random_law_element (w{1}, 7, single)); end
+      for k = 1:rounds (12), one_element (id, name, random_law_element (w{1}, 7, single)); end
     end
   end
   for rows = [10 11 11 17]
     name = 'one rotor';
     if rows == 17, name = 'sum rotor'; end
-    for k = 1:6
+    for k = 1:rounds (6)
       e = random_rotor (8, rows);
       model = fresh (struct ('K', {cell(1, 3)}, 'FNL', zeros (6, 1), 'NL', {{[], [], e}}));
       recorded_call (id, name, 0, 'residual', zeros (8, 1), model, randn (8, 1), randn (8, 1), randn (8, 1));

@@ -6,7 +6,7 @@ function matrix_cases (id)
     a = matrix_lines (spdiags (randn (n, 1), 0, n, n));
     recorded_call (id, sprintf ('one product of %d', n), 0, 'tbbp', a, randn (n, 1), randn (n, 1));
   end
-  [a, n] = long_lines ();
+  [a, n] = long_lines (4100);
   a.ir = int32 (mod ((0:25 * n - 1)' * 7, n));
   a.pr = randn (25 * n, 1);
   recorded_call (id, 'sum product on threads', 0, 'tbbp', a, randn (n, 1), zeros (n, 1));

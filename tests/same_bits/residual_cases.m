@@ -10,7 +10,7 @@ function residual_cases (id)
     full_ones{2} = modal;
     all_forms (id, 'sum residual', full_ones, n, 2);
   end
-  [long, n] = long_lines ();
+  [long, n] = long_lines (4100);
   long.ir = int32 (mod ((0:25 * n - 1)' * 7, n));
   long.pr = randn (25 * n, 1);
   handle_form (id, 'sum residual on threads', {long}, n);

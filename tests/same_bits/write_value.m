@@ -32,7 +32,8 @@ function write_value (id, x)
       values = [values; imag(x(:))];
     end
     fprintf (id, '%s %s\n', kind, extents (x));
-    lines = [num2hex(values), repmat(sprintf ('\n'), numel (values), 1)].';
+    lines = num2hex (values).';
+    lines(end + 1, :) = sprintf ('\n');
     if ~isempty (values), fwrite (id, lines(:)); end
   else
     error ('an array of class %s cannot be written', class (x));

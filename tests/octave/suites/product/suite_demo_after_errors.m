@@ -25,14 +25,17 @@ function test_every_suite_with_malformed_calls_then_the_demo ()
   expect_equal (fileread (fullfile (folders{2}, 'response.csv')), fileread (fullfile (folders{1}, 'response.csv')));
 end
 
-% Every suite of the module that checks an error, but not those of the toolbox and those that test other processes. No reload between them;
-% keys that an error left in the registry are taken out, so that each suite finds it empty, as in a process of its own.
+% Every suite of the module that checks an error, but not those of the toolbox, those that test other processes and those that test the
+% tests. No reload between them; keys that an error left in the registry are taken out, so that each suite finds it empty, as in a process
+% of its own. Each has its full number of random calls where it runs alone; here it makes fewer.
 function [suites, count] = run_malformed (folder)
   suites = 0;
   count = 0;
+  setenv ('QUARN_REPEATED', '1');
+  back = onCleanup (@() setenv ('QUARN_REPEATED', ''));
   for file = glob (fullfile (folder, '*', 'suite_*.m')).'
     [within, name] = fileparts (file{1});
-    others = ~isempty (regexp (file{1}, '/toolbox/|install|document|leaving|demo_after_errors', 'once'));
+    others = ~isempty (regexp (file{1}, '/toolbox/|install|document|leaving|reload|validation|suite_test_|demo_after_errors', 'once'));
     malformed = ~isempty (regexp (fileread (file{1}), 'expect_error|expect_refused|own_answer|refused_cleanly', 'once'));
     if others || ~malformed, continue; end
     suites = suites + 1;

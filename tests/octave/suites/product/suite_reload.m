@@ -16,8 +16,8 @@ function n = threads ()
   n = numel (dir ('/proc/self/task'));
 end
 
-function test_load_multiply_in_parallel_clear_300_times ()
-  for k = 1:300
+function test_load_multiply_in_parallel_clear_again_and_again ()
+  for k = 1:rounds (300)
     if quarn ('ismex') ~= 1, error ('round %d: not loaded', k); end
     worker_product ();
     clear ('quarn');

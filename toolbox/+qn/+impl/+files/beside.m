@@ -6,14 +6,8 @@ function [folder, file, why] = beside (file)
   [parent, name, kind] = fileparts (file);
   if isempty (parent), parent = pwd (); end
   folder = '';
-  try
-    here = cd (parent);
-    parent = pwd ();
-    cd (here);
-  catch err
-    why = err.message;
-    return
-  end
+  [parent, why] = whole_path (parent);
+  if isempty (parent), return, end
   file = fullfile (parent, [name kind]);
   if exist (file, 'dir')
     why = 'it is a folder';
@@ -22,4 +16,22 @@ function [folder, file, why] = beside (file)
   [~, random] = fileparts (tempname ());
   [made, why] = mkdir (parent, ['quarn-' random]);
   if made && isempty (why), folder = fullfile (parent, ['quarn-' random]); end
+end
+
+% A change of the folder makes Octave read its load path again, which takes 50 ms.
+function [folder, why] = whole_path (folder)
+  why = '';
+  if exist ('OCTAVE_VERSION', 'builtin')
+    [folder, failed, why] = canonicalize_file_name (folder);
+    if failed, folder = ''; end
+    return
+  end
+  try
+    here = cd (folder);
+    folder = pwd ();
+    cd (here);
+  catch err
+    folder = '';
+    why = err.message;
+  end
 end

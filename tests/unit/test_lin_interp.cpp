@@ -79,6 +79,18 @@ TEST(LinInterp, OneKnotReturnsItsValueWithoutLookingAtANextOne) {
   }
 }
 
+TEST(LinInterp, OneKnotReturnsTheValueOfTheSecondTableToo) {
+  const double table[] = {5, 7};
+  const double second[] = {5, 11};
+  const double query = 6.0;
+  double rec[3] = {};
+  double out;
+  double out2;
+  vorel_LinInterp(table, &query, rec, &out, 1, 1, 1, 1, second, &out2);
+  EXPECT_EQ(out, 7.0);
+  EXPECT_EQ(out2, 11.0);
+}
+
 TEST(LinInterp, PositionOnlyWritesNoValueAndOneKnotHasTheFractionOne) {
   const double query = 0.5;
   double rec[3] = {};
@@ -150,6 +162,7 @@ TEST(LinInterp, KnotsThatDescendAtTheEndDoNotWalkForEver) {
   const double table[] = {0, 2, 1, 10, 20, 30};
   double rec[3] = {5, 0, 0};
   EXPECT_TRUE(std::isfinite(value(table, 3, 1.5, rec)));
+  EXPECT_EQ(rec[0], 1.0);
 }
 
 TEST(LinInterp, AgreesWithASearchFromScratchOnRandomTables) {

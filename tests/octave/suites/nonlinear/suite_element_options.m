@@ -38,6 +38,15 @@ function test_power_needs_three_parameters ()
   expect_equal (got.snl, 16);
 end
 
+function test_a_force_for_each_observed_value_is_needed_without_a_command_matrix_too ()
+  for word = {'Power', 'Expon'}
+    e = rmfield (element ([law_code(word{1}) 2 3]), 'b');
+    e.unl = zeros (2, 1);
+    e.vnl = zeros (2, 1);
+    refused (e, '', 'quarn residual : element 1 : snl must hold 2 values (as many as a page of unl), got 1');
+  end
+end
+
 function test_laws_with_pages_refuse_a_flat_state ()
   for word = {'DahlC', 'Clima2'}
     refused (element ([law_code(word{1}) ones(1, 20)]), 'KORV:quarn:empty', 'Incorrect unl');

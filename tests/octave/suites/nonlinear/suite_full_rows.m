@@ -226,3 +226,16 @@ function test_forces_that_share_memory_with_the_residual_are_read_first ()
   [u2, v2, a2] = run_newmark ({in2, apart}, u, u, u, mem2, out2);
   expect_equal ([u1 v1 a1], [u2 v2 a2]);
 end
+
+function test_observed_values_that_overlap_observed_velocities_are_written_last ()
+  n = 9;
+  shared = (1:8)' + 0;
+  e = element_of ({1, 1:n; 1, n:-1:1}, {1, 1:n; 1, 1:n}, 2, n);
+  e.vnl = shared(2:3);
+  e.unl = shared(3:4);
+  if double (address_of (e.unl)) - double (address_of (e.vnl)) ~= 8, skip_test ('slices of a vector have memory of their own here'); end
+  [in, mem, out] = newmark_setup (ones (n, 1), zeros (n, 1), zeros (n, 1), zeros (n, 1), zeros (1, 2), 0.5, 0.25, 0.5, 2);
+  quarn ('chandlediagnewmark', {in, e}, struct ('K', []), ones (n, 1), zeros (n, 1), zeros (n, 1), [0 0], mem, out);
+  expect_equal (e.unl, [45; 45]);
+  expect_equal (e.vnl, [0; 45]);
+end

@@ -140,6 +140,18 @@ function test_zero_increment_becomes_the_first_step_time_and_stays ()
   expect_equal (e.opt(3), 0.125);
 end
 
+function test_negative_increment_is_one_like_any_other ()
+  e = evaluate_law (element ([-0.5 10 1 2 4]), [0.1; 2], [0.25; 0]);
+  expect_equal (e.snl(1), 2 - 0.25 * 0.5 * 10 * (1 - 2 / 8));
+  expect_equal (e.opt(3), -0.5);
+end
+
+function test_velocity_times_increment_comes_before_the_stiffness ()
+  e = evaluate_law (element ([0.1 0.3 0 2 4]), [0; 0], [0.7; 0]);
+  expect_equal (e.snl(1), (0.7 * 0.1) * 0.3);
+  expect_equal ((0.7 * 0.1) * 0.3 ~= (0.7 * 0.3) * 0.1, true);
+end
+
 function test_pages_are_needed_at_selection ()
   e = element ([0.5 10 1 2 4], 2, 1);
   expect_error (@() evaluate_law (e, [0; 0], [0; 0]), 'KORV:quarn:empty', 'Incorrect unl');

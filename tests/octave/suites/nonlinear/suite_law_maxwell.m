@@ -206,6 +206,15 @@ function test_short_options_are_refused ()
   expect_error (@() evaluate_law (e, u, u), '', '~"iopt" of law "Maxw" must hold 5 values or more, got 4');
 end
 
+function test_the_block_that_ends_too_early_is_named ()
+  % Three values with two states each: the sums over A reach to its fifth place, one beyond its four.
+  w = struct ('Cu', 1:3, 'Dv', 1:3, 'B', ones (1, 6), 'A', ones (2), 'E', ones (1, 3));
+  e = maxwell_element (3, 2, 1, 0.5, 1, w);
+  e.opt = e.opt(1:45);
+  expect_error (@() evaluate_law (e, zeros (3, 1), zeros (3, 1)), '', ...
+                'quarn residual : element 1 : "opt" of law "Maxw" must hold values 42 to 46 (block A), got 45 values');
+end
+
 function test_short_arrays_are_refused ()
   u = zeros (4, 1);
   w = weights ();

@@ -131,6 +131,23 @@ function test_forces_in_the_memory_of_the_residual ()
   expect_same_with_shared ('snl');
 end
 
+function test_weights_in_the_memory_of_the_observed_velocities_are_cleared_with_them ()
+  % The page is set to zero before the product, and with it the weights: nothing is observed.
+  n = 64;
+  w = linspace (5, 90, n)';
+  shared = (1:8)' + 0;
+  e = struct ('type', 1003, 'c', lines_of ([2; 3], [1; 1], n, false), 'opt', [law_code('Power'); 1; 1]);
+  e.unl = ones (2, 1) * 7;
+  e.snl = ones (2, 1) * 7;
+  e.c.pr = shared(3:4);
+  e.vnl = shared(3:4);
+  if ~isequal (address_of (e.c.pr), address_of (e.vnl)), skip_test ('slices of a vector have memory of their own here'); end
+  [in, mem, out] = newmark_setup (ones (n, 1), 0.02 * w, w .^ 2, cos (1:n)', sin (0:3), 1e-2, 0.25, 0.5, 3);
+  quarn ('chandlediagnewmark', {in, e}, struct ('K', []), (1:n)' * 1.5, ones (n, 1) * 0.25, zeros (n, 1), [0 0], mem, out);
+  expect_equal (e.unl, [0; 0]);
+  expect_equal (e.vnl, [0; 0]);
+end
+
 function test_a_force_of_zero_adds_nothing_to_an_infinite_command_of_any_form ()
   % One entry a line, two of them, a line that holds every column; in a residual and in a run.
   n = 40;

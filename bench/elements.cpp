@@ -33,6 +33,7 @@ const std::vector<Recipe>& recipes() {
       {"Table", 1, 1, with({}, table), {-1, 0, 0, 0, 0, 1, 11, 5, 1}},
       {"DahlC", 2, 2, {0, 1e-3, 100.0, 1.0, 0.5, 2.0}, {-1, 0, 0, 0, 0}},
       {"sts", 2, 1, {0, 1e-3, 1.0, 100.0, 0.0, 1.0}, {-1, 0, 0, 0, 0}},
+      {"Impact", 1, 1, {0.5, 1.5, 0.1, -1.0, 1.0}, {-1}},
       {"Damper", 1, 1, {0.5, 2.0}, {-1}},
       // Gap, stiffness, exponent, damping, friction, onset, radius, speed, centre.
       {"Radial", 2, 2, {0.1, 100.0, 1.5, 0.2, 0.1, 0.01, 0.5, 3.0, 0.05, -0.05}, {-1}},

@@ -55,6 +55,14 @@ void maxwellLoop(LawArrays& a) {
   }
 }
 
+void impactLoop(LawArrays& a) {
+  const double* o = a.opt.data();
+  for (std::size_t i = 0; i < a.n; ++i) {
+    const double depth = o[5] * a.unl[i] - o[4];
+    a.snl[i] = depth > 0.0 ? o[5] * std::max(0.0, o[1] * std::pow(depth, o[2]) * (1.0 + o[3] * o[5] * a.vnl[i])) : 0.0;
+  }
+}
+
 /// Groups of three observed values and two states; the first group's observed values are every group's in the linear terms, as the law is
 /// defined. The table of limit and stiffness has five knots.
 void climaLoop(LawArrays& a) {
@@ -139,6 +147,8 @@ void lawLoop(const std::string& law, LawArrays& a) {
     for (std::size_t i = 0; i < n; ++i) a.snl[i] = o[1] * std::pow(o[2], a.unl[i]);
   } else if (law == "Damper") {
     for (std::size_t i = 0; i < n; ++i) a.snl[i] = o[1] * std::copysign(std::pow(std::fabs(a.vnl[i]), o[2]), a.vnl[i]);
+  } else if (law == "Impact") {
+    impactLoop(a);
   } else if (law == "Table") {
     int segment = 0;
     for (std::size_t i = 0; i < n; ++i) a.snl[i] = interpolate(o + 1, o + 6, 5, a.unl[i], segment);

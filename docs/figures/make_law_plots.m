@@ -5,7 +5,7 @@
 %   make_law_plots ('maxwell')    draws one, by the name of its function below
 function make_law_plots (only)
   if exist ('graphics_toolkit'), graphics_toolkit ('gnuplot'); end
-  laws = {@power, @exponential, @table, @maxwell, @dahl, @stick_slip, @clima2, @damper, @radial, @film};
+  laws = {@power, @exponential, @table, @maxwell, @dahl, @stick_slip, @clima2, @damper, @radial, @film, @impact};
   for k = 1:numel (laws)
     if nargin == 0 || strcmp (only, func2str (laws{k})), laws{k} (); end
   end
@@ -147,6 +147,28 @@ function film ()
   save_plot ('law_ocvirk');
 end
 
+% A mass of 1 kg hits the stop at x = 1 mm and leaves it: central differences, which need no more than the force.
+function impact ()
+  e = element ('Impact', [1e6 1.5 0.5 1e-3 1], 1);
+  speeds = [0.25 0.5 1];
+  h = 1e-5;
+  names = {};
+  f = nan (3, 3000);
+  at = nan (3, 3000);
+  for k = 1:3
+    [x, v] = deal (0, speeds(k));
+    for j = 1:3000
+      at(k, j) = x;
+      f(k, j) = drive (e, x, v);
+      v = v - h * f(k, j);
+      x = x + h * v;
+      if x < 0, break, end
+    end
+    names{k} = sprintf ('%g m/s, %.2g m/s back', speeds(k), -v);
+  end
+  draw ('law_impact', 1e3 * at, f, names, 'Impact: k = 1e6 N/m^{1.5}, chi = 0.5 s/m, gap 1 mm, on 1 kg', 'displacement [mm]');
+end
+
 % Some cycles of a harmonic motion, the samples of the last one, and the time step.
 function [x, v, h, last] = harmonic (amplitude, frequency, samples, cycles)
   h = 1 / (frequency * samples);
@@ -198,7 +220,7 @@ function draw (name, x, f, names, headline, across, style)
   figure (1, 'visible', 'off');
   clf ();
   hold ('on');
-  for k = 1:size (f, 1), plot (x, f(k, :), style, 'color', colours(k, :), 'linewidth', 4, 'markersize', 6); end
+  for k = 1:size (f, 1), plot (x(min (k, end), :), f(k, :), style, 'color', colours(k, :), 'linewidth', 4, 'markersize', 6); end
   hold ('off');
   low = min (f(:));
   high = max (f(:));
@@ -214,8 +236,8 @@ function draw (name, x, f, names, headline, across, style)
 end
 
 function r = x_range (x)
-  reach = max (x) - min (x);
-  r = [min(x)-0.05*reach max(x)+0.05*reach];
+  reach = max (x(:)) - min (x(:));
+  r = [min(x(:))-0.05*reach max(x(:))+0.05*reach];
 end
 
 function save_plot (name)

@@ -30,6 +30,7 @@ constexpr LawRow laws[] = {
     row("Damper", FuDamper, checkDamper),
     row("Radial", FuRadial, checkRadial),
     row("Ocvirk", FuOcvirk, checkOcvirk),
+    row("Impact", FuImpact, checkImpact),
 };
 
 static_assert(codeOf("Power") == 491328597840 && codeOf("Clima2") == 55394028842051 && codeOf("sts") == 7566451);

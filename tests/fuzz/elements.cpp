@@ -9,7 +9,7 @@ namespace fuzz {
 
 namespace {
 
-constexpr const char* lawWords[] = {"Power", "Maxw", "Table", "Expon", "DahlC", "Clima2", "sts", "Damper", "Radial", "Ocvirk"};
+constexpr const char* lawWords[] = {"Power", "Maxw", "Table", "Expon", "DahlC", "Clima2", "sts", "Damper", "Radial", "Ocvirk", "Impact"};
 
 double lawCode(const char* word) {
   double code = 0.0;

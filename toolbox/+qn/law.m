@@ -32,6 +32,9 @@
 %   'journal'      viscosity [Pa s], length [m], radius [m], oil film of a short plain bearing around x0, y0 (Ocvirk), of a journal that
 %                  clearance [m], speed [rad/s],             turns at speed; up to the eccentricity limit, in parts of the clearance.
 %                  limit* (0.99), x0*, y0* [m] (0)           Observes two displacements and their velocities. See qn.journal.
+%   'impact'       stiffness [N/m^p], exponent* p (1.5),     one-sided stop: stiffness * d^p (1 + damping * d') and never below 0, where
+%                  damping* [s/m] (0), gap* [m] (0),         side * x is beyond the gap by d > 0; side is 1 or -1 (Hunt and Crossley
+%                  side* (1)                                 1975). See qn.impact.
 %
 % Output
 %   LAW   struct: kind, parameters (struct of the values), note (text)
@@ -69,6 +72,9 @@ function law = law (kind, varargin)
       error ('qn:input', '%s: "%s" must ascend, but value %d is %g and value %d is %g; sort the table by it', who, name{1}, k, x(k), ...
              k + 1, x(k + 1));
     end
+  end
+  for name = of_sort (l, 'sign')
+    if ~any (p.(name{1}) == [1 -1]), error ('qn:input', '%s: "%s" must be 1 or -1, got %g', who, name{1}, p.(name{1})); end
   end
   for name = of_sort (l, 'positive')
     qn.impl.numbers (who, name{1}, p.(name{1}), [], 'above', 0);

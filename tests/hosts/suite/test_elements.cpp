@@ -33,6 +33,22 @@ TEST_P(Elements, DampersPushAlongTheVelocity) {
   keptValues = 1;
 }
 
+TEST_P(Elements, ImpactsPushAndNeverPull) {
+  // Stiffness 2, exponent 1, damping 0.5, gap 1, on the side of negative values.
+  const double stop = set(1003, element("Impact", 3, {2, 1, 0.5, 1, -1}, {{"unl", zeros(1)}, {"vnl", zeros(1)}, {"snl", zeros(1)}}));
+  const auto force = [&](double u, double v) {
+    mxArray* r = zeros(3);
+    run("residual", {r, handles({stop}), column({u, 9, 9}), column({v, 9, 9}), zeros(0)}, 0);
+    return values(r)[0];
+  };
+  EXPECT_EQ(force(-4, -1), -2 * 3 * 1.5);
+  EXPECT_EQ(force(-4, 1), -2 * 3 * 0.5);
+  EXPECT_EQ(force(-4, 3), 0.0);
+  EXPECT_EQ(force(-1, -5), 0.0);
+  EXPECT_EQ(force(4, 0), 0.0);
+  keptValues = 1;
+}
+
 TEST_P(Elements, TableLawInterpolatesAndKeepsItsRecord) {
   // opt: code, record (3), abscissae 0 1 2, forces 0 10 40
   const double table = set(1003, element("Table", 1, {0, 0, 0, 0, 1, 2, 0, 10, 40},

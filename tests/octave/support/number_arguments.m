@@ -64,6 +64,9 @@ function rows = number_arguments ()
     'qn.harmonic', {'MODEL', 'LOAD', 'ELEMENTS', 'HERTZ'}, ...
       {model, [1 2 0.5], spring, [2 3], 'harmonics', 1, 'samples', 16, 'points', 3, 'step', 0.02, 'power', 1, 'G', [0 1 0; -1 0 2; 0 -2 0]}, ...
       {'LOAD', 'complex', 'phases'; 'G', 'empty', optional}
+    'qn.impact', {}, {'stiffness', 2, 'exponent', 1.5, 'damping', 0.5, 'gap', 0.1, 'side', 1}, {'damping', 'empty', optional}
+    'qn.impact', {}, {'stiffness', 2, 'restitution', 0.5, 'speed', 3}, ...
+      {'restitution|speed', 'empty', 'they are then said to go together'}
     'qn.interrupted', {}, {}, {}
     'qn.iwan', {}, {'slip', 10, 'stiffness', 100, 'sliders', 3}, {}
     'qn.iwan', {}, {'slips', [1 2], 'stiffnesses', [10 20]}, {'slips', 'empty', '"slip" is then said to be missing'}
@@ -155,7 +158,7 @@ function rows = laws ()
   for l = qn.impl.law_list ()
     args = {l.kind};
     for k = 1:size (l.parameters, 1)
-      value = 2;
+      value = 2 - strcmp (l.parameters{k, 3}, 'sign');
       if ~isempty (strfind (l.parameters{k, 3}, 'list')), value = [1 2]; end
       if strcmp (l.parameters{k, 3}, 'fraction'), value = 0.5; end
       args = [args, l.parameters(k, 1), {value}];

@@ -93,6 +93,12 @@ function law = random_damper (law, n)
   law.parameters = [randn; exponents(randi (5))];
 end
 
+function law = random_impact (law, n)
+  law.rates = true;
+  exponents = [1 1.5 2 3*rand];
+  law.parameters = [randn; exponents(randi (4)); 2 * rand - 0.3; 0.5 * randn; randn];
+end
+
 % The time increment of a law, sometimes left to the first step time.
 function h = increment (most)
   h = most * rand * (rand < 0.7);

@@ -2,7 +2,7 @@
 function checks = selftest_laws ()
   checks = {'linear run', @linear_run; 'law Power', @power; 'law Expon', @expon; 'law Table', @table; 'law Maxw', @maxw; ...
             'law DahlC', @dahl; 'law sts', @stick_slip; 'law Clima2', @clima; 'law Damper', @damper; ...
-            'law Radial', @radial; 'law Ocvirk', @film};
+            'law Radial', @radial; 'law Ocvirk', @film; 'law Impact', @impact};
 end
 
 % A free oscillation: average acceleration turns every step by the angle 2 atan (w h / 2) and keeps the amplitude.
@@ -98,6 +98,14 @@ end
 function [good, text] = film ()
   f = evaluated (with_rates (element (2, 'Ocvirk', [2; 1; 3; 0.5; 7; 0.9; 0; 0; 0])), [0.25; 0], [0; 0], 1);
   [good, text] = judged (f, 2 * 7 * 3 / (2 * 0.25) * [0.5 / 0.75 ^ 2; -pi / 4 / 0.75 ^ 1.5]);
+end
+
+% Open, at the gap, and beyond it: closing, opening, and opening so fast that it would pull.
+function [good, text] = impact ()
+  x = [1; -0.5; -1.5; -2.5; -2.5];
+  speed = [0; 0; -2; 1; 9];
+  wanted = [0; 0; -7 * (1 + 0.25 * 2); -7 * 2 ^ 1.5 * (1 - 0.25); 0];
+  [good, text] = judged (evaluated (with_rates (element (5, 'Impact', [7; 1.5; 0.25; 0.5; -1])), x, speed, 1), wanted);
 end
 
 % An element that observes N values as they are.

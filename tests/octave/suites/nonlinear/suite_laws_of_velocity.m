@@ -77,3 +77,43 @@ function test_one_array_for_both_observations_is_refused ()
   call = @() quarn ('chandlediagnewmark', {still, e}, struct ('K', []), zeros (2, 1), zeros (2, 1), zeros (2, 1), zeros (1, 2), mem, struct ());
   expect_error (call, '', '~"unl" and "vnl" are one array: law "Damper" needs each with its own zeros');
 end
+
+% Stiffness 4, exponent 2, damping 0.5, gap 1 unless said.
+function e = stop (side, n)
+  e = element ('Impact', [4 2 0.5 1 side], n);
+end
+
+function test_an_impact_is_met_at_its_gap_on_its_side ()
+  x = [-3; 0; 1; 1.5; 3];
+  [e, r] = evaluate_law (stop (1, 5), x, zeros (5, 1));
+  expect_equal (e.snl, [0; 0; 0; 1; 16]);
+  expect_equal (r, e.snl);
+  e = evaluate_law (stop (-1, 5), x, zeros (5, 1));
+  expect_equal (e.snl, [-16; 0; 0; 0; 0]);
+  e = evaluate_law (stop (0, 2), [-3; 3], [0; 0]);
+  expect_equal (e.snl, [0; 16]);   % neither side is that of positive values
+end
+
+function test_an_impact_resists_more_while_it_closes_and_never_pulls ()
+  e = evaluate_law (stop (1, 4), [3; 3; 3; 0], [1; -1; -5; 9]);
+  expect_equal (e.snl, [16 * 1.5; 16 * 0.5; 0; 0]);
+  e = evaluate_law (stop (-1, 3), [-3; -3; -3], [-1; 1; 5]);
+  expect_equal (e.snl, [-16 * 1.5; -16 * 0.5; 0]);
+end
+
+function test_no_number_in_an_impact_gives_none ()
+  e = evaluate_law (stop (1, 3), [NaN; 3; 0], [0; NaN; NaN]);
+  expect_equal (e.snl, [NaN; NaN; 0]);
+end
+
+function test_short_arrays_of_an_impact_are_refused ()
+  head = 'quarn residual : element 1 : ';
+  u = [0; 0];
+  e = stop (1, 2);
+  e.opt = e.opt(1:5);
+  expect_refused (@() evaluate_law (e, u, u), [head 'opt must hold 6 values (code, stiffness, exponent, damping, gap, side), got 5']);
+  e = stop (1, 2);
+  expect_refused (@() evaluate_law (rmfield (e, 'vnl'), u, u), [head '"vnl" of law "Impact" must hold 2 values or more, got 0']);
+  e.snl = 0;
+  expect_refused (@() evaluate_law (rmfield (e, 'b'), u, u), [head 'snl must hold 2 values (as many as a page of unl), got 1']);
+end

@@ -48,6 +48,26 @@ function test_free_decay_with_linear_and_quadratic_damping ()
   expect_published (c, {'quadratic: way of a free mass in 2 s [m]'}, log (1 + 3 * e * 2) / e, r.q(end), 2e-4);
 end
 
+% Mass 1 kg against F = 1e6 d^1.5 (1 + 0.5 d'). What is lost depends on 0.5 v0 = D alone: D (1 + e) = log ((1 + D) / (1 - D e)).
+function test_impact_with_losses_after_hunt_and_crossley ()
+  c = published ('Impact with losses after Hunt and Crossley', ...
+                 ['K. H. Hunt and F. R. E. Crossley, J. Applied Mechanics 42, 1975: restitution from the first integral, depth and ' ...
+                  'duration by quadrature'], {'Impact', 'contacts'});
+  speeds = [0.1 1 5];
+  wanted = [0.96773858 6.80911356e-4 2.037332e-2; 0.74843493 3.89257378e-3 1.328982e-2; 0.35237867 1.09239474e-2 1.137558e-2];
+  model = qn.modal (0, 1);
+  row = qn.observe (model, 1);
+  for k = 1:3
+    v0 = speeds(k);
+    sim = qn.simulation (model, 'step', 1e-6, 'until', 0.025, 'v0', v0, 'elements', {qn.impact('stiffness', 1e6, 'damping', 0.5), row});
+    res = qn.run (sim, 'progress', false);
+    hit = qn.contacts (res, 1);
+    v = qn.velocity (res, row);
+    names = cellfun (@(n) sprintf ('%s at %g m/s', n, v0), {'restitution', 'depth [m]', 'duration [s]'}, 'uniformoutput', false);
+    expect_published (c, names, wanted(k, :), [-v(end) / v0, max(res.q), hit.duration], [2e-8 1e-6 2e-6]);
+  end
+end
+
 % x'' + exp (x) = 1 keeps x'^2/2 + exp (x) - x.
 function test_a_toda_spring_turns_where_its_energy_says ()
   c = published ('Oscillator with an exponential spring', ...

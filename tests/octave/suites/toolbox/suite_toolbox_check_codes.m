@@ -116,14 +116,20 @@ function c = cases ()
        'stickslip_slips', 'warning', {with(sticks (20)), true}, {with(qn.slider ('stiffness', 1e4, 'slip', 20)), true}
        'stickslip_slips', 'note', {with(sticks (200))}, {with(sticks (200)), true}
        'damper_unstable', 'error', {with(qn.damper ('damping', 2.1e4))}, {with(qn.damper ('damping', 1.9e4))}
-       'damper_unstable', 'error', {with(qn.damper ('damping', 2.1e4, 'exponent', 2), 'v0', 1), true}, ...
-                                   {with(qn.damper ('damping', 0.9e4, 'exponent', 2), 'v0', 1), true}
+       'damper_unstable', 'warning', {with(qn.damper ('damping', 2.1e4, 'exponent', 2), 'v0', 1), true}, ...
+                                     {with(qn.damper ('damping', 0.9e4, 'exponent', 2), 'v0', 1), true}
        'damper_coarse', 'warning', {with(qn.damper ('damping', 2.1e3))}, {with(qn.damper ('damping', 1.9e3))}
        'damper_feeds', 'warning', {with(qn.law ('damper', 'damping', -1))}, {with(qn.law ('damper', 'damping', 1))}
        'film_left', 'error', {on_film(5000), true}, {on_film(300), true}
        'film_left', 'warning', {on_film(790, 'every', 10), true}, {on_film(700, 'every', 10), true}
        'film_long', 'note', {on_film(300, 'until', 1e-3, 'length', 0.051)}, {on_film(300, 'until', 1e-3, 'length', 0.049)}
        'film_long', 'warning', {on_film(300, 'until', 1e-3, 'length', 0.101)}, {on_film(300, 'until', 1e-3, 'length', 0.03)}
+       'damper_feeds', 'warning', {with(qn.law ('impact', 'stiffness', 1, 'damping', -1))}, {with(qn.impact ('stiffness', 1))}
+       'damper_coarse', 'warning', {with(hit (3e7, 5), 'v0', 1), true}, {with(hit (3e7, 0.5), 'v0', 1), true}
+       'element_coarse', 'warning', {with(hit (3e9, 0), 'v0', 1), true}, {with(hit (3e7, 0), 'v0', 1), true}
+       'gap_far', 'warning', {with(qn.impact ('stiffness', 1e4, 'gap', 1))}, {with(qn.impact ('stiffness', 1e4, 'gap', 1e-3))}
+       'never_closes', 'warning', {with(qn.impact ('stiffness', 1e4, 'gap', 1)), true}, {with(qn.impact ('stiffness', 1e4)), true}
+       'preload', 'note', {with(qn.impact ('stiffness', 1e4, 'gap', -1e-3))}, {with(qn.impact ('stiffness', 1e4))}
        'clima2_stiffness', 'warning', {on_pad(pad (1, 10))}, {on_pad(pad (1, 0))}
        'clima2_normal', 'warning', {on_pad(pad (-1, 0))}, {on_pad(pad (1, 0))}
        'clima2_normal', 'warning', {on_pad(pad (-1, 0)), true}, {on_pad(pad (-1e-3, 0)), true}
@@ -159,6 +165,10 @@ function sim = cantilever (push)
   end
   model = qn.modal (k(3:end, 3:end), m(3:end, 3:end), 'modes', 2, 'damping', 0.02);
   sim = qn.simulation (model, 'step', 1e-3, 'until', 2, 'base', {push, @(t) 5 * sin(20 * t)});
+end
+
+function law = hit (stiffness, damping)
+  law = qn.impact ('stiffness', stiffness, 'damping', damping, 'gap', 1e-3);
 end
 
 function law = sticks (slip)

@@ -17,9 +17,12 @@ function law = drawn (l)
       x = 0.5 + rand (n, 1);
     elseif strcmp (sort_of, 'fraction')
       x = rand ();
+    elseif strcmp (sort_of, 'sign')
+      x = 1 - 2 * (rand () < 0.5);
     else
       x = 1 + 2 * rand ();
     end
+    if isequal (l.parameters(k, [1 3]), {'gap', 'number'}), x = -x; end      % closed
     args(end + (1:2)) = {l.parameters{k, 1}, x};
   end
   law = qn.law (l.kind, args{:});
@@ -148,7 +151,7 @@ function test_every_law_runs_in_a_simulation_and_no_bad_number_passes ()
     law = drawn (l);
     t = qn.impl.traits (law, 1);
     away = 6 * (t.rows == 2) * [1; 1; 1];      % beyond every clearance that is drawn
-    sim = qn.simulation (model, 'step', 1e-4, 'steps', 50, 'u0', away, 'v0', [1; 1; 1], 'elements', {law, eye(3)(1:max (t.rows, 1), :)});
+    sim = qn.simulation (model, 'step', 1e-4, 'steps', 50, 'u0', away, 'v0', [0.2; 0.2; 0.2], 'elements', {law, eye(3)(1:max (t.rows, 1), :)});
     res = qn.run (sim, 'progress', false);
     if ~all (isfinite (res.q(:))) || ~any (res.force(:)), error ('the law %s does nothing in a run', l.kind); end
     for k = 1:size (l.parameters, 1)

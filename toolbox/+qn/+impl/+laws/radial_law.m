@@ -11,7 +11,8 @@ function l = radial_law ()
                 'x0', 0, 'number'
                 'y0', 0, 'number'};
   l = struct ('kind', 'radial', 'keyword', 'Radial', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'viscous', @viscous, 'traits', @traits, 'stored', @stored, 'reserve', @reserve);
+              'stiffest', @stiffest, 'viscous', @viscous, 'traits', @traits, 'stored', @stored, 'reserve', @reserve, ...
+              'reach', @reach);
 end
 
 function [opt, own] = pack (p, step)
@@ -75,4 +76,8 @@ end
 
 function r = away (p, x)
   r = sqrt ((x(1, :) - p.x0) .^ 2 + (x(2, :) - p.y0) .^ 2);
+end
+
+function r = reach (p)
+  r = max (0, p.gap - sqrt (p.x0 ^ 2 + p.y0 ^ 2));
 end

@@ -4,7 +4,7 @@ function l = table_law ()
                 'force', '<required>', 'list'};
   l = struct ('kind', 'table', 'keyword', 'Table', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
               'stiffest', @stiffest, 'softest', @softest, 'traits', [], 'stored', @stored, 'reserve', @reserve, 'check', @check, ...
-              'at_rest', []);
+              'reach', @reach, 'at_force', @at_force);
 end
 
 function [opt, own] = pack (p, step)
@@ -92,4 +92,24 @@ function v = reserve (p, x, state)
   zero = knots([sloped; false]) - force([sloped; false]) ./ slope(sloped);
   least = min (stored (p, [knots; zero].', [], [], []));
   v = sum (stored (p, x(:).', [], [], []) - least);
+end
+
+function r = reach (p)
+  r = Inf;
+  if numel (p.displacement) < 3, return, end
+  slope = diff (p.force) ./ max (diff (p.displacement), realmin ());
+  inner = p.displacement(2:end - 1);
+  bends = abs (diff (slope)) > 1e-9 * max (abs (slope));
+  if any (bends), r = min (abs (inner(bends))); end
+end
+
+function x = at_force (p, f)
+  x = zeros (1, 0);
+  [knots, force] = deal (p.displacement(:), p.force(:));
+  if numel (knots) < 2, return, end
+  for value = f
+    at = knots(1:end - 1) + (value - force(1:end - 1)) .* diff (knots) ./ diff (force);
+    inside = at > [-Inf; knots(2:end - 1)] & at < [knots(2:end - 1); Inf];
+    x = [x, at(inside).'];
+  end
 end

@@ -75,6 +75,10 @@
 %   dissipated     - energy that each nonlinear element has taken up, stored, dissipated and exchanged
 %   contacts       - the contacts in a force history: when, how long, how hard
 %   spectrum       - amplitude spectrum of a signal
+%   full_spectrum  - forward and backward parts of an orbit
+%   spectrogram    - spectra of a signal along its time
+%   order_track    - amplitudes of orders along a run-up
+%   poincare       - a motion once in every period (Poincare section)
 %   srs            - shock response spectrum of a base acceleration, or of a floor in a result
 %
 % Pictures
@@ -86,6 +90,11 @@
 %   plot.loop      - force of an element against its displacement
 %   plot.orbit     - orbit of a point: one displacement against another
 %   plot.waterfall - spectra one behind another
+%   plot.full_spectrum - forward and backward parts of an orbit against the frequency
+%   plot.spectrogram - spectra along the time, in colours
+%   plot.orders    - amplitudes of orders against the speed of rotation
+%   plot.poincare  - points of a Poincare section
+%   plot.bifurcation - points of Poincare sections against the parameter of a sweep
 %   plot.campbell  - Campbell diagram: whirl speeds over the speed of rotation
 %
 % Without time

@@ -58,6 +58,8 @@ function rows = number_arguments ()
     'qn.force', {'LAW', 'X', 'V', 'H'}, {qn.slider('slip', 2, 'stiffness', 3), [1 2 3], [1 1 2], 0.1}, {}
     'qn.force', {'LAW', 'X', 'V'}, {qn.damper('damping', 3), [1 2 3], [4 5 6]}, {'X', 'longer|transposed', 'the velocities are said to differ'}
     'qn.force', {'LAW', 'X'}, {qn.cubic('stiffness', 3), [1 2 3]}, {'X', 'longer|transposed', 'one force a displacement, of any shape'}
+    'qn.full_spectrum', {'TIME', 'X', 'Y'}, {t, t, t, 'window', 'hann', 'mean', 'keep'}, {}
+    'qn.full_spectrum', {'RES', 'CX', 'CY'}, {res, row, row}, {}
     'qn.gap', {}, {'gap', 0.1, 'stiffness', 10, 'side', 1, 'padding', 0.01, 'soft', 2}, {'soft', 'empty', optional}
     'qn.gravity', {'MODEL', 'PUSH'}, {model, [0; 1; -1], 'g', 1.6, 'ramp', 0.1}, {}
     'qn.grid', {'NAME', 'VALUES'}, {'gap', [1 2 3]}, {'VALUES', '.*', anything}
@@ -81,21 +83,34 @@ function rows = number_arguments ()
     'qn.observe', {'MODEL', 'DOFS', 'WEIGHTS'}, {model, [1 3], [1 -1]}, {}
     'qn.observe', {'MODEL', 'ROWS'}, {model, sparse([1 0 2])}, ...
       {'ROWS', 'empty|logical|char|cell|deep|longer|transposed', 'what is not sparse is read as DOFS, and named so'}
+    'qn.order_track', {'TIME', 'SIGNAL', 'ROTATION', 'ORDERS'}, {t, t, t + 0.1, [0.5 1], 'turns', 0.2, 'overlap', 0.5}, ...
+      {'ORDERS', 'longer|transposed', any_length}
+    'qn.order_track', {'RES', 'C', 'ROTATION', 'ORDERS'}, {res, row, 100, 0.5, 'turns', 1}, {'ORDERS', 'longer', any_length}
     'qn.pack', {'A'}, {[1 2; 3 4; 5 6]}, {'A', 'longer|transposed|empty|logical', 'any matrix'}
     'qn.plot.campbell', {'D'}, {qn.campbell(struct ('M', 1, 'K', 4), [1 3]), 'show', 'whirl', 'modes', 1, 'top', 3}, ...
       {'modes', 'longer', any_length; 'top', 'empty', optional}
+    'qn.plot.bifurcation', {'VALUES', 'POINTS'}, {[1 2], {[1 2 3], 4}, 'label', 'x', 'unit', 'm'}, ...
+      {'POINTS\{', 'longer|transposed|empty', any_length}
+    'qn.plot.full_spectrum', {'HERTZ', 'FORWARD', 'BACKWARD', 'LIMIT'}, {[0 1], [1 2], [0 3], 2}, {'FORWARD|BACKWARD', 'complex', 'amplitudes'}
     'qn.plot.loop', {'RES', 'K'}, {res, 1}, {}
     'qn.plot.loop', {'X', 'F'}, {t, t}, {}
     'qn.plot.orbit', {'RES', 'CX', 'CY', 'CLEARANCE'}, {res, row, qn.observe(model, 1), 0.1}, {}
+    'qn.plot.orbit', {'X', 'Y', 'CLEARANCE'}, {t, t, 0.1}, {}
+    'qn.plot.orders', {'SPEED', 'AMPLITUDE', 'ORDERS'}, {[1 2 3], [1 2 3; 4 5 6], [1 2]}, {'AMPLITUDE', 'complex', 'amplitudes'}
     'qn.plot.page', {'WIDTH', 'HEIGHT'}, {300, 200}, {}
     'qn.plot.panel', {'ROWS', 'COLUMNS', 'K'}, {2, 2, [1 2]}, {}
     'qn.plot.phase', {'RES', 'C', 'PERIOD'}, {res, row, 0.01}, {}
     'qn.plot.picture', {'FIG', 'FILE'}, {}, {}
+    'qn.plot.poincare', {'POINTS'}, {[1 2 3; 4 5 7]}, {'POINTS', 'longer', any_length}
+    'qn.plot.spectrogram', {'HERTZ', 'MIDDLE', 'X'}, {[0 1 2], [1 2], [1 2; 3 4; 5 6], 'hertz', [0 2], 'range', 40, 'unit', 'm'}, ...
+      {'X', 'complex', 'amplitudes'; 'hertz', 'empty', optional}
     'qn.plot.series', {'RES', 'C', 'NAMES'}, {res, row}, {}
     'qn.plot.series', {'RES', '', 'ROWS'}, {res, 'force', 1}, {'ROWS', 'longer', any_length}
     'qn.plot.waterfall', {'TIME', 'SIGNAL'}, {0:0.1:3.1, 1:32, 'parts', 3, 'hertz', [0 2]}, {'hertz', 'empty', optional}
     'qn.plot.waterfall', {'HERTZ', 'SPECTRA'}, {t, [t; t + 1], 'along', [1 2], 'label', 'Speed', 'unit', 'm'}, ...
       {'SPECTRA', 'complex', 'amplitudes may be complex'; 'along', 'empty', 'times and a signal are then expected, and said to be missing'}
+    'qn.poincare', {'TIME', 'SIGNALS', 'PERIOD'}, {t, [t; t + 1], 0.4, 'phase', 0.25, 'skip', 0}, {}
+    'qn.poincare', {'RES', 'C', 'PERIOD'}, {res, row, 0.01}, {}
     'qn.project', {'A', 'K', 'B'}, {[1 2; 3 4; 5 6], magic(3), [1; 2; 3]}, ...
       {'A|B', 'complex', 'bases may be complex'; 'A|B', 'longer', 'of any width'}
     'qn.radial', {}, {'gap', 0.1, 'stiffness', 10, 'exponent', 1.5, 'damping', 0.1, 'friction', 0.2, 'onset', 0.1, 'radius', 1, 'speed', 2, ...
@@ -129,6 +144,8 @@ function rows = number_arguments ()
     'qn.simulation', {'MODEL'}, {model, 'step', 1e-3, 'until', 7e-3, 'times', [1e-3 2e-3], 'q0', [1 2 3], 'dq0', [1 2 4], 'start', [], 'fresh', []}, ...
       {'q0|dq0|times', 'empty', optional; 'times', 'longer', any_length; 'until', 'empty', '"steps" is then said to be missing'}
     'qn.slider', {}, {'slip', 2, 'stiffness', 3}, {}
+    'qn.spectrogram', {'TIME', 'SIGNAL'}, {t, t, 'seconds', 0.4, 'overlap', 0.5, 'window', 'none', 'mean', 'keep'}, {'seconds', 'empty', optional}
+    'qn.spectrogram', {'RES', 'C'}, {res, row}, {}
     'qn.spectrum', {'TIME', 'SIGNAL'}, {t, [t; t + 1], 'window', 'hann', 'mean', 'keep'}, {}
     'qn.srs', {'TIME', 'ACC', 'HERTZ', 'Q'}, {t, t, [1 2], 5}, {'HERTZ', 'longer|transposed', any_length; 'Q', 'inf', 'undamped'}
     'qn.srs', {'RES', 'C', 'HERTZ', 'DOFS'}, {moved, row, [1 2]}, {'HERTZ', 'longer|transposed', any_length; 'C', 'named', 'qn.acceleration says it'}

@@ -6,14 +6,18 @@
 % Calls
 %   qn.plot.orbit (RES, CX, CY)
 %   qn.plot.orbit (RES, CX, CY, CLEARANCE)
+%   qn.plot.orbit (X, Y)
+%   qn.plot.orbit (X, Y, CLEARANCE)
 %
 % Input
 %   RES         from qn.run
 %   CX, CY      observation rows, or numbers of degrees of freedom, across and up
+%   X, Y        1 x k displacements across and up instead [m]
 %   CLEARANCE   radius of a circle to draw [m]
 %
 % Errors
-%   qn:input  the rows do not fit the model, or are not one row each; CLEARANCE is negative or not finite
+%   qn:input  the rows do not fit the model, or are not one row each; the lengths differ; a value is not finite;
+%             CLEARANCE is negative
 %
 % Example
 %   model = qn.modal (1e4 * eye (2), eye (2), 'damping', 0.02);
@@ -22,13 +26,19 @@
 %   qn.plot.orbit (res, 1, 2, 1.2e-3);
 %   close (fig);
 %
-% See also qn.plot.phase, qn.bearing
+% See also qn.full_spectrum, qn.plot.phase, qn.bearing
 function orbit (res, cx, cy, clearance)
-  if nargin < 3, error ('qn:input', 'qn.plot.orbit: a result and two observation rows expected; see help qn.plot.orbit'); end
+  if nargin < 2 || (isstruct (res) && nargin < 3)
+    error ('qn:input', 'qn.plot.orbit: a result and two observation rows, or two displacements expected; see help qn.plot.orbit');
+  end
   if nargin < 4, clearance = 0; end
-  qn.impl.expect_result_of ('qn.plot.orbit', res, 'qn.run');
-  x = one_row (res, cx, 'CX');
-  y = one_row (res, cy, 'CY');
+  if isstruct (res)
+    [unused, x, y] = qn.impl.across_and_up ('qn.plot.orbit', res, cx, cy);
+  else
+    if nargin > 2, clearance = cy; end
+    x = qn.impl.numbers ('qn.plot.orbit', 'X', res, [], 'list');
+    y = qn.impl.numbers ('qn.plot.orbit', 'Y', cx, numel (x), 'each', 'one for each of X');
+  end
   clearance = qn.impl.scalar ('qn.plot.orbit', 'CLEARANCE', clearance, 0);
   [f, u] = qn.impl.prefixed ([x(:); y(:); clearance], 'm');
   k = qn.impl.thinned (numel (x), 20000);
@@ -43,10 +53,4 @@ function orbit (res, cx, cy, clearance)
   end
   qn.impl.style ('Orbit', sprintf ('Displacement across [%s]', u), sprintf ('Displacement up [%s]', u), names);
   axis ('equal');
-end
-
-function x = one_row (res, c, name)
-  row = qn.impl.observation_rows (res.sim.model, c, 'qn.plot.orbit: ', name);
-  if size (row, 1) ~= 1, error ('qn:input', 'qn.plot.orbit: "%s" must be one observation row, got %d', name, size (row, 1)); end
-  x = row * res.q;
 end

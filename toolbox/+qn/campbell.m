@@ -83,7 +83,7 @@ function number = chains (s, at, count)
       w = imag (p{1}.pole);
       if ~isempty (w), ceiling = max (ceiling, w(min (count, end))); end
     end
-    to = qn.impl.rotor.follow (s, at{k - 1}, at{k}, 1.0001 * ceiling, 5);
+    to = qn.impl.rotor.follow (s, at{k - 1}, at{k}, 1.0001 * ceiling, 4);
     there = find (number(:, k - 1) > 0);
     number(:, k) = 0;
     number(there, k) = to(number(there, k - 1));

@@ -151,6 +151,28 @@ function test_bearings_by_speed_are_formed_at_the_speed ()
   expect_error (@() qn.rotor (wrong, 'speed', 3), 'qn:input', '~"bearings{1, 2} at 3 rad/s"');
 end
 
+function test_a_function_may_give_stiffness_and_damping_at_once_and_is_called_once_for_equal_bearings ()
+  f = @(w) counted (w);
+  counted ('begin');
+  r = qn.rotor ('nodes', [0 1], 'outer', 0.05, 'bearings', {1, f, []; 2, f, 7}, 'speed', 3);
+  expect_equal (counted ('end'), 1);
+  b = qn.rotor ('nodes', [0 1], 'outer', 0.05, 'bearings', {1, [5 3; -3 6], [1 0; 0 2]; 2, [5 3; -3 6], [8 0; 0 9]});
+  for name = 'MKC', expect_equal (r.(name), b.(name)); end
+  expect_error (@() qn.rotor ('nodes', [0 1], 'outer', 1, 'bearings', {1, 5, @(w) counted(w)}, 'speed', 1), 'qn:input', ...
+                '~"bearings{1, 3}" takes no structure');
+end
+
+function x = counted (w)
+  persistent calls;
+  x = calls;
+  if ischar (w)
+    calls = 0;
+  else
+    calls = calls + 1;
+    x = struct ('stiffness', [5 w; -w 6], 'damping', [1 2]);
+  end
+end
+
 % A bearing that pushes away along one direction leaves the modes those of what holds; a run has it all.
 function test_a_bearing_with_negative_stiffness_makes_a_model ()
   r = qn.rotor ('shaft', struct ('M', eye (2), 'K', 9 * eye (2), 'places', [1 2]), 'bearings', {1, [-4 1; -2 5]});

@@ -1,8 +1,9 @@
-% LIST = SUPPORTS (WHO, NAME, ROWS, R)  bearings or seals of qn.rotor as a struct array: rows, K, C, M, name
+% LIST = SUPPORTS (WHO, NAME, ROWS, R)  bearings or seals of qn.rotor as a struct array: rows, K, C, M, source
 %
-% rows is 2 x n or 4 x n: what the support sees of the displacements. K, C and M are matrices over these, or functions of the speed.
+% rows is 2 x n or 4 x n: what the support sees of the displacements. K, C and M are matrices over these, or functions of the speed; that
+% of K may give {K, C}. source is the function that was given for K, by which equal ones are known.
 function list = supports (who, name, rows, r)
-  list = struct ('rows', {}, 'K', {}, 'C', {}, 'M', {}, 'name', {});
+  list = struct ('rows', {}, 'K', {}, 'C', {}, 'M', {}, 'source', {});
   if isempty (rows) && iscell (rows), return, end
   widths = [2 3];
   if strcmp (name, 'seals'), widths = [2 3 4]; end
@@ -26,7 +27,7 @@ function list = supports (who, name, rows, r)
       if isa (values{j - 1}, 'function_handle') && numel (at) == 1, size_of = max (size_of, size (r.places, 2)); end
     end
     if numel (at) > 1 || size (r.places, 2) < 4, size_of = 2; end
-    s = struct ('rows', zeros (size_of, n), 'K', [], 'C', [], 'M', [], 'name', sprintf ('row %d of "%s"', k, name));
+    s = struct ('rows', zeros (size_of, n), 'K', [], 'C', [], 'M', [], 'source', []);
     s.rows(:, r.places(at(1), 1:size_of)) = eye (size_of);
     if numel (at) == 3
       if any (at(2:3) > numel (r.stator))
@@ -36,15 +37,20 @@ function list = supports (who, name, rows, r)
     end
     names = 'KCM';
     for j = 1:3, s.(names(j)) = widened (who, label (j + 1), values{j}, size_of); end
+    if isa (s.K, 'function_handle'), s.source = rows{k, 2}; end
     list(end + 1) = s;
   end
 end
 
-% A number, two or a matrix as a matrix; functions of the speed give such ones.
+% A number, two or a matrix as a matrix; functions of the speed give such ones, or a structure with stiffness and damping.
 function x = value_of (who, name, x)
   if isa (x, 'function_handle')
     f = x;
     x = @(speed) value_of (who, sprintf ('%s at %g rad/s', name, speed), f (speed));
+    return
+  end
+  if isstruct (x) && all (isfield (x, {'stiffness', 'damping'}))
+    x = {value_of(who, name, x.stiffness), value_of(who, name, x.damping)};
     return
   end
   if isempty (x) && isnumeric (x), x = 0; end
@@ -67,6 +73,13 @@ end
 
 % A matrix over x and y as one over the N degrees of freedom of a node; [] is none.
 function x = wide (who, name, x, n)
+  if iscell (x)
+    if isempty (strfind (name, ', 2}'))
+      error ('qn:input', '%s: "%s" takes no structure; stiffness and damping at once stand in the column of K', who, name);
+    end
+    x = {wide(who, name, x{1}, n), wide(who, name, x{2}, n)};
+    return
+  end
   if isempty (x), x = zeros (n); end
   if size (x, 1) > n
     error ('qn:input', '%s: "%s" has moments, for which a node needs four degrees of freedom of its own', who, name);

@@ -63,15 +63,25 @@ function d = campbell (r, speeds, varargin)
   end
   d.whirl = imag (d.pole);
   d.damping = -real (d.pole) ./ abs (d.pole);
-  d.critical = struct ('speed', {}, 'order', {}, 'mode', {}, 'whirl', {}, 'damping', {}, 'direction', {}, 'shape', {});
-  for order = o.orders
-    d.critical = [d.critical, found(s, at, number, order, @(pole, speed) imag (pole) - order * abs (speed))];
+  lists = cell (size (o.orders));
+  for k = 1:numel (o.orders)
+    order = o.orders(k);
+    lists{k} = found (s, at, number, order, @(pole, speed) imag (pole) - order * abs (speed));
   end
+  d.critical = joined (lists);
   % What rounding leaves of no damping is no loss of it.
   lost = found (s, at, number, 0, @(pole, speed) real (pole) + 0 * speed);
   d.unstable = rmfield (lost, 'order');
-  [unused, by] = sort ([d.critical.speed]);
-  d.critical = d.critical(by);
+end
+
+% By speed; structs without elements stay structs.
+function list = joined (lists)
+  list = lists{1};
+  for k = 2:numel (lists)
+    for c = lists{k}, list(end + 1) = c; end
+  end
+  [unused, by] = sort (arrayfun (@(c) c.speed, list));
+  list = list(by);
 end
 
 % One row a mode, one column a speed: the number of the mode among the poles of that speed, 0 where it does not oscillate.

@@ -51,6 +51,16 @@ function test_critical_speeds_are_those_of_the_direct_eigenvalue_problem ()
   expect_equal ([few.critical.speed], direct, 2e-4);
 end
 
+function test_speeds_without_a_critical_one_give_an_empty_list ()
+  d = qn.campbell (struct ('M', eye (2), 'K', diag ([100 400])), [30 40], 'orders', [1 2 0.1]);
+  expect_equal (numel (d.critical), 0);
+  expect_equal (numel (d.unstable), 0);
+  expect_equal (isempty ([d.critical.speed]), true);
+  fig = qn.plot.page ();
+  qn.plot.campbell (d);
+  close (fig);
+end
+
 % Cross-coupling a W against the damping c: forward whirl at wn grows from W = c wn/a on.
 function test_the_speed_where_damping_is_lost_is_found ()
   [m, k, c, a] = deal (10, 4e6, 600, 1.5);

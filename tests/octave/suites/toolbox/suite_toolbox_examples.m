@@ -65,6 +65,24 @@ function test_rotor_rubs_in_its_ring ()
   expect_equal (r.numbers.radius > 2 * r.numbers.free, true);
 end
 
+function test_rotor_rubs_with_friction_against_a_stator ()
+  r = run_example ('rub_stator');
+  % Published for the rigid ring: 1.03884944e-4 and 1.24741702e-4 m. The stator gives way below its own frequency.
+  expect_equal (1e4 * r.numbers.rigid, [1.03884944 1.24741702], 1e-3);
+  expect_equal (r.numbers.moving > 1e-4, [true true]);
+end
+
+function test_oil_whirl_begins_where_linear_theory_says ()
+  r = run_example ('oil_whirl');
+  % Whirl of a journal bearing is at about half the speed of rotation.
+  expect_equal (abs (r.numbers.ratio - 0.5) < 0.05, true);
+end
+
+function test_squeeze_film_damper_has_the_orbit_of_its_closed_form ()
+  r = run_example ('squeeze_film');
+  expect_equal (all (r.numbers.radius < 0.6), true);
+end
+
 function test_blades_have_their_best_friction ()
   r = run_example ('bladed_disc');
   expect_equal (r.numbers.best, 14);

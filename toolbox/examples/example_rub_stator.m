@@ -62,9 +62,9 @@ function r = example_rub_stator (folder, short)
     hold on;
     plot (1e6 * real (z.stator), 1e6 * imag (z.stator), '-', 'color', qn.impl.colours (2), 'linewidth', qn.impl.width ());
     plot (1e6 * play * real (turn), 1e6 * play * imag (turn), '--', 'color', [0 0 0]);
-    labels (['Last turns, ' names{j}], 'Across [um]', 'Up [um]', {'rotor', 'stator', 'play'}, 'northwest');
+    labels (['Last turns, ' names{j}], 'Across [um]', 'Up [um]', {'rotor', 'stator', 'play'}, 'north');
     axis ('equal');
-    axis ([-160 160 -160 160]);
+    axis (1.8e6 * max (abs (z.rotor)) * [-1 1 -1 1]);
   end
   r = finish ('example_rub_stator', fig, folder, checks, struct ('rigid', rigid, 'moving', moving));
   if nargout == 0, tell (r); clear r, end

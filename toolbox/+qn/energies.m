@@ -20,8 +20,11 @@
 %           damped            by modal damping (the symmetric part of a full matrix)
 %           dissipated        by elements with memory and by those that depend on the velocity
 %           exchanged         taken by elements that act elsewhere than they look ("B" beside "C"); negative: put in
-%           circulatory       taken by the skew part of a full stiffness (bearings with cross terms); negative: put in, as in oil whirl
-%           gyroscopic        taken by the skew part of a full damping matrix: nothing to rounding with average acceleration
+%           circulatory       taken by the skew part of a full stiffness (bearings with cross terms); negative: put in, as in oil whirl.
+%                             In a run-up also by 'KG' of qn.modal, all of it
+%           gyroscopic        taken by the skew part of a full damping matrix, in a run-up with the speed of each step: as the force is
+%                             at right angles to the velocity at the ends of a step, nothing to the order of the step squared.
+%                             What the drive does to keep to the speeds of a run-up is not in the model
 %           work              of the loads
 %           residual          what is there and was taken, less what was there at the start and the work of the loads
 %
@@ -49,6 +52,11 @@ function e = energies (res)
   e = struct ('time', res.time, 'kinetic', sum (v .^ 2, 1) / 2, 'strain', sum (q .* (k * q), 1) / 2, 'stored', none, ...
               'damped', between (c * v), 'dissipated', none, 'exchanged', none, 'circulatory', between (circulatory * q), ...
               'gyroscopic', between (gyroscopic * v), 'work', between (sim.shapes * sim.loads));
+  if qn.impl.runs_up (sim)
+    [omega, slope] = qn.impl.speed_at (sim, sim.time);
+    e.gyroscopic = e.gyroscopic + between (qn.impl.turning_force (sim, omega, 0 * slope, q, v));
+    e.circulatory = e.circulatory + between (qn.impl.turning_force (sim, 0 * omega, slope, q, v));
+  end
   d = qn.dissipated (res);
   for k = 1:numel (d)
     members = sim.elements([sim.elements.item] == k);

@@ -20,7 +20,10 @@
 %     'rayleigh'  [alpha beta]: damping matrix alpha*M + beta*K [1/s, s]; see qn.rayleigh
 %     'C'         damping matrix [N s/m], any real n x n: dashpots, bearings
 %     'G'         gyroscopic matrix [kg m^2 or kg m, whatever times 'speed' gives N s/m], n x n, skew (G.' = -G)
-%     'speed'     speed of rotation [rad/s] that belongs to 'G': the damping gets speed*G
+%     'speed'     speed of rotation [rad/s] that belongs to 'G': the damping gets speed*G. For a run-up it is 0 here, and 'speed' of
+%                 qn.simulation says how the speed changes
+%     'KG'        what times the angular acceleration is a stiffness [kg m^2], any real n x n: it acts in run-ups alone. Where
+%                 slopes are measured in the frame that stands still, it is the part of G that the derivative of the spin's moment leaves
 %     'K'         further stiffness [N/m], any real n x n: bearings, with cross terms that differ. The modes stay those of K and M
 %                 alone; this one may couple them. What pushes away from rest (the weight of an upright pendulum) belongs here.
 %                 C, G and K are projected onto the modes. Where that leaves more than rounding beside the diagonal, the full
@@ -45,14 +48,15 @@
 %                  M          the mass matrix, for base motion and initial states [kg]
 %                  K          the stiffness matrix, with which qn.check finds what flexibility the modes leave out [N/m]
 %                  attached   number of shapes that are no modes: the last ones, from 'attach'
+%                  rotation   [] without 'G', else struct: G and K (modal, K is [] without 'KG'), speed, and damping, that at standstill
 %                  m counts them too.
 %
 % Errors
 %   qn:input  sizes do not fit, K or M is not symmetric (to 1e-6 of its greatest entry), the mass is not positive
 %             definite, K has a negative eigenvalue beyond the rounding of a rigid motion (from 1e-10 to 1e-6 of its entries it is
-%             taken for 0 with the warning qn:modal), a damping is negative or no number, G is not skew or comes without a speed;
-%             the places of 'attach' are none, a static response does not exist, what has no mass is not held, or stiffness over
-%             mass or a modal value is beyond all numbers
+%             taken for 0 with the warning qn:modal), a damping is negative or no number, G is not skew or comes without a speed,
+%             KG comes without G; the places of 'attach' are none, a static response does not exist, what has no mass is not held, or
+%             stiffness over mass or a modal value is beyond all numbers
 %   qn:eigs   with 'eigs' a mode was left out or is inaccurate
 %
 % Source
@@ -86,7 +90,7 @@ function model = modal (varargin)
   symmetric (who, 'K', k);
   symmetric (who, 'M', m);
   o = struct ('modes', min (n, 200), 'damping', 0, 'rayleigh', [0 0], 'C', [], 'G', [], 'speed', [], 'K', [], 'method', 'auto', ...
-              'attach', []);
+              'attach', [], 'KG', []);
   o = qn.impl.options (who, o, args(3:end));
   o.modes = qn.impl.count (who, 'modes', o.modes);
   count = min (o.modes, n);
@@ -104,10 +108,10 @@ function model = modal (varargin)
   if numel (o.damping) > 1, o.damping = [o.damping(:); repmat(o.damping(end), attached, 1)]; end
   damping = 2 * o.damping(:) .* w + o.rayleigh(1) + o.rayleigh(2) * w .^ 2;
   damping = qn.impl.with_matrix (damping, who, phi, 'C', o.C);
-  damping = qn.impl.with_matrix (damping, who, phi, 'G', gyroscopic (who, n, o.G, o.speed));
+  [damping, rotation] = turning (who, phi, damping, o);
   stiffness = qn.impl.with_matrix (w .^ 2, who, phi, 'K', o.K);
   model = struct ('shapes', phi, 'w', w, 'hertz', w / (2 * pi), 'stiffness', stiffness, 'damping', damping, 'M', m, ...
-                  'K', k, 'attached', attached);
+                  'K', k, 'attached', attached, 'rotation', rotation);
   qn.impl.finite_model (who, model);
 end
 
@@ -129,17 +133,26 @@ function args = structure (who, s, args)
   end
 end
 
-% speed * G
-function g = gyroscopic (who, n, g, speed)
-  if isempty (g) && isempty (speed), return, end
-  if isempty (g), error ('qn:input', '%s: "speed" belongs to a gyroscopic matrix: give "G" as well', who); end
-  speed = qn.impl.scalar (who, 'speed', speed);
+% DAMPING with speed * G, and what a run with another speed needs to know.
+function [damping, rotation] = turning (who, phi, damping, o)
+  rotation = [];
+  n = size (phi, 1);
+  g = o.G;
+  if isempty (g)
+    name = {'speed', 'KG'};
+    name = name(~[isempty(o.speed), isempty(o.KG)]);
+    if isempty (name), return, end
+    error ('qn:input', '%s: "%s" belongs to a gyroscopic matrix: give "G" as well', who, name{1});
+  end
+  speed = qn.impl.scalar (who, 'speed', o.speed);
   g = qn.impl.numbers (who, 'G', g, [n n]);
   beside = norm (g + g.', 'fro') / norm (g, 'fro');
   if beside > 1e-6
     error ('qn:input', '%s: "G" must be skew (G.'' = -G): its symmetric part is %.2g of it and belongs into "C"', who, beside / 2);
   end
-  g = speed * g;
+  rotation = struct ('G', qn.project (phi, g), 'K', [], 'speed', speed, 'damping', damping);
+  if ~isempty (o.KG), rotation.K = qn.project (phi, qn.impl.numbers (who, 'KG', o.KG, [n n])); end
+  damping = qn.impl.with_matrix (damping, who, phi, 'G', speed * g);
 end
 
 function symmetric (who, name, x)

@@ -21,6 +21,10 @@
 %                 qn.base (MODEL, PUSH); displacements are relative to the base, and qn.acceleration knows what to add.
 %     'elements'  {LAW, C; ...} or {LAW, C, B; ...}: LAW from qn.law or a recipe, C observation rows (qn.observe) or numbers of
 %                 degrees of freedom as for qn.displacement, B rows through which the force acts (C). A bank of laws shares one C.
+%     'speed'     2 x k table [times; speeds] of a run-up [s, rad/s], linear in between, over all of the run; the model comes from
+%                 qn.modal with 'G' (whose own speed counts for nothing here). Every step has its own speed: the scheme with the gyroscopic
+%                 matrix of that time, and with the angular acceleration times 'KG', the mean of both sides at a knot. Knots that are
+%                 not on a step are fine; with 'KG' put them there. The loads are yours: of an unbalance too
 %     'every'     results are kept at every k-th step (1), or
 %     'times'     at the steps next to these times [s]; those outside the run give its first or last step
 %     'u0', 'v0'  initial displacement and velocity of the structure [m, m/s] (0); what the modes do not hold of them is left out, and
@@ -36,7 +40,8 @@
 %     'fresh'     rows of "elements" that begin without a memory, as in a first run, though there is a "start"
 %
 % Output
-%   SIM   struct: model, scheme, step, time (1 x steps+1) [s], saved (columns of time), shapes, loads, elements, start, ...
+%   SIM   struct: model (with 'speed' that at standstill), scheme, step, time (1 x steps+1) [s], saved (columns of time), shapes, loads,
+%         elements, start, ...
 %
 % Errors
 %   qn:input  something is missing, unknown, of the wrong size or no finite real number, or the times of a table do not ascend; the
@@ -55,7 +60,7 @@ function sim = simulation (model, varargin)
   qn.impl.expect_result_of (who, model, 'qn.modal');
   o = struct ('step', '<required>', 'until', [], 'steps', [], 'scheme', 'average', 'load', {{}}, 'base', {{}}, ...
               'elements', {{}}, 'every', 1, 'times', [], 'u0', [], 'v0', [], 'q0', [], 'dq0', [], 'a0', 'consistent', ...
-              'start', [], 'fresh', []);
+              'start', [], 'fresh', [], 'speed', []);
   o = qn.impl.options (who, o, varargin);
   o.step = qn.impl.scalar (who, 'step', o.step, realmin ());
   first = 0;
@@ -79,6 +84,8 @@ function sim = simulation (model, varargin)
   end
   o.steps = qn.impl.count (who, 'steps', o.steps, 2 ^ 31);
   sim = struct ('model', model, 'scheme', qn.scheme (o.scheme), 'step', o.step, 'first', first, 'time', (first + (0:o.steps)) * o.step);
+  sim.speed = [];
+  if ~isempty (o.speed), [sim.speed, sim.model] = qn.impl.run_up (who, model, o.speed, sim.time, sim.step); end
   if ~isempty (o.times) && o.every ~= 1, error ('qn:input', '%s: give "every" or "times", one of them', who); end
   if isempty (o.times)
     o.every = qn.impl.count (who, 'every', o.every);

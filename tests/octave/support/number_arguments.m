@@ -6,6 +6,7 @@
 % suite_toolbox_arguments puts wrong numbers into each place; a function with more forms of call has more rows.
 function rows = number_arguments ()
   model = qn.modal (1e4 * [2 -1 0; -1 2 -1; 0 -1 1], diag ([1 2 3]), 'damping', 0.02);
+  rotor = qn.modal (1e4 * eye (2), eye (2), 'G', [0 1; -1 0], 'speed', 0);
   row = qn.observe (model, 3);
   spring = {qn.cubic('stiffness', 100), row};
   sim = qn.simulation (model, 'step', 1e-3, 'steps', 20, 'v0', [0; 0; 1], 'elements', spring);
@@ -77,8 +78,8 @@ function rows = number_arguments ()
     'qn.mmread', {'FILE'}, {}, {}
     'qn.mmwrite', {'FILE', 'A', 'COMMENT'}, {file, [1 2 3], 'a'}, {'A', 'complex|transposed|longer', 'any matrix'}
     'qn.modal', {'K', 'M'}, {model.K, model.M, 'modes', 2, 'damping', [0.1 0.2], 'rayleigh', [1 2], 'C', model.K, 'method', 'eig', ...
-                             'attach', [1 3], 'G', [0 1 0; -1 0 0; 0 0 0], 'speed', 3, 'K', magic(3)}, ...
-      {'C|G|attach', 'empty', optional; 'K', 'empty', 'that of the option K'; 'attach', 'longer|transposed', any_length}
+                             'attach', [1 3], 'G', [0 1 0; -1 0 0; 0 0 0], 'speed', 3, 'K', magic(3), 'KG', magic(3)}, ...
+      {'C|G|KG|attach', 'empty', optional; 'K', 'empty', 'that of the option K'; 'attach', 'longer|transposed', any_length}
     'qn.modal', {'S'}, {struct('K', 4, 'M', 1)}, {}
     'qn.observe', {'MODEL', 'DOFS', 'WEIGHTS'}, {model, [1 3], [1 -1]}, {}
     'qn.observe', {'MODEL', 'ROWS'}, {model, sparse([1 0 2])}, ...
@@ -143,6 +144,7 @@ function rows = number_arguments ()
        'steps', 'empty', '"until" is then said to be missing'; 'elements\{1, 3', 'empty', optional}
     'qn.simulation', {'MODEL'}, {model, 'step', 1e-3, 'until', 7e-3, 'times', [1e-3 2e-3], 'q0', [1 2 3], 'dq0', [1 2 4], 'start', [], 'fresh', []}, ...
       {'q0|dq0|times', 'empty', optional; 'times', 'longer', any_length; 'until', 'empty', '"steps" is then said to be missing'}
+    'qn.simulation', {'MODEL'}, {rotor, 'step', 1e-3, 'steps', 7, 'speed', [0 1 2; 0 1 1]}, {'speed', 'empty', optional; 'speed', 'longer', any_length}
     'qn.slider', {}, {'slip', 2, 'stiffness', 3}, {}
     'qn.spectrogram', {'TIME', 'SIGNAL'}, {t, t, 'seconds', 0.4, 'overlap', 0.5, 'window', 'none', 'mean', 'keep'}, {'seconds', 'empty', optional}
     'qn.spectrogram', {'RES', 'C'}, {res, row}, {}

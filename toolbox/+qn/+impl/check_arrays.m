@@ -19,6 +19,10 @@ function found = check_arrays (sim)
           mat2str (size (k)), mat2str (size (c)));
   expect ('stiffness', isreal (k) && all (isfinite (k(:))), 'the modal stiffnesses must be finite');
   expect ('damping', isreal (c) && all (isfinite (c(:))), 'the modal dampings must be finite');
+  if qn.impl.runs_up (sim)
+    expect ('speed', turns (sim.speed, sim.model, m), ...
+            'a run-up needs [times; speeds] that ascend over all of the run, and the modal matrices of qn.modal with "G"');
+  end
   names = {'u', 'v', 'a'};
   for j = 1:3
     x = sim.start.(names{j});
@@ -33,6 +37,16 @@ function found = check_arrays (sim)
     if isfield (e.law.parameters, 'displacement')
       expect ('table_order', all (diff (e.law.parameters.displacement) >= 0), 'the table of element %d must ascend; sort it', e.item);
     end
+  end
+
+  function yes = turns (s, model, m)
+    yes = isa (s, 'double') && isreal (s) && size (s, 1) == 2 && size (s, 2) > 1 && all (isfinite (s(:))) && all (diff (s(1, :)) > 0) && ...
+          s(1, 1) <= sim.time(1) && s(1, end) >= sim.time(end) && isfield (model, 'rotation') && isstruct (model.rotation) && ...
+          all (isfield (model.rotation, {'G', 'K', 'damping'}));
+    if ~yes, return, end
+    r = model.rotation;
+    whole = @(x) isa (x, 'double') && isreal (x) && isequal (size (x), [m m]) && all (isfinite (x(:)));
+    yes = whole (r.G) && (isempty (r.K) || whole (r.K)) && isequal (r.damping, model.damping);
   end
 
   function yes = fits (x, m)

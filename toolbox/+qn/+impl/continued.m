@@ -35,7 +35,8 @@ function s = continued (sim, o)
   same = @(x, y, name) isequal (x.(name), y.(name));
   unchanged = all (cellfun (@(name) same (sim.model, before.model, name), {'shapes', 'stiffness', 'damping'})) && ...
               isequal (sort (from), 1:numel (before.elements)) && ...
-              isequal (sim.shapes * sim.loads(:, 1), before.shapes * before.loads(:, last.column));
+              isequal (sim.shapes * sim.loads(:, 1), before.shapes * before.loads(:, last.column)) && ...
+              isequal (turning (sim, 1), turning (before, last.column));
   for name = {'law', 'observe', 'command'}
     unchanged = unchanged && isequal ({sim.elements.(name{1})}, {before.elements(from).(name{1})});
   end
@@ -44,4 +45,12 @@ function s = continued (sim, o)
   else
     s = qn.impl.balanced (sim, s, o.a0);
   end
+end
+
+% What turns in a set-up at a column of its times; [] where the speed does not change.
+function t = turning (sim, column)
+  t = [];
+  if ~qn.impl.runs_up (sim), return, end
+  [omega, slope] = qn.impl.speed_at (sim, sim.time(column));
+  t = {sim.model.rotation, omega, slope};
 end

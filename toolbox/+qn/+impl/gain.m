@@ -9,10 +9,5 @@ function g = gain (model, scheme, h)
     g = 1 ./ (1 / (b * h ^ 2) + scheme.gamma * c / (b * h) + k);
     return
   end
-  s = eye (numel (model.w)) / (b * h ^ 2) + scheme.gamma / (b * h) * qn.impl.matrix (c) + qn.impl.matrix (k);
-  if ~(rcond (s) > eps ())
-    error ('qn:input', ['the matrix of a step of %g s cannot be inverted (reciprocal condition %.2g): look at the negative parts of ' ...
-                        'stiffness and damping, or take another step'], h, rcond (s));
-  end
-  g = inv (s);
+  g = qn.impl.step_inverse (eye (numel (model.w)) / (b * h ^ 2) + scheme.gamma / (b * h) * qn.impl.matrix (c) + qn.impl.matrix (k), h);
 end

@@ -9,14 +9,19 @@ function v = integrator (sim, from, to)
   b = sim.scheme.beta;
   g = sim.scheme.gamma;
   n = m + sim.states;
-  gain = qn.impl.gain (sim.model, sim.scheme, h);
+  pages = [];
+  if qn.impl.runs_up (sim)
+    [gain, pages] = qn.impl.gain_pages (sim, from, to);
+  else
+    gain = qn.impl.gain (sim.model, sim.scheme, h);
+  end
   shapes = [-sim.shapes; zeros(sim.states, size (sim.shapes, 2))];
   time = sim.time(from:to);
   loads = [sim.loads(:, from + 1:to), sim.loads(:, to)];
   none = zeros (n, 1);
-  coupled = size (gain, 2) > 1;
-  padded = zeros (n, size (gain, 2) + coupled * sim.states);
-  padded(1:m, 1:size (gain, 2)) = gain;
+  coupled = size (gain, 2) > 1 || ~isempty (pages);
+  padded = zeros (n, size (gain, 2) + coupled * sim.states, size (gain, 3));
+  padded(1:m, 1:size (gain, 2), :) = gain;
   if coupled
     r = [none, shapes, none];
     tft = [time; loads];
@@ -35,4 +40,5 @@ function v = integrator (sim, from, to)
   end
   v = struct ('r', r, 'tft', tft, 'data', [h, (1 / 2 - b) * h ^ 2, (1 - g) * h, g / (b * h), 1 / (b * h ^ 2), 0]);
   if coupled, v.gain = padded; end
+  if ~isempty (pages), v.gaint = pages; end
 end

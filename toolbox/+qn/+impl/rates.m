@@ -12,7 +12,9 @@ function [v, a] = rates (res, who)
   gamma = sim.scheme.gamma;
   c = sim.model.damping;
   start = sim.start;
-  if size (c, 2) == 1
+  if qn.impl.runs_up (sim)
+    [v, a] = while_turning (sim, res.q, g);
+  elseif size (c, 2) == 1
     g(:, 1) = start.a(1:m) + c .* start.v(1:m);
     v = zeros (size (g));
     for i = 1:m
@@ -29,5 +31,22 @@ function [v, a] = rates (res, who)
       v(:, j) = implicit * (v(:, j - 1) + h * ((1 - gamma) * a(:, j - 1) + gamma * g(:, j)));
       a(:, j) = g(:, j) - c * v(:, j);
     end
+  end
+end
+
+% The same with the gyroscopic matrix of every step; Q are the displacements, G the forces without those that go with speed and slope.
+function [v, a] = while_turning (sim, q, g)
+  m = size (q, 1);
+  h = sim.step;
+  gamma = sim.scheme.gamma;
+  rest = qn.impl.matrix (sim.model.damping);
+  [omega, slope] = qn.impl.speed_at (sim, sim.time);
+  if ~isempty (sim.model.rotation.K), g = g - bsxfun (@times, slope, sim.model.rotation.K * q); end
+  v = [sim.start.v(1:m), zeros(m, size (g, 2) - 1)];
+  a = [sim.start.a(1:m), zeros(m, size (g, 2) - 1)];
+  for j = 2:size (g, 2)
+    c = rest + omega(j) * sim.model.rotation.G;
+    v(:, j) = (eye (m) + h * gamma * c) \ (v(:, j - 1) + h * ((1 - gamma) * a(:, j - 1) + gamma * g(:, j)));
+    a(:, j) = g(:, j) - c * v(:, j);
   end
 end

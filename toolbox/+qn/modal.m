@@ -108,7 +108,7 @@ function model = modal (varargin)
   if numel (o.damping) > 1, o.damping = [o.damping(:); repmat(o.damping(end), attached, 1)]; end
   damping = 2 * o.damping(:) .* w + o.rayleigh(1) + o.rayleigh(2) * w .^ 2;
   damping = qn.impl.with_matrix (damping, who, phi, 'C', o.C);
-  [damping, rotation] = turning (who, phi, damping, o);
+  [damping, rotation] = qn.impl.with_rotation (damping, who, phi, o);
   stiffness = qn.impl.with_matrix (w .^ 2, who, phi, 'K', o.K);
   model = struct ('shapes', phi, 'w', w, 'hertz', w / (2 * pi), 'stiffness', stiffness, 'damping', damping, 'M', m, ...
                   'K', k, 'attached', attached, 'rotation', rotation);
@@ -131,28 +131,6 @@ function args = structure (who, s, args)
   for name = {'C', 'G', 'speed'}
     if isfield (s, name{1}) && ~isempty (s.(name{1})), args = [args, name, {s.(name{1})}]; end
   end
-end
-
-% DAMPING with speed * G, and what a run with another speed needs to know.
-function [damping, rotation] = turning (who, phi, damping, o)
-  rotation = [];
-  n = size (phi, 1);
-  g = o.G;
-  if isempty (g)
-    name = {'speed', 'KG'};
-    name = name(~[isempty(o.speed), isempty(o.KG)]);
-    if isempty (name), return, end
-    error ('qn:input', '%s: "%s" belongs to a gyroscopic matrix: give "G" as well', who, name{1});
-  end
-  speed = qn.impl.scalar (who, 'speed', o.speed);
-  g = qn.impl.numbers (who, 'G', g, [n n]);
-  beside = norm (g + g.', 'fro') / norm (g, 'fro');
-  if beside > 1e-6
-    error ('qn:input', '%s: "G" must be skew (G.'' = -G): its symmetric part is %.2g of it and belongs into "C"', who, beside / 2);
-  end
-  rotation = struct ('G', qn.project (phi, g), 'K', [], 'speed', speed, 'damping', damping);
-  if ~isempty (o.KG), rotation.K = qn.project (phi, qn.impl.numbers (who, 'KG', o.KG, [n n])); end
-  damping = qn.impl.with_matrix (damping, who, phi, 'G', speed * g);
 end
 
 function symmetric (who, name, x)

@@ -55,6 +55,11 @@ function sim = coupled (damping, stiffness, scheme, step)
 end
 
 % Rows {code, level, set-up that raises it, one that does not}; where a result is looked at a set-up is followed by true.
+function sim = running_up ()
+  model = qn.modal (4e4 * eye (2), eye (2), 'G', [0 1; -1 0], 'speed', 0);
+  sim = qn.simulation (model, 'step', 1e-4, 'until', 0.2, 'v0', [1; 0], 'speed', [0 1; 0 100]);
+end
+
 function c = cases ()
   skew = [0 1; -1 0];
   sawtooth = qn.law ('table', 'displacement', (-5:5) * 1e-3, 'force', [-5 -4 -4.5 -3 -3.5 0 3.5 3 4.5 4 5]);
@@ -77,6 +82,7 @@ function c = cases ()
        'initial', 'error', {in_start(good (), 'v', NaN)}, {good()}
        'rows', 'error', {in_element(with (stop (1e-3)), 'observe', [1 2])}, {with(stop (1e-3))}
        'row_values', 'error', {in_element(with (stop (1e-3)), 'observe', Inf)}, {with(stop (1e-3))}
+       'speed', 'error', {changed(running_up (), 'speed', [0 0.1; 0 1])}, {running_up()}
        'table_order', 'error', {in_element(with (stop (1e-3)), 'law', turned (stop (1e-3)))}, {with(stop (1e-3))}
        'step_unstable', 'error', {good('step', 0.018, 'scheme', 'linear')}, {good('step', 0.017, 'scheme', 'linear')}
        'step_coarse', 'warning', {good('step', 4e-3)}, {good('step', 3e-3)}

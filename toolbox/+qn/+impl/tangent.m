@@ -1,4 +1,6 @@
-% [K, C] = TANGENT (LAW, X)  slopes of the forces of a law without memory at the displacements X, n x 1, at rest: n x n, by central differences
+% [K, C] = TANGENT (LAW, X)  slopes of the forces of a law without memory at the displacements X, n x 1, at rest: n x n
+%
+% Central differences, all in one evaluation.
 function [k, c] = tangent (law, x)
   n = numel (x);
   p = law.parameters;
@@ -8,11 +10,9 @@ function [k, c] = tangent (law, x)
     width = 1e-5 * p.clearance * (1 - min (p.limit, norm (x - [p.x0; p.y0]) / p.clearance));
     speed = width * max (abs (p.speed), 1);
   end
-  t = qn.impl.traits (law, n);
-  [k, c] = deal (zeros (n));
-  for j = 1:n
-    d = double ((1:n).' == j);
-    k(:, j) = (qn.force (law, x + width * d, 0 * x) - qn.force (law, x - width * d, 0 * x)) / (2 * width);
-    if t.rates, c(:, j) = (qn.force (law, x, speed * d) - qn.force (law, x, -speed * d)) / (2 * speed); end
-  end
+  none = zeros (n);
+  one = eye (n);
+  f = qn.force (law, bsxfun (@plus, x, [width * one, -width * one, none, none]), [none, none, speed * one, -speed * one]);
+  k = (f(:, 1:n) - f(:, n + 1:2 * n)) / (2 * width);
+  c = (f(:, 2 * n + 1:3 * n) - f(:, 3 * n + 1:end)) / (2 * speed);
 end

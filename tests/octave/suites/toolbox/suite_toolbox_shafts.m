@@ -189,6 +189,15 @@ function test_a_ring_that_is_out_of_reach_is_said ()
   expect_equal (any (strcmp ({found.code}, 'never_closes')), true);
 end
 
+function test_films_are_swept_like_other_laws ()
+  cases = qn.grid ('speed', [100 200 400]);
+  stands = @(p) getfield (qn.journal_coefficients (qn.journal ('viscosity', 0.02, 'length', 0.03, 'diameter', 0.1, 'clearance', 1e-4, ...
+                                                               'speed', p.speed), [0 -300]), 'eccentricity');
+  e = qn.sweep (stands, cases, 'engine', 'serial', 'progress', false);
+  for k = 1:3, expect_equal (e{k}, stands (cases(k))); end
+  expect_equal (all (diff ([e{:}]) < 0), true);
+end
+
 % Nothing but the ring gives the motion its end: an energy beyond what it began with would be said.
 function test_a_ring_that_takes_nothing_keeps_the_energy ()
   model = qn.modal (zeros (2), eye (2));

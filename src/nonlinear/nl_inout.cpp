@@ -103,9 +103,9 @@ void chandleNl_inout::observeBlock(const ROr& ro) const {
 
 void chandleNl_inout::observeBoth(const ROr& ro) const {
   const StoredLines lines{c.rows, c.ir, c.jc, c.pr};
-  if (cPicks) {
-    if (vnl) pick(unlLen, c.ir, c.jc, c.pr, ro.v, vnl);
-    if (unl) pick(unlLen, c.ir, c.jc, c.pr, ro.u, unl);
+  if (cSingles) {
+    if (vnl) gatherSingles(unlLen, c.ir, c.jc, c.pr, ro.v, vnl);
+    if (unl) gatherSingles(unlLen, c.ir, c.jc, c.pr, ro.u, unl);
   } else if (together) {
     sumLinesOfTwo(lines, cRuns, ro.v, vnl, ro.u, unl);
   } else if (cRuns) {
@@ -131,8 +131,8 @@ void chandleNl_inout::addForces(const ROr& ro, double* r) {
     return;
   }
   if (bSparse && b.cols <= ro.begunAtZero) {
-    if (bPicks) {
-      spread(b.rows, b.ir, b.jc, b.pr, snl, r, bWork);
+    if (bSingles) {
+      scatterSingles(b.rows, b.ir, b.jc, b.pr, snl, r, bWork);
     } else {
       addScatteredTouched(b.rows, b.ir, b.jc, b.pr, snl, r, bWork);
     }
@@ -172,11 +172,11 @@ std::int64_t chandleNl_inout::stateEnd() const { return ioptLen >= 4 ? static_ca
 /// Pages that share no memory with the state or with c are assigned, line after line.
 void chandleNl_inout::planObservation() {
   const bool assigned = pagesApart && c.pr && c.sparse() && c.trans == 1 && unlLen > 0 && c.rows == unlLen && cApart;
-  cPicks = assigned && picksOnly(c.rows, c.jc);
+  cSingles = assigned && singleEntries(c.rows, c.jc);
   cRuns = nullptr;
   cLength = 0;
   together = false;
-  if (!assigned || cPicks) return;
+  if (!assigned || cSingles) return;
   cRuns = static_cast<int*>(mxCalloc(static_cast<std::size_t>(c.rows), sizeof(int)));
   if (!findRuns({c.rows, c.ir, c.jc, c.pr}, cRuns)) {
     mxFree(cRuns);
@@ -198,7 +198,7 @@ void chandleNl_inout::planCommand(host::Doubles r) {
   if (bOne) bRows += b.jc[0];
   bWork = scatters && !bBlock ? static_cast<double*>(mxCalloc(static_cast<std::size_t>(std::max(b.cols, 1)), sizeof(double))) : nullptr;
   bSparse = bWork && b.rows > 0 && 8LL * (b.jc[b.rows] - b.jc[0]) <= b.cols;
-  bPicks = bSparse && picksOnly(b.rows, b.jc) && distinct(b.jc[b.rows] - b.jc[0], b.ir + b.jc[0], bWork);
+  bSingles = bSparse && singleEntries(b.rows, b.jc) && distinct(b.jc[b.rows] - b.jc[0], b.ir + b.jc[0], bWork);
 }
 
 void chandleNl_inout::planTable(host::Doubles r) {

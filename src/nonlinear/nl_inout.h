@@ -1,4 +1,4 @@
-// The nonlinear element handle: observe, apply a force law, spread the forces.
+// The nonlinear element handle: observe, apply a force law, scatter the forces.
 #pragma once
 
 #include <cstddef>
@@ -78,8 +78,8 @@ class chandleNl_inout final : public chandle {
   bool pagesApart = false;        ///< unl and vnl lie apart from the state that they are observed from
   bool optApart = false;          ///< and so do the law's parameters
   bool cApart = false;            ///< and the values of c as well
-  bool bPicks = false;            ///< and each of its lines at most one, another one
-  bool cPicks = false;            ///< each line of c picks at most one value
+  bool bSingles = false;          ///< and each of its lines has at most one entry, in a column of its own
+  bool cSingles = false;          ///< each line of c has at most one entry
   int* cRuns = nullptr;           ///< full lines of c that are summed together, host memory of the current call; null where none is full
   int cLength = 0;                ///< entries of each line of c where all lines are full, with the same indices; else 0
   const double* cRows = nullptr;  ///< their values

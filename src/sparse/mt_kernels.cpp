@@ -60,7 +60,7 @@ void addScatteredTouched(int rows, const int* ir, const int* jc, const double* p
   }
 }
 
-bool picksOnly(int lines, const int* jc) {
+bool singleEntries(int lines, const int* jc) {
   for (int i = 0; i < lines; ++i) {
     if (jc[i + 1] - jc[i] > 1) return false;
   }

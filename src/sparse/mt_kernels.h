@@ -23,15 +23,15 @@ void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, 
 /// them 0): there the sums of the other columns, which are 0, change nothing. work: a value for each column, all zero before and after.
 void addScatteredTouched(int rows, const int* ir, const int* jc, const double* pr, const double* u, double* y, double* work);
 
-// Matrices whose lines have one entry or none: they pick degrees of freedom.
+// Matrices whose lines have a single entry or none, each for one degree of freedom.
 
 /// Whether no line has more than one entry.
-bool picksOnly(int lines, const int* jc);
+bool singleEntries(int lines, const int* jc);
 /// Whether no two of n indices are the same. marks: a value for each column, all zero before and after.
 bool distinct(int n, const int* ir, double* marks);
 
 /// Prod_Mt_ub for such lines with trans = 1, assigned: y[i] = line i . x. y must overlap neither x nor pr.
-inline void pick(int lines, const int* ir, const int* jc, const double* pr, const double* x, double* y) {
+inline void gatherSingles(int lines, const int* ir, const int* jc, const double* pr, const double* x, double* y) {
   for (int i = 0; i < lines; ++i) {
     const int k = jc[i];
     y[i] = jc[i + 1] > k ? 0.0 + pr[k] * x[ir[k]] : 0.0;
@@ -40,7 +40,7 @@ inline void pick(int lines, const int* ir, const int* jc, const double* pr, cons
 
 /// addScatteredTouched for such lines with distinct indices. As in a sparse axpy, a force of zero adds nothing, whatever it is multiplied
 /// with.
-inline void spread(int lines, const int* ir, const int* jc, const double* pr, const double* u, double* y, double* work) {
+inline void scatterSingles(int lines, const int* ir, const int* jc, const double* pr, const double* u, double* y, double* work) {
   for (int i = 0; i < lines; ++i) {
     const int k = jc[i];
     if (jc[i + 1] > k) work[ir[k]] = u[i] != 0.0 ? u[i] * pr[k] : 0.0;

@@ -21,6 +21,12 @@ function test_list_that_is_neither_cell_nor_handle_vector ()
   end
 end
 
+function test_an_empty_list_has_no_integrator ()
+  run = small_run ();
+  refused_cleanly ({}, {run.model, run.u, run.v, run.a, run.opt, run.mem, run.out}, '', ...
+                   'quarn chandlediagnewmark : the handle list is empty, expected the integrator first');
+end
+
 function test_sparse_r ()
   run = small_run ();
   run.list{1}.r = matrix_lines (run.list{1}.r);

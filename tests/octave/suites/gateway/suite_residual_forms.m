@@ -224,6 +224,21 @@ function test_stiffness_that_reaches_past_shorter_velocities_is_refused_with_ray
   expect_equal (r, [5; 5; 5]);
 end
 
+function test_energies_need_a_velocity_for_each_row_of_u ()
+  % The last line of the mass is empty: no index shows that a value lacks.
+  m = matrix_lines (diag ([4 5 6]));
+  m.jc(4) = m.jc(3);
+  expect_refused (@() energies (zeros (3, 1), {m, [], []}, [1; 2; 3], [1; 2], []), ...
+                  'quarn residual : v must hold 3 values (one for each row of u), got 2');
+end
+
+function test_a_mass_without_accelerations_may_not_reach_past_the_velocities ()
+  m = matrix_lines (diag ([4 5 6]));
+  m.ir(2) = int32 (3);
+  expect_refused (@() energies (zeros (3, 1), {m, [], []}, [1; 2; 3], [1; 2; 3], []), ...
+                  'quarn residual : the mass matrix : index 3 in "ir" reaches past v of 3 values');
+end
+
 function test_energies_without_rows_are_zero_whatever_the_matrices ()
   [kinetic, potential] = energies (zeros (2, 1), {eye(2), [], []}, zeros (0, 1), [1; 2], []);
   expect_equal ([kinetic, potential], [0 0]);

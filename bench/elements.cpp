@@ -42,6 +42,7 @@ const std::vector<Recipe>& recipes() {
       // One sub-step, one internal state: blocks Cu, Dv (6 values each), B (2), A (1), E (2).
       {"Maxw", 2, 2, {0, 1e-3, 1, 0, 10, -5, 0, 0, 0, 0, 0.1, 0, 0, 0, 0, 0, 1, 0, -2, 0, 0}, {-1, 0, 2, 1, 1}},
       {"Clima2", 5, 3, with({0, 1e-3, 2.0, 1.0, 0.3, 0.1}, wide), {-1, 0, 0, 0, 0, 7, 22, 5, 2}},
+      {"User", 1, 1, {0, 1e-3, 0.5}, {-1, 0, 1}},
   };
   return all;
 }
@@ -83,6 +84,7 @@ chandle* finish(const Recipe& r, int values, mxArray* c, mxArray* b) {
   const int count = r.group == 1 ? 1 : 3;
   return make<chandleNl_inout>(1003, scalarStruct({{"c", c},
                                                    {"b", b},
+                                                   {"library", r.law == "User" ? mxCreateString(QUARN_BENCH_LAW) : nullptr},
                                                    {"unl", pages(values, count)},
                                                    {"vnl", pages(values, count)},
                                                    {"snl", matrix(static_cast<std::size_t>(values), 1)},

@@ -164,6 +164,8 @@ void lawLoop(const std::string& law, LawArrays& a) {
     filmLoop(a);
   } else if (law == "Clima2") {
     climaLoop(a);
+  } else if (law == "User") {
+    for (std::size_t i = 0; i < n; ++i) a.snl[i] = o[3] * a.unl[i] * a.unl[i] * a.unl[i];
   } else {
     std::abort();
   }

@@ -5,7 +5,7 @@
 %   make_law_plots ('maxwell')    draws one, by the name of its function below
 function make_law_plots (only)
   if exist ('graphics_toolkit'), graphics_toolkit ('gnuplot'); end
-  laws = {@power, @exponential, @table, @maxwell, @dahl, @stick_slip, @clima2, @damper, @radial, @film, @impact};
+  laws = {@power, @exponential, @table, @maxwell, @dahl, @stick_slip, @clima2, @damper, @radial, @film, @impact, @user};
   for k = 1:numel (laws)
     if nargin == 0 || strcmp (only, func2str (laws{k})), laws{k} (); end
   end
@@ -167,6 +167,21 @@ function impact ()
     names{k} = sprintf ('%g m/s, %.2g m/s back', speeds(k), -v);
   end
   draw ('law_impact', 1e3 * at, f, names, 'Impact: k = 1e6 N/m^{1.5}, chi = 0.5 s/m, gap 1 mm, on 1 kg', 'displacement [mm]');
+end
+
+% A function: a slider beside a spring, which slips to the right at 40 N and to the left at 80 N.
+function user ()
+  [x, v, h, last] = harmonic (0.01, 1, 400, 2);
+  e = element ('User', [0 h], 2, [-1 1 1 1 1]);
+  e.call = @ratchet;
+  f = drive (e, [x; 0 * x], [v; 0 * v]);
+  draw ('law_user', 1e3 * x, f(1, :), {}, 'User: a slider that slips to the right at 40 N, to the left at 80 N', 'displacement [mm]');
+end
+
+function [f, y] = ratchet (x, v, y, t)
+  k = 2e4;
+  y = min (max (y, x - 40 / k), x + 80 / k);
+  f = k * (x - y) + 1e3 * x;
 end
 
 % Some cycles of a harmonic motion, the samples of the last one, and the time step.

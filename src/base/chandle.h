@@ -54,6 +54,9 @@ class chandle {
   /// Destroys the value, except that of a nonlinear element, which stays in memory by rule; then no value and no type.
   void doFree();
 
+  /// A call works with it that may wait for a function of the user's: see disturbedUses in handle_walk.h.
+  bool inUse = false;
+
   mxArray* val = nullptr;
   std::int32_t type = 0;
 

@@ -41,6 +41,14 @@ inline void giveTimes(chandle* const* list, int n, int first, const StepTimes& t
   forNamed(list, n, first, [&](chandle& h) { h.takeTimes(times); });
 }
 
+/// How often a registered handle was freed or gathered anew while a call worked with it, since the module was loaded. What calls the user's
+/// functions in between compares it before and after: the handle, or its place of work, may be gone.
+inline std::uint64_t disturbedUses = 0;
+
+inline void setInUse(chandle* const* list, int n, bool used) {
+  forLive(list, n, [used](chandle& h, int) { h.inUse = used; });
+}
+
 /// Has them take their work memory; r: the residual that they will add to.
 inline void takeAllWork(chandle* const* list, int n, host::Doubles r) {
   forLive(list, n, [&](chandle& h, int) { h.takeWork(r); });

@@ -1,6 +1,7 @@
 #include "gateway/newmark_command.h"
 
 #include "base/fixed_errors.h"
+#include "base/handle_walk.h"
 #include "handles/handle_list.h"
 #include "host/errors.h"
 #include "integration/diag_newmark.h"
@@ -31,7 +32,9 @@ void commandDiagNewmark(int /*nlhs*/, mxArray* /*plhs*/[], int nrhs, const mxArr
   integrator->initCb(c, prhs[2], prhs[7], prhs[8], forces, n - 1);
   if (integrator->steps() == 0) return;
   integrator->checkRun(c, forces, n - 1);
+  setInUse(list, n, true);
   integrator->run(forces, n - 1, c);
+  setInUse(list, n, false);
 }
 
 }  // namespace quarn

@@ -9,6 +9,7 @@
 #include "handles/hindex.h"
 #include "host/arrays.h"
 #include "host/errors.h"
+#include "nonlinear/user_library.h"
 #include "sparse/worker_threads.h"
 
 namespace {
@@ -16,7 +17,10 @@ namespace {
 constexpr double presence = 1.0001;
 
 /// Runs when the module is about to be unloaded, and when the host ends. Cannot throw.
-extern "C" void leaveModule() { quarn::endSparseWorkers(); }
+extern "C" void leaveModule() {
+  quarn::endSparseWorkers();
+  quarn::closeUserLibraries();
+}
 
 void registerExit() {
   static bool registered = false;

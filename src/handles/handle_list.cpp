@@ -58,6 +58,8 @@ void gatherElements(chandle** out, const mxArray* list, std::size_t n) {
 void gatherOne(chandle** out, int key, std::size_t i) {
   nameElement(static_cast<int>(i) + 1);
   out[i] = fromRegistry(key);
+  if (out[i]->inUse) ++disturbedUses;
+  out[i]->inUse = false;
   out[i]->initCpt();
 }
 
@@ -85,7 +87,9 @@ void gatherRegistered(chandle** out, const mxArray* list, std::size_t n) {
 void addResiduals(chandle** list, int n, const ROr& c, host::Doubles r) {
   checkAll(list, n, 1, c, r.count);
   takeAllWork(list, n, r);
+  setInUse(list, n, true);
   forLive(list, n, [&](chandle& h, int) { h.Residual(c, r.data); });
+  setInUse(list, n, false);
 }
 
 chandle** newHandleList(const mxArray* list) {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/handle_walk.h"
 #include "host/user_code.h"
 
 namespace quarn {
@@ -16,6 +17,7 @@ void hindex::destroy(chandle* h) {
 
 void hindex::release(chandle* h) {
   if (h) ++left;
+  if (h && h->inUse) ++disturbedUses;
   if (h && host::insideUserCode()) {
     retired.push_back(h);
   } else {

@@ -1,6 +1,7 @@
 #include "nonlinear/laws.h"
 #include "nonlinear/shaft_laws.h"
 #include "nonlinear/state_laws.h"
+#include "nonlinear/user_law.h"
 #include "numbers/convert.h"
 
 namespace quarn {
@@ -31,6 +32,7 @@ constexpr LawRow laws[] = {
     row("Radial", FuRadial, checkRadial),
     row("Ocvirk", FuOcvirk, checkOcvirk),
     row("Impact", FuImpact, checkImpact),
+    row("User", FuUser, checkUser),
 };
 
 static_assert(codeOf("Power") == 491328597840 && codeOf("Clima2") == 55394028842051 && codeOf("sts") == 7566451);

@@ -7,6 +7,7 @@
 #include "host/errors.h"
 #include "nonlinear/laws.h"
 #include "nonlinear/state_laws.h"
+#include "nonlinear/user_law.h"
 #include "numbers/ranges.h"
 #include "sparse/dense_lines.h"
 #include "sparse/line_runs.h"
@@ -81,6 +82,7 @@ void chandleNl_inout::readOptions() {
   law = row->law;
   check = row->check;
   tableAscends = false;
+  if (law == FuUser) bindUserLaw(this);
 }
 
 /// Observed values: a page of zeros, then the product of the observation matrix.

@@ -6,6 +6,7 @@
 
 #include "base/chandle.h"
 #include "host/arrays.h"
+#include "nonlinear/quarn_law.h"
 #include "sparse/sparse_view.h"
 
 namespace quarn {
@@ -50,7 +51,9 @@ class chandleNl_inout final : public chandle {
   int unlSlices = 0;  ///< pages of unl; 0 when it is absent
   NlForceLaw law = nullptr;
   NlLawCheck check = nullptr;
-  bool tableAscends = false;  ///< the abscissae of the law's table ascend, and nothing that a run writes lies on them
+  const quarn_law* user = nullptr;  ///< of law "User": its library's law, or
+  mxArray* call = nullptr;          ///< its function
+  bool tableAscends = false;        ///< the abscissae of the law's table ascend, and nothing that a run writes lies on them
 
   // Values that the arrays hold in all.
   std::size_t unlTotal = 0;

@@ -1,15 +1,17 @@
 // Nonlinear elements: every law with parameters that fit, mostly.
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <string>
 
 #include "models.h"
+#include "standin.h"
 
 namespace fuzz {
 
 namespace {
 
-constexpr const char* lawWords[] = {"Power", "Maxw", "Table", "Expon", "DahlC", "Clima2", "sts", "Damper", "Radial", "Ocvirk", "Impact"};
+constexpr const char* lawWords[] = {"Power", "Maxw", "Table", "Expon", "DahlC", "Clima2", "sts", "Damper", "Radial", "Ocvirk", "Impact", "User"};
 
 double lawCode(const char* word) {
   double code = 0.0;
@@ -59,6 +61,10 @@ Law makeLaw(Bytes& in, const char* word, std::size_t which) {
     while (law.opt.size() < 40) law.opt.push_back(in.number());
   }
   if (which == 2) addTable(in, law, static_cast<int>(in.below(6)), static_cast<int>(in.below(3)));
+  if (std::strcmp(word, "User") == 0) {
+    law.iopt[2] = static_cast<int>(law.page) - law.iopt[3];
+    law.iopt[4] = 1;
+  }
   if (which == 4 || which == 5) law.pages = 2 + in.below(3);
   if (which == 5) {
     law.page = 5 * (1 + in.below(2));
@@ -72,6 +78,15 @@ Law makeLaw(Bytes& in, const char* word, std::size_t which) {
     while (law.opt.size() < 11) law.opt.push_back(in.number());
   }
   return law;
+}
+
+/// A law of the user's: as many forces as displacements and as many states as before, mostly.
+mxArray* userFunction(std::size_t extra) {
+  return standin::functionHandle([extra](int nlhs, const standin::Arguments& args) -> std::vector<mxArray*> {
+    mxArray* force = mxCreateDoubleMatrix(mxGetNumberOfElements(args[0]) + extra, 1, mxREAL);
+    if (double* f = mxGetPr(force)) f[0] = 1.0;
+    return {force, nlhs > 1 ? mxDuplicateArray(args[2]) : nullptr};
+  });
 }
 
 /// What runs for ever is no fault to be found: sub-steps and blocks are counts that the user asks for.
@@ -89,6 +104,7 @@ void bound(mxArray* opt, mxArray* iopt) {
 mxArray* elementValue(Maker& make, std::size_t n) {
   Bytes& in = make.in;
   const std::size_t which = in.below(sizeof lawWords / sizeof *lawWords);
+  const bool user = std::strcmp(lawWords[which], "User") == 0;
   const Law law = makeLaw(in, lawWords[which], which);
   const std::size_t observed = in.rarely(6) ? in.below(8) : law.page;
   const std::size_t forces = law.page * (which == 2 ? 2 : 1);
@@ -103,6 +119,8 @@ mxArray* elementValue(Maker& make, std::size_t n) {
                          {"vnl", in.rarely(6) ? nullptr : make.doubles(law.page, 1, law.pages)},
                          {"snl", in.rarely(3) ? nullptr : make.doubles(forces)},
                          {"opt", opt},
+                         {"call", user && !in.rarely(8) ? userFunction(in.rarely(8) ? 1 : 0) : nullptr},
+                         {"library", user && in.rarely(8) ? make.text(in.rarely(2) ? "/dev/null" : "law.so") : nullptr},
                          {"iopt", in.rarely(10) ? nullptr : iopt}});
 }
 

@@ -64,8 +64,11 @@ function e = element (law, c, varargin)
   place = [o.slot - 1; 0; 0; 0; 0];
   if t.states > 0, place(2:5) = [o.state - 1; t.rows; t.states; 1]; end
   if t.inner > 0, place(3:5) = [t.width; t.inner; 1]; end
+  if t.states == 0 && t.group > 0, place(3) = t.group; end
   rates = zeros (0, 1);  % most laws without memory look at no velocity: without a place for it none is observed
   if t.memory || t.rates, rates = zeros (t.width, 1, t.pages); end
   e = struct ('type', 1003, 'c', qn.impl.pack_rows (c), 'b', qn.impl.pack_rows (b), 'opt', opt, 'iopt', int32 ([place; own]), ...
               'unl', zeros (t.width, 1, t.pages), 'vnl', rates, 'snl', zeros (t.width, 1));
+  l = qn.impl.law_of (law.kind);
+  if ~isempty (l.extra), e = l.extra (e, law.parameters); end
 end

@@ -35,6 +35,12 @@
 %   'impact'       stiffness [N/m^p], exponent* p (1.5),     one-sided stop: stiffness * d^p (1 + damping * d') and never below 0, where
 %                  damping* [s/m] (0), gap* [m] (0),         side * x is beyond the gap by d > 0; side is 1 or -1 (Hunt and Crossley
 %                  side* (1)                                 1975). See qn.impact.
+%   'compiled'     FILE, parameters* ([]), states* (0),      a law of your own in C, in FILE.c (name of the parameter: file); compiled
+%                  rows* (1), hash* ('')                     once. The help of states and rows is that of 'function'; hash is that of
+%                                                            the content, found by qn.law. See docs/user_laws.md
+%   'function'     CALL, states* (0), rows* (1)              a law of your own as a function handle (name of the parameter: call),
+%                                                            slower: f = call (x, v, s, t), or [f, s] = call (x, v, s, t) with states.
+%                                                            It observes that many rows and keeps that many states; columns
 %
 % Output
 %   LAW   struct: kind, parameters (struct of the values), note (text)
@@ -54,16 +60,11 @@ function law = law (kind, varargin)
   l = qn.impl.law_of (kind);
   names = l.parameters(:, 1);
   lists = ~cellfun (@isempty, strfind (l.parameters(:, 3), 'list'));
+  % The file or function of a law of the user's may stand in front, without its name.
+  if mod (numel (varargin), 2) == 1 && any (strcmp (l.parameters{1, 3}, {'file', 'function'})), varargin = [names(1), varargin]; end
   p = qn.impl.options (who, cell2struct (l.parameters(:, 2), names, 1), varargin);
-  for k = 1:numel (names)
-    x = p.(names{k});
-    if lists(k)
-      x = qn.impl.numbers (who, names{k}, x, [], 'list');
-      p.(names{k}) = x(:);
-    else
-      p.(names{k}) = qn.impl.scalar (who, names{k}, x);
-    end
-  end
+  for k = 1:numel (names), p.(names{k}) = checked (who, names{k}, p.(names{k}), l.parameters{k, 3}); end
+  if strcmp (kind, 'compiled'), p = qn.impl.user.prepared (who, p); end
   same_length (who, p, sort (names(lists)));
   for name = of_sort (l, 'ascending')
     x = p.(name{1});
@@ -87,6 +88,32 @@ function law = law (kind, varargin)
     if x >= 1, error ('qn:input', '%s: "%s" must be below 1, got %.15g', who, name{1}, x); end
   end
   law = struct ('kind', kind, 'parameters', p, 'note', '');
+end
+
+function x = checked (who, name, x, sort_of)
+  switch sort_of
+    case {'file', 'text'}
+      x = qn.impl.chars (x);
+      if ~ischar (x) || size (x, 1) > 1
+        error ('qn:input', '%s: "%s" must be a text, got %s of class %s', who, name, mat2str (size (x)), class (x));
+      end
+    case 'function'
+      if ~isa (x, 'function_handle')
+        error ('qn:input', '%s: "%s" must be a function handle, such as @(x, v, s, t) 1e9 * x ^ 3, got class %s', who, name, class (x));
+      end
+    case 'whole'
+      x = qn.impl.numbers (who, name, x, [1 1], 'from', 0, 'to', 1e6, 'whole');
+    case 'count'
+      x = qn.impl.count (who, name, x, 1e6);
+    case 'free list'
+      x = reshape (qn.impl.numbers (who, name, x, [], 'list', 'empty'), [], 1);
+    otherwise
+      if isempty (strfind (sort_of, 'list'))
+        x = qn.impl.scalar (who, name, x);
+      else
+        x = reshape (qn.impl.numbers (who, name, x, [], 'list'), [], 1);
+      end
+  end
 end
 
 function names = of_sort (l, word)

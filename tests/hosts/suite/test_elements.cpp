@@ -188,4 +188,75 @@ TEST_P(Elements, FunctionsMayCallTheModuleAgain) {
   EXPECT_EQ(values(r), (Values{1, 1}));
 }
 
+const Values identity{1, 0, 0, 0, 1, 0, 0, 0, 1};
+
+/// Two displacements and a state of the law "User", which is a function.
+mxArray* userElement(const standin::Function& law) {
+  return structure({{"type", scalar(1003)},
+                    {"c", compressed(3, 3, identity, true)},
+                    {"b", compressed(3, 3, identity, true)},
+                    {"opt", column({lawCode("User"), 0, 0.5})},
+                    {"unl", zeros(3)},
+                    {"vnl", zeros(3)},
+                    {"snl", zeros(3)},
+                    {"call", standin::functionHandle(law)},
+                    {"iopt", int32s({-1, 2, 2, 1, 1})}});
+}
+
+TEST_P(Elements, LawsOfTheUserAreFunctionsOfDisplacementVelocityStateAndTime) {
+  mxArray* value = userElement([](int nlhs, const standin::Arguments& args) -> std::vector<mxArray*> {
+    EXPECT_EQ(nlhs, 2);
+    const Values x = values(args[0]);
+    const Values v = values(args[1]);
+    const Values s = values(args[2]);
+    return {column({2 * x[0] + s[0], 3 * x[1] + v[1]}), column({s[0] + v[0] + values(args[3])[0]})};
+  });
+  const double h = set(1003, value);
+  keptValues = 1;
+  mxArray* r = zeros(3);
+  mxArray* u = column({1, 2, 10});
+  run("residual", {r, handles({h}), u, column({4, 5, 0}), zeros(0)}, 0);
+  EXPECT_EQ(values(r), (Values{2 + 10, 6 + 5, 0}));
+  EXPECT_EQ(values(u)[2], 14.0);
+  NewmarkRun n = newmarkRun();
+  n.u = column({1, 0});
+  n.v = column({1, 0});
+  const standin::Function fails = [](int, const standin::Arguments& args) -> std::vector<mxArray*> {
+    EXPECT_GT(values(args[3])[0], 0.0);  // in a run there is a time
+    EXPECT_EQ(mxGetNumberOfElements(args[2]), 0U);
+    standin::raise("law:bad", "no force");
+  };
+  mxArray* oneRow =
+      element("User", 2, {0, 0}, {{"unl", zeros(1)}, {"vnl", zeros(1)}, {"snl", zeros(1)}, {"call", standin::functionHandle(fails)}});
+  expectError("law:bad", "no force", "chandlediagnewmark", n.arguments(cell(1, 2, {n.integrator, oneRow})));
+}
+
+TEST_P(Elements, LawsOfTheUserEndTheCallWhoseHandlesTheyFreeOrUse) {
+  double h = 0;
+  mxArray* release = userElement([&](int, const standin::Arguments&) -> std::vector<mxArray*> {
+    run("chandleclear", {scalar(h)}, 0);
+    return {zeros(2), zeros(1)};
+  });
+  h = set(1003, release);
+  keptValues = 1;
+  expectRefusal("a handle of the call that waits for it, at t = 0 s", "residual", {zeros(3), handles({h}), zeros(3), zeros(3), zeros(0)});
+}
+
+TEST_P(Elements, LawsOfTheUserNeedALibraryOrAFunctionThatReturnsNumbers) {
+  const auto refused = [&](const char* text, const standin::Function& law) {
+    expectRefusal(text, "residual", {zeros(3), handles({set(1003, userElement(law))}), zeros(3), zeros(3), zeros(0)});
+  };
+  keptValues = 4;
+  refused("must return 2 forces, full and real, got double 3x1 at t = 0 s", [](int, const standin::Arguments&) -> std::vector<mxArray*> {
+    return {zeros(3), zeros(1)};
+  });
+  refused("must return 1 states, full and real, got char 1x1", [](int, const standin::Arguments&) -> std::vector<mxArray*> {
+    return {zeros(2), text("1")};
+  });
+  refused("gives NaN as force 2 at t = 0 s, where x(1) = 0 and v(1) = 0", [](int, const standin::Arguments&) -> std::vector<mxArray*> {
+    return {column({0, std::nan("")}), zeros(1)};
+  });
+  refused("gives -Inf as state 1", [](int, const standin::Arguments&) -> std::vector<mxArray*> { return {zeros(2), scalar(-HUGE_VAL)}; });
+}
+
 }  // namespace

@@ -180,8 +180,11 @@ function rows = laws ()
       value = 2 - strcmp (l.parameters{k, 3}, 'sign');
       if ~isempty (strfind (l.parameters{k, 3}, 'list')), value = [1 2]; end
       if strcmp (l.parameters{k, 3}, 'fraction'), value = 0.5; end
+      if any (strcmp (l.parameters{k, 3}, {'text', 'file', 'function', 'whole', 'count'})), value = user_law_value (l.parameters{k, 3}); end
       args = [args, l.parameters(k, 1), {value}];
     end
-    rows(end + 1, :) = {'qn.law', {'KIND'}, args, {}};
+    free = {};
+    if any (strcmp (l.parameters(:, 3), 'free list')), free = {'parameters', 'longer|empty', 'as many as the law takes'}; end
+    rows(end + 1, :) = {'qn.law', {'KIND'}, args, free};
   end
 end

@@ -6,8 +6,9 @@
 %   places      "iopt" from its second entry on; the state block fits into N rows
 %   forces      fewest values of a "snl"; 0 where the law may write its forces over the observations
 %   rates       true where the law needs "vnl"
+%   fields      names and values of further fields of the element
 function law = random_law (word, n)
-  law = struct ('word', word, 'page', randi (7), 'pages', randi (3), 'places', zeros (1, 4), 'forces', 0, 'rates', false);
+  law = struct ('word', word, 'page', randi (7), 'pages', randi (3), 'places', zeros (1, 4), 'forces', 0, 'rates', false, 'fields', {{}});
   law = feval (['random_' lower(word)], law, n);
 end
 
@@ -80,6 +81,28 @@ function law = random_ocvirk (law, n)
   law.rates = true;
   law.page = 2 * randi ([0, 3]);
   law.parameters = [rand(3, 1); 0.5 + 2*rand; 3*randn*(rand<0.8); 0.1+0.85*rand; 0.3*randn(2, 1)*(rand<0.5); rand*(rand<0.5)];
+end
+
+% Rows in groups, or with states: springs that are coupled, a damper, a push in time, and states that follow the displacements.
+function law = random_user (law, n)
+  law.rates = true;
+  law.pages = 1;
+  law.forces = 1;
+  states = randi ([0, min(2, n)]);
+  group = randi (3);
+  rows = group * randi (2 - (states > 0));
+  law.page = rows + states;
+  law.parameters = [0; increment(0.1)];
+  law.places = [randi([1, n - states + 1]), group, states, 1];
+  if states == 0, law.places = [0, group, 0, 0]; end
+  k = randn (group);
+  w = rand;
+  if states > 0
+    follow = rand (states, group);
+    law.fields = {'call', @(x, v, s, t) deal(k * x + sum (s) + 0.1 * v + w * t, 0.5 * s + follow * x)};
+  else
+    law.fields = {'call', @(x, v, s, t) k * x + 0.1 * v + w * t};
+  end
 end
 
 % Some of them doubled: jumps in the table.

@@ -25,6 +25,7 @@ function e = random_law_element (word, n, single_entries)
   if rand < 0.3, e.c = c; end
   e.b = matrix_lines (b, true);
   e.iopt = int32 ([randi(4) - 2; law.places(:)]);
+  for k = 1:2:numel (law.fields), e.(law.fields{k}) = law.fields{k + 1}; end
   e = fresh (e);
 end
 

@@ -4,7 +4,10 @@ function res = advance (res, o)
   last = numel (sim.time);
   kept = sum (sim.saved <= res.final.column);
   res = qn.impl.sized (res, numel (sim.saved));
-  if ~isempty (o.save), o.save = can_write (o.save); end
+  if ~isempty (o.save)
+    qn.impl.user.savable ('qn.run', sim);
+    o.save = can_write (o.save);
+  end
   h = qn.impl.register ([res.final.values; qn.impl.turning_values(sim)]);
   free = onCleanup (@() delete (h));
   limit = qn.impl.energy_limit (sim, res.final);

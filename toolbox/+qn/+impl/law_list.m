@@ -4,7 +4,8 @@
 %   keyword     word by which the module knows it
 %   parameters  rows {name, default, sort}; a default of '<required>' has to be given. Sort is 'number', 'positive' (a number above 0),
 %               'not negative' (from 0), 'fraction' (between 0 and 1), 'sign' (1 or -1), 'list', 'ascending list' or 'positive list'; the
-%               lists of a law have one length
+%               lists of a law have one length. For laws of the user's also 'free list' (of any length), 'count' (from 1),
+%               'whole' (from 0), 'text', and, in front, 'file' or 'function', whose name may be left out
 %   pack        [OPT, OWN] = pack (P, STEP): "opt" with the keyword's code in front, and what follows the five common values of "iopt"
 %   unpack      P = unpack (OPT, IOPT): the parameters again; [] where qn.law cannot give such an element
 %   words       TEXT = words (P): the law with its numbers, one line
@@ -22,6 +23,7 @@
 %   reach       R = reach (P): distance from 0 to where it first bends, such as a gap [m]
 %   at_force    X = at_force (P, F): displacements, beside the ends of its definition, where it gives the forces F at rest
 %   at_rest     LAW = at_rest (P): the law without memory that it becomes when nothing moves
+%   extra       E = extra (E, P): the value E of an element with further fields; unpack then gets (OPT, IOPT, E)
 %
 % Those from "softest" on may be [], or be left out: no stiffness everywhere, no force of the velocity, no needs of its own, nothing stored,
 % no bound, nothing to check, no bend, no such displacement, no force at rest without its past. The list is made once a session:
@@ -31,7 +33,8 @@ function list = law_list ()
   if isempty (made)
     each = {qn.impl.laws.power_law(), qn.impl.laws.exponential_law(), qn.impl.laws.table_law(), qn.impl.laws.maxwell_law(), ...
             qn.impl.laws.dahl_law(), qn.impl.laws.stickslip_law(), qn.impl.laws.clima2_law(), qn.impl.laws.damper_law(), ...
-            qn.impl.laws.radial_law(), qn.impl.laws.journal_law(), qn.impl.laws.impact_law()};
+            qn.impl.laws.radial_law(), qn.impl.laws.journal_law(), qn.impl.laws.impact_law(), ...
+            qn.impl.laws.compiled_law(), qn.impl.laws.function_law()};
     each = cellfun (@whole, each, 'UniformOutput', false);
     made = [each{:}];
   end
@@ -41,7 +44,7 @@ end
 % All fields, in one order.
 function l = whole (given)
   names = {'kind', 'keyword', 'parameters', 'pack', 'unpack', 'words', 'stiffest', 'softest', 'viscous', 'traits', 'stored', 'reserve', ...
-           'check', 'reach', 'at_force', 'at_rest'};
+           'check', 'reach', 'at_force', 'at_rest', 'extra'};
   l = cell2struct (cell (numel (names), 1), names.', 1);
   for name = fieldnames (given).', l.(name{1}) = given.(name{1}); end
 end

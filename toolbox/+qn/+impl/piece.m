@@ -17,11 +17,26 @@ function [s, out, wanted] = piece (sim, s, h, to)
   model = struct ('FNL', qn.impl.fresh (s.FNL));
   mem = struct ('uva', struct ('uva', zeros (4 * n, 1), 'FNL', zeros (slots, 1)));
   out = struct ('data', times, 'def', zeros (n, numel (times)), 'FNL', struct ('data', times, 'def', zeros (slots, numel (times))));
-  quarn ('chandlediagnewmark', [newmark, h], model, u, v, a, zeros (1, 2), mem, out);
+  try
+    quarn ('chandlediagnewmark', [newmark, h], model, u, v, a, zeros (1, 2), mem, out);
+  catch err
+    with_time (err, sim, newmark);
+  end
   s.u = u;
   s.v = v;
   s.a = a;
   s.FNL = model.FNL;
   s.column = to;
   out = struct ('q', out.def(1:m, :), 'state', out.def(m + 1:end, :), 'force', out.FNL.def(qn.impl.force_slots (sim), :));
+end
+
+% An error of a law that is a function, with the time of the step that it ended.
+function with_time (err, sim, newmark)
+  laws = arrayfun (@(e) e.law.kind, sim.elements, 'UniformOutput', false);
+  if any (strcmp (laws, 'function')) && isempty (strfind (err.message, 'quarn chandlediagnewmark : '))
+    value = quarn ('chandleget', remi (newmark, 1));
+    err = struct ('message', sprintf ('%s (in the run, at t = %.9g s)', err.message, value.data(6)), 'identifier', err.identifier, ...
+                  'stack', err.stack);
+  end
+  rethrow (err);
 end

@@ -8,9 +8,9 @@ function e = remembered (e, before, law, old)
   t = qn.impl.traits (law, 1);
   if isequal (law, old)
     % The place of the last search in a table. Where a law knows the step, its own value stays.
-    step = e.opt(3);
+    step = e.opt(3:min (3, end));
     e.opt = before.opt;
-    if t.memory, e.opt(3) = step; end
+    e.opt(3:min (3, end)) = step;
   elseif t.inner > 0
     % The rates that belong to the states kept and the weights of now: y' = B u + A y.
     m = t.inner;

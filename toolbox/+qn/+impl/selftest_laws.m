@@ -2,7 +2,7 @@
 function checks = selftest_laws ()
   checks = {'linear run', @linear_run; 'law Power', @power; 'law Expon', @expon; 'law Table', @table; 'law Maxw', @maxw; ...
             'law DahlC', @dahl; 'law sts', @stick_slip; 'law Clima2', @clima; 'law Damper', @damper; ...
-            'law Radial', @radial; 'law Ocvirk', @film; 'law Impact', @impact};
+            'law Radial', @radial; 'law Ocvirk', @film; 'law Impact', @impact; 'law User', @user};
 end
 
 % A free oscillation: average acceleration turns every step by the angle 2 atan (w h / 2) and keeps the amplitude.
@@ -106,6 +106,17 @@ function [good, text] = impact ()
   speed = [0; 0; -2; 1; 9];
   wanted = [0; 0; -7 * (1 + 0.25 * 2); -7 * 2 ^ 1.5 * (1 - 0.25); 0];
   [good, text] = judged (evaluated (with_rates (element (5, 'Impact', [7; 1.5; 0.25; 0.5; -1])), x, speed, 1), wanted);
+end
+
+% A law that is a function: two rows and a state that counts the steps.
+function [good, text] = user ()
+  e = with_state (element (3, 'User', [0; 1e-3]), 3);
+  e.iopt = int32 ([-1 2 2 1 1]);
+  e.unl = zeros (3, 1);
+  e.vnl = zeros (3, 1);
+  e.call = @(x, v, s, t) deal ([3 * x(1) + s; x(2) - 2 * v(1) + t], s + 1);
+  [f, u] = evaluated (e, [0.5; 7; 0], [4; 0; 0], 5);
+  [good, text] = judged ([f(1:2); u(3)], [3 * 0.5 + 4; 7 - 2 * 4 + 5; 5]);
 end
 
 % An element that observes N values as they are.

@@ -7,9 +7,13 @@ function [law, step] = unpack_law (e)
   if isfield (e, 'iopt') && ~isempty (e.iopt), iopt(1:numel (e.iopt)) = double (e.iopt(:)); end
   list = qn.impl.law_list ();
   l = list(cellfun (@qn.impl.keyword, {list.keyword}) == fix (opt(1)));
-  if isempty (l), return, end
-  p = l.unpack (opt, iopt);
+  p = [];
+  for k = 1:numel (l)
+    if isempty (l(k).extra), p = l(k).unpack (opt, iopt); else, p = l(k).unpack (opt, iopt, e); end
+    if ~isempty (p), break, end
+  end
   if isempty (p), return, end
+  l = l(k);
   pairs = [fieldnames(p), struct2cell(p)].';
   law = qn.law (l.kind, pairs{:});
   t = qn.impl.traits (law, 1);

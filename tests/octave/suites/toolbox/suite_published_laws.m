@@ -68,6 +68,25 @@ function test_impact_with_losses_after_hunt_and_crossley ()
   end
 end
 
+% Between yield and the lower line the loop is a parallelogram on each side: 2 (drop Fy) (X - Fy/k) a cycle, and nothing is left at rest.
+function test_a_self_centring_brace_dissipates_its_flags ()
+  c = published ('Cycle of a self-centring brace', ...
+                 'C. Christopoulos, A. Filiatrault and B. Folz, Earthquake Engng Struct. Dyn. 31, 2002: flag-shaped hysteresis, area of its loop', ...
+                 {'User', 'memory of laws'});
+  [k, yield, share, drop, amplitude] = deal (2e7, 2e5, 0.05, 0.8, 0.04);
+  file = fullfile (project_folder (), 'toolbox', 'examples', 'self_centring.c');
+  brace = qn.law ('compiled', file, 'parameters', [k yield share drop], 'states', 2);
+  h = 1e-4;
+  t = 0:h:1.25;
+  x = amplitude * sin (2 * pi * t);
+  f = qn.force (brace, x, 2 * pi * amplitude * cos (2 * pi * t), h);
+  cycle = find (t >= 0.25 - h / 2);
+  area = sum ((f(cycle(1:end - 1)) + f(cycle(2:end))) / 2 .* diff (x(cycle)));
+  top = yield + share * (k * amplitude - yield);
+  expect_published (c, {'work of a cycle [J]', 'greatest force [N]', 'force at rest [N]'}, [2 * drop * yield * (amplitude - yield / k), top, 0], ...
+                    [area, max(f), f(round (0.5 / h) + 1)], [1 1e-6 1e-6]);
+end
+
 % x'' + exp (x) = 1 keeps x'^2/2 + exp (x) - x.
 function test_a_toda_spring_turns_where_its_energy_says ()
   c = published ('Oscillator with an exponential spring', ...

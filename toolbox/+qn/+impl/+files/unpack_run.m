@@ -74,6 +74,7 @@ function elements_fit (s)
     need (e.law, {'kind', 'parameters', 'note'});
     p = [fieldnames(e.law.parameters), struct2cell(e.law.parameters)].';
     law = qn.law (e.law.kind, p{:});
+    if strcmp (law.kind, 'compiled'), qn.impl.user.unchanged (law.parameters); end
     expect (isequal (law.parameters, e.law.parameters), 'the parameters of element %d are damaged', e.item);
     list(k, :) = {law, sparse(e.observe), sparse(e.command)};
   end

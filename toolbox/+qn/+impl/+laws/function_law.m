@@ -1,0 +1,41 @@
+% L = FUNCTION_LAW ()  a law that is a function of the host's language; the fields are those of qn.impl.law_list
+function l = function_law ()
+  parameters = {'call', '<required>', 'function'
+                'states', 0, 'whole'
+                'rows', 1, 'count'};
+  l = struct ('kind', 'function', 'keyword', 'User', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
+              'stiffest', @stiffest, 'viscous', @viscous, 'traits', @traits, 'extra', @extra);
+end
+
+function [opt, own] = pack (p, step)
+  if isempty (step), step = 0; end
+  opt = [qn.impl.keyword('User'); 0; step];
+  own = zeros (0, 1);
+end
+
+function e = extra (e, p)
+  e.call = p.call;
+end
+
+function p = unpack (opt, iopt, e)
+  p = [];
+  if isfield (e, 'call'), p = struct ('call', e.call, 'states', iopt(4), 'rows', iopt(3)); end
+end
+
+function text = words (p)
+  text = sprintf ('function %s, %d rows, %d states', func2str (p.call), p.rows, p.states);
+end
+
+function t = traits (p)
+  t = struct ('rates', true, 'group', p.rows);
+  if p.states == 0 && p.rows == 1, return, end
+  [t.rows, t.forces, t.width, t.states, t.memory] = deal (p.rows, p.rows, p.rows + p.states, p.states, p.states > 0);
+end
+
+function k = stiffest (p, x, state)
+  k = qn.impl.user.slope (qn.impl.user.of (p, 'function'), x, state, 'x');
+end
+
+function c = viscous (p, x, f)
+  c = qn.impl.user.slope (qn.impl.user.of (p, 'function'), x, [], 'v');
+end

@@ -40,7 +40,7 @@
 %   simulation     qn.scheme, qn.simulation, qn.check, qn.advise, qn.run, qn.resume, qn.interrupted
 %   sweeps         qn.sweep, qn.grid
 %   results        qn.displacement, qn.velocity, qn.acceleration, qn.energies, qn.dissipated, qn.contacts, qn.spectrum, qn.srs,
-%                  qn.full_spectrum, qn.spectrogram, qn.order_track, qn.poincare
+%                  qn.full_spectrum, qn.spectrogram, qn.order_track, qn.poincare, qn.report
 %   pictures       qn.plot.page, qn.plot.panel, qn.plot.picture, qn.plot.series, qn.plot.phase, qn.plot.loop, qn.plot.orbit,
 %                  qn.plot.waterfall, qn.plot.full_spectrum, qn.plot.spectrogram, qn.plot.orders, qn.plot.poincare,
 %                  qn.plot.bifurcation, qn.plot.campbell

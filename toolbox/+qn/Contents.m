@@ -79,6 +79,7 @@
 %   spectrogram    - spectra of a signal along its time
 %   order_track    - amplitudes of orders along a run-up
 %   poincare       - a motion once in every period (Poincare section)
+%   report         - one page of a run for the files: set-up, findings, pictures, contacts, energies, versions
 %   srs            - shock response spectrum of a base acceleration, or of a floor in a result
 %
 % Pictures

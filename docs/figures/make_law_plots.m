@@ -5,7 +5,7 @@
 %   make_law_plots ('maxwell')    draws one, by the name of its function below
 function make_law_plots (only)
   if exist ('graphics_toolkit'), graphics_toolkit ('gnuplot'); end
-  laws = {@power, @exponential, @table, @maxwell, @dahl, @stick_slip, @clima2, @damper, @radial, @film, @impact, @user};
+  laws = {@power, @exponential, @table, @maxwell, @dahl, @stick_slip, @clima2, @damper, @radial, @film, @impact, @user, @bouc_wen};
   for k = 1:numel (laws)
     if nargin == 0 || strcmp (only, func2str (laws{k})), laws{k} (); end
   end
@@ -184,6 +184,18 @@ function [f, y] = ratchet (x, v, y, t)
   f = k * (x - y) + 1e3 * x;
 end
 
+function bouc_wen ()
+  [x, v, h, last] = harmonic (0.03, 1, 1000, 3);
+  exponents = [1 2 10];
+  f = zeros (3, numel (last));
+  for k = 1:3
+    b = 0.5 / 0.01 ^ exponents(k);
+    force = drive (element ('BoucW', [0 1e5 0.1 1 b b exponents(k)], 3, [-1 1 1 2 1]), [x; 0 * x; 0 * x], [v; 0 * v; 0 * v]);
+    f(k, :) = force(1, last);
+  end
+  draw ('law_boucw', 1e3 * x(last), f, {'n = 1', 'n = 2', 'n = 10'}, 'BoucW: k = 1e5 N/m, alpha = 0.1, limit of z 10 mm', 'displacement [mm]');
+end
+
 % Some cycles of a harmonic motion, the samples of the last one, and the time step.
 function [x, v, h, last] = harmonic (amplitude, frequency, samples, cycles)
   h = 1 / (frequency * samples);
@@ -198,7 +210,7 @@ function e = element (word, parameters, page, iopt, pages)
   if nargin < 5, pages = 1; end
   code = sum (double (word) .* 256 .^ (0:numel (word) - 1));
   opt = [code parameters];
-  if any (strcmp (word, {'Maxw', 'DahlC', 'sts', 'Clima2'})), opt = [code 0 parameters]; end
+  if any (strcmp (word, {'Maxw', 'DahlC', 'sts', 'Clima2', 'BoucW'})), opt = [code 0 parameters]; end
   e = struct ('type', 1003, 'opt', opt(:));
   e.c = struct ('ir', int32 ((0:page - 1)'), 'jc', int32 ((0:page)'), 'pr', ones (page, 1), 'dims', [page page], 'trans', 1);
   if nargin > 3, e.iopt = int32 (iopt(:)); end

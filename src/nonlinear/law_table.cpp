@@ -33,6 +33,7 @@ constexpr LawRow laws[] = {
     row("Ocvirk", FuOcvirk, checkOcvirk),
     row("Impact", FuImpact, checkImpact),
     row("User", FuUser, checkUser),
+    row("BoucW", FuBoucWen, checkBoucWen),
 };
 
 static_assert(codeOf("Power") == 491328597840 && codeOf("Clima2") == 55394028842051 && codeOf("sts") == 7566451);

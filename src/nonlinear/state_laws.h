@@ -36,12 +36,21 @@ void STS(chandleNl_inout* h, ROr ro);
 /// offset = opt[6], the table as for FuTable at iopt[5..8]. Every group writes snl[0..2] and uses unl[0..2] for the terms in k.
 void Clima2(chandleNl_inout* h, ROr ro);
 
+/// Smooth hysteresis in groups of three (observed displacement x, state z, the displacement at the last evaluation):
+///   snl = k*(alpha*x + (1 - alpha)*z),  dz/dx = A - |z|^n*(gamma + beta*sign(z*dx))
+/// with k = opt[3], alpha = opt[4], A = opt[5], beta = opt[6], gamma = opt[7], n = opt[8]. z is advanced over the way since the last
+/// evaluation by the Runge-Kutta rule of fourth order, in at most 32 equal parts, and held at its limit (A/(beta + gamma))^(1/n): no way is
+/// too long, and an evaluation at the same place changes nothing. opt[2] is not used. Sources: R. Bouc, Forced vibration of mechanical
+/// systems with hysteresis (1967); Y.-K. Wen, J. Engineering Mechanics Division ASCE 102 (1976).
+void FuBoucWen(chandleNl_inout* h, ROr ro);
+
 // Refuse what the law of that name would read or write outside the arrays of the handle. checkMaxw also raises
 // "Need unlj1 as last dim" where unl has fewer than two pages or ends before a committed value that the law reads.
 void checkMaxw(const chandleNl_inout& h, const ROr& ro);
 void checkDahlC(const chandleNl_inout& h, const ROr& ro);
 void checkSts(const chandleNl_inout& h, const ROr& ro);
 void checkClima2(const chandleNl_inout& h, const ROr& ro);
+void checkBoucWen(const chandleNl_inout& h, const ROr& ro);
 
 /// h of the law, after it has been set to ro.t where it was 0.
 inline double timeIncrement(chandleNl_inout* h, const ROr& ro) {

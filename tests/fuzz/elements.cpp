@@ -11,7 +11,8 @@ namespace fuzz {
 
 namespace {
 
-constexpr const char* lawWords[] = {"Power", "Maxw", "Table", "Expon", "DahlC", "Clima2", "sts", "Damper", "Radial", "Ocvirk", "Impact", "User"};
+constexpr const char* lawWords[] = {"Power",  "Maxw",   "Table",  "Expon",  "DahlC", "Clima2", "sts",
+                                    "Damper", "Radial", "Ocvirk", "Impact", "User",  "BoucW"};
 
 double lawCode(const char* word) {
   double code = 0.0;

@@ -46,6 +46,7 @@
 %   cubic          - cubic spring, force = K * x^3
 %   slider         - Coulomb slider: sticks like a stiff spring, slides at its slip force
 %   damper         - damper whose force is a power of the velocity: linear, quadratic, or between them
+%   boucwen        - smooth hysteresis after Bouc (1967) and Wen (1976): yielding joints, isolators, steel dampers
 %   iwan           - bank of Coulomb sliders in parallel (parallel-series model of Iwan, 1966)
 %   zener          - Zener element (standard linear solid): a spring beside one Maxwell branch
 %   maxwell        - generalised Maxwell damper: spring-and-damper branches in parallel, and a spring beside them

@@ -41,6 +41,8 @@
 %   'function'     CALL, states* (0), rows* (1)              a law of your own as a function handle (name of the parameter: call),
 %                                                            slower: f = call (x, v, s, t), or [f, s] = call (x, v, s, t) with states.
 %                                                            It observes that many rows and keeps that many states; columns
+%   'boucwen'      stiffness [N/m], ratio, beta [1/m^n],     stiffness * (ratio * x + (1 - ratio) * z), z' = A v - beta |v| |z|^(n-1) z
+%                  gamma [1/m^n], exponent* n (1), A* (1)    - gamma v |z|^n (Bouc 1967, Wen 1976). See qn.boucwen.
 %
 % Output
 %   LAW   struct: kind, parameters (struct of the values), note (text)

@@ -122,6 +122,14 @@ function law = random_impact (law, n)
   law.parameters = [randn; exponents(randi (4)); 2 * rand - 0.3; 0.5 * randn; randn];
 end
 
+% Now and then without a limit, and with a state beyond it.
+function law = random_boucw (law, n)
+  law.pages = max (law.pages, ceil (3 * ceil (law.page / 3) / law.page));
+  exponents = [1 2 3 0.5+2*rand];
+  law.parameters = [0; rand; 5 * randn; rand; 0.5 + rand; 2 * rand; 2 * randn; exponents(randi (4))];
+  law.places = random_store (n);
+end
+
 % The time increment of a law, sometimes left to the first step time.
 function h = increment (most)
   h = most * rand * (rand < 0.7);

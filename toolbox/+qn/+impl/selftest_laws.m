@@ -1,27 +1,9 @@
 % CHECKS = SELFTEST_LAWS ()  the checks of qn.selftest that compare runs and force laws with their formulas
 function checks = selftest_laws ()
-  checks = {'linear run', @linear_run; 'law Power', @power; 'law Expon', @expon; 'law Table', @table; 'law Maxw', @maxw; ...
+  checks = {'linear run', @qn.impl.selftest_linear; 'law Power', @power; 'law Expon', @expon; 'law Table', @table; 'law Maxw', @maxw; ...
             'law DahlC', @dahl; 'law sts', @stick_slip; 'law Clima2', @clima; 'law Damper', @damper; ...
-            'law Radial', @radial; 'law Ocvirk', @film; 'law Impact', @impact; 'law User', @user};
-end
-
-% A free oscillation: average acceleration turns every step by the angle 2 atan (w h / 2) and keeps the amplitude.
-function [good, text] = linear_run ()
-  w = 2 * pi * 5;
-  h = 1e-3;
-  n = 2000;
-  t = (0:n) * h;
-  newmark = struct ('type', 2000, 'r', [0, 1 / (4 / h ^ 2 + w ^ 2)], 'tft', t, 'data', [h, h ^ 2 / 4, h / 2, 2 / h, 4 / h ^ 2, 0]);
-  spring = struct ('type', 1, 'pr', w ^ 2, 'ir', int32 (0), 'jc', int32 ([0; 1]));
-  out = struct ('data', t(2:end).', 'def', zeros (1, n));
-  u = 0.01 + zeros (1, 1);
-  v = zeros (1, 1);
-  a = -w ^ 2 * u;
-  quarn ('chandlediagnewmark', {newmark, spring}, struct (), u, v, a, [0 0], struct ('uva', struct ('uva', zeros (4, 1))), out);
-  exact = 0.01 * cos (2 * atan (w * h / 2) * (1:n));
-  difference = max (abs (out.def - exact)) / 0.01;
-  good = all (abs (out.def - exact) <= 1e-11);
-  text = sprintf ('%d steps, relative difference to the closed form %.1e (below 1e-9)', n, difference);
+            'law Radial', @radial; 'law Ocvirk', @film; 'law Impact', @impact; 'law User', @user; ...
+            'law BoucW', @bouc_wen};
 end
 
 function [good, text] = power ()
@@ -117,6 +99,14 @@ function [good, text] = user ()
   e.call = @(x, v, s, t) deal ([3 * x(1) + s; x(2) - 2 * v(1) + t], s + 1);
   [f, u] = evaluated (e, [0.5; 7; 0], [4; 0; 0], 5);
   [good, text] = judged ([f(1:2); u(3)], [3 * 0.5 + 4; 7 - 2 * 4 + 5; 5]);
+end
+
+% First loading to many times the limit (A / (beta + gamma))^(1/n) = 0.5, in one step, and nothing more at the same place.
+function [good, text] = bouc_wen ()
+  e = element (3, 'BoucW', [0; 0; 100; 0.25; 2; 3; 5; 2]);
+  e.iopt = int32 ([-1 1 1 2 1]);
+  [f, u] = evaluated (e, [9; 0; 0], zeros (3, 1), 2);
+  [good, text] = judged ([f(1); u(2:3)], [100 * (0.25 * 9 + 0.75 * 0.5); 0.5; 9]);
 end
 
 % An element that observes N values as they are.

@@ -27,6 +27,8 @@ function test_impact_in_residual (), residual_like_model ('Impact', 17); end
 function test_impact_in_the_integrator (), newmark_like_model ('Impact', 18); end
 function test_user_in_residual (), residual_like_model ('User', 115); end
 function test_user_in_the_integrator (), newmark_like_model ('User', 116); end
+function test_bouc_wen_in_residual (), residual_like_model ('BoucW', 19); end
+function test_bouc_wen_in_the_integrator (), newmark_like_model ('BoucW', 20); end
 
 % 150 set-ups, three evaluations of each.
 function residual_like_model (word, seed)

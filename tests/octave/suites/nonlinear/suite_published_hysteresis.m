@@ -3,6 +3,39 @@ function tests = suite_published_hysteresis ()
   tests = localfunctions ();
 end
 
+% Two cycles of 0.03 m around a limit of 0.01 m: the settled loop, its area, and the first loading, whose z is 0.01 tanh (x / 0.01).
+function test_bouc_wen_loop_settles_where_its_equation_says ()
+  c = published ('Settled Bouc-Wen loop', ...
+                 ['Y.-K. Wen, J. Engineering Mechanics Division ASCE 102, 1976 (R. Bouc, 1967); values by integration of the law''s own ' ...
+                  'equation to rounding'], {'BoucW', 'memory of laws'});
+  b = 0.5 / 0.01 ^ 2;
+  e = state_element ('BoucW', [0 1e5 0.1 1 b b 2], [-1 1 1 2 1], 3);
+  [h, index] = registered ({e});
+  cleanup = onCleanup (@() quarn ('chandleclear', index));
+  steps = 2000;
+  x = 0.03 * sin (2 * pi * (0:2 * steps) / steps);
+  z = zeros (1, numel (x));
+  f = z;
+  u = zeros (3, 1);
+  for k = 1:numel (x)
+    u = [x(k); u(2:3)] + zeros (3, 1);
+    r = zeros (3, 1);
+    quarn ('residual', r, h, u, zeros (3, 1), zeros (3, 1), zeros (1, 2));
+    z(k) = u(2);
+    f(k) = r(1);
+  end
+  at = steps + 1 + steps * [0 72 108 144 180] / 360;
+  names = arrayfun (@(t) sprintf ('z at %g degrees [mm]', t), [0 72 108 144 180], 'uniformoutput', false);
+  wanted = [9.6403399314 9.9987823704 8.5307876963 -2.3240947982 -9.6403399314];
+  expect_published (c, names, wanted, 1e3 * z(at), 1e-6);
+  last = steps + 1:2 * steps + 1;
+  area = sum ((f(last(1:end - 1)) + f(last(2:end))) / 2 .* diff (x(last)));
+  expect_published (c, {'loss of a cycle [J]'}, 68.527436, area, 1e-3);
+  first = 1 + [50 100 200];
+  names = arrayfun (@(x) sprintf ('z of the first loading at %.2f mm [mm]', 1e3 * x), x(first), 'uniformoutput', false);
+  expect_published (c, names, 10 * tanh (x(first) / 0.01), 1e3 * z(first), 1e-6);
+end
+
 % Coulomb slider released (Code_Aster validation manual V5.01.100, SDND100): mass 1 kg on a spring of 1e4 N/m, friction 1 N,
 % released at 0.85 mm. The turning points every pi/100 s come down by 0.2 mm until the spring is weaker than the friction.
 function u = slider (registered_handles)

@@ -138,6 +138,8 @@ function c = cases ()
        'preload', 'note', {with(qn.impact ('stiffness', 1e4, 'gap', -1e-3))}, {with(qn.impact ('stiffness', 1e4))}
        'law_speed', 'warning', {turning(rub (0.1, 50))}, {turning(rub (0, 50))}
        'law_speed', 'warning', {turning(oil (50))}, {turning(oil (0))}
+       'boucwen_feeds', 'warning', {with(bouc_wen (1, 1.1))}, {with(bouc_wen (1, 1))}
+       'boucwen_feeds', 'warning', {with(bouc_wen (1, -1))}, {with(bouc_wen (1.1, -1))}
        'clima2_stiffness', 'warning', {on_pad(pad (1, 10))}, {on_pad(pad (1, 0))}
        'clima2_normal', 'warning', {on_pad(pad (-1, 0))}, {on_pad(pad (1, 0))}
        'clima2_normal', 'warning', {on_pad(pad (-1, 0)), true}, {on_pad(pad (-1e-3, 0)), true}
@@ -177,6 +179,10 @@ end
 
 function law = hit (stiffness, damping)
   law = qn.impact ('stiffness', stiffness, 'damping', damping, 'gap', 1e-3);
+end
+
+function law = bouc_wen (beta, gamma)
+  law = qn.law ('boucwen', 'stiffness', 100, 'ratio', 0.1, 'beta', beta, 'gamma', gamma);
 end
 
 function law = sticks (slip)

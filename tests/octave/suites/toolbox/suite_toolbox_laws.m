@@ -117,7 +117,8 @@ function test_every_law_is_described_with_its_numbers_and_read_back_from_its_han
           qn.law('dahl', 'stiffness', 11, 'slip', 3), qn.law('stickslip', 'contact', 11, 'slip', 30, 'stiffness', 5, 'ground', 2), ...
           qn.law('clima2', 'displacement', [0 1], 'normal', [0 11], 'growth', [3 4], 'friction', 0.2), ...
           qn.law('damper', 'damping', 11, 'exponent', 2), ...
-          qn.law('impact', 'stiffness', 11, 'exponent', 1.25, 'damping', 2, 'gap', 3, 'side', -1)};
+          qn.law('impact', 'stiffness', 11, 'exponent', 1.25, 'damping', 2, 'gap', 3, 'side', -1), ...
+          qn.law('boucwen', 'stiffness', 11, 'ratio', 0.25, 'beta', 3, 'gamma', 2, 'exponent', 1.5, 'A', 1.25)};
   for k = 1:numel (laws)
     law = laws{k};
     text = qn.describe (law);
@@ -261,4 +262,55 @@ function test_energies_of_dampers_and_impacts ()
     if any (diff (d(k).dissipated) < -1e-5), error ('element %d gives energy back', k); end
     if d(k).dissipated(end) < 0.01, error ('element %d takes %g J', k, d(k).dissipated(end)); end
   end
+end
+
+% K at rest, RATIO K after yielding, on the line through the yield point; a straight way back with the shape 0.5.
+function test_a_yielding_spring_runs_into_its_lines ()
+  law = qn.boucwen ('stiffness', 1e4, 'yield', 0.01, 'ratio', 0.2, 'exponent', 8);
+  x = [0:1e-5:0.05, 0.05 - (1e-5:1e-5:0.005)];
+  f = qn.force (law, x, 0 * x, 1);
+  expect_equal (f(301), 1e4 * 0.003, 1e-3);
+  expect_equal (f(5001), 1e4 * (0.2 * 0.05 + 0.8 * 0.01), 1e-6);
+  expect_equal ((f(end) - f(5001)) / (x(end) - x(5001)), 1e4, 1e-6);
+  expect_error (@() qn.boucwen ('stiffness', 1, 'yield', 0.1, 'shape', 0.4), 'qn:input', '~"shape" must be');
+  expect_error (@() qn.boucwen ('stiffness', 1, 'yield', 0.1, 'ratio', 1.1), 'qn:input', '~"ratio" must be');
+  expect_error (@() qn.boucwen ('stiffness', 1, 'yield', 1e-9, 'exponent', 99), 'qn:input', '~beyond all numbers');
+end
+
+% No motion finds a slope above the stiffness that the checks take.
+function test_the_greatest_stiffness_of_a_yielding_spring_bounds_its_slopes ()
+  rand ('twister', 5);
+  for k = 1:10
+    law = qn.law ('boucwen', 'stiffness', 3, 'ratio', rand (), 'beta', 2 * rand (), 'gamma', rand (), 'exponent', 1 + rand (), 'A', 0.5 + rand ());
+    x = cumsum (0.01 * repmat (sign (rand (1, 30) - 0.5), 50, 1)(:).');
+    slope = diff (qn.force (law, x, 0 * x, 1)) ./ diff (x);
+    if any (abs (slope) > qn.impl.stiffest (law, x, []) * (1 + 1e-9)), error ('slope %g', max (abs (slope))); end
+  end
+end
+
+% A mass on a yielding spring: what is lost never comes back, work and energies balance, and the second order shows.
+function test_runs_with_a_yielding_spring ()
+  model = qn.modal (100, 1);
+  law = qn.boucwen ('stiffness', 400, 'yield', 0.01, 'ratio', 0.1, 'shape', 0.7);
+  sim = @(n) qn.simulation (model, 'step', 1 / n, 'until', 1, 'v0', 1, 'elements', {law, 1});
+  res = qn.run (sim (1000), 'progress', false);
+  d = qn.dissipated (res);
+  e = qn.energies (res);
+  if max (abs (e.residual)) > 1e-12, error ('a residual of %g J', max (abs (e.residual))); end
+  if any (diff (d.dissipated) < -1e-6) || d.dissipated(end) < 0.05, error ('it dissipates %g J', d.dissipated(end)); end
+  q = arrayfun (@(n) getfield (qn.run (sim (n), 'progress', false), 'q', {1:n / 1000:n + 1}), [1000 2000 4000], 'uniformoutput', false);
+  order = log2 (norm (q{1} - q{2}) / norm (q{2} - q{3}));
+  if abs (order - 2) > 0.2, error ('order %g', order); end
+  expect_error (@() qn.static (model, 1, {law, 1}), 'qn:input', '~has a memory');
+end
+
+% Cut into two runs, and continued, it keeps its bits.
+function test_a_run_with_a_yielding_spring_goes_on_where_it_was ()
+  model = qn.modal (100, 1);
+  law = qn.boucwen ('stiffness', 400, 'yield', 0.01, 'ratio', 0.1);
+  whole = qn.run (qn.simulation (model, 'step', 1e-3, 'steps', 400, 'v0', 1, 'elements', {law, 1}), 'progress', false);
+  first = qn.run (qn.simulation (model, 'step', 1e-3, 'steps', 150, 'v0', 1, 'elements', {law, 1}), 'progress', false);
+  second = qn.run (qn.simulation (model, 'step', 1e-3, 'steps', 250, 'start', first, 'elements', {law, 1}), 'progress', false);
+  expect_equal (second.q, whole.q(151:end));
+  expect_equal (second.state, whole.state(:, 151:end));
 end

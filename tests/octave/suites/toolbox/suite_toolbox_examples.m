@@ -136,6 +136,13 @@ function test_beam_on_a_shock_table ()
   expect_equal (r.numbers.hertz(1) / (1.8751041 ^ 2 / (2 * pi) * sqrt (70e9 * 25e-6 / 12 / 2700) / 0.25), 1, 1e-5);
 end
 
+function test_a_brace_in_c_pulls_its_storey_back ()
+  r = run_example ('self_centring');
+  % The slider stays where it slid to; the brace is back.
+  expect_equal (abs (r.numbers.rest(2)) > 0.02, true);
+  expect_equal (abs (r.numbers.rest(1)) < 1e-4, true);
+end
+
 function test_every_example_is_run_here ()
   here = fileread ([mfilename('fullpath') '.m']);
   names = all_examples ();

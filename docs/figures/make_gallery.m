@@ -7,8 +7,8 @@ function make_gallery ()
   addpath (toolbox);
   addpath (fileparts (which ('quarn')));
   addpath (fullfile (toolbox, 'examples'));
-  order = {'frame_stop', 'pipe_supports', 'contact_modes', 'rotor_rub', 'rub_stator', 'oil_whirl', 'squeeze_film', 'bladed_disc', 'iwan_joint', ...
-           'coulomb_release', 'dahl_loop', 'duffing_backbone', 'isolator', 'beam_shock', 'shock_spectrum', 'self_centring'};
+  order = {'frame_stop', 'pipe_supports', 'contact_modes', 'rotor_rub', 'rub_stator', 'run_up', 'oil_whirl', 'squeeze_film', 'bladed_disc', ...
+           'iwan_joint', 'coulomb_release', 'dahl_loop', 'duffing_backbone', 'isolator', 'beam_shock', 'shock_spectrum', 'self_centring'};
   files = dir (fullfile (toolbox, 'examples', 'example_*.m'));
   missing = setxor (strcat ('example_', order, '.m'), {files.name});
   if ~isempty (missing), error ('no place in the gallery for %s', strjoin (missing, ', ')); end

@@ -72,6 +72,13 @@ function test_rotor_rubs_with_friction_against_a_stator ()
   expect_equal (r.numbers.moving > 1e-4, [true true]);
 end
 
+function test_rotor_runs_up_through_two_critical_speeds ()
+  r = run_example ('run_up');
+  expect_equal (numel (r.numbers.rpm), 2);
+  % The greatest deflection comes after the critical speed, the later the faster the run-up.
+  expect_equal (r.numbers.top > r.numbers.rpm(1) && r.numbers.top < 1.15 * r.numbers.rpm(1), true);
+end
+
 function test_oil_whirl_begins_where_linear_theory_says ()
   r = run_example ('oil_whirl');
   % Whirl of a journal bearing is at about half the speed of rotation.

@@ -38,7 +38,7 @@ mxArray* integratorValue(Maker& make, std::size_t n, std::size_t steps) {
   for (std::size_t j = 0; table && j <= steps && j * (loads + 1) < mxGetNumberOfElements(tft); ++j) {
     table[j * (loads + 1)] = 0.5 * static_cast<double>(j);
   }
-  const std::size_t pages = in.rarely(3) ? 1 + in.below(8) : 0;
+  const std::size_t pages = in.rarely(3) ? 1 + in.below(n > 100 ? 1 : 8) : 0;  // all in the memory of a session
   const std::size_t gains = pages > 0 ? pages : 1;
   return make.structure({{"type", make.number(2000)},
                          {"r", make.doubles(n, loads + 2)},

@@ -5,25 +5,26 @@ function list = bulk_entries (t)
   list = cell (0, 2);
   open = false;
   key = '';
+  t.text = upper (t.text);
   for k = 1:numel (t.first)
     line = t.text(t.first(k):t.last(k));
     dollar = find (line == '$', 1);
     if ~isempty (dollar), line = line(1:dollar - 1); end
-    line = deblank (line);
-    if isempty (line), continue, end
-    word = upper (strtrim (regexprep (line(1:min (8, end)), '[,*].*$', '')));
-    follows = any (line(1) == '+*') || (isempty (word) && line(1) ~= ',') || line(1) == ',';
+    if all (line == ' '), continue, end
+    head = line(1:min (8, end));
+    follows = any (line(1) == '+*,') || all (head == ' ');
     if follows && ~open, continue, end
     if ~follows
+      word = strtrim (regexprep (head, '[,*].*$', ''));
       open = strcmp (word, 'DMIG');
       if strcmp (word, 'ENDDATA'), break, end
       if any (strcmp (word, {'DMI', 'DMIAX', 'DMIJ'})), qn.impl.formats.refuse (t, k, 'an entry %s; only DMIG is read', word); end
       if ~open, continue, end
     end
-    [fields, next] = qn.impl.formats.bulk_fields (t, k, upper (line));
+    [fields, next] = qn.impl.formats.bulk_fields (t, k, line);
     if follows
-      mine = regexprep (fields{1}, '^[+*]\s*', '');
-      wanted = regexprep (key, '^[+*]\s*', '');
+      mine = bare (fields{1});
+      wanted = bare (key);
       if ~isempty (mine) && ~isempty (wanted) && ~strcmp (mine, wanted)
         qn.impl.formats.refuse (t, k, 'the continuation "%s"; "%s" expected', qn.impl.formats.shown (mine), qn.impl.formats.shown (wanted));
       end
@@ -34,4 +35,10 @@ function list = bulk_entries (t)
     end
     key = next;
   end
+end
+
+% A continuation's name without its sign.
+function key = bare (key)
+  if ~isempty (key) && any (key(1) == '+*'), key = key(2:end); end
+  if ~isempty (key), key = strtrim (key); end
 end

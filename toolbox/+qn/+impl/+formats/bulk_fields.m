@@ -17,10 +17,10 @@ function [fields, key, large] = bulk_fields (t, k, line)
     large = any (line(1:min (8, end)) == '*');
     widths = 8 * ones (1, 10);
     if large, widths = [8 16 16 16 16 8]; end
-    line = [line, repmat(' ', 1, 80 - numel (line))];
+    line(end + 1:80) = ' ';
     parts = strtrim (mat2cell (line(1:80), 1, widths));
   end
   key = parts{end};
   fields = parts(1:end - 1);
-  if isempty (regexp (fields{1}, '^[+*]', 'once')), fields{1} = strtrim (strrep (fields{1}, '*', '')); end
+  if ~isempty (fields{1}) && ~any (fields{1}(1) == '+*'), fields{1} = strtrim (strrep (fields{1}, '*', '')); end
 end

@@ -31,8 +31,8 @@ function s = unv_shape (t, from, to)
   if ~isempty (k)
     qn.impl.formats.refuse (t, next + heads(k) - 1, 'the number of a node expected, got "%s"', qn.impl.formats.shown (c(heads(k), :)));
   end
-  values = zeros (count, parts * x(6));
-  for k = 1:count
+  [values, done] = in_columns (c, heads, each, parts * x(6));
+  for k = find (~done)
     values(k, :) = part_of (t, next + heads(k), to, parts * x(6), '6E13.5', sprintf ('data at node %g', node(k))).';
   end
   if parts == 2, values = complex (values(:, 1:2:end), values(:, 2:2:end)); end
@@ -40,6 +40,17 @@ function s = unv_shape (t, from, to)
   if numel (unique_nodes) < count, qn.impl.formats.refuse (t, from, 'a node comes twice in this dataset'); end
   s.node = node;
   s.values = values;
+end
+
+% The values of all nodes at once; DONE is false for nodes whose lines are to be looked at one by one.
+function [values, done] = in_columns (c, heads, each, count)
+  c(heads, :) = [];
+  [x, good, point, unused, blank] = qn.impl.formats.parse (reshape (c(:, 1:78).', 13, []).');
+  good = reshape (good & ~blank & (point | x == 0), 6 * (each - 1), []);
+  blank = reshape (blank, 6 * (each - 1), []);
+  x = reshape (x, 6 * (each - 1), []);
+  done = all ([good(1:count, :); blank(count + 1:end, :)], 1);
+  values = x(1:count, :).';
 end
 
 function [x, next] = part_of (t, from, to, count, layout, what)

@@ -56,13 +56,24 @@ function found = check_growth (sim, res)
       x = e.observe * res.q;
       state = qn.impl.memory_of (sim, k, res.state);
     end
+    elsewhere = ~isequal (e.observe, e.command);
     stiff = qn.impl.stiffest (e.law, x, state);
-    if stiff == 0 || ~isfinite (stiff) || (~coupled && isequal (e.observe, e.command)), continue, end
+    % Where it is the motion that makes it stiff: what the linear model can reach.
+    if isempty (res) && stiff == 0 && elsewhere
+      can = max (abs (e.observe) * qn.impl.motion_bound (sim));
+      if isfinite (can), stiff = qn.impl.stiffest (e.law, [-can, can], []); end
+    end
+    if stiff == 0 || ~isfinite (stiff) || (~coupled && ~elsewhere), continue, end
     [grows, real_rate] = qn.impl.linear_step (sim, stiff * e.command.' * e.observe);
     before = numel (found);
     found = judge (found, sim, grows, real_rate, sprintf ('with element %d at its stiffest, %g N/m, the linear model', e.item, stiff));
     % How long it stays there is not known.
     if numel (found) > before && qn.impl.softest (e.law) < stiff, found(end).level = 'warning'; end
+    if numel (found) == before && elsewhere && real_rate * (sim.time(end) - sim.time(1)) > 0.05 && real_rate > 1e-7 * max (sim.model.w)
+      found(end + 1) = qn.impl.finding ('model_grows', 'warning', ...
+        ['element %d acts elsewhere than it observes, and at its stiffest, %g N/m, lets the motion itself grow by a factor of e in ' ...
+         '%.3g s. If that is not meant, look at its rows and their signs'], e.item, stiff, 1 / real_rate);
+    end
     if numel (found) > 8, return, end
   end
 end

@@ -14,4 +14,7 @@ function found = check_motion (res, before)
       if ~any (strcmp (one(j).code, said)), found(end + 1) = one(j); end
     end
   end
+  if ~any (strcmp ('phase', said))
+    for one = qn.impl.check_phase (res), found(end + 1) = one; end
+  end
 end

@@ -13,16 +13,22 @@ function found = check_step (sim)
     modes = modes(1:max (1, numel (modes) - sim.model.attached));
   end
   [own, highest] = max (modes);
+  [off, worst] = qn.impl.linear_error (sim);
   if w * h > s.limit
     found(end + 1) = qn.impl.finding ('step_unstable', 'error', ...
       ['the step of %g s is too long for mode %d (%g Hz): with %s it must stay ' ...
       'below %g s; shorten it, keep fewer modes or take the scheme ''average'''], h, top, w / (2 * pi), s.name, s.limit / w);
   elseif own * h > 2 * pi / 10
+    level = 'warning';
+    if ~reached (sim, highest), level = 'note'; end
     longer = elongation (own * h, s);
     sides = {'long', 'short'};
-    found(end + 1) = qn.impl.finding ('step_coarse', 'warning', ['mode %d (%g Hz) gets %.1f steps a period; its period will come out ' ...
+    found(end + 1) = qn.impl.finding ('step_coarse', level, ['mode %d (%g Hz) gets %.1f steps a period; its period will come out ' ...
       '%.0f %% too %s. Where it matters, take a step of %.2g s'], highest, own / (2 * pi), 2 * pi / (own * h), 100 * abs (longer), ...
       sides{1 + (longer < 0)}, 2 * pi / (20 * own));
+  end
+  if w * h <= s.limit && off > 0.04
+    found(end + 1) = qn.impl.phase_finding (sim, off, worst, 'the linear model without elements', '');
   end
   low = all_of(all_of > 0);
   if ~isempty (low) && last * min (low) < 2 * pi
@@ -49,6 +55,17 @@ function model = fastest (sim)
   if ~qn.impl.runs_up (sim), return, end
   omega = qn.impl.speed_at (sim, sim.time);
   model = qn.impl.at_speed (model, max (abs (omega)), 0);
+end
+
+% Whether anything moves mode K: an initial value, a load or an element. Where modes are coupled they move one another.
+function yes = reached (sim, k)
+  m = numel (sim.model.w);
+  yes = size (sim.model.stiffness, 2) > 1 || size (sim.model.damping, 2) > 1 || qn.impl.runs_up (sim);
+  pushes = sim.shapes;
+  if ~isempty (pushes), pushes = pushes(:, any (sim.loads, 2)); end
+  for e = sim.elements(:).', pushes = [pushes, e.command.']; end
+  pushes = [pushes, sim.start.u(1:m), sim.start.v(1:m)];
+  yes = yes || any (abs (pushes(k, :)) > 1e-9 * max (abs (pushes), [], 1));
 end
 
 % Relative growth of the period of an undamped mode with W*H = X: the step multiplies its state by numbers whose sum and product are

@@ -20,6 +20,7 @@ function found = findings (sim, res)
   end
   lists{end + 1} = qn.impl.check_together (sim);
   lists{end + 1} = qn.impl.check_flexibility (sim);
+  if ~isempty (res), lists{end + 1} = qn.impl.check_phase (res); end
   % Octave 7 loses the fields when it puts empty struct arrays one after another.
   for k = 1:numel (lists)
     for j = 1:numel (lists{k}), found(end + 1) = lists{k}(j); end

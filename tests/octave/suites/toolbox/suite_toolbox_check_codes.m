@@ -47,6 +47,11 @@ function sim = on_chain (stiffness, varargin)
                        'elements', {qn.gap('gap', 1e-4, 'stiffness', stiffness), qn.observe(model, 1)});
 end
 
+% Two masses that do not meet; the fast one is still.
+function sim = aside (step)
+  sim = qn.simulation (qn.modal (diag ([1 4e4]), eye (2)), 'step', step, 'until', 10, 'v0', [1; 0]);
+end
+
 % Two equal modes that damping or stiffness matrices couple.
 function sim = coupled (damping, stiffness, scheme, step)
   sim = qn.simulation (qn.modal (1e4 * eye (2), eye (2)), 'step', step, 'until', 2, 'q0', [1e-3; 0], 'scheme', scheme);
@@ -86,6 +91,9 @@ function c = cases ()
        'table_order', 'error', {in_element(with (stop (1e-3)), 'law', turned (stop (1e-3)))}, {with(stop (1e-3))}
        'step_unstable', 'error', {good('step', 0.018, 'scheme', 'linear')}, {good('step', 0.017, 'scheme', 'linear')}
        'step_coarse', 'warning', {good('step', 4e-3)}, {good('step', 3e-3)}
+       'step_coarse', 'note', {aside(4e-3)}, {aside(3e-3)}
+       'phase', 'warning', {good('until', 2, 'step', 2e-3)}, {good('until', 2, 'step', 1e-4)}
+       'phase', 'warning', {with(stiff (3e5), 'until', 2, 'step', 3e-4), true}, {with(stiff (3e5), 'until', 0.2, 'step', 1e-4), true}
        'growth', 'error', {coupled(zeros (2), [4e4 1e4; 1e4 4e4], 'linear', 0.02)}, ...
                           {coupled(zeros (2), [4e4 1e4; 1e4 4e4], 'linear', 0.01)}
        'model_grows', 'warning', {coupled(0.1 * eye (2), 1e4 * eye (2) + 3e3 * skew, 'average', 1e-3)}, ...
@@ -316,7 +324,7 @@ end
 
 % A cubic spring says nothing of its stiffness before the motion is known; after the run it does.
 function test_stiffness_of_the_motion_that_occurred_is_looked_at_after_the_run ()
-  sim = with (qn.cubic ('stiffness', 1e11), 'step', 1e-3);
+  sim = with (qn.cubic ('stiffness', 1e11), 'step', 1e-3, 'until', 0.05);
   expect_equal (numel (qn.check (sim)), 0);
   said = evalc ('qn.run (sim, ''progress'', false);');
   if isempty (strfind (said, 'element 1')), error ('said: "%s"', said); end

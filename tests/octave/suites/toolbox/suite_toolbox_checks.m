@@ -83,10 +83,10 @@ end
 function test_motion_beyond_a_table_is_found_after_the_run ()
   model = oscillator ();
   law = qn.law ('table', 'displacement', [-1e-3 0 1e-3], 'force', [-1 0 1]);
-  sim = qn.simulation (model, 'step', 1e-3, 'until', 1, 'v0', 1, 'elements', {law, qn.observe(model, 1)});
+  sim = qn.simulation (model, 'step', 1e-4, 'until', 1, 'v0', 1, 'elements', {law, qn.observe(model, 1)});
   expect_equal (numel (qn.check (sim)), 0);
   says (qn.check (sim, qn.run (sim)), 'note', 'beyond it the end segments go on');
-  stop = qn.simulation (model, 'step', 1e-3, 'until', 1, 'v0', 1, 'elements', {qn.stop('gap', 1e-4, 'stiffness', 1e3), qn.observe(model, 1)});
+  stop = qn.simulation (model, 'step', 1e-4, 'until', 1, 'v0', 1, 'elements', {qn.stop('gap', 1e-4, 'stiffness', 1e3), qn.observe(model, 1)});
   expect_equal (numel (qn.check (stop, qn.run (stop))), 0);
 end
 
@@ -238,4 +238,89 @@ function test_growth_with_an_element_at_its_stiffest_is_an_error_only_where_it_a
   says (found, 'warning', 'with element 1 at its stiffest, 1e\+08 N/m, the linear model grows');
   if any (strcmp ({found.level}, 'error')), error ('an error is announced'); end
   says (qn.check (set_up (qn.law ('power', 'stiffness', 1e8, 'exponent', 1))), 'error', 'with element 1 at its stiffest');
+end
+
+% 20 steps a period over 8 periods gave a wrong phase, 39 % of the displacement, without a word. The share that is told is the real one.
+function test_a_phase_that_falls_behind_over_many_periods_is_told_with_its_error ()
+  model = oscillator ();
+  set_up = @(periods, steps) qn.simulation (model, 'step', 2 * pi / 200 / steps, 'steps', periods * steps, 'v0', 1);
+  for c = [8 20; 12 39; 5 20; 2 12].'
+    sim = set_up (c(1), c(2));
+    found = qn.check (sim);
+    expect_equal ({found.code, found.level}, {'phase', 'warning'});
+    told = sscanf (found.text(strfind (found.text, 'up to'):end), 'up to %g') / 100;
+    expect_equal (told / error_of (qn.run (sim, 'check', false, 'progress', false)), 1, 0.05);
+  end
+  expect_equal (numel (qn.check (set_up (1, 30))), 0);
+  % Nothing is said of a mode that falls behind and is not moved, or whose motion is damped away before.
+  two = qn.modal (diag ([1e4 1e6]), eye (2));
+  expect_equal (numel (qn.check (qn.simulation (two, 'step', 5e-4, 'until', 0.1, 'v0', [1; 0]))), 0);
+  damped = qn.modal (4e4, 1, 'damping', 0.1);
+  expect_equal (numel (qn.check (qn.simulation (damped, 'step', 8e-4, 'until', 3, 'v0', 1))), 0);
+end
+
+% Against fine runs: several modes, loads, both ways of computing (uncoupled, coupled), both schemes.
+function test_the_error_of_the_linear_model_that_is_told_is_that_of_the_run ()
+  rand ('twister', 31);
+  randn ('twister', 31);
+  for round = 1:12
+    n = 1 + mod (round, 4);
+    more = {'damping', 0.02 * rand()};
+    if round > 6, g = randn (n); more = {'C', 5 * eye(n) + 3 * (g - g.')}; end
+    model = qn.modal (1e4 * (2 * eye (n) - diag (ones (n - 1, 1), 1) - diag (ones (n - 1, 1), -1)), diag (0.5 + rand (1, n)), more{:});
+    schemes = {'average', 'linear'};
+    h = 0.3 / max (model.w);
+    given = {'v0', randn(n, 1), 'scheme', schemes{1 + mod(round, 2)}, 'load', {qn.load_at(model, n), @(t) 100 * sin(70 * t)}};
+    sim = qn.simulation (model, 'step', h, 'steps', 300, given{:});
+    coarse = qn.run (sim, 'check', false, 'progress', false);
+    fine = qn.run (qn.simulation (model, 'step', h / 32, 'steps', 300 * 32, given{:}, 'every', 32), 'check', false, 'progress', false);
+    exact = model.shapes * fine.q;
+    off = max (max (abs (model.shapes * coarse.q - exact))) / max (abs (exact(:)));
+    % The fine run sees the load between the coarse steps, which are told of as if it were straight there.
+    expect_equal (qn.impl.linear_error (sim) / off, 1, 0.15);
+  end
+end
+
+% A friction element that acts elsewhere than it observes, and a stiff spring: the linear model alone was right, the run was not.
+function test_a_phase_that_an_element_makes_is_told_after_the_run ()
+  model = qn.modal (100, 1);
+  spring = {qn.law('power', 'stiffness', 4e4, 'exponent', 1), qn.observe(model, 1)};
+  sim = qn.simulation (model, 'step', 4e-4, 'until', 0.65, 'v0', 1, 'elements', spring);
+  expect_equal (numel (qn.check (sim)), 0);
+  res = qn.run (sim, 'check', false, 'progress', false);
+  found = qn.check (sim, res);
+  expect_equal (any (strcmp ({found.code}, 'phase')), false);
+  sim = qn.simulation (model, 'step', 1.2e-3, 'until', 3, 'v0', 1, 'elements', spring);
+  res = qn.run (sim, 'check', false, 'progress', false);
+  found = qn.check (sim, res);
+  told = found(find (strcmp ({found.code}, 'phase'), 1));
+  told = sscanf (told.text(strfind (told.text, 'up to'):end), 'up to %g') / 100;
+  w = sqrt (40100);
+  off = max (abs (res.q - sin (w * res.time) / w)) * w;
+  expect_equal (told / off, 1, 0.1);
+end
+
+% A cubic spring with its force elsewhere ran away, and nothing was said before.
+function test_a_spring_that_feeds_the_motion_from_elsewhere_is_named_before_the_run ()
+  model = qn.modal (1e4 * [2 -1; -1 2], eye (2));
+  [here, there] = deal (qn.observe (model, 1), qn.observe (model, 2));
+  for law = {qn.cubic('stiffness', 1e9), qn.law('power', 'stiffness', 3e4, 'exponent', 1)}
+    % The force on 2 of the displacement of 1: a stiffness of which the coupling is not symmetric, with poles on the right.
+    sim = qn.simulation (model, 'step', 1e-4, 'until', 0.5, 'v0', [1; 0], 'elements', {law{1}, here, there});
+    found = qn.check (sim);
+    says (found, 'warning', 'element 1 acts elsewhere than it observes, and at its stiffest, .* lets the motion itself grow');
+    found = qn.check (qn.simulation (model, 'step', 1e-4, 'until', 0.5, 'v0', [1; 0], 'elements', {law{1}, here}));
+    if any (strcmp ({found.code}, 'model_grows')), error ('one that acts where it observes feeds nothing'); end
+  end
+end
+
+% Modes that nothing moves get a note.
+function test_a_fast_mode_is_a_warning_only_where_something_moves_it ()
+  model = qn.modal (diag ([100 4e4]), eye (2));
+  level_of = @(varargin) getfield (qn.check (qn.simulation (model, 'step', 5e-3, 'until', 1, 'v0', [1e-3; 0], varargin{:})), {1}, 'level');
+  expect_equal (level_of (), 'note');
+  expect_equal (level_of ('load', {qn.load_at(model, 1), @sin}), 'note');
+  expect_equal (level_of ('load', {qn.load_at(model, 2), @sin}), 'warning');
+  expect_equal (level_of ('elements', {qn.cubic('stiffness', 1), qn.observe(model, 1)}), 'note');
+  expect_equal (level_of ('elements', {qn.cubic('stiffness', 1), qn.observe(model, [1 2], [1 -1])}), 'warning');
 end

@@ -157,6 +157,12 @@ function test_matrix_cell_is_counted_by_its_columns ()
   expect_equal (residual_of ([K {@sin}], s{:}), residual_of (K, s{:}));
 end
 
+function test_more_columns_than_an_integer_counts_are_enough ()
+  r = [1; 2];
+  quarn ('residual', r, cell (0, 3e9), [1; 2], [1; 2], [1; 2]);
+  expect_equal (r, [1; 2]);
+end
+
 function test_models_that_are_none_are_refused ()
   s = state ();
   wrong = {5, 'model', @sin, [], int32(1), true, v_handle(1), sparse(1)};

@@ -125,9 +125,11 @@ end
 
 function test_values_nested_too_deep_for_the_stack ()
   value = {};
-  for k = 1:1900, value = {value}; end
+  for k = 1:2000, value = {value}; end
   h = quarn ('chandleset', 1, value);
   expect_equal (numel (quarn ('chandleget', h)), 1);
+  value = {value};
+  expect_refused (@() quarn ('chandleset', 1, value), '~^quarn chandleset : a value may be nested 2000 levels deep');
   for k = 1:20000, value = {value}; end
   expect_refused (@() quarn ('chandleset', 1, value), '~^quarn chandleset : a value may be nested 2000 levels deep');
 end

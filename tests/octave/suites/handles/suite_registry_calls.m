@@ -109,6 +109,17 @@ function test_handles_that_a_function_freed_leave_their_memory_at_the_next_call 
   if resident_memory () - before > 8e4, error ('40 values of 8 MB: memory grew by %d KiB', resident_memory () - before); end
 end
 
+function test_the_last_handle_that_a_function_freed_leaves_its_memory_too ()
+  if ~isempty (getenv ('QUARN_SANITIZED')), skip_test ('the allocator of the sanitizers keeps freed memory'); end
+  value = matrix_lines (speye (2));
+  value.pr = ones (5e6, 1);
+  before = resident_memory ();
+  i = quarn ('chandleset', 1, value);
+  quarn ('chandleget', @(x) quarn ('chandleclear', i), i);
+  quarn ('ismex');
+  if resident_memory () - before > 2e4, error ('a value of 40 MB: memory grew by %d KiB', resident_memory () - before); end
+end
+
 function test_a_function_cannot_unload_the_module_that_waits_for_it ()
   for k = 1:10
     h = quarn ('chandleset', 1, {'stays', k});

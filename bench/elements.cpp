@@ -31,15 +31,15 @@ const std::vector<Recipe>& recipes() {
       {"Power", 1, 1, {0.5, 3.0}, {-1}},
       {"Expon", 1, 1, {0.5, 1.1}, {-1}},
       {"Table", 1, 1, with({}, table), {-1, 0, 0, 0, 0, 1, 11, 5, 1}},
-      {"BoucW", 3, 3, {0, 0, 100.0, 0.1, 1.0, 0.5, 0.5, 2.0}, {-1, 0, 0, 0, 0}},
+      {"BoucWen", 3, 3, {0, 0, 100.0, 0.1, 1.0, 0.5, 0.5, 2.0}, {-1, 0, 0, 0, 0}},
       {"DahlC", 2, 2, {0, 1e-3, 100.0, 1.0, 0.5, 2.0}, {-1, 0, 0, 0, 0}},
       {"sts", 2, 1, {0, 1e-3, 1.0, 100.0, 0.0, 1.0}, {-1, 0, 0, 0, 0}},
-      {"Impact", 1, 1, {0.5, 1.5, 0.1, -1.0, 1.0}, {-1}},
+      {"Contact", 1, 1, {0.5, 1.5, 0.1, -1.0, 1.0}, {-1}},
       {"Damper", 1, 1, {0.5, 2.0}, {-1}},
       // Gap, stiffness, exponent, damping, friction, onset, radius, speed, centre.
       {"Radial", 2, 2, {0.1, 100.0, 1.5, 0.2, 0.1, 0.01, 0.5, 3.0, 0.05, -0.05}, {-1}},
       // Viscosity, length, radius, clearance, spin, limit, centre, record.
-      {"Ocvirk", 2, 2, {0.1, 0.3, 0.5, 2.0, 3.0, 0.9, 0.05, -0.05, 0.0}, {-1}},
+      {"Journal", 2, 2, {0.1, 0.3, 0.5, 2.0, 3.0, 0.9, 0.05, -0.05, 0.0}, {-1}},
       // One sub-step, one internal state: blocks Cu, Dv (6 values each), B (2), A (1), E (2).
       {"Maxw", 2, 2, {0, 1e-3, 1, 0, 10, -5, 0, 0, 0, 0, 0.1, 0, 0, 0, 0, 0, 1, 0, -2, 0, 0}, {-1, 0, 2, 1, 1}},
       {"Clima2", 5, 3, with({0, 1e-3, 2.0, 1.0, 0.3, 0.1}, wide), {-1, 0, 0, 0, 0, 7, 22, 5, 2}},
@@ -126,7 +126,7 @@ chandle* element(const std::string& law, int groups, int columns, int first) {
   std::vector<int> ir;
   for (int i = 0; i < values; ++i) {
     // States are not observed: their lines are empty.
-    const int observed = r.group == 5 ? 3 : (r.law == "Radial" || r.law == "Ocvirk" ? 2 : 1);
+    const int observed = r.group == 5 ? 3 : (r.law == "Radial" || r.law == "Journal" ? 2 : 1);
     if (i % r.group < observed) ir.push_back((first + i) % columns);
     jc.push_back(static_cast<int>(ir.size()));
   }

@@ -167,9 +167,9 @@ void lawLoop(const std::string& law, LawArrays& a) {
     for (std::size_t i = 0; i < n; ++i) a.snl[i] = o[1] * std::pow(o[2], a.unl[i]);
   } else if (law == "Damper") {
     for (std::size_t i = 0; i < n; ++i) a.snl[i] = o[1] * std::copysign(std::pow(std::fabs(a.vnl[i]), o[2]), a.vnl[i]);
-  } else if (law == "BoucW") {
+  } else if (law == "BoucWen") {
     boucWenLoop(a);
-  } else if (law == "Impact") {
+  } else if (law == "Contact") {
     impactLoop(a);
   } else if (law == "Table") {
     int segment = 0;
@@ -182,7 +182,7 @@ void lawLoop(const std::string& law, LawArrays& a) {
     maxwellLoop(a);
   } else if (law == "Radial") {
     radialLoop(a);
-  } else if (law == "Ocvirk") {
+  } else if (law == "Journal") {
     filmLoop(a);
   } else if (law == "Clima2") {
     climaLoop(a);

@@ -35,7 +35,7 @@
 %   models         qn.modal, qn.rayleigh, qn.observe, qn.load_at, qn.base
 %   rotors         qn.rotor, qn.campbell, qn.unbalance, qn.gravity
 %   force laws     qn.law, qn.table, qn.describe, qn.element, qn.force
-%   recipes        qn.gap, qn.stop, qn.impact, qn.bilinear, qn.cubic, qn.damper, qn.slider, qn.boucwen, qn.iwan, qn.zener, qn.maxwell,
+%   recipes        qn.gap, qn.stop, qn.contact, qn.bilinear, qn.cubic, qn.damper, qn.slider, qn.boucwen, qn.iwan, qn.zener, qn.maxwell,
 %                  qn.bearing, qn.radial, qn.journal, qn.journal_coefficients
 %   simulation     qn.scheme, qn.simulation, qn.check, qn.advise, qn.run, qn.resume, qn.interrupted
 %   sweeps         qn.sweep, qn.grid

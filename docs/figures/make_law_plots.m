@@ -121,7 +121,7 @@ function film ()
   % At rest on x, turned until the force points upwards. The clearance is the circle.
   c = 1e-4;
   eccentricity = linspace (0.005, 0.985, 99);
-  e = element ('Ocvirk', [0.02 0.03 0.05 c 157 0.99 0 0 0], 2);
+  e = element ('Journal', [0.02 0.03 0.05 c 157 0.99 0 0 0], 2);
   f = drive (e, [c * eccentricity; 0 * eccentricity], zeros (2, 99));
   place = eccentricity .* exp (1i * (-pi / 2 - atan2 (f(2, :), f(1, :))));
   figure (1, 'visible', 'off');
@@ -141,15 +141,15 @@ function film ()
   grid ('on');
   box ('on');
   set (gca (), 'gridlinestyle', ':', 'gridcolor', 0.6 * ones (1, 3), 'fontsize', 11);
-  title ('Ocvirk: the journal under a load downwards, turning anticlockwise', 'fontweight', 'normal');
+  title ('Journal: the journal under a load downwards, turning anticlockwise', 'fontweight', 'normal');
   xlabel ('x / clearance');
   ylabel ('y / clearance');
-  save_plot ('law_ocvirk');
+  save_plot ('law_journal');
 end
 
 % A mass of 1 kg hits the stop at x = 1 mm and leaves it: central differences, which need no more than the force.
 function impact ()
-  e = element ('Impact', [1e6 1.5 0.5 1e-3 1], 1);
+  e = element ('Contact', [1e6 1.5 0.5 1e-3 1], 1);
   speeds = [0.25 0.5 1];
   h = 1e-5;
   names = {};
@@ -166,7 +166,7 @@ function impact ()
     end
     names{k} = sprintf ('%g m/s, %.2g m/s back', speeds(k), -v);
   end
-  draw ('law_impact', 1e3 * at, f, names, 'Impact: k = 1e6 N/m^{1.5}, chi = 0.5 s/m, gap 1 mm, on 1 kg', 'displacement [mm]');
+  draw ('law_contact', 1e3 * at, f, names, 'Contact: k = 1e6 N/m^{1.5}, chi = 0.5 s/m, gap 1 mm, on 1 kg', 'displacement [mm]');
 end
 
 % A function: a slider beside a spring, which slips to the right at 40 N and to the left at 80 N.
@@ -190,10 +190,10 @@ function bouc_wen ()
   f = zeros (3, numel (last));
   for k = 1:3
     b = 0.5 / 0.01 ^ exponents(k);
-    force = drive (element ('BoucW', [0 1e5 0.1 1 b b exponents(k)], 3, [-1 1 1 2 1]), [x; 0 * x; 0 * x], [v; 0 * v; 0 * v]);
+    force = drive (element ('BoucWen', [0 1e5 0.1 1 b b exponents(k)], 3, [-1 1 1 2 1]), [x; 0 * x; 0 * x], [v; 0 * v; 0 * v]);
     f(k, :) = force(1, last);
   end
-  draw ('law_boucw', 1e3 * x(last), f, {'n = 1', 'n = 2', 'n = 10'}, 'BoucW: k = 1e5 N/m, alpha = 0.1, limit of z 10 mm', 'displacement [mm]');
+  draw ('law_boucwen', 1e3 * x(last), f, {'n = 1', 'n = 2', 'n = 10'}, 'BoucWen: k = 1e5 N/m, alpha = 0.1, limit of z 10 mm', 'displacement [mm]');
 end
 
 % Some cycles of a harmonic motion, the samples of the last one, and the time step.
@@ -210,7 +210,7 @@ function e = element (word, parameters, page, iopt, pages)
   if nargin < 5, pages = 1; end
   code = sum (double (word) .* 256 .^ (0:numel (word) - 1));
   opt = [code parameters];
-  if any (strcmp (word, {'Maxw', 'DahlC', 'sts', 'Clima2', 'BoucW'})), opt = [code 0 parameters]; end
+  if any (strcmp (word, {'Maxw', 'DahlC', 'sts', 'Clima2', 'BoucWen'})), opt = [code 0 parameters]; end
   e = struct ('type', 1003, 'opt', opt(:));
   e.c = struct ('ir', int32 ((0:page - 1)'), 'jc', int32 ((0:page)'), 'pr', ones (page, 1), 'dims', [page page], 'trans', 1);
   if nargin > 3, e.iopt = int32 (iopt(:)); end

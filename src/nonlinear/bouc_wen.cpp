@@ -54,11 +54,11 @@ struct Hysteresis {
 }  // namespace
 
 void checkBoucWen(const chandleNl_inout& h, const ROr& /*ro*/) {
-  requireParameters(h, "BoucW", 9);
+  requireParameters(h, "BoucWen", 9);
   const long long last = lastGroupStart(h, 3);
   if (last < 0) return;
-  requireValues("BoucW", "unl", h.unlTotal, last + 3);
-  requireValues("BoucW", "snl", h.snlTotal, last + 1);
+  requireValues("BoucWen", "unl", h.unlTotal, last + 3);
+  requireValues("BoucWen", "snl", h.snlTotal, last + 1);
 }
 
 void FuBoucWen(chandleNl_inout* h, ROr ro) {

@@ -8,12 +8,13 @@ namespace quarn {
 
 namespace {
 
-/// First character in the lowest byte: the sum of character(k) * 256^(k-1).
+/// First character in the lowest byte: the sum of character(k) * 256^(k-1), as the double in "opt" holds it. Of seven characters it is
+/// rounded.
 constexpr std::int64_t codeOf(const char* keyword) {
   std::int64_t code = 0;
   int shift = 0;
   for (const char* c = keyword; *c; ++c, shift += 8) code |= static_cast<std::int64_t>(static_cast<unsigned char>(*c)) << shift;
-  return code;
+  return static_cast<std::int64_t>(static_cast<double>(code));
 }
 
 constexpr LawRow row(const char* keyword, NlForceLaw law, NlLawCheck check, bool needsPages = false) {
@@ -30,10 +31,10 @@ constexpr LawRow laws[] = {
     row("sts", STS, checkSts),
     row("Damper", FuDamper, checkDamper),
     row("Radial", FuRadial, checkRadial),
-    row("Ocvirk", FuOcvirk, checkOcvirk),
-    row("Impact", FuImpact, checkImpact),
+    row("Journal", FuJournal, checkJournal),
+    row("Contact", FuContact, checkContact),
     row("User", FuUser, checkUser),
-    row("BoucW", FuBoucWen, checkBoucWen),
+    row("BoucWen", FuBoucWen, checkBoucWen),
 };
 
 static_assert(codeOf("Power") == 491328597840 && codeOf("Clima2") == 55394028842051 && codeOf("sts") == 7566451);

@@ -30,13 +30,13 @@ void FuDamper(chandleNl_inout* h, ROr ro);
 /// snl = side * max(0, opt[1] * d^opt[2] * (1 + opt[3] * d')) for a depth d = side*unl - opt[4] above 0, else 0: a stop that is reached at
 /// the gap opt[4], on the side of positive values, or where opt[5] is negative of negative ones. It pushes and never pulls. Source: K. H.
 /// Hunt and F. R. E. Crossley, Coefficient of restitution interpreted as damping in vibroimpact, J. Applied Mechanics 42 (1975).
-void FuImpact(chandleNl_inout* h, ROr ro);
+void FuContact(chandleNl_inout* h, ROr ro);
 
 void checkPower(const chandleNl_inout& h, const ROr& ro);
 void checkExpon(const chandleNl_inout& h, const ROr& ro);
 void checkTable(const chandleNl_inout& h, const ROr& ro);
 void checkDamper(const chandleNl_inout& h, const ROr& ro);
-void checkImpact(const chandleNl_inout& h, const ROr& ro);
+void checkContact(const chandleNl_inout& h, const ROr& ro);
 
 /// Refuses a law that works on the velocities of a page without a place for them, or with one array for both observations.
 void requireRates(const chandleNl_inout& h, const char* law);

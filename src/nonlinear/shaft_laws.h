@@ -28,12 +28,12 @@ void FuRadial(chandleNl_inout* h, ROr ro);
 /// R, c [m], W [rad/s], e1, x and y of the bearing's centre [m], from opt[1] on; opt[9] is raised to the greatest sqrt (x^2 + y^2) that is
 /// met, in units of c. Sources: F. W. Ocvirk, NACA TN 2808, 1952; G. B. DuBois and F. W. Ocvirk, NACA Report 1157, 1953; the integrals from
 /// the second derivatives of that of 1/h for X and Y.
-void FuOcvirk(chandleNl_inout* h, ROr ro);
+void FuJournal(chandleNl_inout* h, ROr ro);
 
 // Refuse fewer values than the law reads or writes, a page of unl that holds no pairs, a gap below 0, a clearance that is not above 0, and
 // an e1 that is not between 0 and 1.
 void checkRadial(const chandleNl_inout& h, const ROr& ro);
-void checkOcvirk(const chandleNl_inout& h, const ROr& ro);
+void checkJournal(const chandleNl_inout& h, const ROr& ro);
 
 /// What both laws need: so many parameters in opt, whole pairs in unl, as many values in vnl and snl, unl and vnl apart.
 void requirePairs(const chandleNl_inout& h, const char* law, int parameters);

@@ -11,8 +11,8 @@ namespace fuzz {
 
 namespace {
 
-constexpr const char* lawWords[] = {"Power",  "Maxw",   "Table",  "Expon",  "DahlC", "Clima2", "sts",
-                                    "Damper", "Radial", "Ocvirk", "Impact", "User",  "BoucW"};
+constexpr const char* lawWords[] = {"Power",  "Maxw",   "Table",   "Expon",   "DahlC", "Clima2", "sts",
+                                    "Damper", "Radial", "Journal", "Contact", "User",  "BoucWen"};
 
 double lawCode(const char* word) {
   double code = 0.0;
@@ -71,7 +71,7 @@ Law makeLaw(Bytes& in, const char* word, std::size_t which) {
     law.page = 5 * (1 + in.below(2));
     addTable(in, law, 1 + static_cast<int>(in.below(5)), 2);
   }
-  if (std::string(word) == "Radial" || std::string(word) == "Ocvirk") {
+  if (std::string(word) == "Radial" || std::string(word) == "Journal") {
     law.page = 2 * (1 + in.below(3)) + in.below(20) / 19;
     law.opt[1] = std::abs(law.opt[1]);  // gap
     law.opt[4] = std::abs(law.opt[4]);  // clearance

@@ -41,7 +41,7 @@
 % Recipes
 %   gap            - one-sided contact behind a gap
 %   stop           - two-sided stop
-%   impact         - one-sided stop that loses energy: stiff and damped contact after Hunt and Crossley (1975)
+%   contact        - one-sided stop that loses energy: stiff and damped contact after Hunt and Crossley (1975)
 %   bilinear       - elastic spring whose stiffness changes at a displacement
 %   cubic          - cubic spring, force = K * x^3
 %   slider         - Coulomb slider: sticks like a stiff spring, slides at its slip force

@@ -32,9 +32,9 @@
 %   'journal'      viscosity [Pa s], length [m], radius [m], oil film of a short plain bearing around x0, y0 (Ocvirk), of a journal that
 %                  clearance [m], speed [rad/s],             turns at speed; up to the eccentricity limit, in parts of the clearance.
 %                  limit* (0.99), x0*, y0* [m] (0)           Observes two displacements and their velocities. See qn.journal.
-%   'impact'       stiffness [N/m^p], exponent* p (1.5),     one-sided stop: stiffness * d^p (1 + damping * d') and never below 0, where
+%   'contact'       stiffness [N/m^p], exponent* p (1.5),     one-sided stop: stiffness * d^p (1 + damping * d') and never below 0, where
 %                  damping* [s/m] (0), gap* [m] (0),         side * x is beyond the gap by d > 0; side is 1 or -1 (Hunt and Crossley
-%                  side* (1)                                 1975). See qn.impact.
+%                  side* (1)                                 1975). See qn.contact.
 %   'compiled'     FILE, parameters* ([]), states* (0),      a law of your own in C, in FILE.c (name of the parameter: file); compiled
 %                  rows* (1), hash* ('')                     once. The help of states and rows is that of 'function'; hash is that of
 %                                                            the content, found by qn.law. See docs/user_laws.md

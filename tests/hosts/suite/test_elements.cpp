@@ -35,7 +35,7 @@ TEST_P(Elements, DampersPushAlongTheVelocity) {
 
 TEST_P(Elements, BoucWenHysteresisReachesItsLimitAndStaysAtTheSamePlace) {
   // Stiffness 100, a quarter elastic, A 2, beta 3, gamma 5, exponent 1: the limit is 0.25.
-  mxArray* value = element("BoucW", 3, {0, 0, 100, 0.25, 2, 3, 5, 1}, {{"unl", zeros(3)}, {"snl", zeros(3)}, {"iopt", int32s({-1, 0})}});
+  mxArray* value = element("BoucWen", 3, {0, 0, 100, 0.25, 2, 3, 5, 1}, {{"unl", zeros(3)}, {"snl", zeros(3)}, {"iopt", int32s({-1, 0})}});
   const double index = set(1003, value);
   mxArray* r = zeros(3);
   for (int round = 0; round < 2; ++round) run("residual", {r, handles({index}), column({40, 9, 9}), zeros(3), zeros(0)}, 0);
@@ -47,7 +47,7 @@ TEST_P(Elements, BoucWenHysteresisReachesItsLimitAndStaysAtTheSamePlace) {
 
 TEST_P(Elements, ImpactsPushAndNeverPull) {
   // Stiffness 2, exponent 1, damping 0.5, gap 1, on the side of negative values.
-  const double stop = set(1003, element("Impact", 3, {2, 1, 0.5, 1, -1}, {{"unl", zeros(1)}, {"vnl", zeros(1)}, {"snl", zeros(1)}}));
+  const double stop = set(1003, element("Contact", 3, {2, 1, 0.5, 1, -1}, {{"unl", zeros(1)}, {"vnl", zeros(1)}, {"snl", zeros(1)}}));
   const auto force = [&](double u, double v) {
     mxArray* r = zeros(3);
     run("residual", {r, handles({stop}), column({u, 9, 9}), column({v, 9, 9}), zeros(0)}, 0);

@@ -36,7 +36,8 @@ TEST_P(Gateway, NoCommandMatchesByPrefixOrInAnotherCase) {
 }
 
 TEST_P(Gateway, AStringObjectIsToldFromAnUnknownCommand) {
-  EXPECT_EQ(module(0, {standin::object("string", {{"data", text("ismex")}})}).text, "quarn : a command word is a character vector, got string");
+  EXPECT_EQ(module(0, {standin::object("string", {{"data", text("ismex")}})}).text,
+            "quarn : a command word is a character vector, got string");
   EXPECT_EQ(module(0, {standin::object("strings", {{"data", text("ismex")}})}).text, "quarn : Unknown command");
 }
 

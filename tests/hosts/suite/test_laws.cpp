@@ -81,9 +81,9 @@ TEST_P(Laws, RadialPushesBackAndRubs) {
   keptValues = 1;
 }
 
-TEST_P(Laws, OcvirkCarriesAShaftOnItsFilm) {
+TEST_P(Laws, JournalCarriesAShaftOnItsFilm) {
   // opt: mu, L, R, c, spin, limit, centre, record. At the eccentricity e = 0.5 on x, at rest: 2 e^2/(1-e^2)^2 and pi e/(2 (1-e^2)^1.5).
-  const double index = set(1003, shaft("Ocvirk", {2, 1, 3, 0.5, 7, 0.9, 0, 0, 0}));
+  const double index = set(1003, shaft("Journal", {2, 1, 3, 0.5, 7, 0.9, 0, 0, 0}));
   mxArray* r = zeros(2);
   run("residual", {r, handles({index}), column({0.25, 0}), zeros(2), zeros(0)}, 0);
   const double unit = 2.0 * 7 * 3 / (2 * 0.25);

@@ -2,8 +2,8 @@
 function checks = selftest_laws ()
   checks = {'linear run', @qn.impl.selftest_linear; 'law Power', @power; 'law Expon', @expon; 'law Table', @table; 'law Maxw', @maxw; ...
             'law DahlC', @dahl; 'law sts', @stick_slip; 'law Clima2', @clima; 'law Damper', @damper; ...
-            'law Radial', @radial; 'law Ocvirk', @film; 'law Impact', @impact; 'law User', @user; ...
-            'law BoucW', @bouc_wen};
+            'law Radial', @radial; 'law Journal', @film; 'law Contact', @impact; 'law User', @user; ...
+            'law BoucWen', @bouc_wen};
 end
 
 function [good, text] = power ()
@@ -78,7 +78,7 @@ end
 
 % At rest at half the clearance: 2 e^2/(1-e^2)^2 along the line of centres, pi e/(2 (1-e^2)^1.5) across it.
 function [good, text] = film ()
-  f = evaluated (with_rates (element (2, 'Ocvirk', [2; 1; 3; 0.5; 7; 0.9; 0; 0; 0])), [0.25; 0], [0; 0], 1);
+  f = evaluated (with_rates (element (2, 'Journal', [2; 1; 3; 0.5; 7; 0.9; 0; 0; 0])), [0.25; 0], [0; 0], 1);
   [good, text] = judged (f, 2 * 7 * 3 / (2 * 0.25) * [0.5 / 0.75 ^ 2; -pi / 4 / 0.75 ^ 1.5]);
 end
 
@@ -87,7 +87,7 @@ function [good, text] = impact ()
   x = [1; -0.5; -1.5; -2.5; -2.5];
   speed = [0; 0; -2; 1; 9];
   wanted = [0; 0; -7 * (1 + 0.25 * 2); -7 * 2 ^ 1.5 * (1 - 0.25); 0];
-  [good, text] = judged (evaluated (with_rates (element (5, 'Impact', [7; 1.5; 0.25; 0.5; -1])), x, speed, 1), wanted);
+  [good, text] = judged (evaluated (with_rates (element (5, 'Contact', [7; 1.5; 0.25; 0.5; -1])), x, speed, 1), wanted);
 end
 
 % A law that is a function: two rows and a state that counts the steps.
@@ -103,7 +103,7 @@ end
 
 % First loading to many times the limit (A / (beta + gamma))^(1/n) = 0.5, in one step, and nothing more at the same place.
 function [good, text] = bouc_wen ()
-  e = element (3, 'BoucW', [0; 0; 100; 0.25; 2; 3; 5; 2]);
+  e = element (3, 'BoucWen', [0; 0; 100; 0.25; 2; 3; 5; 2]);
   e.iopt = int32 ([-1 1 1 2 1]);
   [f, u] = evaluated (e, [9; 0; 0], zeros (3, 1), 2);
   [good, text] = judged ([f(1); u(2:3)], [100 * (0.25 * 9 + 0.75 * 0.5); 0.5; 9]);

@@ -7,7 +7,7 @@ end
 function e = element (parameters, page)
   if nargin < 1, parameters = [0 100 0.25 2 3 5 1]; end
   if nargin < 2, page = 3; end
-  e = state_element ('BoucW', parameters, [-1 0 0 0 0], page);
+  e = state_element ('BoucWen', parameters, [-1 0 0 0 0], page);
 end
 
 % z and forces of one registered element at the displacements X, whose states come back through u.
@@ -131,11 +131,11 @@ function test_short_arrays_are_refused ()
   u = zeros (3, 1);
   e = element ();
   e.opt = e.opt(1:8);
-  expect_refused (@() evaluate_law (e, u, u), [head '"opt" of law "BoucW" must hold 9 values or more, got 8']);
-  expect_refused (@() evaluate_law (rmfield (element (), 'iopt'), u, u), [head '"iopt" of law "BoucW" must hold 5 values or more, got 0']);
+  expect_refused (@() evaluate_law (e, u, u), [head '"opt" of law "BoucWen" must hold 9 values or more, got 8']);
+  expect_refused (@() evaluate_law (rmfield (element (), 'iopt'), u, u), [head '"iopt" of law "BoucWen" must hold 5 values or more, got 0']);
   expect_refused (@() evaluate_law (element ([0 100 0.25 2 3 5 1], 4), zeros (4, 1), zeros (4, 1)), ...
-                  [head '"unl" of law "BoucW" must hold 6 values or more, got 4']);
+                  [head '"unl" of law "BoucWen" must hold 6 values or more, got 4']);
   e = element ([0 100 0.25 2 3 5 1], 6);
   e.snl = zeros (3, 1);
-  expect_refused (@() evaluate_law (rmfield (e, 'b'), zeros (6, 1), zeros (6, 1)), [head '"snl" of law "BoucW" must hold 4 values or more, got 3']);
+  expect_refused (@() evaluate_law (rmfield (e, 'b'), zeros (6, 1), zeros (6, 1)), [head '"snl" of law "BoucWen" must hold 4 values or more, got 3']);
 end

@@ -80,7 +80,7 @@ end
 
 % Stiffness 4, exponent 2, damping 0.5, gap 1 unless said.
 function e = stop (side, n)
-  e = element ('Impact', [4 2 0.5 1 side], n);
+  e = element ('Contact', [4 2 0.5 1 side], n);
 end
 
 function test_an_impact_is_met_at_its_gap_on_its_side ()
@@ -113,7 +113,7 @@ function test_short_arrays_of_an_impact_are_refused ()
   e.opt = e.opt(1:5);
   expect_refused (@() evaluate_law (e, u, u), [head 'opt must hold 6 values (code, stiffness, exponent, damping, gap, side), got 5']);
   e = stop (1, 2);
-  expect_refused (@() evaluate_law (rmfield (e, 'vnl'), u, u), [head '"vnl" of law "Impact" must hold 2 values or more, got 0']);
+  expect_refused (@() evaluate_law (rmfield (e, 'vnl'), u, u), [head '"vnl" of law "Contact" must hold 2 values or more, got 0']);
   e.snl = 0;
   expect_refused (@() evaluate_law (rmfield (e, 'b'), u, u), [head 'snl must hold 2 values (as many as a page of unl), got 1']);
 end

@@ -21,14 +21,14 @@ function test_damper_in_residual (), residual_like_model ('Damper', 15); end
 function test_damper_in_the_integrator (), newmark_like_model ('Damper', 16); end
 function test_radial_contact_in_residual (), residual_like_model ('Radial', 31); end
 function test_radial_contact_in_the_integrator (), newmark_like_model ('Radial', 32); end
-function test_oil_film_in_residual (), residual_like_model ('Ocvirk', 33); end
-function test_oil_film_in_the_integrator (), newmark_like_model ('Ocvirk', 34); end
-function test_impact_in_residual (), residual_like_model ('Impact', 17); end
-function test_impact_in_the_integrator (), newmark_like_model ('Impact', 18); end
+function test_oil_film_in_residual (), residual_like_model ('Journal', 33); end
+function test_oil_film_in_the_integrator (), newmark_like_model ('Journal', 34); end
+function test_impact_in_residual (), residual_like_model ('Contact', 17); end
+function test_impact_in_the_integrator (), newmark_like_model ('Contact', 18); end
 function test_user_in_residual (), residual_like_model ('User', 115); end
 function test_user_in_the_integrator (), newmark_like_model ('User', 116); end
-function test_bouc_wen_in_residual (), residual_like_model ('BoucW', 19); end
-function test_bouc_wen_in_the_integrator (), newmark_like_model ('BoucW', 20); end
+function test_bouc_wen_in_residual (), residual_like_model ('BoucWen', 19); end
+function test_bouc_wen_in_the_integrator (), newmark_like_model ('BoucWen', 20); end
 
 % 150 set-ups, three evaluations of each.
 function residual_like_model (word, seed)

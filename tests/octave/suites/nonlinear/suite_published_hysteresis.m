@@ -7,9 +7,9 @@ end
 function test_bouc_wen_loop_settles_where_its_equation_says ()
   c = published ('Settled Bouc-Wen loop', ...
                  ['Y.-K. Wen, J. Engineering Mechanics Division ASCE 102, 1976 (R. Bouc, 1967); values by integration of the law''s own ' ...
-                  'equation to rounding'], {'BoucW', 'memory of laws'});
+                  'equation to rounding'], {'BoucWen', 'memory of laws'});
   b = 0.5 / 0.01 ^ 2;
-  e = state_element ('BoucW', [0 1e5 0.1 1 b b 2], [-1 1 1 2 1], 3);
+  e = state_element ('BoucWen', [0 1e5 0.1 1 b b 2], [-1 1 1 2 1], 3);
   [h, index] = registered ({e});
   cleanup = onCleanup (@() quarn ('chandleclear', index));
   steps = 2000;

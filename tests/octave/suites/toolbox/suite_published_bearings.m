@@ -21,7 +21,7 @@ end
 
 function test_coefficients_of_a_published_bearing ()
   c = published ('Stiffness of a short journal bearing', ...
-                 'M. I. Friswell, J. E. T. Penny, S. D. Garvey and A. W. Lees, Dynamics of Rotating Machines, 2010, example 5.5.1', {'Ocvirk'});
+                 'M. I. Friswell, J. E. T. Penny, S. D. Garvey and A. W. Lees, Dynamics of Rotating Machines, 2010, example 5.5.1', {'Journal'});
   b = qn.journal_coefficients (bearing (), [0 -525]);
   k = abs (b.stiffness) / 1e6;
   expect_published (c, {'eccentricity', 'stiffness, 12.81 [MN/m]', 'stiffness, 16.39 [MN/m]', 'stiffness, 25.06 [MN/m]', ...
@@ -44,7 +44,7 @@ end
 
 function test_load_and_attitude_of_the_short_bearing ()
   c = published ('Load and attitude of a short journal bearing', ...
-                 'closed form of the half film (F. W. Ocvirk, NACA TN 2808, 1952)', {'Ocvirk'});
+                 'closed form of the half film (F. W. Ocvirk, NACA TN 2808, 1952)', {'Journal'});
   e = [.1 .3 .5 .7 .9];
   sommerfeld = [.98997911 .27217603 .10604941 .03296432 .00331488];
   attitude = [82.7078 68.1781 53.6802 38.7040 20.8261];
@@ -60,7 +60,7 @@ end
 % K c/load and C c W/load, direction 1 along the load.
 function test_dimensionless_coefficients_of_the_short_bearing ()
   c = published ('Stiffness and damping of a short journal bearing at the eccentricity 0.5', ...
-                 'closed form of the half film (F. W. Ocvirk, NACA TN 2808, 1952)', {'Ocvirk'});
+                 'closed form of the half film (F. W. Ocvirk, NACA TN 2808, 1952)', {'Journal'});
   load = load_at_eccentricity (0.5);
   b = qn.journal_coefficients (bearing (), [load 0]);
   expect_published (c, {'Kxx', 'Kxy', 'Kyx', 'Kyy'}, [2.923250 3.976642 -.857700 2.209944], ...
@@ -71,7 +71,7 @@ end
 
 function test_threshold_of_a_rigid_rotor_on_its_film ()
   c = published ('Stability of a rigid rotor in short journal bearings', ...
-                 'closed form: Routh criterion with the coefficients of the half film (F. W. Ocvirk, NACA TN 2808, 1952)', {'Ocvirk'});
+                 'closed form: Routh criterion with the coefficients of the half film (F. W. Ocvirk, NACA TN 2808, 1952)', {'Journal'});
   masses = [7.514609 6.790120 7.295272];
   whirls = [.502938 .519417 .473955];
   e = [.1 .3 .6];
@@ -92,7 +92,7 @@ end
 function test_a_run_decays_below_the_threshold_and_grows_above_it ()
   c = published ('Oil whirl of a rigid rotor on both sides of its threshold', ...
                  'closed form: eigenvalues of a rigid rotor with the coefficients of the half film (F. W. Ocvirk, NACA TN 2808, 1952)', ...
-                 {'Ocvirk', 'initial state', 'statics'});
+                 {'Journal', 'initial state', 'statics'});
   load = 525;
   % At 1500 rpm the threshold belongs to this mass.
   b = qn.journal_coefficients (bearing (), [0 -load]);
@@ -120,7 +120,7 @@ end
 
 function test_circular_orbit_in_a_squeeze_film_damper ()
   c = published ('Circular orbit in a squeeze film damper', ...
-                 'closed form of the half film: C = mu R (L/c)^3 (pi/2)/(1-e^2)^1.5, K = 2 mu w R (L/c)^3 e/(1-e^2)^2', {'Ocvirk'});
+                 'closed form of the half film: C = mu R (L/c)^3 (pi/2)/(1-e^2)^1.5, K = 2 mu w R (L/c)^3 e/(1-e^2)^2', {'Journal'});
   film = bearing (0);
   e = 0.4;
   w = 300;

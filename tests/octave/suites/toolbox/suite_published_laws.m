@@ -52,14 +52,14 @@ end
 function test_impact_with_losses_after_hunt_and_crossley ()
   c = published ('Impact with losses after Hunt and Crossley', ...
                  ['K. H. Hunt and F. R. E. Crossley, J. Applied Mechanics 42, 1975: restitution from the first integral, depth and ' ...
-                  'duration by quadrature'], {'Impact', 'contacts'});
+                  'duration by quadrature'], {'Contact', 'contacts'});
   speeds = [0.1 1 5];
   wanted = [0.96773858 6.80911356e-4 2.037332e-2; 0.74843493 3.89257378e-3 1.328982e-2; 0.35237867 1.09239474e-2 1.137558e-2];
   model = qn.modal (0, 1);
   row = qn.observe (model, 1);
   for k = 1:3
     v0 = speeds(k);
-    sim = qn.simulation (model, 'step', 1e-6, 'until', 0.025, 'v0', v0, 'elements', {qn.impact('stiffness', 1e6, 'damping', 0.5), row});
+    sim = qn.simulation (model, 'step', 1e-6, 'until', 0.025, 'v0', v0, 'elements', {qn.contact('stiffness', 1e6, 'damping', 0.5), row});
     res = qn.run (sim, 'progress', false);
     hit = qn.contacts (res, 1);
     v = qn.velocity (res, row);

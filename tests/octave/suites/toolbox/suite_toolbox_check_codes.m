@@ -138,12 +138,12 @@ function c = cases ()
        'film_left', 'warning', {on_film(790, 'every', 10), true}, {on_film(700, 'every', 10), true}
        'film_long', 'note', {on_film(300, 'until', 1e-3, 'length', 0.051)}, {on_film(300, 'until', 1e-3, 'length', 0.049)}
        'film_long', 'warning', {on_film(300, 'until', 1e-3, 'length', 0.101)}, {on_film(300, 'until', 1e-3, 'length', 0.03)}
-       'damper_feeds', 'warning', {with(qn.law ('impact', 'stiffness', 1, 'damping', -1))}, {with(qn.impact ('stiffness', 1))}
+       'damper_feeds', 'warning', {with(qn.law ('contact', 'stiffness', 1, 'damping', -1))}, {with(qn.contact ('stiffness', 1))}
        'damper_coarse', 'warning', {with(hit (3e7, 5), 'v0', 1), true}, {with(hit (3e7, 0.5), 'v0', 1), true}
        'element_coarse', 'warning', {with(hit (3e9, 0), 'v0', 1), true}, {with(hit (3e7, 0), 'v0', 1), true}
-       'gap_far', 'warning', {with(qn.impact ('stiffness', 1e4, 'gap', 1))}, {with(qn.impact ('stiffness', 1e4, 'gap', 1e-3))}
-       'never_closes', 'warning', {with(qn.impact ('stiffness', 1e4, 'gap', 1)), true}, {with(qn.impact ('stiffness', 1e4)), true}
-       'preload', 'note', {with(qn.impact ('stiffness', 1e4, 'gap', -1e-3))}, {with(qn.impact ('stiffness', 1e4))}
+       'gap_far', 'warning', {with(qn.contact ('stiffness', 1e4, 'gap', 1))}, {with(qn.contact ('stiffness', 1e4, 'gap', 1e-3))}
+       'never_closes', 'warning', {with(qn.contact ('stiffness', 1e4, 'gap', 1)), true}, {with(qn.contact ('stiffness', 1e4)), true}
+       'preload', 'note', {with(qn.contact ('stiffness', 1e4, 'gap', -1e-3))}, {with(qn.contact ('stiffness', 1e4))}
        'law_speed', 'warning', {turning(rub (0.1, 50))}, {turning(rub (0, 50))}
        'law_speed', 'warning', {turning(oil (50))}, {turning(oil (0))}
        'boucwen_feeds', 'warning', {with(bouc_wen (1, 1.1))}, {with(bouc_wen (1, 1))}
@@ -186,7 +186,7 @@ function sim = cantilever (push)
 end
 
 function law = hit (stiffness, damping)
-  law = qn.impact ('stiffness', stiffness, 'damping', damping, 'gap', 1e-3);
+  law = qn.contact ('stiffness', stiffness, 'damping', damping, 'gap', 1e-3);
 end
 
 function law = bouc_wen (beta, gamma)

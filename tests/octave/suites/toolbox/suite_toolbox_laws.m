@@ -117,7 +117,7 @@ function test_every_law_is_described_with_its_numbers_and_read_back_from_its_han
           qn.law('dahl', 'stiffness', 11, 'slip', 3), qn.law('stickslip', 'contact', 11, 'slip', 30, 'stiffness', 5, 'ground', 2), ...
           qn.law('clima2', 'displacement', [0 1], 'normal', [0 11], 'growth', [3 4], 'friction', 0.2), ...
           qn.law('damper', 'damping', 11, 'exponent', 2), ...
-          qn.law('impact', 'stiffness', 11, 'exponent', 1.25, 'damping', 2, 'gap', 3, 'side', -1), ...
+          qn.law('contact', 'stiffness', 11, 'exponent', 1.25, 'damping', 2, 'gap', 3, 'side', -1), ...
           qn.law('boucwen', 'stiffness', 11, 'ratio', 0.25, 'beta', 3, 'gamma', 2, 'exponent', 1.5, 'A', 1.25)};
   for k = 1:numel (laws)
     law = laws{k};
@@ -200,29 +200,29 @@ end
 % D (1 + e) = log ((1 + D) / (1 - D e)), and 1 - 2 D / 3 for little damping; a run against the stop agrees.
 function test_an_impact_is_given_by_its_restitution ()
   for e = [0.05 0.35237867 0.9 0.9999]
-    law = qn.impact ('stiffness', 1, 'restitution', e, 'speed', 2);
+    law = qn.contact ('stiffness', 1, 'restitution', e, 'speed', 2);
     d = 2 * law.parameters.damping;
     expect_equal (d * (1 + e), log ((1 + d) / (1 - d * e)), 1e-9);
   end
   for e = [1 - 1e-5, 1 - 0.999e-5, 1 - 1e-7, 1]
-    law = qn.impact ('stiffness', 1, 'restitution', e, 'speed', 1);
+    law = qn.contact ('stiffness', 1, 'restitution', e, 'speed', 1);
     d = law.parameters.damping;
     if abs (d - 1.5 * (1 - e)) > 1e-4 * d, error ('e = %.17g gives D = %g', e, d); end
   end
   model = qn.modal (0, 1);
-  stop = qn.impact ('stiffness', 1e6, 'restitution', 0.6, 'speed', 0.5, 'gap', 0.01, 'side', -1);
+  stop = qn.contact ('stiffness', 1e6, 'restitution', 0.6, 'speed', 0.5, 'gap', 0.01, 'side', -1);
   res = qn.run (qn.simulation (model, 'step', 1e-5, 'until', 0.06, 'v0', -0.5, 'elements', {stop, qn.observe(model, 1)}), 'progress', false);
   v = qn.velocity (res, 1);
   expect_equal (v(end), 0.3, 1e-5);
 end
 
 function test_impacts_and_dampers_are_refused_where_they_make_no_sense ()
-  expect_error (@() qn.impact ('stiffness', 1, 'restitution', 0.5), 'qn:input', '~"restitution" and "speed" go together');
-  expect_error (@() qn.impact ('stiffness', 1, 'speed', 0.5), 'qn:input', '~"restitution" and "speed" go together');
-  expect_error (@() qn.impact ('stiffness', 1, 'restitution', 0.5, 'speed', 1, 'damping', 1), 'qn:input', '~not both');
-  expect_error (@() qn.impact ('stiffness', 1, 'restitution', 1.1, 'speed', 1), 'qn:input', '~"restitution" must be');
-  expect_error (@() qn.impact ('stiffness', 1, 'damping', -1), 'qn:input', '~"damping" must be');
-  expect_error (@() qn.impact ('stiffness', 1, 'side', 2), 'qn:input', '~"side" must be 1 or -1, got 2');
+  expect_error (@() qn.contact ('stiffness', 1, 'restitution', 0.5), 'qn:input', '~"restitution" and "speed" go together');
+  expect_error (@() qn.contact ('stiffness', 1, 'speed', 0.5), 'qn:input', '~"restitution" and "speed" go together');
+  expect_error (@() qn.contact ('stiffness', 1, 'restitution', 0.5, 'speed', 1, 'damping', 1), 'qn:input', '~not both');
+  expect_error (@() qn.contact ('stiffness', 1, 'restitution', 1.1, 'speed', 1), 'qn:input', '~"restitution" must be');
+  expect_error (@() qn.contact ('stiffness', 1, 'damping', -1), 'qn:input', '~"damping" must be');
+  expect_error (@() qn.contact ('stiffness', 1, 'side', 2), 'qn:input', '~"side" must be 1 or -1, got 2');
   expect_error (@() qn.damper ('damping', -1), 'qn:input', '~"damping" must be');
   expect_error (@() qn.damper ('damping', 1, 'exponent', 0), 'qn:input', '~"exponent" must be');
   expect_error (@() qn.force (qn.damper ('damping', 1), 1), 'qn:input', '~depends on the velocity');
@@ -232,14 +232,14 @@ end
 function test_forces_of_the_velocity_add_up_in_a_bank ()
   x = [0.1 0.3 0.5];
   v = [1 -2 0.5];
-  bank = [qn.damper('damping', 3, 'exponent', 2), qn.cubic('stiffness', 7), qn.impact('stiffness', 5, 'exponent', 1, 'damping', 0.2, 'gap', 0.2)];
+  bank = [qn.damper('damping', 3, 'exponent', 2), qn.cubic('stiffness', 7), qn.contact('stiffness', 5, 'exponent', 1, 'damping', 0.2, 'gap', 0.2)];
   expect_equal (qn.force (bank, x, v), 3 * v .* abs (v) + 7 * x .^ 3 + 5 * max (0, x - 0.2) .* (1 + 0.2 * v), 1e-14);
 end
 
 % Nothing moves in equilibrium: a damper has no force there, a stop that of its depth.
 function test_dampers_and_impacts_at_rest ()
   model = qn.modal (1e4, 1);
-  elements = {qn.damper('damping', 1e3), 1; qn.impact('stiffness', 1e5, 'exponent', 1, 'damping', 5, 'gap', 0.01), 1};
+  elements = {qn.damper('damping', 1e3), 1; qn.contact('stiffness', 1e5, 'exponent', 1, 'damping', 5, 'gap', 0.01), 1};
   q = qn.static (model, 300, elements);
   expect_equal (q, (300 + 1e5 * 0.01) / 1.1e5, 1e-9);
   expect_error (@() qn.harmonic (model, 1, elements(1, :), [1 2]), 'qn:input', '~law of the displacement alone');
@@ -248,7 +248,7 @@ end
 % What is stored and what is lost, for both laws, balances the energy of the mass.
 function test_energies_of_dampers_and_impacts ()
   model = qn.modal (100, 1);
-  elements = {qn.damper('damping', 0.4, 'exponent', 2), 1; qn.impact('stiffness', 1e5, 'damping', 0.5, 'gap', 0.05), 1};
+  elements = {qn.damper('damping', 0.4, 'exponent', 2), 1; qn.contact('stiffness', 1e5, 'damping', 0.5, 'gap', 0.05), 1};
   sim = qn.simulation (model, 'step', 1e-4, 'until', 2, 'v0', 1, 'elements', elements);
   res = qn.run (sim, 'progress', false);
   e = qn.energies (res);

@@ -6,12 +6,12 @@ function l = boucwen_law ()
                 'gamma', '<required>', 'number'
                 'exponent', 1, 'positive'
                 'A', 1, 'positive'};
-  l = struct ('kind', 'boucwen', 'keyword', 'BoucW', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
+  l = struct ('kind', 'boucwen', 'keyword', 'BoucWen', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
               'stiffest', @stiffest, 'traits', @traits, 'stored', @stored, 'reserve', @reserve, 'check', @check);
 end
 
 function [opt, own] = pack (p, step)
-  opt = [qn.impl.keyword('BoucW'); 0; step; p.stiffness; p.ratio; p.A; p.beta; p.gamma; p.exponent];
+  opt = [qn.impl.keyword('BoucWen'); 0; step; p.stiffness; p.ratio; p.A; p.beta; p.gamma; p.exponent];
   own = zeros (0, 1);
 end
 

@@ -8,13 +8,13 @@ function l = journal_law ()
                 'limit', 0.99, 'fraction'
                 'x0', 0, 'number'
                 'y0', 0, 'number'};
-  l = struct ('kind', 'journal', 'keyword', 'Ocvirk', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
+  l = struct ('kind', 'journal', 'keyword', 'Journal', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
               'stiffest', @stiffest, 'viscous', @viscous, 'traits', @traits, 'reserve', @reserve, 'check', @check);
 end
 
 % The last value is the module's record of the greatest eccentricity.
 function [opt, own] = pack (p, step)
-  opt = [qn.impl.keyword('Ocvirk'); p.viscosity; p.length; p.radius; p.clearance; p.speed; p.limit; p.x0; p.y0; 0];
+  opt = [qn.impl.keyword('Journal'); p.viscosity; p.length; p.radius; p.clearance; p.speed; p.limit; p.x0; p.y0; 0];
   own = zeros (0, 1);
 end
 

@@ -6,7 +6,7 @@
 
 namespace quarn {
 
-void FuImpact(chandleNl_inout* h, ROr ro) {
+void FuContact(chandleNl_inout* h, ROr ro) {
   const double stiffness = h->opt[1];
   const double exponent = h->opt[2];
   const double damping = h->opt[3];
@@ -24,9 +24,9 @@ void FuImpact(chandleNl_inout* h, ROr ro) {
   storeForces(*h, ro);
 }
 
-void checkImpact(const chandleNl_inout& h, const ROr& /*ro*/) {
+void checkContact(const chandleNl_inout& h, const ROr& /*ro*/) {
   checkLength(static_cast<std::size_t>(h.optLen), 6, "opt", "code, stiffness, exponent, damping, gap, side");
-  requireRates(h, "Impact");
+  requireRates(h, "Contact");
   checkLength(h.snlTotal, h.unlLen, "snl", "as many as a page of unl");
 }
 

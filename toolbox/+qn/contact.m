@@ -1,4 +1,4 @@
-% QN.IMPACT  one-sided stop that loses energy: stiff and damped contact after Hunt and Crossley (1975)
+% QN.CONTACT  one-sided stop that loses energy: stiff and damped contact after Hunt and Crossley (1975)
 %
 % Purpose
 %   A contact of the depth d pushes with K d^P (1 + CHI d'), and never pulls. Force and damping begin at nothing, so that there is no jump
@@ -6,8 +6,8 @@
 %   D (1 + e) = log ((1 + D) / (1 - D e)), which for small D is e = 1 - 2 D / 3. For a contact without losses qn.gap does as well.
 %
 % Calls
-%   LAW = qn.impact ('stiffness', K, ...)
-%   LAW = qn.impact ('stiffness', K, 'restitution', E, 'speed', V0, ...)
+%   LAW = qn.contact ('stiffness', K, ...)
+%   LAW = qn.contact ('stiffness', K, 'restitution', E, 'speed', V0, ...)
 %
 % Input
 %   Names and values
@@ -27,12 +27,12 @@
 %             both a restitution and a damping are given
 %
 % Example
-%   stop = qn.impact ('stiffness', 1e8, 'restitution', 0.8, 'speed', 0.5, 'gap', 1e-3);
+%   stop = qn.contact ('stiffness', 1e8, 'restitution', 0.8, 'speed', 0.5, 'gap', 1e-3);
 %   qn.force (stop, [0 1.1e-3 1.1e-3], [1 0.5 -0.5])
 %
 % See also qn.gap, qn.contacts, qn.damper, qn.law
 function law = impact (varargin)
-  who = 'qn.impact';
+  who = 'qn.contact';
   o = struct ('stiffness', '<required>', 'exponent', 1.5, 'damping', [], 'restitution', [], 'speed', [], 'gap', 0, 'side', 1);
   o = qn.impl.options (who, o, varargin);
   o.stiffness = qn.impl.scalar (who, 'stiffness', o.stiffness, 0);
@@ -49,7 +49,7 @@ function law = impact (varargin)
     o.damping = product_for (e) / qn.impl.scalar (who, 'speed', o.speed, realmin ());
   end
   o.damping = qn.impl.scalar (who, 'damping', o.damping, 0);
-  law = qn.law ('impact', 'stiffness', o.stiffness, 'exponent', o.exponent, 'damping', o.damping, 'gap', o.gap, 'side', o.side);
+  law = qn.law ('contact', 'stiffness', o.stiffness, 'exponent', o.exponent, 'damping', o.damping, 'gap', o.gap, 'side', o.side);
 end
 
 % The product D of damping and speed that gives the restitution E, by bisection between 0 and 1/E; near E = 1 cancellation would spoil it.

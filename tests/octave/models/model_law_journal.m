@@ -2,7 +2,7 @@
 %
 % opt(2) viscosity, opt(3) length, opt(4) radius, opt(5) clearance, opt(6) spin, opt(7) greatest eccentricity of the film, opt(8:9)
 % centre, opt(10) greatest eccentricity met.
-function [s, ctx] = model_law_ocvirk (s, t, ctx)
+function [s, ctx] = model_law_journal (s, t, ctx)
   p = s.opt;
   n = model_page (s);
   force = zeros (n, 1);

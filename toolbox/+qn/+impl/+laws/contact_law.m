@@ -1,17 +1,17 @@
 % L = IMPACT_LAW ()  one-sided stop, stiff and lossy after Hunt and Crossley; the fields are those of qn.impl.law_list
-function l = impact_law ()
+function l = contact_law ()
   parameters = {'stiffness', '<required>', 'number'
                 'exponent', 1.5, 'positive'
                 'damping', 0, 'number'
                 'gap', 0, 'number'
                 'side', 1, 'sign'};
-  l = struct ('kind', 'impact', 'keyword', 'Impact', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
+  l = struct ('kind', 'contact', 'keyword', 'Contact', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
               'stiffest', @stiffest, 'viscous', @viscous, 'traits', @traits, 'stored', @stored, 'reserve', @reserve, 'check', @check, ...
               'reach', @reach, 'at_force', @at_force);
 end
 
 function [opt, own] = pack (p, step)
-  opt = [qn.impl.keyword('Impact'); p.stiffness; p.exponent; p.damping; p.gap; p.side];
+  opt = [qn.impl.keyword('Contact'); p.stiffness; p.exponent; p.damping; p.gap; p.side];
   own = zeros (0, 1);
 end
 

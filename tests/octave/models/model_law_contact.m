@@ -1,7 +1,7 @@
 % [S, CTX] = MODEL_LAW_IMPACT (S, T, CTX)  a stop after Hunt and Crossley: k d^p (1 + chi d'), never below 0
 %
 % opt(2) k, opt(3) p, opt(4) chi, opt(5) the gap, opt(6) below 0: on the side of negative displacements.
-function [s, ctx] = model_law_impact (s, t, ctx)
+function [s, ctx] = model_law_contact (s, t, ctx)
   n = model_page (s);
   force = zeros (n, 1);
   for i = 1:n

@@ -5,15 +5,15 @@
 
 namespace quarn {
 
-void checkOcvirk(const chandleNl_inout& h, const ROr& /*ro*/) {
-  requirePairs(h, "Ocvirk", 10);
-  if (!(h.opt[4] > 0.0)) host::refuse("the clearance of law \"Ocvirk\", opt(5), must be above 0, got %g", h.opt[4]);
+void checkJournal(const chandleNl_inout& h, const ROr& /*ro*/) {
+  requirePairs(h, "Journal", 10);
+  if (!(h.opt[4] > 0.0)) host::refuse("the clearance of law \"Journal\", opt(5), must be above 0, got %g", h.opt[4]);
   if (!(h.opt[6] > 0.0 && h.opt[6] < 1.0)) {
-    host::refuse("the greatest eccentricity of law \"Ocvirk\", opt(7), must be between 0 and 1, got %g", h.opt[6]);
+    host::refuse("the greatest eccentricity of law \"Journal\", opt(7), must be between 0 and 1, got %g", h.opt[6]);
   }
 }
 
-void FuOcvirk(chandleNl_inout* h, ROr ro) {
+void FuJournal(chandleNl_inout* h, ROr ro) {
   const double length = h->opt[2];
   const double clearance = h->opt[4];
   const double spin = h->opt[5];

@@ -1,5 +1,5 @@
 % The half film of a short plain bearing, in pairs of displacements, against the integral of its pressure.
-function tests = suite_law_ocvirk ()
+function tests = suite_law_journal ()
   tests = localfunctions ();
 end
 
@@ -17,7 +17,7 @@ function e = element (parameters, page)
   if nargin < 1, parameters = usual (); end
   if nargin < 2, page = 2; end
   line = matrix_lines (eye (page), true);
-  e = struct ('type', 1003, 'c', line, 'b', line, 'opt', [law_code('Ocvirk'); parameters(:)]);
+  e = struct ('type', 1003, 'c', line, 'b', line, 'opt', [law_code('Journal'); parameters(:)]);
   e.unl = zeros (page, 1);
   e.vnl = zeros (page, 1);
   e.snl = zeros (page, 1);
@@ -144,19 +144,19 @@ function test_what_is_too_short_is_refused ()
   e = element (usual (), 4);
   short = e;
   short.opt = e.opt(1:9);
-  refused (short, 'quarn residual : element 1 : "opt" of law "Ocvirk" must hold 10 values or more, got 9');
-  refused (rmfield (e, 'vnl'), 'quarn residual : element 1 : "vnl" of law "Ocvirk" must hold 4 values or more, got 0');
-  refused (element (usual (), 3), 'quarn residual : element 1 : "unl" of law "Ocvirk" must hold pairs of displacements, got 3 values');
+  refused (short, 'quarn residual : element 1 : "opt" of law "Journal" must hold 10 values or more, got 9');
+  refused (rmfield (e, 'vnl'), 'quarn residual : element 1 : "vnl" of law "Journal" must hold 4 values or more, got 0');
+  refused (element (usual (), 3), 'quarn residual : element 1 : "unl" of law "Journal" must hold pairs of displacements, got 3 values');
 end
 
 function test_parameters_without_a_film_are_refused ()
   for c = [0 -1e-4 NaN]
     refused (element (with (4, c)), ...
-             sprintf ('quarn residual : element 1 : the clearance of law "Ocvirk", opt(5), must be above 0, got %s', lower (sprintf ('%g', c))));
+             sprintf ('quarn residual : element 1 : the clearance of law "Journal", opt(5), must be above 0, got %s', lower (sprintf ('%g', c))));
   end
   for limit = [0 1 1.2]
     refused (element (with (6, limit)), ...
-             sprintf (['quarn residual : element 1 : the greatest eccentricity of law "Ocvirk", opt(7), must be between 0 and 1, ' ...
+             sprintf (['quarn residual : element 1 : the greatest eccentricity of law "Journal", opt(7), must be between 0 and 1, ' ...
                        'got %g'], limit));
   end
 end

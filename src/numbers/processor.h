@@ -1,6 +1,6 @@
 // Loops in several versions for the base x86-64, v3 and v4 processors, chosen when the module is loaded. They vectorise across
-// independent entries only and never fuse a multiplication with an addition, so every version gives the same bits. Compilers that cannot make
-// them (g++ before 12) make the base version alone.
+// independent entries only and never fuse a multiplication with an addition, so every version gives the same bits. Compilers that cannot
+// make them (g++ before 12) make the base version alone.
 #pragma once
 
 #if defined(__x86_64__) && defined(__GNUC__) && __GNUC__ >= 12 && !defined(__clang__) && !defined(QUARN_ONE_PROCESSOR_VERSION)

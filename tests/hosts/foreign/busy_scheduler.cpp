@@ -1,5 +1,5 @@
-// Linked into the program that plays MATLAB: a oneTBB (or TBB) of the host's own with live workers from the start to the end of the process, as
-// MATLAB has one. scripts/release runs the tests of the module with it.
+// Linked into the program that plays MATLAB: a oneTBB (or TBB) of the host's own with live workers from the start to the end of the
+// process, as MATLAB has one. scripts/release runs the tests of the module with it.
 #include <tbb/parallel_for.h>
 
 #include <atomic>

@@ -77,7 +77,7 @@ function law = random_radial (law, n)
                     0.3*randn(2, 1)*(rand<0.5)];
 end
 
-function law = random_ocvirk (law, n)
+function law = random_journal (law, n)
   law.rates = true;
   law.page = 2 * randi ([0, 3]);
   law.parameters = [rand(3, 1); 0.5 + 2*rand; 3*randn*(rand<0.8); 0.1+0.85*rand; 0.3*randn(2, 1)*(rand<0.5); rand*(rand<0.5)];
@@ -116,14 +116,14 @@ function law = random_damper (law, n)
   law.parameters = [randn; exponents(randi (5))];
 end
 
-function law = random_impact (law, n)
+function law = random_contact (law, n)
   law.rates = true;
   exponents = [1 1.5 2 3*rand];
   law.parameters = [randn; exponents(randi (4)); 2 * rand - 0.3; 0.5 * randn; randn];
 end
 
 % Now and then without a limit, and with a state beyond it.
-function law = random_boucw (law, n)
+function law = random_boucwen (law, n)
   law.pages = max (law.pages, ceil (3 * ceil (law.page / 3) / law.page));
   exponents = [1 2 3 0.5+2*rand];
   law.parameters = [0; rand; 5 * randn; rand; 0.5 + rand; 2 * rand; 2 * randn; exponents(randi (4))];

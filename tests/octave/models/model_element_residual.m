@@ -42,9 +42,13 @@ function x = field_or_empty (s, name)
   if isfield (s, name), x = s.(name); end
 end
 
-% The characters of a law code, first character in the lowest byte.
+% The characters of a law code, first character in the lowest byte. A double rounds those of seven: their words are compared.
 function word = keyword (code)
   code = fix (code);
+  for long = {'Contact', 'BoucWen', 'Journal'}
+    word = long{1};
+    if code == sum (word .* 256 .^ (0:6)), return, end
+  end
   word = '';
   while code > 0
     word(end + 1) = char (mod (code, 256));

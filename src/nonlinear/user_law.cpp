@@ -111,8 +111,9 @@ void bindUserLaw(chandleNl_inout* h) {
 void checkUser(const chandleNl_inout& h, const ROr& /*ro*/) {
   if (h.optLen < ahead) host::refuse("\"opt\" of law \"User\" must hold %d values or more, got %d", ahead, h.optLen);
   const int states = statesOf(h);
+  if (states < 0 || states > h.unlLen)
+    host::refuse("iopt(4) of law \"User\" must be from 0 to the %d values of unl, got %d", h.unlLen, states);
   const int rows = h.unlLen - states;
-  if (states < 0 || rows < 0) host::refuse("iopt(4) of law \"User\" must be from 0 to the %d values of unl, got %d", h.unlLen, states);
   if (states > 0 && (h.iopt[1] <= 0 || h.iopt[2] != rows || h.iopt[4] != 1)) {
     host::refuse("iopt(2:5) of law \"User\" must be the place of its states in u, from 1, then [%d %d 1], got [%d %d %d %d]", rows, states,
                  h.iopt[1], h.iopt[2], h.iopt[3], h.iopt[4]);

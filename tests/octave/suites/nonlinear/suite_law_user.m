@@ -262,7 +262,7 @@ function test_counts_that_do_not_fit_the_library_are_refused ()
     other.iopt = int32 (wrong{1});
     refused (other, [text regexprep(mat2str (wrong{1}(2:5)), '([\[\]])', '\\$1')], ones (3, 1));
   end
-  for wrong = [-1 4]
+  for wrong = [-1, 4, -2 ^ 31]
     other = e;
     other.iopt(4) = wrong;
     refused (other, sprintf ('iopt\\(4\\) of law "User" must be from 0 to the 3 values of unl, got %d', wrong), ones (3, 1));

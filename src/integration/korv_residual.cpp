@@ -93,7 +93,7 @@ void KorvTerm::addProduct() const {
   const int bad = SparseMatVecTested(r.data, product.data, matrix.pr, matrix.ir, matrix.jc, c.N, length);
   if (bad >= 0) {
     host::refuse("%s : an index of column %d lies outside %s of %zu values%s", name, bad + 1, product.name, product.count,
-                 matrix.ir[0] == -1 ? " (the matrix was marked as diagonal by a handle)" : "");
+                 diagonalMarker(matrix));
   }
 }
 

@@ -26,6 +26,8 @@ void checkLinePointers(const SparseView& v, int lines, const char* name) {
   }
 }
 
+const char* diagonalMarker(const SparseView& v) { return v.ir[0] == -1 ? " (the matrix was marked as diagonal by a handle)" : ""; }
+
 int largestIndex(const SparseView& v, int lines, const char* name) {
   const int first = lines > 0 ? v.jc[0] : 0;
   const int entries = lines > 0 ? v.jc[lines] - first : 0;
@@ -33,7 +35,7 @@ int largestIndex(const SparseView& v, int lines, const char* name) {
   const unsigned largest = largestOf(v.ir + first, entries);
   if (largest > INT_MAX) {
     host::refuse("%s : index %d in \"ir\", expected 0 or more%s", name, *std::min_element(v.ir + first, v.ir + first + entries),
-                 v.ir[0] == -1 ? " (the matrix was marked as diagonal by a handle)" : "");
+                 diagonalMarker(v));
   }
   return static_cast<int>(largest);
 }

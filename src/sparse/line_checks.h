@@ -5,6 +5,9 @@
 
 namespace quarn {
 
+/// For texts about an index of a matrix: that a handle has put its diagonal marker there, or nothing.
+const char* diagonalMarker(const SparseView& v);
+
 /// Refuses line pointers that are missing, too few for the lines, not ascending, or that reach past "ir" or "pr".
 void checkLinePointers(const SparseView& v, int lines, const char* name);
 

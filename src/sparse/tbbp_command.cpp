@@ -20,9 +20,7 @@ void commandTbbp(int /*nlhs*/, mxArray* /*plhs*/[], int nrhs, const mxArray* prh
   checkLength(y.count, n, "y", "one for each row of x");
   const auto xLen = static_cast<unsigned>(x.count > 0xffffffffU ? 0xffffffffU : x.count);
   const int bad = SparseMatVecTested(y.data, x.data, A.pr, A.ir, A.jc, n, xLen);
-  if (bad >= 0)
-    host::refuse("A : an index of column %d lies outside x of %zu values%s", bad + 1, x.count,
-                 A.ir[0] == -1 ? " (the matrix was marked as diagonal by a handle)" : "");
+  if (bad >= 0) host::refuse("A : an index of column %d lies outside x of %zu values%s", bad + 1, x.count, diagonalMarker(A));
 }
 
 }  // namespace quarn

@@ -8,7 +8,7 @@ if(QUARN_SANITIZE)
     LD_PRELOAD=${sanitizer_library} ASAN_OPTIONS=detect_leaks=0:quarantine_size_mb=1:thread_local_quarantine_size_kb=64:malloc_context_size=1 UBSAN_OPTIONS=print_stacktrace=1 QUARN_SANITIZED=1)
 endif()
 # Beside the module, where the runner looks for it.
-add_library(address_of MODULE ${CMAKE_CURRENT_LIST_DIR}/octave/address_of.c)
+add_library(address_of MODULE ${CMAKE_CURRENT_LIST_DIR}/octave/address_of.c ${octave_mex_version})
 target_link_libraries(address_of PRIVATE octave_mex)
 set_target_properties(address_of PROPERTIES PREFIX "" SUFFIX ".mex" LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/octave)
 set(octave_run ${OCTAVE_CLI} --no-history -qf ${CMAKE_CURRENT_LIST_DIR}/octave/run_suite.m)

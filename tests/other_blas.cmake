@@ -18,7 +18,7 @@ string(REPLACE ";" "|" names "${names}")
 set(other_blas_objects $<TARGET_OBJECTS:quarn_other_blas_objects>
                        $<FILTER:$<TARGET_OBJECTS:quarn_objects>,EXCLUDE,/\(${names}\)\\.cpp>)
 
-add_library(quarn_other_blas MODULE ${other_blas_objects})
+add_library(quarn_other_blas MODULE ${other_blas_objects} ${octave_mex_version})
 target_link_libraries(quarn_other_blas PRIVATE quarn_flags TBB::tbb ${OTHER_CBLAS_LIBRARY} m)
 target_link_options(quarn_other_blas PRIVATE
   -Wl,--exclude-libs,ALL -Wl,--gc-sections -Wl,-Bsymbolic -Wl,--version-script=${CMAKE_SOURCE_DIR}/cmake/module.map)

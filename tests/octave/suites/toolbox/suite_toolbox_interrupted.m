@@ -59,7 +59,7 @@ function test_a_run_interrupted_at_the_prompt_leaves_what_it_reached ()
 end
 
 function test_a_run_ended_by_an_error_of_the_user_leaves_what_it_reached ()
-  sim = qn.simulation (qn.modal (1e4, 1), 'step', 1e-3, 'steps', 1000, 'v0', 1);
+  sim = qn.simulation (qn.modal (100, 1), 'step', 1e-3, 'steps', 1000, 'v0', 1);
   text = evalc ('expect_error (@() qn.run (sim, ''piece'', 100, ''stop'', @failing), '''', ''a mistake here'');');
   said = '^  the run ended early; part = qn.interrupted \(\) gives what it reached, 0\.\d s \(\d+ %\), qn.resume \(part\) goes on\n$';
   if isempty (regexp (text, said))

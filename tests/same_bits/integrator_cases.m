@@ -17,8 +17,7 @@ function integrator_cases (id)
     full.factor = changing{1}.factor;
     run (id, 'sum integrator, factor', n, c, k, [changing, {full}], 20);
   end
-  tables = source_tables ();
-  for w = tables.laws
+  for w = laws_of_the_module ()
     for trial = 1:rounds (6)
       n = 7;
       e = random_law_element (w{1}, n);

@@ -1,9 +1,7 @@
 % LAW_CASES (ID)  every force law with random parameters and states, in two evaluations each, and the link of a rotor
 function law_cases (id)
-  tables = source_tables ();
   kinds = {'sum', 'one'};
-  % Forces of "User" are computed by a function of the host or a library, not by the module.
-  for w = tables.laws(~strcmp (tables.laws, 'User'))
+  for w = laws_of_the_module ()
     for single = [true false]
       name = sprintf ('%s law %s', kinds{1 + single}, w{1});
       for k = 1:rounds (12), one_element (id, name, random_law_element (w{1}, 7, single)); end

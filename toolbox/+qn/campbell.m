@@ -11,13 +11,17 @@
 %   R        from qn.rotor, with bearings by speed or without, or a structure with the fields M, K and perhaps C and G [per rad/s]
 %   SPEEDS   speeds of rotation, ascending, two or more [rad/s]
 %   Names and values
-%     'modes'   how many modes to give, those that come lowest (8)
+%     'modes'   how many modes to give: those with the lowest whirl speeds within SPEEDS, modes that are damped by 0.9 or more throughout
+%               after the others; and besides every mode with a critical speed, or one where damping is lost below the greatest of the
+%               orders, that is damped by less than 0.5 there (8)
 %     'orders'  multiples of the speed for the critical speeds: 1 for unbalance, 2 for a shaft that bends differently in two planes (1)
 %     'places'  rows [x y]: numbers of the degrees of freedom of each node, for the direction of the whirl; those of qn.rotor are known
-%     'basis'   how many modes of the rotor at rest to form the poles with, for large models; all degrees of freedom without it ([])
+%     'basis'   how many modes of the rotor at rest to form the poles with, for large models; all degrees of freedom without it ([]).
+%               These modes have no damping and the stiffness of the bearings at the middle one of SPEEDS: a basis does not hold the
+%               motions of heavily damped bearings, nor well what stiffness changes much with the speed. Compare with twice as many.
 %
 % Output
-%   D   struct: speed      1 x k, as given [rad/s]
+%   D   struct: speed      1 x k, as given [rad/s]; negative: the shaft turns y towards x
 %               whirl      p x k whirl speeds, the imaginary parts of the poles [rad/s], NaN where a mode does not oscillate
 %               damping    p x k damping ratios; negative: the motion grows
 %               direction  p x k, 1 for circles forward (in the sense of rotation) through 0 for lines to -1 for circles backward, by the
@@ -25,6 +29,7 @@
 %               pole       p x k [1/s]
 %               critical   struct array by speed: speed, order, mode (row), whirl, damping, direction, shape (n x 1)
 %               unstable   the same, without order, where a damping falls below 0 within the speeds
+%   Warning qn:campbell: with "basis", rows that are damped by 0.9 or more throughout, which it does not hold.
 %   Critical speeds are found between SPEEDS that they lie between; two of one mode between two neighbours are missed.
 %
 % Errors
@@ -52,7 +57,7 @@ function d = campbell (r, speeds, varargin)
   s = qn.impl.rotor.eigenproblem (who, r, o.places, struct ('count', o.basis, 'speed', middle));
   at = cell (size (speeds));
   for k = 1:numel (speeds), at{k} = qn.impl.rotor.poles (s, speeds(k)); end
-  number = chains (s, at, o.modes);
+  number = qn.impl.rotor.chains (s, at, o.modes, o.orders);
   d = struct ('speed', speeds, 'whirl', [], 'damping', [], 'direction', [], 'pole', []);
   d.pole = complex (NaN (size (number)), NaN (size (number)));
   d.direction = NaN (size (number));
@@ -63,6 +68,7 @@ function d = campbell (r, speeds, varargin)
   end
   d.whirl = imag (d.pole);
   d.damping = -real (d.pole) ./ abs (d.pole);
+  if ~isempty (o.basis), not_held (who, d.damping); end
   lists = cell (size (o.orders));
   for k = 1:numel (o.orders)
     order = o.orders(k);
@@ -74,6 +80,17 @@ function d = campbell (r, speeds, varargin)
   d.unstable = rmfield (lost, 'order');
 end
 
+% Modes that hardly oscillate are those of the dampers, which modes without damping do not describe.
+function not_held (who, damping)
+  least = min (damping, [], 2);
+  bad = find (least >= 0.9);
+  if isempty (bad), return, end
+  warning ('qn:campbell', ['%s: %d of %d rows have damping ratios of %.3g or more, the first is row %d; "basis", modes without ' ...
+                           'damping, does not hold such motions. Their whirl and critical speeds are not to be relied on: ask for ' ...
+                           'fewer "modes", or form the poles without "basis"'], ...
+           who, numel (bad), size (damping, 1), min (least(bad)), bad(1));
+end
+
 % By speed; structs without elements stay structs.
 function list = joined (lists)
   list = lists{1};
@@ -82,31 +99,6 @@ function list = joined (lists)
   end
   [unused, by] = sort (arrayfun (@(c) c.speed, list));
   list = list(by);
-end
-
-% One row a mode, one column a speed: the number of the mode among the poles of that speed, 0 where it does not oscillate.
-function number = chains (s, at, count)
-  number = (1:numel (at{1}.pole)).';
-  for k = 2:numel (at)
-    ceiling = 0;
-    for p = at([k - 1, k])
-      w = imag (p{1}.pole);
-      if ~isempty (w), ceiling = max (ceiling, w(min (count, end))); end
-    end
-    to = qn.impl.rotor.follow (s, at{k - 1}, at{k}, 1.0001 * ceiling, 4);
-    there = find (number(:, k - 1) > 0);
-    number(:, k) = 0;
-    number(there, k) = to(number(there, k - 1));
-    new = setdiff (1:numel (at{k}.pole), number(:, k));
-    number = [number; zeros(numel (new), k - 1), new(:)];
-  end
-  lowest = Inf (size (number, 1), 1);
-  for k = 1:numel (at)
-    there = number(:, k) > 0;
-    lowest(there) = min (lowest(there), imag (at{k}.pole(number(there, k))).');
-  end
-  [unused, order] = sort (lowest);
-  number = number(order(1:min (count, end)), :);
 end
 
 function list = found (s, at, number, order, measure)

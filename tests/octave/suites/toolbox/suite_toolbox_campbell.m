@@ -71,6 +71,7 @@ function test_the_speed_where_damping_is_lost_is_found ()
   expect_equal (numel (d.unstable), 1);
   expect_equal ([d.unstable.speed, d.unstable.whirl, d.unstable.direction], [c * wn / a, wn, 1], 1e-8);
   expect_equal (d.damping(d.unstable.mode, end) < 0, true);
+  expect_equal (numel (getfield (qn.campbell (r, linspace (0, 2 * c * wn / a, 8), 'modes', 1), 'unstable')), 1);
   expect_equal (isempty (getfield (qn.campbell (r, [1 0.9 * c * wn / a]), 'unstable')), true);
 end
 
@@ -82,6 +83,74 @@ function test_modes_that_do_not_oscillate_have_no_whirl_speed ()
   expect_equal (isnan (d.whirl(1, :)), (0:10) <= 3);
   expect_equal (d.whirl(1, 11), sqrt (25 - (20 / 11) ^ 2), 1e-9);
   expect_equal (all (d.whirl(2, :) > 9), true);
+end
+
+% Bearings that stiffen with the speed; at low speeds the dampers hold modes that hardly oscillate and come lowest.
+function r = damped_rotor ()
+  f = @(w) [1e6 + 3e4 * w, 0; 0, 8e5 + 2e4 * w];
+  r = qn.rotor ('nodes', 0:0.1:1.2, 'outer', 0.045, 'disks', [4 15 0.1 0.19; 9 10 0.06 0.11], 'bearings', {1, f, 7e3; 13, f, 4e3});
+end
+
+function p = poles_at (r, speed)
+  r = qn.rotor (r, 'speed', speed);
+  n = size (r.M, 1);
+  p = eig ([zeros(n), eye(n); -(r.M \ [r.K, r.C + speed * r.G])]);
+  p = p(imag (p) > 0);
+end
+
+function test_critical_speeds_with_little_damping_are_lost_neither_to_overdamped_modes_nor_to_few_rows ()
+  r = damped_rotor ();
+  % So many modes with little damping are slower than the rotation at its end, and none is at rest.
+  p = poles_at (r, 900);
+  slow = sum (-real (p) < 0.5 * abs (p) & imag (p) < 900);
+  expect_equal (slow, 4);
+  for modes = [1 4 8]
+    d = qn.campbell (r, 0:25:900, 'modes', modes);
+    expect_equal (size (d.whirl, 1), max (modes, slow));
+    expect_equal (numel (d.critical), slow);
+    expect_equal ([d.critical.mode], 1:slow);
+    for c = d.critical
+      p = poles_at (r, c.speed);
+      [off, k] = min (abs (imag (p) - c.speed) / c.speed);
+      expect_equal (off < 1e-7, true);
+      expect_equal (c.damping, -real (p(k)) / abs (p(k)), 1e-6);
+    end
+  end
+  % The others are at the end, with critical speeds of their own.
+  d = qn.campbell (r, 0:25:900, 'modes', 12);
+  more = d.critical([d.critical.damping] > 0.5);
+  expect_equal (numel (d.critical) - numel (more), slow);
+  expect_equal (numel (more) > 0 && all ([more.mode] > 8), true);
+end
+
+function test_a_basis_says_that_it_does_not_hold_overdamped_modes ()
+  c = diag ([1 1 19 19.5]);
+  r = struct ('M', eye (4), 'K', diag ([50 60 100 110]), 'C', c);
+  lastwarn ('', '');
+  d = qn.campbell (r, [0 20], 'modes', 2, 'basis', 4);
+  expect_equal (numel (d.critical), 2);
+  [unused, id] = lastwarn ();
+  expect_equal (id, '');
+  evalc ('qn.campbell (r, [0 20], ''modes'', 4, ''basis'', 4);');
+  [text, id] = lastwarn ();
+  expect_equal (id, 'qn:campbell');
+  expect_equal (isempty (strfind (text, sprintf ('2 of 4 rows have damping ratios of %.3g or more, the first is row 3', 19.5 / sqrt (440)))), false);
+  lastwarn ('', '');
+  qn.campbell (r, [0 20], 'modes', 4);
+  [unused, id] = lastwarn ();
+  expect_equal (id, '');
+end
+
+function test_forward_is_in_the_sense_of_rotation_at_negative_speeds_too ()
+  r = qn.rotor ('nodes', 0:0.1:1.2, 'outer', 0.045, 'disks', [4 15 0.1 0.19; 9 10 0.06 0.11], 'bearings', {1, 1e6, 10; 13, 1e6, 10});
+  there = qn.campbell (r, 0:50:900, 'modes', 4);
+  back = qn.campbell (r, -900:50:0, 'modes', 4);
+  expect_equal (numel (there.critical) > 3, true);
+  expect_equal (-fliplr ([back.critical.speed]), [there.critical.speed], 1e-7);
+  expect_equal (fliplr ([back.critical.direction]), [there.critical.direction], 1e-6);
+  % Gyroscopic moments make forward whirl the faster one of a pair.
+  expect_equal ([back.direction(1:2, 1), there.direction(1:2, end)], [-1 -1; 1 1], 1e-6);
+  expect_equal (back.whirl(1, 1) < back.whirl(2, 1), true);
 end
 
 function test_the_own_errors_of_campbell ()

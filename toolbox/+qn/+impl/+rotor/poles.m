@@ -2,6 +2,7 @@
 %
 % Shapes are in the coordinates of S, of unit length. whirl is the direction: from -1 (circles backward) through 0 (lines) to 1 (circles
 % forward), by the areas of the orbits; NaN where S does not know what x and y are.
+% Forward is in the sense of rotation: x towards y at speeds from 0, y towards x below.
 function p = poles (s, speed)
   n = size (s.K, 1);
   c = s.C;
@@ -25,6 +26,7 @@ function p = poles (s, speed)
   if ~isempty (s.circle)
     shape = apart (shape, pole, s.circle);
     whirl = real (sum (conj (shape) .* (s.circle * shape), 1)) ./ real (sum (conj (shape) .* (s.size * shape), 1));
+    if speed < 0, whirl = -whirl; end
   end
   p = struct ('speed', speed, 'pole', pole, 'shape', shape, 'whirl', whirl);
 end

@@ -37,6 +37,7 @@ function list = supports (who, name, rows, r)
     end
     names = 'KCM';
     for j = 1:3, s.(names(j)) = widened (who, label (j + 1), values{j}, size_of); end
+    s.M = of_mass (who, sprintf ('%s" at node %d', label (4), at(1)), s.M);
     if isa (s.K, 'function_handle'), s.source = rows{k, 2}; end
     list(end + 1) = s;
   end
@@ -85,4 +86,21 @@ function x = wide (who, name, x, n)
     error ('qn:input', '%s: "%s" has moments, for which a node needs four degrees of freedom of its own', who, name);
   end
   if size (x, 1) < n, x = blkdiag (x, zeros (n - size (x, 1))); end
+end
+
+% An added mass: its energy is that of a symmetric matrix and is not negative.
+function x = of_mass (who, place, x)
+  if isa (x, 'function_handle')
+    f = x;
+    x = @(speed) of_mass (who, sprintf ('%s at %g rad/s', place, speed), f (speed));
+    return
+  end
+  even = norm (x - x.', 'fro') / norm (x, 'fro');
+  if even > 1e-6
+    error ('qn:input', '%s: the mass "%s is not symmetric: M - M.'' is %.2g of it', who, place, even);
+  end
+  least = min (eig ((x + x.') / 2));
+  if least < -1e-9 * norm (x, 'fro')
+    error ('qn:input', '%s: the mass "%s is negative in one direction: its least eigenvalue is %g', who, place, least);
+  end
 end

@@ -92,6 +92,10 @@ function g = turning (who, model, g)
     return
   end
   n = size (model.shapes, 1);
+  if isfield (model, 'rotation') && ~isempty (model.rotation) && model.rotation.speed ~= 0
+    error ('qn:input', '%s: "G" is taken at each frequency; the model has it at %g rad/s already: make it with ''speed'', 0', who, ...
+           model.rotation.speed);
+  end
   g = qn.impl.numbers (who, 'G', g, [n n]);
   beside = norm (g + g.', 'fro') / norm (g, 'fro');
   if beside > 1e-6, error ('qn:input', '%s: "G" must be skew (G.'' = -G): its symmetric part is %.2g of it', who, beside / 2); end

@@ -27,34 +27,32 @@ function mmwrite (file, a, comment)
   if nargin < 2, error ('qn:input', 'qn.mmwrite: a file name and a matrix expected; see help qn.mmwrite'); end
   file = qn.impl.chars (file);
   a = qn.impl.numbers ('qn.mmwrite', 'A', a, [NaN NaN], 'complex');
-  [id, why] = fopen (file, 'w');
-  if id < 0, error ('qn:input', 'qn.mmwrite: cannot write %s: %s', file, why); end
-  close_file = onCleanup (@() fclose (id));
   form = {'array', 'coordinate'};
   field = {'complex', 'real'};
   symmetry = {'general', 'symmetric'};
   half = isreal (a) && size (a, 1) == size (a, 2) && isequal (a, a.');
-  fprintf (id, '%%%%MatrixMarket matrix %s %s %s\n', form{1 + issparse(a)}, field{1 + isreal(a)}, symmetry{1 + half});
-  if nargin > 2, fprintf (id, '%% %s\n', strrep (qn.impl.chars (comment), sprintf ('\n'), ' ')); end
+  text = {sprintf('%%%%MatrixMarket matrix %s %s %s\n', form{1 + issparse(a)}, field{1 + isreal(a)}, symmetry{1 + half})};
+  if nargin > 2, text{end + 1} = sprintf ('%% %s\n', strrep (qn.impl.chars (comment), sprintf ('\n'), ' ')); end
   inside = true (size (a));
   if issparse (a)
     stored = a;
     if half, stored = tril (a); end
     [i, j, x] = find (stored);
-    fprintf (id, '%d %d %d\n', size (a), numel (x));
+    text{end + 1} = sprintf ('%d %d %d\n', size (a), numel (x));
     if isreal (a)
-      fprintf (id, '%d %d %.17g\n', [i(:), j(:), x(:)].');
+      text{end + 1} = sprintf ('%d %d %.17g\n', [i(:), j(:), x(:)].');
     else
-      fprintf (id, '%d %d %.17g %.17g\n', [i(:), j(:), real(x(:)), imag(x(:))].');
+      text{end + 1} = sprintf ('%d %d %.17g %.17g\n', [i(:), j(:), real(x(:)), imag(x(:))].');
     end
   else
     if half, inside = tril (inside); end
     x = a(inside);
-    fprintf (id, '%d %d\n', size (a));
+    text{end + 1} = sprintf ('%d %d\n', size (a));
     if isreal (a)
-      fprintf (id, '%.17g\n', x);
+      text{end + 1} = sprintf ('%.17g\n', x);
     else
-      fprintf (id, '%.17g %.17g\n', [real(x(:)), imag(x(:))].');
+      text{end + 1} = sprintf ('%.17g %.17g\n', [real(x(:)), imag(x(:))].');
     end
   end
+  qn.impl.files.write_text ('qn.mmwrite', file, [text{:}]);
 end

@@ -62,10 +62,7 @@ function report (res, file, varargin)
            qn.impl.page.contact_list(res), qn.impl.page.energy_list(res), qn.impl.page.made_with()};
   if o.pictures, parts{4} = qn.impl.page.pictures (res, o); end
   text = qn.impl.page.whole (o, strjoin (parts, sprintf ('\n')));
-  [id, why] = fopen (file, 'w', 'n', 'UTF-8');
-  if id < 0, error ('qn:input', '%s: cannot write %s: %s', who, file, why); end
-  closed = onCleanup (@() fclose (id));
-  if fwrite (id, text, 'char') < numel (text), error ('qn:input', '%s: %s could not be written as a whole', who, file); end
+  qn.impl.files.write_text (who, file, text);
 end
 
 % Where the elements look, each place once; else the degree of freedom that moves most.

@@ -25,6 +25,8 @@
 % Errors
 %   qn:input  neither or both of 'speed' and 'profile', a degree of freedom is not there, sizes do not fit, times do not ascend, or the
 %             function of 'profile' does not give three rows
+%   The warning qn:unbalance says that a model with a gyroscopic matrix turns at another speed than the unbalance, or at one speed while the
+%   unbalance runs along a profile; warning ('off', 'qn:unbalance') switches it off
 %
 % Source
 %   R. Gasch, R. Nordmann and H. Pfützner, Rotordynamik, 2006
@@ -56,8 +58,13 @@ function load = unbalance (model, dofs, me, varargin)
   if ~isempty (o.speed)
     speed = qn.impl.scalar (who, 'speed', o.speed);
     motion = @(t) [speed * t; speed + 0 * t; 0 * t];
+    same_speed (who, model, speed);
   else
     motion = qn.impl.rotor.turning (who, o.profile);
+    if turns (model) && model.rotation.speed ~= 0
+      warning ('qn:unbalance', ['%s: the unbalance runs along a profile, the model turns at %g rad/s: make it with ''speed'', 0, and give ' ...
+                                'the profile to qn.simulation as ''speed'''], who, model.rotation.speed);
+    end
   end
   shape = model.shapes(dofs(:, 1), :) - 1i * model.shapes(dofs(:, 2), :);
   shape = (me(:).' .* exp (1i * phase(:).') .* ones (1, count)) * shape;
@@ -67,4 +74,15 @@ end
 
 function f = along (m, angle)
   f = (m(2, :) .^ 2 - 1i * m(3, :)) .* exp (1i * (m(1, :) + angle));
+end
+
+% Whether the model has a gyroscopic matrix.
+function yes = turns (model)
+  yes = isfield (model, 'rotation') && ~isempty (model.rotation) && any (model.rotation.G(:));
+end
+
+function same_speed (who, model, speed)
+  if ~turns (model) || abs (model.rotation.speed - speed) <= 1e-3 * abs (speed), return, end
+  warning ('qn:unbalance', '%s: the unbalance turns at %g rad/s, the model at %g rad/s: its gyroscopic forces are those of another speed', who, ...
+           speed, model.rotation.speed);
 end

@@ -55,10 +55,7 @@ function write_unv58 (file, x, signals, varargin)
   end
   text = '';
   for k = 1:p, text = [text, qn.impl.formats.unv58_text(who, x, signals(k, :), o, k)]; end
-  [id, why] = fopen (qn.impl.chars (file), 'w');
-  if id < 0, error ('qn:input', '%s: cannot write %s: %s', who, file, why); end
-  close_file = onCleanup (@() fclose (id));
-  if fwrite (id, text, 'char') < numel (text), error ('qn:input', '%s: %s could not be written as a whole', who, file); end
+  qn.impl.files.write_text (who, qn.impl.chars (file), text);
 end
 
 function x = each (x, p, who, name)

@@ -134,3 +134,19 @@ function test_a_browser_shows_the_page ()
   dark = mean (dark(:));
   if dark < 0.005 || dark > 0.3, error ('%g of the page is dark', dark); end
 end
+
+% The device of that name takes nothing, as a full disk.
+function test_a_full_disk_is_said ()
+  if ~exist ('/dev/full', 'file'), skip_test ('there is no /dev/full'); end
+  res = stopped ();
+  for ending = {'.html', '.mtx', '.unv'}
+    file = [tempname() ending{1}];
+    clean = onCleanup (@() delete (file));
+    [err, why] = symlink ('/dev/full', file);
+    if err ~= 0, error ('no link could be made: %s', why); end
+    writers = {@() qn.report (res, file, 'pictures', false), @() qn.mmwrite (file, eye (3)), @() qn.write_unv58 (file, 1:3, 4:6)};
+    writer = writers{strcmp (ending{1}, {'.html', '.mtx', '.unv'})};
+    expect_error (writer, 'qn:input', '~could not be written as a whole; is the disk full\?');
+    clear clean
+  end
+end

@@ -99,3 +99,21 @@ function test_growing_loads_and_elements_together_agree_with_a_run ()
   last = res.q(:, end - 719:end);
   expect_equal (max (abs (last), [], 2), h.amplitude(:, 1), 2e-3 * h.amplitude(1, 1));
 end
+
+function test_unbalances_and_models_of_different_speeds_are_said ()
+  rotor = @(speed) qn.modal (1e6 * eye (4), diag ([10 10 1 1]), 'G', [zeros(2), zeros(2); zeros(2), [0 1; -1 0]], 'speed', speed);
+  said = @(model, varargin) regexprep (evalc ('qn.unbalance (model, [1 2], 1e-4, varargin{:});'), '\s+', ' ');
+  expect_equal (said (rotor (100), 'speed', 100), '');
+  expect_equal (said (rotor (0), 'profile', [0 1; 0 100]), '');
+  expect_equal (said (qn.modal (eye (2), eye (2)), 'speed', 100), '');
+  expect_in (said (rotor (0), 'speed', 100), 'the unbalance turns at 100 rad/s, the model at 0 rad/s');
+  expect_in (said (rotor (100), 'speed', -100), 'the unbalance turns at -100 rad/s, the model at 100 rad/s');
+  expect_in (said (rotor (100), 'profile', [0 1; 0 100]), 'the unbalance runs along a profile, the model turns at 100 rad/s');
+end
+
+function test_a_gyroscopic_matrix_counts_once_in_a_response ()
+  g = [0 1; -1 0];
+  model = qn.modal (1e4 * eye (2), eye (2), 'damping', 0.05, 'G', g, 'speed', 20);
+  load = {[1 0], 1; [0 1], -1i};
+  expect_error (@() qn.harmonic (model, load, {}, [10 12], 'power', 2, 'G', g), 'qn:input', '~the model has it at 20 rad/s already');
+end

@@ -2,7 +2,9 @@
 
 #include <dlfcn.h>
 #include <elf.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <cstdint>
@@ -26,6 +28,7 @@ struct Content {
 struct Library {
   std::string path;
   Content content;
+  int copy;  ///< descriptor of what is loaded, open as long as it is: its number is the name under which the loader knows it; -1: the file
   void* loaded;
   const quarn_law* law;
 };
@@ -97,26 +100,62 @@ const quarn_law* entryOf(void* loaded, char* why, std::size_t size) {
   return nullptr;
 }
 
+/// A copy of the file in memory, so that what is written into the file later cannot reach code that is loaded; -1 where there is none to be
+/// had, or it is not what was looked at.
+int copyInMemory(const char* path, const Content& content) {
+  std::FILE* file = std::fopen(path, "rb");
+  if (!file) return -1;
+  const int copy = memfd_create("quarn_law", MFD_CLOEXEC);
+  char bytes[4096];
+  bool whole = copy >= 0;
+  for (std::size_t n = std::fread(bytes, 1, sizeof bytes, file); n > 0 && whole; n = std::fread(bytes, 1, sizeof bytes, file)) {
+    whole = write(copy, bytes, n) == static_cast<ssize_t>(n);
+  }
+  whole = whole && sumOf(file) == content.sum;
+  static_cast<void>(std::fclose(file));
+  if (!whole && copy >= 0) close(copy);
+  return whole ? copy : -1;
+}
+
+/// The library, as a copy where that can be loaded.
+void* open(const char* path, const Content& content, int* copy) {
+  *copy = copyInMemory(path, content);
+  if (*copy >= 0) {
+    char name[40];
+    std::snprintf(name, sizeof name, "/proc/self/fd/%d", *copy);
+    if (void* loaded = dlopen(name, RTLD_NOW | RTLD_LOCAL)) return loaded;
+    close(*copy);
+    *copy = -1;
+  }
+  return dlopen(path, RTLD_NOW | RTLD_LOCAL);
+}
+
+void release(void* loaded, int copy) noexcept {
+  dlclose(loaded);
+  if (copy >= 0) close(copy);
+}
+
 const quarn_law* load(const char* path) {
   char why[400] = "";
   Content content;
   const Found found = look(path, &content);
   if (found == Found::none) host::refuse("there is no library of a law that can be read at %s: %s", path, std::strerror(errno));
   if (found == Found::noLibrary) host::refuse("%s is no shared library, or not a whole one", path);
-  void* loaded = dlopen(path, RTLD_NOW | RTLD_LOCAL);
+  int copy = -1;
+  void* loaded = open(path, content, &copy);
   if (!loaded) {
     std::snprintf(why, sizeof why, "%s", dlerror());
     host::refuse("the law cannot be loaded: %s", why);
   }
   const quarn_law* law = entryOf(loaded, why, sizeof why);
   if (!law) {
-    dlclose(loaded);
+    release(loaded, copy);
     host::refuse("%s cannot be used: %s", path, why);
   }
   try {
-    libraries.push_back({path, content, loaded, law});
+    libraries.push_back({path, content, copy, loaded, law});
   } catch (...) {
-    dlclose(loaded);
+    release(loaded, copy);
     throw;
   }
   return law;
@@ -139,7 +178,7 @@ const quarn_law* userLibrary(const char* path) {
 }
 
 void closeUserLibraries() noexcept {
-  for (const Library& l : libraries) dlclose(l.loaded);
+  for (const Library& l : libraries) release(l.loaded, l.copy);
   libraries.clear();
 }
 

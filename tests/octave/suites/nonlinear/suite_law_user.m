@@ -307,6 +307,23 @@ function test_a_library_that_is_changed_after_it_was_loaded_is_refused ()
   expect_equal (residual_of (e), 30);
 end
 
+% What is loaded is a copy: the code of the first library runs on, and is left behind without a fault.
+function test_a_library_that_is_overwritten_while_it_is_loaded_harms_nothing ()
+  [folder, clean] = new_folder ();
+  e = one_row ();
+  e.library = law_library (folder, 'first', spring ('force[0] = 3 * now->x[0];'));
+  other = law_library (folder, 'other', spring ('force[0] = 5 * now->x[0];'));
+  expect_equal (residual_of (e), 6);
+  for bytes = {[], fileread(other)}
+    id = fopen (e.library, 'w');
+    fwrite (id, bytes{1}, 'char');
+    fclose (id);
+    refused (e, 'first.so was changed after it had been loaded: give a changed law another name, or clear quarn before');
+  end
+  clear ('quarn');
+  expect_equal (residual_of (e), 10);
+end
+
 function test_numbers_that_are_none_end_the_call_and_say_the_time ()
   [folder, clean] = new_folder ();
   e = one_row ();

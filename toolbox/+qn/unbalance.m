@@ -62,8 +62,8 @@ function load = unbalance (model, dofs, me, varargin)
   else
     motion = qn.impl.rotor.turning (who, o.profile);
     if turns (model) && model.rotation.speed ~= 0
-      warning ('qn:unbalance', ['%s: the unbalance runs along a profile, the model turns at %g rad/s: make it with ''speed'', 0, and give ' ...
-                                'the profile to qn.simulation as ''speed'''], who, model.rotation.speed);
+      warning ('qn:unbalance', ['%s: the unbalance runs along a profile, the model turns at %g rad/s: make it with ''speed'', 0, ' ...
+                                'and give the profile to qn.simulation as ''speed'''], who, model.rotation.speed);
     end
   end
   shape = model.shapes(dofs(:, 1), :) - 1i * model.shapes(dofs(:, 2), :);
@@ -83,6 +83,6 @@ end
 
 function same_speed (who, model, speed)
   if ~turns (model) || abs (model.rotation.speed - speed) <= 1e-3 * abs (speed), return, end
-  warning ('qn:unbalance', '%s: the unbalance turns at %g rad/s, the model at %g rad/s: its gyroscopic forces are those of another speed', who, ...
-           speed, model.rotation.speed);
+  warning ('qn:unbalance', ['%s: the unbalance turns at %g rad/s, the model at %g rad/s: its gyroscopic forces are those of ' ...
+                            'another speed'], who, speed, model.rotation.speed);
 end

@@ -31,7 +31,7 @@
 %   qn.force (stop, [0 1.1e-3 1.1e-3], [1 0.5 -0.5])
 %
 % See also qn.gap, qn.contacts, qn.damper, qn.law
-function law = impact (varargin)
+function law = contact (varargin)
   who = 'qn.contact';
   o = struct ('stiffness', '<required>', 'exponent', 1.5, 'damping', [], 'restitution', [], 'speed', [], 'gap', 0, 'side', 1);
   o = qn.impl.options (who, o, varargin);

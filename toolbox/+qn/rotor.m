@@ -29,7 +29,7 @@
 %                  That of K may also give a structure with "stiffness" and "damping" (qn.journal_coefficients); C adds to it.
 %                  NODE is the number of a node, which is then held against the ground, or [node a b]: against the degrees of freedom
 %                  a and b of the stator.
-%     'seals'      {NODE, K, C, M; ...}: the same with an added mass [kg], in no direction negative
+%     'seals'      {NODE, K, C, M; ...}: the same with an added mass [kg], symmetric and in no direction negative
 %     'stator'     a structure with the fields M, K and perhaps C: what carries bearings and seals. It does not turn.
 %     'speed'      speed of rotation [rad/s] that the matrices belong to; needed only where a bearing depends on it ([])
 %

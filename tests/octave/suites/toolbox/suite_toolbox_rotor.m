@@ -208,9 +208,11 @@ function test_simply_supported_thick_shaft_has_the_frequencies_of_timoshenko ()
   expect_published (c, names, exact, w(1:2:5), 1e-3 * exact);
 end
 
-function test_a_seal_whose_mass_is_negative_is_refused_with_its_place ()
+function test_a_seal_whose_mass_is_unsymmetric_or_negative_is_refused_with_its_place ()
   ok = {'nodes', [0 1 2], 'outer', 0.1};
-  trials = {{1, 1, 1, 2; 3, 1, 1, -3}, 'the mass "seals{2, 4}" at node 3 is negative in one direction: its least eigenvalue is -3'
+  trials = {{1, 1, 1, 2; 3, 1, 1, [2 1; 0 2]}, 'the mass "seals{2, 4}" at node 3 is not symmetric: M - M.'' is 0.47 of it'
+            {2, 1, 1, [2 1; -1 2]}, 'the mass "seals{1, 4}" at node 2 is not symmetric: M - M.'' is 0.89 of it'
+            {2, 1, 1, -3}, 'the mass "seals{1, 4}" at node 2 is negative in one direction: its least eigenvalue is -3'
             {2, 1, 1, [1 2; 2 1]}, 'the mass "seals{1, 4}" at node 2 is negative in one direction: its least eigenvalue is -1'
             {2, 1, 1, @(w) 5 - w}, 'the mass "seals{1, 4}" at node 2 at 9 rad/s is negative in one direction: its least eigenvalue is -4'};
   for k = 1:size (trials, 1)

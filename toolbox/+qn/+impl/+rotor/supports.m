@@ -88,12 +88,16 @@ function x = wide (who, name, x, n)
   if size (x, 1) < n, x = blkdiag (x, zeros (n - size (x, 1))); end
 end
 
-% The energy of an added mass, which its symmetric part has, is not negative.
+% An added mass: its energy is that of a symmetric matrix and is not negative.
 function x = of_mass (who, place, x)
   if isa (x, 'function_handle')
     f = x;
     x = @(speed) of_mass (who, sprintf ('%s at %g rad/s', place, speed), f (speed));
     return
+  end
+  even = norm (x - x.', 'fro') / norm (x, 'fro');
+  if even > 1e-6
+    error ('qn:input', '%s: the mass "%s is not symmetric: M - M.'' is %.2g of it', who, place, even);
   end
   least = min (eig ((x + x.') / 2));
   if least < -1e-9 * norm (x, 'fro')

@@ -72,18 +72,23 @@ void chandleSparse::takeWork(host::Doubles r) {
   blockLength = length;
 }
 
-void chandleSparse::addProduct(const double* x, std::int32_t N, double* r) const {
-  if (blockLength == 0) {
-    SparseMatVec(r, x, m.pr, m.ir, m.jc, N);
-    return;
-  }
+template <class Term>
+void chandleSparse::addBlock(const double* x, std::int32_t N, double* r, const Term& term) const {
   const double* rows = m.pr + m.jc[0];
   double sums[kSumsAtOnce];
   for (int first = 0; first < N; first += kSumsAtOnce) {
     const int n = std::min(kSumsAtOnce, N - first);
     denseSums(n, blockLength, rows + static_cast<std::ptrdiff_t>(first) * blockLength, x + blockFirst, sums);
-    for (int i = 0; i < n; ++i) r[first + i] += sums[i];
+    for (int i = 0; i < n; ++i) r[first + i] += term(sums[i]);
   }
+}
+
+void chandleSparse::addProduct(const double* x, std::int32_t N, double* r) const {
+  if (blockLength == 0) {
+    SparseMatVec(r, x, m.pr, m.ir, m.jc, N);
+    return;
+  }
+  addBlock(x, N, r, [](double sum) { return sum; });
 }
 
 void chandleSparse::addTimes(double f, const double* x, std::int32_t N, double* r) const {
@@ -91,13 +96,7 @@ void chandleSparse::addTimes(double f, const double* x, std::int32_t N, double* 
     addScaledLines(m, x, f, N, r);
     return;
   }
-  const double* rows = m.pr + m.jc[0];
-  double sums[kSumsAtOnce];
-  for (int first = 0; first < N; first += kSumsAtOnce) {
-    const int n = std::min(kSumsAtOnce, N - first);
-    denseSums(n, blockLength, rows + static_cast<std::ptrdiff_t>(first) * blockLength, x + blockFirst, sums);
-    for (int i = 0; i < n; ++i) r[first + i] += sums[i] * f;
-  }
+  addBlock(x, N, r, [f](double sum) { return sum * f; });
 }
 
 void chandleSparseStiffness::initCpt() {

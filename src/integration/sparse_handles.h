@@ -40,6 +40,10 @@ class chandleSparse : public chandle {
   host::Doubles operand;  ///< what the matrix multiplies, as it was when the sizes were looked at
 
  private:
+  /// The same where all lines are full: term makes of the sum of a line what is added.
+  template <class Term>
+  void addBlock(const double* x, std::int32_t N, double* r, const Term& term) const;
+
   int largest = -1;
   int verifiedLines = -1;
   int blockLength = 0;  ///< entries of each line where all lines are full with the same indices; else 0

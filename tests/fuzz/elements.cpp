@@ -63,7 +63,8 @@ Law makeLaw(Bytes& in, const char* word, std::size_t which) {
   }
   if (which == 2) addTable(in, law, static_cast<int>(in.below(6)), static_cast<int>(in.below(3)));
   if (std::strcmp(word, "User") == 0) {
-    law.iopt[2] = static_cast<int>(law.page) - law.iopt[3];
+    const int states = law.iopt[3];
+    if (states >= 0) law.iopt[2] = static_cast<int>(law.page) - states;
     law.iopt[4] = 1;
   }
   if (which == 4 || which == 5) law.pages = 2 + in.below(3);

@@ -45,7 +45,7 @@
 %                  qn.plot.waterfall, qn.plot.full_spectrum, qn.plot.spectrogram, qn.plot.orders, qn.plot.poincare,
 %                  qn.plot.bifurcation, qn.plot.campbell
 %   without time   qn.static, qn.harmonic, qn.backbone
-%   setting up     install_quarn, qn.selftest, qn.version
+%   setting up     install_quarn, qn.selftest, qn.version, qn.report_host
 %   older names    qn.command (now qn.load_at)
 %
 % Numbers in these functions are finite and real, unless a help text says otherwise. Single precision and integer classes are

@@ -107,6 +107,7 @@
 % Setting up
 %   selftest       - what works on this machine, in one page
 %   version        - version of the toolbox and of the compiled module that is loaded
+%   report_host    - one page about this machine to send to us: versions, libraries, self-test, writes in place, objects, unloading
 %
 % Older names
 %   command        - older name of qn.load_at

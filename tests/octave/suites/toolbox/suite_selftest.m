@@ -57,6 +57,17 @@ function test_nothing_is_left_behind ()
   quarn ('chandleclear', index);
 end
 
+% Fewer entries than the workers take would compare one thread with itself.
+function test_its_product_has_worker_threads ()
+  checks = qn.impl.selftest_paths ();
+  check = checks{strcmp (checks(:, 1), 'threads'), 2};
+  clear ('quarn');
+  before = numel (dir ('/proc/self/task'));
+  [good, text] = check ();
+  expect_equal (good, true);
+  expect_equal (numel (dir ('/proc/self/task')) > before, true);
+end
+
 function test_a_path_without_the_module_is_said_in_words ()
   [status, page] = octave_says (sprintf ('addpath (''%s''); [ok, lines] = qn.selftest (); exit (7 + ok);', toolbox ()));
   expect_equal (status, 7);

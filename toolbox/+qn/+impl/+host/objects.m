@@ -21,7 +21,8 @@ function line = overwritten ()
   quarn ('setsparse', v, now.ir + int32 (0), [], [7; 8; 9] + 0);
   now = get (v, 'file');
   other = get (copy, 'file');
-  line = sprintf ('%-34s %s; in a copy: %s', '''setsparse'' of a v_handle', worked (isequal (now.pr(:), [7; 8; 9])), worked (isequal (other.pr(:), [7; 8; 9])));
+  [here, there] = deal (worked (isequal (now.pr(:), [7; 8; 9])), worked (isequal (other.pr(:), [7; 8; 9])));
+  line = sprintf ('%-34s %s; in a copy: %s', '''setsparse'' of a v_handle', here, there);
 end
 
 function line = handle ()

@@ -42,7 +42,8 @@ function refuse_shared (folder)
     shared = any (mode([5 8]) == 'w');
   end
   if ~mine || shared
-    error ('qn:input', ['compiled laws are kept in %s, and they are run: the folder must belong to you, and nobody else may write in it ' ...
+    error ('qn:input', ...
+           ['compiled laws are kept in %s, and they are run: the folder must belong to you, and nobody else may write in it ' ...
                         '(chmod go-w); XDG_CACHE_HOME names another place'], folder);
   end
 end

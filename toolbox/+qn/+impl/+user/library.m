@@ -4,7 +4,8 @@ function file = library (p)
   if exist (file, 'file'), return, end
   [hash, source, header] = qn.impl.user.content (p.file);
   if ~strcmp (hash, p.hash)
-    error ('qn:input', ['the compiled law %s is not in the cache of this user, and its file (or the compiler of CC) is not the one that the ' ...
+    error ('qn:input', ...
+           ['the compiled law %s is not in the cache of this user, and its file (or the compiler of CC) is not the one that the ' ...
                         'law was made from: make the law anew with qn.law'], p.file);
   end
   qn.impl.user.build (p.file, source, header, file);

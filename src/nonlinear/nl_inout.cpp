@@ -12,6 +12,7 @@
 #include "sparse/dense_lines.h"
 #include "sparse/line_runs.h"
 #include "sparse/mt_kernels.h"
+#include "sparse/mt_products.h"
 
 namespace quarn {
 

@@ -5,7 +5,7 @@
 #include "nonlinear/nl_inout.h"
 #include "numbers/ranges.h"
 #include "sparse/line_checks.h"
-#include "sparse/mt_kernels.h"
+#include "sparse/mt_products.h"
 
 namespace quarn {
 

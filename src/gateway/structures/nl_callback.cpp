@@ -4,7 +4,7 @@
 
 #include "host/errors.h"
 #include "numbers/ranges.h"
-#include "sparse/mt_kernels.h"
+#include "sparse/mt_products.h"
 
 namespace quarn {
 

@@ -5,7 +5,7 @@
 #include <cstring>
 
 #include "host/errors.h"
-#include "sparse/mt_kernels.h"
+#include "sparse/mt_products.h"
 
 namespace quarn {
 

@@ -4,7 +4,7 @@
 
 #include "gateway/structures/nl_builtin.h"
 #include "nonlinear/lin_interp.h"
-#include "sparse/mt_kernels.h"
+#include "sparse/mt_products.h"
 
 namespace quarn {
 

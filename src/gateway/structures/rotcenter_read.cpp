@@ -4,7 +4,7 @@
 #include "gateway/structures/rotcenter.h"
 #include "host/errors.h"
 #include "numbers/convert.h"
-#include "sparse/mt_kernels.h"
+#include "sparse/mt_products.h"
 
 namespace quarn {
 

@@ -47,7 +47,7 @@ end
 function yes = knows_no_host (file)
   switch room_of (file)
     case 'numbers', yes = true;
-    case 'sparse', yes = isempty (regexp (file, '/(sparse_view|line_checks|mt_kernels|\w*_commands?|command_arguments)\.(h|cpp)$', 'once'));
+    case 'sparse', yes = isempty (regexp (file, '/(sparse_view|line_checks|mt_products|\w*_commands?|command_arguments)\.(h|cpp)$', 'once'));
     case 'integration', yes = ~isempty (regexp (file, '/(newmark_kernels|newmark_fused|full_gain|knots)\.(h|cpp)$', 'once'));
     case 'nonlinear', yes = ~isempty (regexp (file, '/lin_interp\.(h|cpp)$', 'once'));
     otherwise, yes = false;

@@ -4,6 +4,7 @@
 
 #include "random_matrix.h"
 #include "sparse/blas.h"
+#include "sparse/mt_kernels.h"
 #include "sparse/mt_products.h"
 
 namespace quarn {

@@ -66,7 +66,7 @@ function law = law (kind, varargin)
   if mod (numel (varargin), 2) == 1 && any (strcmp (l.parameters{1, 3}, {'file', 'function'})), varargin = [names(1), varargin]; end
   p = qn.impl.options (who, cell2struct (l.parameters(:, 2), names, 1), varargin);
   for k = 1:numel (names), p.(names{k}) = checked (who, names{k}, p.(names{k}), l.parameters{k, 3}); end
-  if strcmp (kind, 'compiled'), p = qn.impl.user.prepared (who, p); end
+  if ~isempty (l.prepare), p = l.prepare (who, p); end
   same_length (who, p, sort (names(lists)));
   for name = of_sort (l, 'ascending')
     x = p.(name{1});

@@ -5,7 +5,7 @@ function res = advance (res, o)
   kept = sum (sim.saved <= res.final.column);
   res = qn.impl.sized (res, numel (sim.saved));
   if ~isempty (o.save)
-    qn.impl.user.savable ('qn.run', sim);
+    qn.impl.savable ('qn.run', sim);
     o.save = can_write (o.save);
   end
   h = qn.impl.register ([res.final.values; qn.impl.turning_values(sim)]);

@@ -24,10 +24,13 @@
 %   at_force    X = at_force (P, F): displacements, beside the ends of its definition, where it gives the forces F at rest
 %   at_rest     LAW = at_rest (P): the law without memory that it becomes when nothing moves
 %   extra       E = extra (E, P): the value E of an element with further fields; unpack then gets (OPT, IOPT, E)
+%   prepare     P = prepare (WHO, P): the parameters as qn.law keeps them, such as those of a file that is compiled first
+%   again       again (P): refuses parameters from a file that no longer mean the same law
+%   unsaved     why no file can hold the law, a text with what to do instead
 %
 % Those from "softest" on may be [], or be left out: no stiffness everywhere, no force of the velocity, no needs of its own, nothing stored,
-% no bound, nothing to check, no bend, no such displacement, no force at rest without its past. The list is made once a session:
-% "clear all" after a change to a law.
+% no bound, nothing to check, no bend, no such displacement, no force at rest without its past, nothing to prepare, always the same law, a law
+% that a file can hold. The list is made once a session: "clear all" after a change to a law.
 function list = law_list ()
   persistent made
   if isempty (made)
@@ -44,7 +47,7 @@ end
 % All fields, in one order.
 function l = whole (given)
   names = {'kind', 'keyword', 'parameters', 'pack', 'unpack', 'words', 'stiffest', 'softest', 'viscous', 'traits', 'stored', 'reserve', ...
-           'check', 'reach', 'at_force', 'at_rest', 'extra'};
+           'check', 'reach', 'at_force', 'at_rest', 'extra', 'prepare', 'again', 'unsaved'};
   l = cell2struct (cell (numel (names), 1), names.', 1);
   for name = fieldnames (given).', l.(name{1}) = given.(name{1}); end
 end

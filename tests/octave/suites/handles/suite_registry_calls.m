@@ -34,6 +34,8 @@ function test_a_missing_handle_is_reported_before_too_many_inputs ()
   clear quarn
   expect_error (@() quarn ('chandleget', @collect, 3, 1, 2, 3, 4, 5, 6, 7), 'KORV:quarn:NonHandle', 'Handle does not exist');
   expect_equal (quarn ('chandleget'), 3);
+  quarn ('chandleclear', 3);                                      % the key that the question left behind
+  expect_equal (isempty (quarn ('chandleget')), true);
 end
 
 function test_an_error_of_the_function_keeps_its_identifier_and_message ()
@@ -92,6 +94,7 @@ function test_a_function_may_free_the_handle_it_is_called_on ()
   h = quarn ('chandleset', 1, {'still', 'here'});
   expect_equal (quarn ('chandleget', @(v) clear_and_return (v, h), h), {'still', 'here'});
   expect_error (@() quarn ('chandleget', h), 'KORV:quarn:NonHandle', 'Handle does not exist');
+  quarn ('chandleclear', h);
   h = quarn ('chandleset', 1003, {'still', 'here'});
   expect_equal (quarn ('chandleget', @(v) clear_and_return (v), h), {'still', 'here'});
 end

@@ -74,7 +74,8 @@ function elements_fit (s)
     need (e.law, {'kind', 'parameters', 'note'});
     p = [fieldnames(e.law.parameters), struct2cell(e.law.parameters)].';
     law = qn.law (e.law.kind, p{:});
-    if strcmp (law.kind, 'compiled'), qn.impl.user.unchanged (law.parameters); end
+    l = qn.impl.law_of (law.kind);
+    if ~isempty (l.again), l.again (law.parameters); end
     expect (isequal (law.parameters, e.law.parameters), 'the parameters of element %d are damaged', e.item);
     list(k, :) = {law, sparse(e.observe), sparse(e.command)};
   end

@@ -6,7 +6,8 @@ function l = compiled_law ()
                 'rows', 1, 'count'
                 'hash', '', 'text'};
   l = struct ('kind', 'compiled', 'keyword', 'User', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'viscous', @viscous, 'traits', @traits, 'extra', @extra);
+              'stiffest', @stiffest, 'viscous', @viscous, 'traits', @(p) qn.impl.user.traits (p), 'extra', @extra, ...
+              'prepare', @(who, p) qn.impl.user.prepared (who, p), 'again', @(p) qn.impl.user.unchanged (p));
 end
 
 function [opt, own] = pack (p, step)
@@ -31,12 +32,6 @@ function text = words (p)
   [~, name, kind] = fileparts (p.file);
   text = sprintf ('compiled law %s%s (%s), %d rows, %d states, parameters%s', name, kind, p.hash(1:8), p.rows, p.states, ...
                   sprintf (' %g', p.parameters));
-end
-
-function t = traits (p)
-  t = struct ('rates', true, 'group', p.rows);
-  if p.states == 0 && p.rows == 1, return, end
-  [t.rows, t.forces, t.width, t.states, t.memory] = deal (p.rows, p.rows, p.rows + p.states, p.states, p.states > 0);
 end
 
 function k = stiffest (p, x, state)

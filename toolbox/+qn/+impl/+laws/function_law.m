@@ -4,7 +4,8 @@ function l = function_law ()
                 'states', 0, 'whole'
                 'rows', 1, 'count'};
   l = struct ('kind', 'function', 'keyword', 'User', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'viscous', @viscous, 'traits', @traits, 'extra', @extra);
+              'stiffest', @stiffest, 'viscous', @viscous, 'traits', @(p) qn.impl.user.traits (p), 'extra', @extra, ...
+              'unsaved', 'is a function, which no file can hold: leave out "save", or write the law in C (qn.law, ''compiled'')');
 end
 
 function [opt, own] = pack (p, step)
@@ -24,12 +25,6 @@ end
 
 function text = words (p)
   text = sprintf ('function %s, %d rows, %d states', func2str (p.call), p.rows, p.states);
-end
-
-function t = traits (p)
-  t = struct ('rates', true, 'group', p.rows);
-  if p.states == 0 && p.rows == 1, return, end
-  [t.rows, t.forces, t.width, t.states, t.memory] = deal (p.rows, p.rows, p.rows + p.states, p.states, p.states > 0);
 end
 
 function k = stiffest (p, x, state)

@@ -38,7 +38,7 @@ void lookUp(const char* variant, int knots, const std::vector<double>& queries) 
   double record[3] = {0.0, 0.0, 0.0};
   const int n = static_cast<int>(queries.size());
   Case c{"tables", variant, knots, static_cast<double>(n), "query", 1e-9, {}};
-  const auto product = [&] { vorel_LinInterp(table.data(), queries.data(), record, out.data(), knots, 1, n, 1, nullptr, nullptr, true); };
+  const auto product = [&] { interpolateApart(table.data(), queries.data(), record, out.data(), knots, n, true); };
   const auto loop = [&] { halving(table, queries, out); };
   c.programs.push_back({"search by halves", loop, [&] {
                           loop();

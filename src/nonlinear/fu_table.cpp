@@ -80,7 +80,11 @@ void FuTable(chandleNl_inout* h, ROr ro) {
                      !overlap(t.table, size, t.record, 3) && !overlap(h->unl, queries, h->opt, options);
   double first = apart ? firstSegment(t, h->unl, h->tableAscends) : 0.0;
   for (int repetition = 0; repetition < h->unlLen; ++repetition) {
-    vorel_LinInterp(t.table, h->unl, t.record, h->snl, t.nx, t.ny, h->unlLen, 1, nullptr, nullptr, h->tableAscends);
+    if (apart && t.ny == 1 && t.nx > 1) {
+      interpolateApart(t.table, h->unl, t.record, h->snl, t.nx, h->unlLen, h->tableAscends);
+    } else {
+      vorel_LinInterp(t.table, h->unl, t.record, h->snl, t.nx, t.ny, h->unlLen, 1, nullptr, nullptr, h->tableAscends);
+    }
     if (!apart) continue;
     const double next = firstSegment(t, h->unl, h->tableAscends);
     if (next == first) break;

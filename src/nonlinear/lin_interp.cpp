@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <climits>
 #include <cstddef>
+#include <limits>
 
 #include "numbers/convert.h"
 
@@ -76,7 +77,54 @@ void values(const double* column, std::ptrdiff_t nx, int ny, double f, double* o
   for (int k = 0; k < ny; ++k) out[k * n] = f * column[k * nx + 1] + (1.0 - f) * column[k * nx];
 }
 
+/// A segment and the queries strictly inside of it: a search that starts there ends there, and no knot is met.
+struct Segment {
+  /// The segment of one value column that a search has found, as the record has it.
+  Segment(const double* X, int nx, int found) {
+    const int s = std::max(std::min(found, nx - 2), 0);
+    begin = X[s];
+    length = X[s + 1] - X[s];
+    y0 = X[nx + s];
+    y1 = X[nx + s + 1];
+    if (!(length > 0.0 || length < 0.0)) return;  // the fraction is another one
+    if (found > 0) low = X[s];
+    if (found == 0) low = -infinity;
+    high = found < nx - 1 ? X[s + 1] : infinity;
+  }
+  bool inside(double xq) const { return low < xq && xq < high; }
+  double fraction(double xq) const { return (xq - begin) / length; }
+  double value(double f) const { return f * y1 + (1.0 - f) * y0; }
+
+  static constexpr double infinity = std::numeric_limits<double>::infinity();
+  double low = infinity;
+  double high = -infinity;
+  double begin;
+  double length;
+  double y0;
+  double y1;
+};
+
 }  // namespace
+
+void interpolateApart(const double* X, const double* x, double* rec, double* out, int nx, int n, bool ascending) {
+  if (n <= 0) return;
+  int found = start(rec[0]);
+  double f = 0.0;
+  for (int j = 0; j < n;) {
+    found = ascending ? searchAscending(X, nx, found, x[j]) : walk(X, nx, found, x[j]);
+    const int s = resolveJump(X, nx, std::min(found, nx - 2), x[j]);
+    f = fraction(X, s, x[j]);
+    values(X + nx + s, nx, 1, f, out + j, n);
+    const Segment here(X, nx, found);
+    for (++j; j < n && here.inside(x[j]); ++j) {
+      f = here.fraction(x[j]);
+      out[j] = here.value(f);
+    }
+  }
+  rec[0] = static_cast<double>(found);
+  rec[1] = x[0];
+  rec[2] = f;
+}
 
 void vorel_LinInterp(const double* X, const double* x, double* rec, double* out, int nx, int ny, int n, int mode, const double* X2,
                      double* out2, bool ascending) {

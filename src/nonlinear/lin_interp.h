@@ -19,4 +19,8 @@ namespace quarn {
 void vorel_LinInterp(const double* X, const double* x, double* rec, double* out, int nx, int ny, int n, int mode, const double* X2,
                      double* out2, bool ascending = false);
 
+/// The same with mode 1, one value column, no second table and at least two knots, where neither out (n values) nor rec shares memory with
+/// anything: what a segment needs is kept from query to query.
+void interpolateApart(const double* X, const double* x, double* rec, double* out, int nx, int n, bool ascending);
+
 }  // namespace quarn

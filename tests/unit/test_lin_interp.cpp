@@ -219,5 +219,45 @@ TEST(LinInterp, FarJumpsInAscendingTablesFindWhatTheWalkFinds) {
   }
 }
 
+// Queries that stay in a segment, leave it, meet knots or end in jumps; knots in order and in none.
+TEST(LinInterp, ManyQueriesOfOneColumnGetTheValuesAndTheRecordOfOneAfterTheOther) {
+  std::mt19937 random(23);
+  const double inf = std::numeric_limits<double>::infinity();
+  for (int round = 0; round < 4000; ++round) {
+    const bool ordered = round % 4 != 0;
+    const auto nx = static_cast<unsigned>(2 + random() % (round % 2 ? 5 : 60));
+    std::vector<double> table;
+    for (unsigned i = 0; i < nx; ++i) table.push_back(static_cast<double>(random() % (2 * nx)));
+    if (random() % 4 == 0) table[0] = -inf;
+    if (random() % 4 == 0) table[nx - 1] = inf;
+    if (ordered) std::sort(table.begin(), table.end());
+    if (!ordered && random() % 4 == 0) table[random() % nx] = std::nan("");
+    for (unsigned i = 0; i < nx; ++i) table.push_back(std::sin(i));
+    std::vector<double> x;
+    for (int q = 0; q < 30; ++q) {
+      const double choices[] = {table[random() % nx], static_cast<double>(random() % (2 * nx + 4)) - 1.5, q % 7 ? -0.0 : std::nan(""),
+                                q % 2 ? inf : -inf};
+      x.push_back(q > 0 && random() % 2 ? x.back() + 0.125 : choices[random() % (q % 3 ? 2 : 4)]);
+    }
+    double wanted[3] = {static_cast<double>(random() % (nx + 6)) - 3.0, 0.0, 0.0};
+    if (random() % 20 == 0) wanted[0] = random() % 2 ? 1e300 : std::nan("");
+    double got[3] = {wanted[0], 5.0, 6.0};
+    std::vector<double> one(x.size());
+    std::vector<double> other(x.size());
+    const int n = static_cast<int>(x.size());
+    vorel_LinInterp(table.data(), x.data(), wanted, one.data(), static_cast<int>(nx), 1, n, 1, nullptr, nullptr, false);
+    interpolateApart(table.data(), x.data(), got, other.data(), static_cast<int>(nx), n, ordered);
+    EXPECT_EQ(std::memcmp(one.data(), other.data(), one.size() * sizeof(double)), 0) << round;
+    EXPECT_EQ(std::memcmp(wanted, got, sizeof wanted), 0) << round;
+  }
+}
+
+TEST(LinInterp, NoQueriesOfOneColumnLeaveTheRecordAlone) {
+  double rec[3] = {7, 8, 9};
+  interpolateApart(jump, nullptr, rec, nullptr, 4, 0, true);
+  EXPECT_EQ(rec[0], 7.0);
+  EXPECT_EQ(rec[2], 9.0);
+}
+
 }  // namespace
 }  // namespace quarn

@@ -49,4 +49,8 @@ function test_documents_and_build_have_the_version_of_the_toolbox ()
   number = qn.impl.release ();
   expect_match (fileread (fullfile (root, 'CITATION.cff')), ['\nversion: ' strrep(number, '.', '\.') '\n']);
   expect_match (fileread (fullfile (root, 'CHANGELOG.md')), ['\n## ' strrep(number, '.', '\.') '( \(not released yet\))?\n']);
+  for name = {'README.md', 'docs/install.md'}
+    archives = regexp (fileread (fullfile (root, name{1})), 'quarn-(\d+\.\d+\.\d+)', 'tokens');
+    for found = [archives{:}], expect_equal (found{1}, number); end
+  end
 end

@@ -18,7 +18,8 @@
 %   FOLDER   folder of the compiled module that is used
 %
 % Errors
-%   qn:install  no compiled module was found, it cannot be loaded, or it is another one; or the path could not be saved
+%   qn:install  no compiled module was found, it cannot be loaded, or it is another one; its folder cannot be on the path, or the path
+%               could not be saved
 %
 % Example
 %   install_quarn ()
@@ -40,6 +41,12 @@ function folder = install_quarn (folder, keep)
   end
   if nargin > 1 && ~strcmp (keep, 'save')
     error ('qn:install', 'install_quarn: the second argument is ''save'', or there is none');
+  end
+  for place = {toolbox, found}
+    if any (place{1} == pathsep ())
+      error ('qn:install', 'install_quarn: %s cannot be on the path, where %s stands between two folders: give it another name', ...
+             place{1}, pathsep ());
+    end
   end
   before = path ();
   addpath (toolbox);

@@ -1,7 +1,7 @@
 % QN.PLOT.PICTURE  writes a figure to a picture file
 %
 % Purpose
-%   The picture has the size of the page in pixels.
+%   The picture has the size of the page in pixels. No character in the name stands for others.
 %
 % Calls
 %   qn.plot.picture (FIG, FILE)
@@ -11,7 +11,7 @@
 %   FILE   name of the file; its ending says the format: png, pdf, svg or eps
 %
 % Errors
-%   qn:input  another ending
+%   qn:input  another ending, or the file cannot be written
 %
 % Example
 %   fig = qn.plot.page ();
@@ -31,5 +31,13 @@ function picture (fig, file)
   place = get (fig, 'position');
   dpi = 120;
   set (fig, 'paperunits', 'inches', 'papersize', place(3:4) / dpi, 'paperposition', [0, 0, place(3:4) / dpi]);
-  print (fig, file, devices{k, 2}, sprintf ('-r%d', dpi));
+  % The host's print gives names to a shell, to sprintf and to the program that draws: it gets one without such characters.
+  made = [tempname() devices{k, 1}];
+  away = onCleanup (@() qn.impl.files.remove_file (made));
+  print (fig, made, devices{k, 2}, sprintf ('-r%d', dpi));
+  id = fopen (made);
+  if id < 0, error ('qn:input', 'qn.plot.picture: this host could not print %s', file); end
+  bytes = fread (id, Inf, '*uint8');
+  fclose (id);
+  qn.impl.files.write_bytes ('qn.plot.picture', file, bytes);
 end

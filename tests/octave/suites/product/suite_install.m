@@ -28,6 +28,52 @@ function test_a_relative_name_stays_good_after_a_change_of_folder ()
   expect_in (page, fullfile (module (), 'quarn.mex'));
 end
 
+% Signs that shells, patterns or print formats take for something else.
+function names = odd_names ()
+  names = {'run [1]', 'a b''c', '$(touch stolen)', '`touch stolen`', 'back\slash', 'star*', 'per%d', 'q"uote', 'semi;touch stolen'};
+end
+
+function test_any_name_of_a_folder_is_taken_as_it_stands ()
+  [above, away] = new_folder ();
+  code = sprintf ('cd (''%s''); addpath (''%s'');\n', above, toolbox ());
+  for name = odd_names ()
+    mkdir (fullfile (above, name{1}));
+    symlink (fullfile (module (), 'quarn.mex'), fullfile (above, name{1}, 'quarn.mex'));
+    said = strrep (fullfile (above, name{1}), '''', '''''');
+    code = sprintf ('%sclear quarn; f = install_quarn (''%s''); assert (f, ''%s''); assert (quarn (), 1.0001); assert (which (''quarn''), [f ''/quarn.mex'']);\n', ...
+                    code, said, said);
+  end
+  [status, page] = octave_says ([code 'exit (7);']);
+  if status ~= 7, error ('%s', page); end
+  expect_equal (exist (fullfile (above, 'stolen'), 'file'), 0);
+end
+
+function test_a_folder_that_cannot_be_on_the_path_is_refused ()
+  [above, away] = new_folder ();
+  folder = fullfile (above, 'a:b');
+  mkdir (folder);
+  symlink (fullfile (module (), 'quarn.mex'), fullfile (folder, 'quarn.mex'));
+  before = path ();
+  expect_error (@() install_quarn (folder), 'qn:install', ...
+                sprintf ('install_quarn: %s cannot be on the path, where : stands between two folders: give it another name', folder));
+  expect_equal (path (), before);
+end
+
+% CMake takes these for patterns, lists and quotes of its own, and would stop with errors about something else.
+function test_a_clone_in_a_folder_that_cannot_be_built_in_is_refused_in_words ()
+  root = fileparts (toolbox ());
+  for name = {'run [1]', 'a;b', 'q"uote', 'back\slash', 'a]'}
+    [above, away] = new_folder ();
+    mkdir (fullfile (above, name{1}));
+    folder = fullfile (above, name{1}, 'scripts');
+    mkdir (folder);
+    put_file (fullfile (folder, 'build'), fileread (fullfile (root, 'scripts', 'build')));
+    [status, said] = system (sprintf ('bash ''%s'' 2>&1', fullfile (folder, 'build')));
+    expect_equal (status, 1);
+    expect_in (said, sprintf ('build: CMake cannot build in %s: it takes', fullfile (above, name{1})));
+  end
+end
+
 function test_a_saved_path_is_there_in_the_next_session ()
   [home, away] = new_folder ();
   code = sprintf ('addpath (''%s''); install_quarn (''%s'', ''save'');', toolbox (), module ());

@@ -83,6 +83,22 @@ function test_panels_divide_the_page_without_overlap ()
   expect_error (@() qn.plot.panel (2, 2, 5), 'qn:input', '~numbered from 1 to 4');
 end
 
+% The host's print gives names to a shell and to sprintf.
+function test_any_name_of_a_picture_is_taken_as_it_stands ()
+  [folder, away] = new_folder ();
+  here = cd (folder);
+  back = onCleanup (@() cd (here));
+  names = {'run [1].png', 'a b''c.svg', '$(touch stolen).png', '`touch stolen`.png', 'back\slash.png', 'x*.png', 'per%d.png', 'q"uote.pdf', ...
+           '-dash.png', '; touch stolen.png'};
+  fig = qn.plot.page (200, 100);
+  closed = onCleanup (@() close (fig));
+  plot (1:3);
+  for name = names, qn.plot.picture (fig, name{1}); end
+  expect_equal (sort (qn.impl.files.names_in (folder)).', sort (names));
+  expect_error (@() qn.plot.picture (fig, fullfile ('no such folder', 'a.png')), 'qn:input', '~qn.plot.picture: cannot write no such folder/a.png');
+  clear back
+end
+
 % The file must be a picture of the page's size on which something is drawn.
 function test_pictures_are_written_in_the_size_of_the_page ()
   [model, res] = orbiting ();

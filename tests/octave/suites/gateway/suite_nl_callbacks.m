@@ -77,15 +77,26 @@ function test_error_of_a_law_by_name_arrives_unchanged ()
 end
 
 function test_function_without_output_is_the_hosts_error ()
-  laws = {@without_output, @output_never_set};
-  identifiers = {'Octave:invalid-fun-call', 'Octave:undefined-function'};
-  for k = 1:2
-    e = two_dof_element ();
-    e.Fu = laws{k};
-    r = zeros (4, 1);
-    expect_error (@() call (r, nl_model (e)), identifiers{k}, '~called with too many outputs|output_never_set|undefined');
-    expect_equal (r, zeros (4, 1));
+  e = two_dof_element ();
+  e.Fu = @without_output;
+  r = zeros (4, 1);
+  expect_error (@() call (r, nl_model (e)), 'Octave:invalid-fun-call', '~called with too many outputs');
+  expect_equal (r, zeros (4, 1));
+end
+
+% An error in Octave 7; Octave 9 and later give the module nothing, like a function whose "varargout" is empty.
+function test_function_that_never_sets_its_output_is_the_hosts_error_or_leaves_the_elements_own_force ()
+  e = two_dof_element ();
+  e.Fu = @output_never_set;
+  r = zeros (4, 1);
+  sums = [1; 0; 3; 0];
+  try
+    call (r, nl_model (e));
+  catch err
+    expect_equal (err.identifier, 'Octave:undefined-function');
+    sums = zeros (4, 1);
   end
+  expect_equal (r, sums);
 end
 
 function test_callable_type_may_have_no_output ()

@@ -62,7 +62,7 @@ end
 % CMake takes these for patterns, lists and quotes of its own, and would stop with errors about something else.
 function test_a_clone_in_a_folder_that_cannot_be_built_in_is_refused_in_words ()
   root = fileparts (toolbox ());
-  for name = {'run [1]', 'a;b', 'q"uote', 'back\slash', 'a]'}
+  for name = {'run [1]', 'a;b', 'q"uote', 'back\slash', 'a]', '$(touch stolen)', 'a#b'}
     [above, away] = new_folder ();
     mkdir (fullfile (above, name{1}));
     folder = fullfile (above, name{1}, 'scripts');

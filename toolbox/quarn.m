@@ -7,7 +7,7 @@
 % call on.
 %
 % Most commands write their result into arrays that the caller passes. Such an array has to be one of its own: zeros (n, 1) or
-% the result of a computation. A range (1:3), a literal number or a copy of another variable is no good target.
+% the result of a computation. A range (1:3), a literal number or a copy of another variable will not do.
 %
 % Commands
 %   x = quarn ('ismex')                                        1

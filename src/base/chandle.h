@@ -34,11 +34,11 @@ class chandle {
   /// Refuses what Residual and EndStep would read or write outside the arrays of ctx and the rLen values of r.
   /// Called once for a call or a run of the integrator, before the first Residual.
   virtual void checkSizes(const ROr& /*ctx*/, std::size_t /*rLen*/) {}
-  /// Takes the host memory of the current call that Residual works in; r: what it will add to. Called once behind checkSizes, when no
-  /// function of the user's can come in between any more: one that calls quarn with the same handle would leave memory of its own, ended
-  /// call here.
+  /// Takes the host memory of the current call that Residual works in; r: what it will add to. Called once, after checkSizes, when no
+  /// function of the user's can run before Residual: one that calls quarn with the same handle would leave memory of a call here that has
+  /// ended.
   virtual void takeWork(host::Doubles /*r*/) {}
-  /// Offset behind the state block that the handle writes into ctx.u; 0 if it writes none.
+  /// Offset of the first value after the state block that the handle writes into ctx.u; 0 if it writes none.
   virtual std::int64_t stateEnd() const { return 0; }
   /// Diagonal of a matrix handle whose matrix is diagonal; null for all others.
   virtual const double* diagonalValues() const { return nullptr; }
@@ -54,7 +54,7 @@ class chandle {
   /// Destroys the value, except that of a nonlinear element, which stays in memory by rule; then no value and no type.
   void doFree();
 
-  /// A call works with it that may wait for a function of the user's: see disturbedUses in handle_walk.h.
+  /// In use by a call that may wait for a function of the user's: see disturbedUses in handle_walk.h.
   bool inUse = false;
 
   mxArray* val = nullptr;

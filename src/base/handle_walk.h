@@ -42,7 +42,7 @@ inline void giveTimes(chandle* const* list, int n, int first, const StepTimes& t
 }
 
 /// How often a registered handle was freed or gathered anew while a call worked with it, since the module was loaded. What calls the user's
-/// functions in between compares it before and after: the handle, or its place of work, may be gone.
+/// functions in between compares it before and after: the handle, or its work memory, may be gone.
 inline std::uint64_t disturbedUses = 0;
 
 inline void setInUse(chandle* const* list, int n, bool used) {

@@ -19,7 +19,7 @@ struct ROr {
   double* a = nullptr;    ///< accelerations; null when the argument is empty
   double* FNL = nullptr;  ///< the model's force store "FNL", or null
 
-  // Values behind the pointers, for the checks.
+  // How many values the pointers lead to, for the checks.
   std::size_t uLen = 0;
   std::size_t vLen = 0;
   std::size_t aLen = 0;

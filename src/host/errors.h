@@ -16,7 +16,7 @@ void setCommand(const char* word) noexcept;
 /// none. The pointer must stay valid.
 void setPart(const char* word, int number) noexcept;
 
-/// An error that the system defines to the letter.
+/// An error whose identifier and text are fixed to the letter.
 struct FixedError {
   const char* identifier;  ///< null: none
   const char* text;

@@ -81,7 +81,7 @@ class chandleDiagNewmark final : public chandle {
   const double* tft = nullptr;
   double* data = nullptr;
   host::Doubles uva;
-  double* fmod = nullptr;    ///< modal force, behind the three copies in uva
+  double* fmod = nullptr;    ///< modal force, after the three copies in uva
   host::Doubles snapshot;    ///< mem's copy of the force store
   host::Doubles store;       ///< the model's "FNL"
   host::Doubles saveTimes;   ///< out."data"

@@ -74,7 +74,7 @@ void chandleDiagNewmark::checkGain(const ROr& c) const {
   }
 }
 
-/// Refuses steps at whose ends the pages of the gain say nothing.
+/// Refuses steps that end outside the times of the gain's pages.
 void chandleDiagNewmark::checkGainTimes(const StepTimes& times) const {
   for (int j = 0; gainTimes.count() > 0 && j < times.count; ++j) {
     const double t = times.first[times.stride * j];
@@ -84,7 +84,7 @@ void chandleDiagNewmark::checkGainTimes(const StepTimes& times) const {
   }
 }
 
-/// Takes a diagonal stiffness at the head of the list, and a diagonal damping behind it, into the pass over the modes.
+/// Takes a diagonal stiffness at the head of the list, and a diagonal damping after it, into the pass over the modes.
 void chandleDiagNewmark::foldDiagonals(const ROr& c, chandle** list, int nh) {
   const double* found[2] = {nullptr, nullptr};
   constexpr int types[2] = {HandleType::stiffness, HandleType::damping};

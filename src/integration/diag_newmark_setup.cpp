@@ -36,8 +36,8 @@ Knots timesOfGain(const mxArray* value) {
   return knots;
 }
 
-/// Data of the field "gain", n x n, with times so many pages; null where it is absent or has no elements. Refuses what the kernel could not
-/// take.
+/// Data of the field "gain", n x n, and with times n x n x times; null where it is absent or has no elements. Refuses what the kernel could
+/// not take.
 const double* fullGain(const mxArray* value, int n, int times) {
   const mxArray* field = host::field(value, "gain");
   if (host::count(field) == 0) {

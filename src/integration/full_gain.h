@@ -14,7 +14,7 @@ namespace quarn {
 /// ascending j, from 0 on, every product rounded, then every sum. f may not overlap the others.
 void newmarkCorrectFull(double* u, double* v, double* a, const double* f, const double* gain, int n, const NewmarkCoefficients& k);
 
-/// The same with a gain between two pages, the second behind the first: d = page0*((1 - weight)*f) + page1*(weight*f), one sum in that
+/// The same with a gain between two pages, the second after the first: d = page0*((1 - weight)*f) + page1*(weight*f), one sum in that
 /// order. work: 2*n values (out), apart from all others.
 void newmarkCorrectBetween(double* u, double* v, double* a, const double* f, const double* pages, double weight, double* work, int n,
                            const NewmarkCoefficients& k);

@@ -19,7 +19,7 @@ KnotPlace Knots::find(double t) {
   while (k + 1 < n && time(k + 1) <= t) ++k;
   cursor = k;
   if (k > 0 && time(k) == t && time(k - 1) == t) return {k - 1, 0.5};
-  // Not beyond the table, also where a step has written into it: a caller's arrays may share memory.
+  // Not beyond the table, even where a step has written into it: a caller's arrays may share memory.
   if (time(k) == t || k + 1 == n) return {k, 0.0};
   return {k, (t - time(k)) / (time(k + 1) - time(k))};
 }

@@ -14,7 +14,7 @@ constexpr int kBlock = 256;
 
 enum class With { nothing, stiffness, both };
 
-/// Modal force of one mode behind its load.
+/// Modal force of one mode after its load.
 template <With with>
 [[gnu::always_inline]] inline double addForces(double f, double u, double v, double k, double beta, double c) {
   if constexpr (with != With::nothing) f += k * (u + beta * v);

@@ -7,7 +7,7 @@
 
 namespace quarn {
 
-/// Diagonal forces that come right behind the modal load: f += k*(u + beta*v), then f += c*v. Either may be absent (null), c where
+/// Diagonal forces that come right after the modal load: f += k*(u + beta*v), then f += c*v. Either may be absent (null), c where
 /// k is.
 struct DiagonalForces {
   const double* k = nullptr;

@@ -37,10 +37,10 @@ class chandleSparse : public chandle {
 
   SparseView m;
   TimeFactor factor;
-  host::Doubles operand;  ///< what the matrix multiplies, as it was when the sizes were looked at
+  host::Doubles operand;  ///< what the matrix multiplies, as it was when the sizes were checked
 
  private:
-  /// The same where all lines are full: term makes of the sum of a line what is added.
+  /// The same where all lines are full: term turns the sum of a line into what is added.
   template <class Term>
   void addBlock(const double* x, std::int32_t N, double* r, const Term& term) const;
 

@@ -1,6 +1,6 @@
 % Structural dynamics in the time domain: models, force laws, runs, results
 %
-% One line a function. "help qn" shows this list (on Octave "help qn.Contents"), "help qn.NAME" tells the rest, and "help quarn" has the
+% One line per function. "help qn" shows this list (on Octave "help qn.Contents"), "help qn.NAME" tells the rest, and "help quarn" has the
 % commands of the module below.
 %
 % Matrices
@@ -12,7 +12,7 @@
 %
 % Exchange
 %   read_hb        - reads a matrix from a Harwell-Boeing file, with its right-hand sides
-%   read_coordinates - reads a matrix from coordinate text: an entry a line, by node and degree of freedom or by row and column
+%   read_coordinates - reads a matrix from coordinate text: one entry per line, by node and degree of freedom or by row and column
 %   read_op4       - reads the matrices of a Nastran OUTPUT4 file
 %   read_dmig      - reads the matrices of Nastran DMIG entries from bulk data or a punch file
 %   read_unv       - reads nodes, mode shapes and measured functions from a universal file
@@ -29,11 +29,11 @@
 %   rotor          - a rotor: shaft, disks, bearings, seals and stator as plain matrices
 %   campbell       - whirl speeds, damping and critical speeds of a rotor over its speed of rotation
 %   unbalance      - loads of unbalances, at a constant speed or along a run-up
-%   gravity        - load of the own weight
+%   gravity        - load of a structure's own weight
 %
 % Force laws
 %   law            - force law of a nonlinear element, by named parameters
-%   table          - table law from measured points: sorted, doubles averaged, smoothed on request
+%   table          - table law from measured points: sorted, repeated ones averaged, smoothed on request
 %   describe       - a law, a handle or its value in words, with its numbers
 %   element        - value of a nonlinear element handle (type 1003) from a law and observation rows
 %   force          - force of a law along a history of displacements, computed by the module
@@ -62,7 +62,7 @@
 %   advise         - how long the time step may be, from runs with h, h/2 and h/4
 %   run            - runs a simulation
 %   resume         - goes on with a run that was stopped or cut short
-%   interrupted    - what the last run reached that was ended by Ctrl-C or by an error
+%   interrupted    - what the last run that Ctrl-C or an error ended had reached
 %
 % Sweeps
 %   sweep          - runs one set-up over many sets of parameters
@@ -80,7 +80,7 @@
 %   spectrogram    - spectra of a signal along its time
 %   order_track    - amplitudes of orders along a run-up
 %   poincare       - a motion once in every period (Poincare section)
-%   report         - one page of a run for the files: set-up, findings, pictures, contacts, energies, versions
+%   report         - report of a run on one page: set-up, findings, pictures, contacts, energies, versions
 %   srs            - shock response spectrum of a base acceleration, or of a floor in a result
 %
 % Pictures

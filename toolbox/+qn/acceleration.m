@@ -2,7 +2,7 @@
 %
 % Purpose
 %   Second output of qn.velocity, and on request what an accelerometer shows: the acceleration relative to the base plus that of the
-%   base. Modes that the model has not kept follow the base rigidly: absolute = C q'' + push * acceleration of the base.
+%   base. Modes that the model did not keep follow the base rigidly: absolute = C q'' + push * acceleration of the base.
 %
 % Calls
 %   A = qn.acceleration (RES, C)
@@ -10,14 +10,14 @@
 %
 % Input
 %   RES   from qn.run, with every step kept
-%   C     observation rows or numbers of degrees of freedom, as for qn.displacement. For absolute accelerations of a model that has
-%         not kept all modes: numbers, rows of qn.observe for single degrees of freedom, or sparse p x n rows of the structure, since
+%   C     observation rows or numbers of degrees of freedom, as for qn.displacement. For absolute accelerations of a model that did
+%         not keep all modes: numbers, rows of qn.observe for single degrees of freedom, or sparse p x n rows of the structure, since
 %         other modal rows do not say how their point moves with the base.
 %   Names and values
 %     'absolute'  true: with the motion of the base, which 'base' of qn.simulation gave (false)
 %
 % Output
-%   A     p x k accelerations [m/s^2], one column a time of RES.time
+%   A     p x k accelerations [m/s^2], one column per time of RES.time
 %
 % Errors
 %   qn:input  the result keeps only some of the steps, the run had no 'base', or C does not say how its points move with the base

@@ -1,12 +1,12 @@
 % QN.ADVISE  how long the time step may be, from runs with h, h/2 and h/4
 %
 % Purpose
-%   Runs the set-up with its step, half and a quarter of it. From the two differences follows the order that the error really has in
+%   Runs the set-up with its step, half and a quarter of it. The two differences give the order that the error really has in
 %   this set-up - contacts, friction and Maxwell elements lower it below that of the scheme - and with it the error and the step for a
 %   wanted one (Richardson). Between the first and the second order the error is taken as a h + b h^2, so that what is small now and
 %   of first order counts when the step is shortened. A longer step is proposed only after a run with it kept the tolerance and
-%   qn.check has no error to name; a shorter one down to h/64, from where it is to be asked again.
-%   Where the error cannot be told - the runs grow, have little in common (chaos), or do not come nearer to each other - the text
+%   qn.check has no error to name; a shorter one down to h/64, from which to ask again.
+%   Where the error cannot be told - the runs grow, have little in common (chaos), or do not converge - the text
 %   says so, error and order are NaN, and the proposal is a step from which to ask again.
 %
 % Calls
@@ -23,7 +23,7 @@
 %
 % Output
 %   A     struct: step [s], error and error_half (relative errors with h and h/2), order (as measured), advised (step for the
-%         tolerance [s], always a positive number), limit (step from which on the motion grows, as far as it had to be asked for
+%         tolerance [s], always a positive number), limit (step from which on the motion grows, if that had to be found
 %         [s], else NaN), sure (the error is known: true or false), text. Without an output argument the text is printed.
 %
 % Errors

@@ -19,7 +19,7 @@
 %
 % Output
 %   HERTZ      1 x k frequencies [Hz]
-%   R          struct as of qn.harmonic
+%   R          struct as from qn.harmonic
 %
 % Errors
 %   qn:input     sizes do not fit, a value is not finite, a law has a memory, or damping or stiffness of the model is not symmetric

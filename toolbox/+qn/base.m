@@ -8,7 +8,7 @@
 %
 % Input
 %   MODEL   from qn.modal, n degrees of freedom, m modes
-%   PUSH    n x 1: displacement of every degree of freedom when the base moves by 1 (1 along the direction, 0 else)
+%   PUSH    n x 1: displacement of every degree of freedom when the base moves by 1 (1 along the direction, 0 otherwise)
 %
 % Output
 %   B       m x 1 [sqrt(kg)]: times the base acceleration [m/s^2] it is the modal force

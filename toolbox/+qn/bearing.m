@@ -13,7 +13,7 @@
 %     'stiffness'   K [N/m^n]
 %     'exponent'    n (1.5)
 %     'clearance'   play on either side [m] (0)
-%     'range'       greatest deflection beyond the clearance that the table covers [m] (1e-3); beyond it the last slope goes on
+%     'range'       greatest deflection beyond the clearance that the table covers [m] (1e-3); beyond it the last slope continues
 %     'knots'       number of knots on either side (60), closer to one another near the contact
 %     'deflection', 'force'  measured curve, from zero upwards [m, N]; it is mirrored
 %

@@ -1,8 +1,8 @@
 % QN.BOUCWEN  smooth hysteresis after Bouc (1967) and Wen (1976): yielding joints, isolators, steel dampers
 %
 % Purpose
-%   A spring that yields gradually: the force runs with K from rest into the line of the stiffness RATIO * K, which it meets at the
-%   displacement Y, and turns back with K. In the law's own parameters (qn.law, 'boucwen') A = 1, beta = SHAPE / Y^N and
+%   A spring that yields gradually: the force starts along K and bends into the line of stiffness RATIO * K, which meets K at the
+%   displacement Y; it unloads along K. In the law's own parameters (qn.law, 'boucwen') A = 1, beta = SHAPE / Y^N and
 %   gamma = (1 - SHAPE) / Y^N.
 %
 % Calls

@@ -1,7 +1,7 @@
 % QN.COMMAND  older name of qn.load_at
 %
 % Purpose
-%   Keeps scripts of version 0.1 running. Its name was too near to quarn ('command', ...).
+%   Keeps scripts of version 0.1 running. Its name was too close to quarn ('command', ...).
 %
 % Calls
 %   B = qn.command (MODEL, DOFS)
@@ -12,7 +12,7 @@
 %   as for qn.load_at
 %
 % Output
-%   B        m x p, one column a force [1/sqrt(kg)]
+%   B        m x p, one column per force [1/sqrt(kg)]
 %
 % Errors
 %   qn:input  as for qn.load_at

@@ -1,9 +1,9 @@
 % QN.CONTACT  one-sided stop that loses energy: stiff and damped contact after Hunt and Crossley (1975)
 %
 % Purpose
-%   A contact of the depth d pushes with K d^P (1 + CHI d'), and never pulls. Force and damping begin at nothing, so that there is no jump
+%   A contact of the depth d pushes with K d^P (1 + CHI d'), and never pulls. Force and damping begin at zero, so that there is no jump
 %   where it closes or opens, and the restitution e of a mass that hits a fixed stop at the speed v0 depends on CHI v0 = D alone:
-%   D (1 + e) = log ((1 + D) / (1 - D e)), which for small D is e = 1 - 2 D / 3. For a contact without losses qn.gap does as well.
+%   D (1 + e) = log ((1 + D) / (1 - D e)), which for small D is e = 1 - 2 D / 3. For a contact without losses qn.gap will do.
 %
 % Calls
 %   LAW = qn.contact ('stiffness', K, ...)

@@ -14,7 +14,7 @@
 %          a row of modal values too and are refused; write qn.observe. Give sparse (C) for a row that is meant.
 %
 % Output
-%   U      p x k, one row an observation, one column a time of RES.time [m]
+%   U      p x k, one row per observation, one column per time of RES.time [m]
 %
 % Errors
 %   qn:input  C has another number of columns than there are modes, a value that is not finite or a number outside 1 ... n, or may be

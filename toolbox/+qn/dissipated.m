@@ -2,7 +2,7 @@
 %
 % Purpose
 %   Shows which element damps. What an element of the displacement alone "dissipates" is the error of the time step: its force is
-%   evaluated at the predictor. It should be small beside the rest.
+%   evaluated at the predictor. It should be small compared with the rest.
 %
 % Calls
 %   D = qn.dissipated (RES)
@@ -11,14 +11,14 @@
 %   RES   from qn.run, with every step kept
 %
 % Output
-%   D     struct array, one an element of 'elements' in qn.simulation (a bank of laws is one). Without an output argument a
+%   D     struct array, one per element of 'elements' in qn.simulation (a bank of laws is one). Without an output argument a
 %         table of the values at the end is printed.
 %           law         text
 %           absorbed    1 x k work done on it since the start [J]
 %           stored      1 x k change of its stored energy [J]: of memoryless laws their potential; of sliders and Dahl elements
 %                       force^2 / (2 stiffness); of Maxwell elements that of their springs; of 'radial' that of the contact
 %                       without its damping; of 'journal' 0, of 'clima2' not known, 0
-%           exchanged   1 x k work taken by forces that act elsewhere than the element looks: rows "B" that are no multiple of "C".
+%           exchanged   1 x k work taken by forces that act elsewhere than the element observes: rows "B" that are not a multiple of "C".
 %                       They have no potential: this depends on the path, and negative is energy that they put in [J]
 %           dissipated  1 x k, absorbed less stored and exchanged [J]
 %

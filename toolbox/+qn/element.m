@@ -19,7 +19,7 @@
 %
 % Output
 %   E     struct for quarn ('chandleset', 1003, E). Laws of displacements alone get no place for velocities ("vnl" is empty), which are
-%         not observed then. Rows that fill at least half of their places, and have 8 values or more, are stored with their zeros: the module is quicker so.
+%         then not observed. Rows that fill at least half of their places, and have 8 values or more, are stored with their zeros: that is quicker.
 %
 % Errors
 %   qn:input  rows, step, state or slot do not fit the law, or are not finite

@@ -5,7 +5,7 @@
 %   What does not add up, the residual, has two sources: forces of memoryless elements act as evaluated at the predictor and do not
 %   quite follow their potential, and schemes other than average acceleration damp or excite by themselves. Both fall with the step.
 %   All other works are those of the forces as they acted, and balance to rounding with average acceleration, at any step: a small
-%   residual does not say that the motion is right (see qn.advise). One that does not fall with the step is no error of the step.
+%   residual does not say that the motion is right (see qn.advise). One that does not fall with the step is not an error of the step.
 %
 % Calls
 %   E = qn.energies (RES)
@@ -14,12 +14,12 @@
 %   RES   from qn.run, with every step kept
 %
 % Output
-%   E     struct of rows, one column a time [J], and time [s]
+%   E     struct of rows, one column per time [J], and time [s]
 %           kinetic, strain   of the modes; strain is that of the symmetric part of the stiffness
 %           stored            in elements, since the start
 %           damped            by modal damping (the symmetric part of a full matrix)
 %           dissipated        by elements with memory and by those that depend on the velocity
-%           exchanged         taken by elements that act elsewhere than they look ("B" beside "C"); negative: put in
+%           exchanged         taken by elements that act elsewhere than they observe ("B" beside "C"); negative: put in
 %           circulatory       taken by the skew part of a full stiffness (bearings with cross terms); negative: put in, as in oil whirl.
 %                             In a run-up also by 'KG' of qn.modal, all of it
 %           gyroscopic        taken by the skew part of a full damping matrix, in a run-up with the speed of each step: as the force is

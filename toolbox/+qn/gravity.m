@@ -1,8 +1,8 @@
-% QN.GRAVITY  load of the own weight
+% QN.GRAVITY  load of a structure's own weight
 %
 % Purpose
-%   Weight of all masses of a model, as qn.simulation takes loads. It may be put on slowly, so that the structure does not swing when it
-%   begins.
+%   Weight of all masses of a model, as qn.simulation takes loads. It may be applied slowly, so that it does not set the structure
+%   swinging.
 %
 % Calls
 %   LOAD = qn.gravity (MODEL, PUSH)

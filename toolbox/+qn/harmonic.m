@@ -1,7 +1,7 @@
 % QN.HARMONIC  steady response to a harmonic load, by harmonic balance and continuation
 %
 % Purpose
-%   Finds periodic answers to the real part of LOAD * exp (2i pi f t) over a range of frequencies, stable or not, and follows the curve
+%   Finds periodic responses to the real part of LOAD * exp (2i pi f t) over a range of frequencies, stable or not, and follows the curve
 %   around its folds (arc-length continuation). The load may grow with the frequency, and the model may have a gyroscopic matrix that
 %   does: the response of a rotor to its unbalance, with the speed of rotation 2 pi f. The forces of the elements are evaluated by the
 %   module's "residual" at the points of one period and brought back to harmonics (alternating frequency and time, Cameron and
@@ -27,13 +27,13 @@
 %
 % Output
 %   R     struct: hertz      1 x k frequencies along the curve
-%                 cosines    m x k x (H+1), cosine coefficients of the modal answer, harmonic 0 first
+%                 cosines    m x k x (H+1), cosine coefficients of the modal response, harmonic 0 first
 %                 sines      m x k x (H+1)
 %                 amplitude  m x k, greatest value of each mode over a period
 %
 % Errors
 %   qn:input     sizes do not fit, a value is not finite, or a law has a memory
-%   qn:diverged  no answer at the first frequency
+%   qn:diverged  no solution at the first frequency
 %
 % Example
 %   model = qn.modal (1, 1, 'damping', 0.05);

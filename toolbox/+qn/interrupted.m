@@ -1,8 +1,8 @@
-% QN.INTERRUPTED  what the last run reached that was ended by Ctrl-C or by an error
+% QN.INTERRUPTED  what the last run that Ctrl-C or an error ended had reached
 %
 % Purpose
 %   A run that is ended from outside returns nothing to its caller. Where it was not saved in a file, its part is kept in memory, until
-%   the next run that is ended so or the end of the session.
+%   the next run that ends this way or the end of the session.
 %
 % Calls
 %   RES = qn.interrupted ()

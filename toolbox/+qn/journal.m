@@ -1,8 +1,8 @@
 % QN.JOURNAL  oil film of a short plain bearing, or of a squeeze film damper
 %
 % Purpose
-%   Forces on a journal in its film, from its place and its velocity in two directions (Ocvirk, 1952; DuBois and Ocvirk, 1953), with
-%   the film torn where it widens. In a run it shows oil whirl and its orbit; qn.journal_coefficients gives stiffness and damping at the
+%   Forces on a journal in its film, from its position and velocity in two directions (Ocvirk, 1952; DuBois and Ocvirk, 1953), with
+%   the film ruptured where it widens. In a run it shows oil whirl and its orbit; qn.journal_coefficients gives stiffness and damping at the
 %   equilibrium under a load.
 %
 % Calls
@@ -21,7 +21,7 @@
 %     'centre'     [x y] of the bearing's centre [m] ([0 0])
 %
 % Output
-%   LAW   journal law, for two observation rows: x and y of the journal against the bearing; see qn.law
+%   LAW   journal law, for two observation rows: x and y of the journal relative to the bearing; see qn.law
 %
 % Errors
 %   qn:input  a parameter is missing, unknown, not one finite number or out of its range; both or neither of radius and diameter

@@ -1,7 +1,7 @@
 % QN.JOURNAL_COEFFICIENTS  equilibrium, stiffness and damping of a journal bearing under a load
 %
 % Purpose
-%   Where a journal stands under a steady load, and the linear bearing that it is around that place: for critical speeds, unbalance response
+%   Where a journal rests under a steady load, and the linear bearing that it is about that position: for critical speeds, unbalance response
 %   and stability, and to know where to start a run. K and C are differences of the forces of the law itself.
 %
 % Calls
@@ -12,9 +12,9 @@
 %   LOAD   [x y] force on the journal [N]
 %
 % Output
-%   B      struct: position      2 x 1, place of the journal [m]
+%   B      struct: position      2 x 1, that of the journal [m]
 %                  eccentricity  distance from the bearing's centre in parts of the clearance
-%                  attitude      angle from the load to the place, in the sense of rotation [rad]
+%                  attitude      angle from the load to the position, in the sense of rotation [rad]
 %                  stiffness     2 x 2, d force / d displacement, rows x and y of the force [N/m]
 %                  damping       2 x 2, d force / d velocity [N s/m]
 %                  mass          greatest mass of a rigid rotor, a bearing's share, that stays on the film at this speed [kg]; Inf: any

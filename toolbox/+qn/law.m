@@ -12,7 +12,7 @@
 %   'power'        stiffness [N/m^p], exponent p              force = stiffness * x^p. With an exponent that is not a whole number, x
 %                                                            must not be negative.
 %   'exponential'  scale [N], base                           force = scale * base^x, x in m
-%   'table'        displacement [m], force [N]               linear between the knots, which ascend; beyond them the end segments go on
+%   'table'        displacement [m], force [N]               linear between the knots, which ascend; beyond them the end segments continue
 %   'maxwell'      springs [N/m], dampers [N s/m],           spring-and-damper branches in parallel, and a spring beside them; the
 %                  stiffness* [N/m] (0)                      states advance by the explicit Euler rule
 %   'dahl'         stiffness [N/m], slip [N], exponent* (1)  dF/dx = stiffness * (1 - F/slip * sign (v))^exponent. Exponent 0: an elastic
@@ -32,7 +32,7 @@
 %   'journal'      viscosity [Pa s], length [m], radius [m], oil film of a short plain bearing around x0, y0 (Ocvirk), of a journal that
 %                  clearance [m], speed [rad/s],             turns at speed; up to the eccentricity limit, in parts of the clearance.
 %                  limit* (0.99), x0*, y0* [m] (0)           Observes two displacements and their velocities. See qn.journal.
-%   'contact'       stiffness [N/m^p], exponent* p (1.5),     one-sided stop: stiffness * d^p (1 + damping * d') and never below 0, where
+%   'contact'      stiffness [N/m^p], exponent* p (1.5),     one-sided stop: stiffness * d^p (1 + damping * d') and never below 0, where
 %                  damping* [s/m] (0), gap* [m] (0),         side * x is beyond the gap by d > 0; side is 1 or -1 (Hunt and Crossley
 %                  side* (1)                                 1975). See qn.contact.
 %   'compiled'     FILE, parameters* ([]), states* (0),      a law of your own in C, in FILE.c (name of the parameter: file); compiled

@@ -12,7 +12,7 @@
 %   as for qn.observe: a unit force on each degree of freedom, or one force pattern with these weights
 %
 % Output
-%   B        m x p, one column a force [1/sqrt(kg)]
+%   B        m x p, one column per force [1/sqrt(kg)]
 %
 % Errors
 %   qn:input  as for qn.observe

@@ -14,7 +14,7 @@
 %   A      matrix, sparse for "coordinate", full for "array", with both triangles of a symmetric one filled in
 %
 % Errors
-%   qn:input  the file cannot be opened, has another header, ends early or goes on after its end, a number is none or outside the
+%   qn:input  the file cannot be opened, has another header, ends early or goes on after its end, a number is malformed or outside the
 %             matrix, or an entry is above the diagonal where the lower triangle stands for both; the message has file and line. The
 %             warning qn:file says that entries come twice: they are added.
 %

@@ -13,33 +13,33 @@
 %          zeros for degrees of freedom without mass. Those follow the others statically, which is exact where no load and no
 %          element acts on them: what acts there directly also bends them, and that no mode holds.
 %   S      structure with the fields K, M and, where there are such, C, G, speed: a physical model. Of a rotor of qn.rotor the modes are
-%          those of M and the symmetric part Ks; the rest of K goes the way of 'K'.
+%          those of M and the symmetric part Ks; the rest of K is treated like 'K'.
 %   Names and values
 %     'modes'     how many modes to keep (all, at most 200)
-%     'damping'   modal damping ratios, one for all or one a mode, 1 being critical (0)
+%     'damping'   modal damping ratios, one for all or one per mode, 1 being critical (0)
 %     'rayleigh'  [alpha beta]: damping matrix alpha*M + beta*K [1/s, s]; see qn.rayleigh
 %     'C'         damping matrix [N s/m], any real n x n: dashpots, bearings
 %     'G'         gyroscopic matrix [kg m^2 or kg m, whatever times 'speed' gives N s/m], n x n, skew (G.' = -G)
 %     'speed'     speed of rotation [rad/s] that belongs to 'G': the damping gets speed*G. For a run-up it is 0 here, and 'speed' of
 %                 qn.simulation says how the speed changes
-%     'KG'        what times the angular acceleration is a stiffness [kg m^2], any real n x n: it acts in run-ups alone. Where
-%                 slopes are measured in the frame that stands still, it is the part of G that the derivative of the spin's moment leaves
+%     'KG'        matrix that times the angular acceleration is a stiffness [kg m^2], any real n x n: it acts in run-ups alone. Where
+%                 slopes are measured in a fixed frame, it is the part of G that the derivative of the spin's moment leaves
 %     'K'         further stiffness [N/m], any real n x n: bearings, with cross terms that differ. The modes stay those of K and M
 %                 alone; this one may couple them. What pushes away from rest (the weight of an upright pendulum) belongs here.
 %                 C, G and K are projected onto the modes. Where that leaves more than rounding beside the diagonal, the full
 %                 modal matrix is kept, and integrated implicitly as it is (a matrix gain, see docs/theory.md).
 %     'method'    'auto': eigs for sparse matrices with more than 250 degrees of freedom and up to a quarter of the modes, where it
 %                 is faster, else eig; 'eig' (dense) or 'eigs' (sparse). Modes of eigs are checked: residuals, orthogonality, and
-%                 that none was left out; in doubt 'auto' takes eig ('auto')
-%     'attach'    where stiff elements or point loads will act: numbers of degrees of freedom, or load shapes, n values a column or a
+%                 that none was left out; if in doubt 'auto' takes eig ('auto')
+%     'attach'    where stiff elements or point loads will act: numbers of degrees of freedom, or load shapes, n values per column or
 %                 row. The static responses to unit forces there that the modes do not hold are added as further, orthogonal
 %                 shapes after the modes, so that the flexibility at those places is exact (Rubin 1975; docs/theory.md). On a
 %                 structure that is free to move they are responses with inertia relief; its rigid motions must be among the
-%                 modes. With one damping ratio a mode they take the last one.
+%                 modes. With one damping ratio per mode they take the last one.
 %   The dampings add up. Keep all modes that C, G or K need to move as they push: what is not in the modes is rigid.
 %
 % Output
-%   MODEL  struct: shapes     n x m, one mode a column [1/sqrt(kg)]
+%   MODEL  struct: shapes     n x m, one mode per column [1/sqrt(kg)]
 %                  w          m x 1 angular frequencies [rad/s]; 0 where a shape strains K by less than 1e-13 of what its entries add
 %                             up to without their signs: a rigid motion, to rounding. qn.check notes what may be a soft support.
 %                  hertz      m x 1 frequencies [Hz]
@@ -47,14 +47,14 @@
 %                  damping    m x 1, 2*zeta*w [1/s], or m x m where 'C' or 'G' couples them
 %                  M          the mass matrix, for base motion and initial states [kg]
 %                  K          the stiffness matrix, with which qn.check finds what flexibility the modes leave out [N/m]
-%                  attached   number of shapes that are no modes: the last ones, from 'attach'
+%                  attached   number of shapes that are not modes: the last ones, from 'attach'
 %                  rotation   [] without 'G', else struct: G and K (modal, K is [] without 'KG'), speed, and damping, that at standstill
 %                  m counts them too.
 %
 % Errors
 %   qn:input  sizes do not fit, K or M is not symmetric (to 1e-6 of its greatest entry), the mass is not positive
 %             definite, K has a negative eigenvalue beyond the rounding of a rigid motion (from 1e-10 to 1e-6 of its entries it is
-%             taken for 0 with the warning qn:modal), a damping is negative or no number, G is not skew or comes without a speed,
+%             taken for 0 with the warning qn:modal), a damping is negative or not a number, G is not skew or comes without a speed,
 %             KG comes without G; the places of 'attach' are none, a static response does not exist, what has no mass is not held, or
 %             stiffness over mass or a modal value is beyond all numbers
 %   qn:eigs   with 'eigs' a mode was left out or is inaccurate

@@ -16,7 +16,7 @@
 %   ROWS     p x n observation matrix of the physical model instead of the numbers: sparse, or with p > 1
 %
 % Output
-%   C        p x m, one row an observation [1/sqrt(kg)]
+%   C        p x m, one row per observation [1/sqrt(kg)]
 %
 % Errors
 %   qn:input  a number outside 1 ... n, weights of another length, or a value that is not finite

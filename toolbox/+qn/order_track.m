@@ -21,7 +21,7 @@
 %     'overlap'  share of a window that the next one has too, from 0 to below 1 (0.5)
 %
 % Output
-%   AMPLITUDE   n x p complex, a column a window: the motion is the real part of AMPLITUDE * exp (i order angle) summed over orders, the
+%   AMPLITUDE   n x p complex, one column per window: the motion is the real part of AMPLITUDE * exp (i order angle) summed over orders, the
 %               angle being that since the first time [unit of the signal]
 %   SPEED       1 x p speeds of rotation at the times MIDDLE [Hz]
 %   MIDDLE      1 x p times at which half of a window's turns are done [s]

@@ -10,7 +10,7 @@
 %
 % Input
 %   TIME      1 x k times, evenly spaced [s]
-%   SIGNALS   p x k, one row a signal, such as displacement and velocity
+%   SIGNALS   p x k, one row per signal, such as displacement and velocity
 %   RES       from qn.run, with every step kept, and
 %   C         p observation rows, or numbers of degrees of freedom
 %   PERIOD    of the load [s]
@@ -19,7 +19,7 @@
 %     'skip'    periods at the beginning to leave out, until the motion has settled (0)
 %
 % Output
-%   POINTS    p x n, a column a period; from a result 2 p x n: displacements, then velocities
+%   POINTS    p x n, one column per period; from a result 2 p x n: displacements, then velocities
 %   AT        1 x n times [s]
 %
 % Errors

@@ -8,7 +8,7 @@
 %   P = qn.project (A, K, B)
 %
 % Input
-%   A   basis, n x p, real or complex, one vector a column
+%   A   basis, n x p, real or complex, one vector per column
 %   K   matrix, n x n (sparse, full, or as qn.pack gives it, not transposed) [N/m, kg, N s/m]
 %   B   basis, n x q; without it, A
 %

@@ -1,4 +1,4 @@
-% QN.READ_COORDINATES  reads a matrix from coordinate text: an entry a line, by node and degree of freedom or by row and column
+% QN.READ_COORDINATES  reads a matrix from coordinate text: one entry per line, by node and degree of freedom or by row and column
 %
 % Purpose
 %   Solvers print their global matrices line by line: row node, row degree of freedom, column node, column degree of freedom and
@@ -21,12 +21,12 @@
 % Output
 %   A      sparse matrix. With 'dofs' square, its rows in the order of DOFS: nodes ascend, degrees of freedom within them; negative
 %          nodes, unknowns that the solver made itself, come last
-%   DOFS   struct: node (n x 1 numbers, or cell of texts where a node is no number), dof (n x 1), huge (n x 1 truth values: a diagonal
+%   DOFS   struct: node (n x 1 numbers, or cell of texts where a node is not a number), dof (n x 1), huge (n x 1 truth values: a diagonal
 %          of at least 1e30, by which some solvers hold a degree of freedom; A(~DOFS.huge, ~DOFS.huge) is without them). Without
 %          nodes node and dof are []
 %
 % Errors
-%   qn:input  the file cannot be opened, a line has another number of fields or one that is no number, an entry comes twice, is outside
+%   qn:input  the file cannot be opened, a line has another number of fields or one that is not a number, an entry comes twice, is outside
 %             the matrix or differs from its mirror image; the message has file and line
 %
 % Example

@@ -20,7 +20,7 @@
 %          with them), node (n x 1) and label (n x 1 cell of texts such as UX or ROTY) from the mapping file, else []
 %
 % Errors
-%   qn:input  the file cannot be opened or ends early, a number in it is none or makes no sense, counts do not agree, both triangles
+%   qn:input  the file cannot be opened or ends early, a number in it is malformed or makes no sense, counts do not agree, both triangles
 %             are there and differ; the message has file and line. Right-hand sides in the form of the matrix and binary files are
 %             refused. The warning qn:file says that a count is wrong that nothing depends on.
 %

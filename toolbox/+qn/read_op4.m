@@ -14,12 +14,12 @@
 %
 % Output
 %   LIST   1 x p struct array, one for each matrix in the file: name, matrix (sparse; of a symmetric one with both triangles), form
-%          ('square', 'rectangular', 'lower', 'upper' or 'symmetric') and precision (1 single, 2 double). Which degree of freedom
-%          a row is does not stand in the file.
+%          ('square', 'rectangular', 'lower', 'upper' or 'symmetric') and precision (1 single, 2 double). The file does not
+%          say which degree of freedom a row is.
 %   A      the matrix of that name
 %
 % Errors
-%   qn:input  the file cannot be opened, is of another kind or ends early, a number is none or does not fit the head of its matrix, or no
+%   qn:input  the file cannot be opened, is of another kind or ends early, a number is malformed or does not fit the head of its matrix, or no
 %             matrix has that name; the message has file and line, or the byte where a record begins. Diagonal and identity forms,
 %             records in several pieces and double precision with whole numbers of 64 bits are refused.
 %

@@ -1,8 +1,8 @@
 % QN.READ_UNV  reads nodes, mode shapes and measured functions from a universal file
 %
 % Purpose
-%   Programs for measurement and modal analysis exchange their results so. Read are the datasets 15, 781 and 2411 (nodes), 55 (data at
-%   nodes, such as mode shapes), 58 (functions, such as time histories and frequency responses, as text or binary) and 164 (units).
+%   Programs for measurement and modal analysis exchange their results this way. The datasets 15, 781 and 2411 (nodes), 55 (data at
+%   nodes, such as mode shapes), 58 (functions, such as time histories and frequency responses, as text or binary) and 164 (units) are read.
 %
 % Calls
 %   S = qn.read_unv (FILE)
@@ -11,7 +11,7 @@
 %   FILE   name of the file
 %
 % Output
-%   S      struct, its numbers as they stand in the file:
+%   S      struct, its numbers as they are in the file:
 %            units      struct array: code, text, length, force, temperature, offset. Divided by its factor, a number is in SI units.
 %                       Without any, the units of the file are not known.
 %            nodes      struct: label (n x 1), place (n x 3) and system (n x 2: of the place, of displacements; local ones are not
@@ -27,7 +27,7 @@
 %            skipped    numbers of the datasets that were not read
 %
 % Errors
-%   qn:input  the file cannot be opened, a dataset is cut short, or a number is none or makes no sense; the message has file and line
+%   qn:input  the file cannot be opened, a dataset is cut short, or a number is malformed or makes no sense; the message has file and line
 %
 % Example
 %   file = [tempname() '.unv'];

@@ -1,4 +1,4 @@
-% QN.REPORT  one page of a run for the files: set-up, findings, pictures, contacts, energies, versions
+% QN.REPORT  report of a run on one page: set-up, findings, pictures, contacts, energies, versions
 %
 % Purpose
 %   Writes a page (HTML) that needs nothing else: no network, no other file, pictures are inside. Browsers show it and print it.
@@ -12,7 +12,7 @@
 %   Names and values
 %     'title'     text of the heading ('Time simulation')
 %     'note'      text, or cell of texts, a paragraph each: who, what for, which drawing ({})
-%     'rows'      observation rows, or numbers of degrees of freedom, to draw ([]: where the first four elements look; without
+%     'rows'      observation rows, or numbers of degrees of freedom, to draw ([]: where the first four elements observe; without
 %                 elements where the motion is largest)
 %     'names'     cell of texts for the rows ({})
 %     'pictures'  true: draw (true)

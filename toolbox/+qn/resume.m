@@ -1,7 +1,7 @@
 % QN.RESUME  goes on with a run that was stopped or cut short
 %
 % Purpose
-%   Takes a run up where it ended. The results of the whole have the same bits as those of a run in one piece.
+%   Continues a run from where it ended. The results of the whole have the same bits as those of a run in one piece.
 %
 % Calls
 %   RES = qn.resume (RES, ...)

@@ -19,7 +19,7 @@
 %                 for 100 MB: choose a longer one for large results.
 %     'check'     true: what qn.check finds of errors and warnings is said before the run, and after it for elements that turn out too
 %                 stiff in the motion that occurred, each code once, as warnings qn:check:CODE (true). warning ('off',
-%                 'qn:check:CODE') switches off one of them; docs/checks.md lists them. Without a meaning in qn.resume.
+%                 'qn:check:CODE') switches off one of them; docs/checks.md lists them. It has no meaning in qn.resume.
 %     'stop'      function of the results so far, called between pieces: true ends the run ([]). Columns after r.time_end are
 %                 there already and are NaN.
 %
@@ -41,7 +41,7 @@
 %   qn:diverged; 'start' and qn.resume refuse its result. The warning qn:growth says between two pieces that the motion has more than
 %   nine times the energy that it can have: that of the state it began with, what elements can give back, and what the loads can have
 %   put in at most, (integral of their norm)^2 / 2 added to the root. That holds for every passive set-up, at resonance too; nothing is
-%   said where forces may feed the motion by right (unsymmetric stiffness, negative damping, elements that act elsewhere than they
+%   said where forces may rightly feed the motion (unsymmetric stiffness, negative damping, elements that act elsewhere than they
 %   observe, laws whose energy has no bound). warning ('off', 'qn:growth') switches it off. The handles of the run
 %   are freed in every case; by the module's rule the values of its nonlinear elements, a few kilobytes, stay in memory until the
 %   host ends. Ctrl-C, or an error in the function of 'stop', ends a run at once: its state is saved where 'save' is given, else

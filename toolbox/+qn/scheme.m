@@ -13,7 +13,7 @@
 %          'linear'   linear acceleration, 1/6 and 1/2: more accurate, stable below w*h = 3.46
 %          'damped'   numerical damping of high modes: RHO is what a very high mode keeps of its amplitude in one step, between 0
 %                     and 1 (0.9). First order only.
-%   BETA, GAMMA        parameters of one's own, GAMMA at least 1/2
+%   BETA, GAMMA        your own parameters, GAMMA at least 1/2
 %
 % Output
 %   S      struct: beta, gamma, order, limit (largest stable w*h of a linear undamped mode, Inf if there is none), name

@@ -22,9 +22,9 @@
 %     'elements'  {LAW, C; ...} or {LAW, C, B; ...}: LAW from qn.law or a recipe, C observation rows (qn.observe) or numbers of
 %                 degrees of freedom as for qn.displacement, B rows through which the force acts (C). A bank of laws shares one C.
 %     'speed'     2 x k table [times; speeds] of a run-up [s, rad/s], linear in between, over all of the run; the model comes from
-%                 qn.modal with 'G' (whose own speed counts for nothing here). Every step has its own speed: the scheme with the gyroscopic
+%                 qn.modal with 'G' (whose own speed is ignored here). Every step has its own speed: the scheme with the gyroscopic
 %                 matrix of that time, and with the angular acceleration times 'KG', the mean of both sides at a knot. Knots that are
-%                 not on a step are fine; with 'KG' put them there. The loads are yours: of an unbalance too
+%                 not on a step are fine; with 'KG' put them there. Loads are not made from it, not even of an unbalance
 %     'every'     results are kept at every k-th step (1), or
 %     'times'     at the steps next to these times [s]; those outside the run give its first or last step
 %     'u0', 'v0'  initial displacement and velocity of the structure [m, m/s] (0); what the modes do not hold of them is left out, and
@@ -34,8 +34,8 @@
 %     'start'     result of an earlier run: its last state, its laws' memory and its time are where this one begins. Model, laws, step,
 %                 scheme and loads are those given here. With other modes the state goes through the displacements of the structure
 %                 (the same degrees of freedom); more than 1 % that the new modes cannot represent is refused, more than 0.01 % is
-%                 said in the warning qn:start. An element takes over the memory of the earlier one with the same kind of law at the
-%                 same place (rows), of several there that with the same parameters, or where these changed and the number did not, in
+%                 said in the warning qn:start. An element inherits the memory of the earlier one with the same kind of law at the
+%                 same place (rows); of several there, of that with the same parameters, or where these changed and the number did not, in
 %                 their order. One with a memory that finds none is refused, earlier ones that are left out are dropped.
 %     'fresh'     rows of "elements" that begin without a memory, as in a first run, though there is a "start"
 %

@@ -2,7 +2,7 @@
 %
 % Purpose
 %   Dry friction, as a spring that carries at most the slip force (Jenkins element). The stiffness represents the joint's own; the
-%   stiffer, the nearer to ideal Coulomb friction and the shorter the step has to be.
+%   stiffer, the closer to ideal Coulomb friction and the shorter the step has to be.
 %
 % Calls
 %   LAW = qn.slider ('slip', F, 'stiffness', K)

@@ -21,7 +21,7 @@
 % Output
 %   HERTZ    1 x n frequencies [Hz]
 %   MIDDLE   1 x p times in the middle of the windows [s]
-%   X        n x p complex amplitudes, a column a window, as from qn.spectrum [unit of the signal]
+%   X        n x p complex amplitudes, one column per window, as from qn.spectrum [unit of the signal]
 %
 % Errors
 %   qn:input  the lengths differ, a value is not finite, the times are not evenly spaced, a window is longer than the signal or

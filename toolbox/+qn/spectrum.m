@@ -8,7 +8,7 @@
 %
 % Input
 %   TIME     1 x k times, evenly spaced [s]
-%   SIGNAL   p x k, one row a signal
+%   SIGNAL   p x k, one row per signal
 %   Names and values
 %     'window'  'hann' or 'none' ('hann')
 %     'mean'    'keep' or 'remove' ('remove')

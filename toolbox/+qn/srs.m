@@ -1,7 +1,7 @@
 % QN.SRS  shock response spectrum of a base acceleration, or of a floor in a result
 %
 % Purpose
-%   Largest absolute acceleration of a one-degree-of-freedom oscillator on a base that moves so, against the oscillator's frequency,
+%   Largest absolute acceleration of a one-degree-of-freedom oscillator on that base, against the oscillator's frequency,
 %   during the shock and after it. The motion of the oscillator is the exact one for a record that is linear between its samples and
 %   goes to zero within one sample before and after (Nigam and Jennings 1969; as a digital filter it is the ramp-invariant one of
 %   Smallwood 1981), and its extremes are looked for between the samples as well: what the search may have missed is bounded, by less
@@ -17,10 +17,10 @@
 %
 % Input
 %   TIME    1 x k times, evenly spaced [s]
-%   ACC     p x k base accelerations, one record a row [m/s^2]; a column of k values is one record too
+%   ACC     p x k base accelerations, one record per row [m/s^2]; a column of k values is one record too
 %   HERTZ   frequencies of the oscillators [Hz], below half the sampling rate
 %   Q       quality factor 1 / (2 zeta) (10); Inf is undamped
-%   RES     from qn.run, with every step kept: the spectrum of what an oscillator feels that is mounted on the structure. Accelerations
+%   RES     from qn.run, with every step kept: the spectrum of what an oscillator mounted on the structure feels. Accelerations
 %           are absolute, with the motion of the base that 'base' of qn.simulation gave.
 %   C       where it is mounted, p places: as for qn.acceleration
 %

@@ -12,7 +12,7 @@
 %   MODEL     from qn.modal, m modes
 %   LOAD      m x 1 modal force (qn.load_at times forces) [N]
 %   ELEMENTS  {LAW, C; ...} as for qn.simulation; friction laws are refused, as their equilibrium depends on the past. Of a Maxwell
-%             element the spring beside the branches is left.
+%             element the spring beside the branches remains.
 %   Q0        where to start (0)
 %
 % Output

@@ -1,8 +1,8 @@
-% QN.TABLE  table law from measured points: sorted, doubles averaged, smoothed on request
+% QN.TABLE  table law from measured points: sorted, repeated ones averaged, smoothed on request
 %
 % Purpose
 %   Measured force curves come unsorted, with points that repeat, and with noise whose slopes change their sign; qn.law ('table') takes knots
-%   that ascend. This makes one of the other, and says what it did.
+%   that ascend. This makes the one from the other, and says what it did.
 %
 % Calls
 %   qn.table (X, F, ...)

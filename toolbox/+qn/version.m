@@ -21,7 +21,7 @@
 %         Without an output argument it is printed.
 %
 % Errors
-%   none: a module that is missing or another one is said in the texts
+%   none: a module that is missing, or another one, is reported in the texts
 %
 % Example
 %   v = qn.version ();

@@ -9,7 +9,7 @@
 % Input
 %   FILE      name of the file; an existing one is replaced
 %   X         1 x k ascending times [s], or frequencies [Hz] where 'type' says so
-%   SIGNALS   p x k, real or complex, one row a signal
+%   SIGNALS   p x k, real or complex, one row per signal
 %   Names and values
 %     'type'         'time' or 'response', a frequency response ('time')
 %     'quantity'     'displacement', 'velocity', 'acceleration', 'force' or 'unknown' ('unknown')

@@ -13,7 +13,7 @@
 %       [] makes an empty vector; a chandle vector is returned as it is
 %
 % Output
-%   H   object of class chandle with one element an index
+%   H   object of class chandle with one element per index
 %
 % What can be done with it
 %   numel (H)     number of handles

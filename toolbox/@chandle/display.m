@@ -2,7 +2,7 @@
 %
 %   display (H)
 %
-% One line an element: its index in the registry and what its value says. An index that is not registered (any more) is said to
+% One line per element: its index in the registry and what its value says. An index that is not registered (any more) is said to
 % be free.
 function display (h)
   fprintf ('%s = chandle vector of %d\n', inputname (1), numel (h));

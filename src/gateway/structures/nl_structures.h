@@ -22,7 +22,7 @@ namespace quarn {
 void addNlStructures(const ROr& ctx, host::Doubles r, const mxArray* NL, int nrhs, const mxArray** prhs, int checked = 0);
 
 /// Refuses what addNlStructures would refuse, and writes nothing. Stops after the first element that calls MATLAB, since that
-/// function may change what the later elements hold. Returns the number of rows that were looked at.
+/// function may change what the later elements hold. Returns the number of rows that have been checked.
 int checkNlStructures(const ROr& ctx, host::Doubles r, const mxArray* NL, int nrhs, const mxArray** prhs);
 
 }  // namespace quarn

@@ -8,7 +8,7 @@
 %
 % Input
 %   VALUES   p values of the parameter
-%   POINTS   cell of p lists, the points at each value: from qn.poincare, one row of each, as qn.sweep hands them back
+%   POINTS   cell of p lists, the points at each value: from qn.poincare, one row of each, as qn.sweep returns them
 %   Names and values
 %     'label'  text for the axis of the parameter ('Parameter')
 %     'unit'   unit of the points ('m')

@@ -1,7 +1,7 @@
 % QN.PLOT.ORDERS  amplitudes of orders against the speed of rotation
 %
 % Purpose
-%   Draws what qn.order_track gives, a line an order, into the current axes.
+%   Draws what qn.order_track gives, one line per order, into the current axes.
 %
 % Calls
 %   qn.plot.orders (SPEED, AMPLITUDE, ORDERS)

@@ -16,7 +16,7 @@
 %     'unit'    unit of the amplitudes ('m')
 %
 % Errors
-%   qn:input  the lengths differ, a value is not finite, or 'hertz' leaves less than two frequencies
+%   qn:input  the lengths differ, a value is not finite, or 'hertz' leaves fewer than two frequencies
 %
 % Example
 %   t = 0:1e-3:10;

@@ -11,7 +11,7 @@
 %   TIME      1 x k times, evenly spaced [s], and
 %   SIGNAL    1 x k; it is cut into overlapping parts of one length, or
 %   HERTZ     1 x n frequencies [Hz], and
-%   SPECTRA   p x n amplitudes, one row a spectrum, with the VALUES (p) that belong to them: speeds, loads
+%   SPECTRA   p x n amplitudes, one row per spectrum, with the VALUES (p) that belong to them: speeds, loads
 %   Names and values
 %     'parts'   number of parts of the signal (24)
 %     'hertz'   [low high] frequencies to show (all)
@@ -20,7 +20,7 @@
 %     'unit'    unit of the signal ('m')
 %
 % Errors
-%   qn:input  lengths differ, a value is not finite, times or frequencies do not ascend, or 'hertz' leaves less than two to show
+%   qn:input  lengths differ, a value is not finite, times or frequencies do not ascend, or 'hertz' leaves fewer than two to show
 %
 % Example
 %   t = 0:1e-3:10;

@@ -46,7 +46,7 @@ void chandleSparse::checkSizes(const ROr& ctx, std::size_t rLen) {
 }
 
 void chandleSparse::checkTerm(std::int32_t N, std::size_t vectorLen, std::size_t rLen, const char* vectorName) {
-  checkLength(rLen, N, "the residual (in an integration, the part of uva behind the copies of u, v and a)", "one for each row of u");
+  checkLength(rLen, N, "the residual (in an integration, the part of uva after the copies of u, v and a)", "one for each row of u");
   checkLength(vectorLen, N, vectorName, "one for each row of u");
   if (diagonal()) {
     checkLength(m.prLen, N, name(), "one diagonal entry for each row of u");

@@ -42,7 +42,7 @@ void TimeFactor::read(const mxArray* value, const char* owner) {
     const double* y = all.data + 2 * static_cast<std::ptrdiff_t>(k) + 1;
     if (!std::isfinite(y[0])) host::refuse("%s must be finite, got %g in row 2, column %d", name.text, y[0], k + 1);
     if (k > 0 && !std::isfinite(y[0] - y[-2])) {
-      host::refuse("%s must change by a finite number, got %g behind %g in column %d", name.text, y[0], y[-2], k + 1);
+      host::refuse("%s must change by a finite number, got %g after %g in column %d", name.text, y[0], y[-2], k + 1);
     }
   }
   table = all.data;

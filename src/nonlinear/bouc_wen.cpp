@@ -1,4 +1,4 @@
-// Smooth hysteresis after Bouc and Wen, advanced over the way of the observed point.
+// Smooth hysteresis of Bouc and Wen, advanced with the displacement of the observed point.
 #include <limits>
 
 #include "nonlinear/state_laws.h"
@@ -20,19 +20,19 @@ struct Hysteresis {
   /// A solution that begins below the limit, where the slope is 0, stays below it, one above it stays above.
   double held(double y, bool below) const { return below ? (y > limit ? limit : y) : (y < limit ? limit : y); }
 
-  /// Number of equal parts of a way: the slope changes by about a quarter of itself in each, but for ways many times the limit.
-  int parts(double y, double way) const {
+  /// Number of equal parts of an increment: the slope changes by about a quarter of itself in each, unless dx is many times the limit.
+  int parts(double y, double dx) const {
     const double most =
-        limit < std::numeric_limits<double>::infinity() ? std::fmax(std::fabs(y), limit) : std::fabs(y) + std::fabs(rate) * way;
-    const double wanted = 4.0 * way * (steepness * std::pow(most, exponent - 1.0));
+        limit < std::numeric_limits<double>::infinity() ? std::fmax(std::fabs(y), limit) : std::fabs(y) + std::fabs(rate) * dx;
+    const double wanted = 4.0 * dx * (steepness * std::pow(most, exponent - 1.0));
     if (!(wanted > 1.0)) return 1;
     return wanted < 32.0 ? static_cast<int>(std::ceil(wanted)) : 32;
   }
 
-  double after(double y, double way) const {
+  double after(double y, double dx) const {
     const bool below = !(y > limit);
-    const int n = parts(y, way);
-    const double h = way / n;
+    const int n = parts(y, dx);
+    const double h = dx / n;
     for (int i = 0; i < n; ++i) {
       const double k1 = slope(y);
       const double k2 = slope(held(y + 0.5 * h * k1, below));
@@ -67,9 +67,9 @@ void FuBoucWen(chandleNl_inout* h, ROr ro) {
   const Hysteresis law(h->opt);
   for (std::ptrdiff_t i = 0; i < h->unlLen; i += 3) {
     const double x = h->unl[i];
-    const double way = x - h->unl[i + 2];
-    const double side = way < 0.0 ? -1.0 : 1.0;
-    const double z = side * law.after(side * h->unl[i + 1], side * way);
+    const double dx = x - h->unl[i + 2];
+    const double side = dx < 0.0 ? -1.0 : 1.0;
+    const double z = side * law.after(side * h->unl[i + 1], side * dx);
     h->snl[i] = stiffness * (share * x + (1.0 - share) * z);
     h->unl[i + 1] = z;
     h->unl[i + 2] = x;

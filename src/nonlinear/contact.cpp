@@ -15,7 +15,7 @@ void FuContact(chandleNl_inout* h, ROr ro) {
   for (int i = 0; i < h->unlLen; ++i) {
     const double depth = side * h->unl[i] - gap;
     double push = 0.0;
-    if (!(depth <= 0.0)) {  // a depth that is no number gives no number
+    if (!(depth <= 0.0)) {  // NaN stays NaN
       push = stiffness * std::pow(depth, exponent) * (1.0 + damping * (side * h->vnl[i]));
       if (push < 0.0) push = 0.0;
     }

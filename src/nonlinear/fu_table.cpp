@@ -12,7 +12,7 @@ namespace quarn {
 
 namespace {
 
-/// Segment that a pass over the queries would find first: all that it takes over from the pass before.
+/// Segment that a pass over the queries would find first: all that one pass leaves to the next.
 double firstSegment(const TablePlace& t, const double* queries, bool ascending) {
   double record[3] = {t.record[0], t.record[1], t.record[2]};
   vorel_LinInterp(t.table, queries, record, nullptr, t.nx, t.ny, 1, 0, nullptr, nullptr, ascending);
@@ -48,8 +48,8 @@ void checkTablePlace(const chandleNl_inout& h) {
   if (table < 0 || record < 0 || nx < 0) host::refuse("iopt(6:8) must not be negative, got %lld %lld %lld", table, record, nx);
   const long long end = nx > h.optLen ? LLONG_MAX : table + nx * (1 + ny);
   if (end > h.optLen)
-    host::refuse("a table of %lld knots and %lld columns at opt(%lld) ends behind opt of %d values", nx, ny, table + 1, h.optLen);
-  if (record + 3 > h.optLen) host::refuse("the search record at opt(%lld) ends behind opt of %d values", record + 1, h.optLen);
+    host::refuse("a table of %lld knots and %lld columns at opt(%lld) ends beyond opt of %d values", nx, ny, table + 1, h.optLen);
+  if (record + 3 > h.optLen) host::refuse("the search record at opt(%lld) ends beyond opt of %d values", record + 1, h.optLen);
   if (record < end && table < record + 3 && nx > 0) {
     host::refuse("the search record at opt(%lld) to (%lld) lies on the table at opt(%lld) to (%lld)", record + 1, record + 3, table + 1,
                  end);

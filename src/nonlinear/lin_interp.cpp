@@ -12,7 +12,7 @@ namespace quarn {
 namespace {
 
 /// Walks from segment i, one segment at a time, to the one that holds xq. Returns nx - 1 for a query that is not below the last
-/// segment when the walk starts or arrives behind it.
+/// segment when the walk starts or arrives beyond it.
 int walk(const double* X, int nx, int i, double xq) {
   if (i < 0) i = 0;
   for (;;) {

@@ -21,7 +21,7 @@ using NlLawCheck = void (*)(const chandleNl_inout& h, const ROr& ro);
 /// Input/output element. Its value is a struct; every array stays the host's, the handle borrows pointers into it:
 ///   "c"    observation matrix: unl = c*u, vnl = c*v (Prod_Mt_ub)
 ///   "b"    command matrix: r += b'*snl in the sense of Add_Mt_ub
-///   "unl"  observed displacements and, behind them or in further pages (third dimension), internal states
+///   "unl"  observed displacements and, after them or in further pages (third dimension), internal states
 ///   "vnl"  observed velocities, optional; "snl" forces, optional (absent or empty: the forces overwrite unl)
 ///   "opt"  parameters of the law, opt[0] its code; "iopt" (int32, optional) offsets and table places
 class chandleNl_inout final : public chandle {

@@ -38,10 +38,10 @@ void Clima2(chandleNl_inout* h, ROr ro);
 
 /// Smooth hysteresis in groups of three (observed displacement x, state z, the displacement at the last evaluation):
 ///   snl = k*(alpha*x + (1 - alpha)*z),  dz/dx = A - |z|^n*(gamma + beta*sign(z*dx))
-/// with k = opt[3], alpha = opt[4], A = opt[5], beta = opt[6], gamma = opt[7], n = opt[8]. z is advanced over the way since the last
-/// evaluation by the Runge-Kutta rule of fourth order, in at most 32 equal parts, and held at its limit (A/(beta + gamma))^(1/n): no way is
-/// too long, and an evaluation at the same place changes nothing. opt[2] is not used. Sources: R. Bouc, Forced vibration of mechanical
-/// systems with hysteresis (1967); Y.-K. Wen, J. Engineering Mechanics Division ASCE 102 (1976).
+/// with k = opt[3], alpha = opt[4], A = opt[5], beta = opt[6], gamma = opt[7], n = opt[8]. z is advanced by the displacement since the last
+/// evaluation with the Runge-Kutta rule of fourth order, in at most 32 equal parts, and held at its limit (A/(beta + gamma))^(1/n): no
+/// increment is too large, and an evaluation at the same place changes nothing. opt[2] is not used. Sources: R. Bouc, Forced vibration of
+/// mechanical systems with hysteresis (1967); Y.-K. Wen, J. Engineering Mechanics Division ASCE 102 (1976).
 void FuBoucWen(chandleNl_inout* h, ROr ro);
 
 // Refuse what the law of that name would read or write outside the arrays of the handle. checkMaxw also raises

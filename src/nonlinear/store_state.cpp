@@ -26,7 +26,7 @@ struct Blocks {
         room(std::min(length, static_cast<long long>(std::min<std::size_t>(ro.uLen, most)) - place)) {}
 
   long long begin(long long k) const { return skip + k * advance; }
-  /// The last block that begins at that place of unl or in front of it; of a negative number none does.
+  /// Number of the last block that begins at that place of unl or before it; -1 where none does.
   long long lastFrom(long long begin) const { return begin < skip ? -1 : std::min(last, (begin - skip) / advance); }
 
   static constexpr long long most = 1LL << 60;
@@ -39,8 +39,8 @@ struct Blocks {
   long long room;  ///< values that go into u from place on, at most length
 };
 
-/// All blocks that copy something, in their order: what lies in front of unl or behind it is not there to be copied. Their number is
-/// bounded by the values of unl and u, whatever the counts say.
+/// All blocks that copy something, in their order: there is nothing to copy before unl or after it. Their number is bounded by the values
+/// of unl and u, whatever the counts say.
 void copyBlocks(const Blocks& b, const double* unl, const ROr& ro) {
   long long k = b.skip < 0 ? b.lastFrom(-b.room) + 1 : 0;
   for (; k <= b.last && b.begin(k) < b.have; ++k) {
@@ -51,7 +51,7 @@ void copyBlocks(const Blocks& b, const double* unl, const ROr& ro) {
   }
 }
 
-/// The same where blocks lie on each other and u lies apart from unl: each place gets the value of the last block that has one for it.
+/// The same where blocks overlap and u shares no memory with unl: each place gets the value of the last block that has one for it.
 void copyLast(const Blocks& b, const double* unl, double* u) {
   for (long long j = 0; j < b.room; ++j) {
     const long long k = b.lastFrom(b.have - 1 - j);
@@ -65,7 +65,7 @@ void StoreState(chandleNl_inout* h, ROr ro) {
   storeForces(*h, ro);
   if (h->ioptLen < 5 || h->iopt[1] <= 0 || !ro.u || !h->unl) return;
   const Blocks b(*h, ro);
-  if (b.advance <= 0 || b.room <= 0 || b.last < 0) return;  // a skip back by a block or more puts all of them in front of unl
+  if (b.advance <= 0 || b.room <= 0 || b.last < 0) return;  // a skip back by a block or more puts all of them before unl
   if (b.skip >= 0 || overlap(ro.u, ro.uLen, h->unl, h->unlTotal)) {
     copyBlocks(b, h->unl, ro);
   } else {

@@ -14,7 +14,7 @@ namespace quarn {
 
 namespace {
 
-constexpr int ahead = 3;  // values of opt in front of the parameters
+constexpr int ahead = 3;  // values of opt before the parameters
 
 int statesOf(const chandleNl_inout& h) { return h.ioptLen >= 5 ? h.iopt[3] : 0; }
 
@@ -29,7 +29,7 @@ const quarn_law* libraryOf(const mxArray* field) {
   const std::size_t n = host::count(field);
   const bool text = mxIsChar(field) && host::rows(field) == 1 && n < sizeof path;
   if (!text)
-    host::refuse("\"library\" must be the path of a library, a row of less than 4096 characters, got %s", host::describe(field).text);
+    host::refuse("\"library\" must be the path of a library, a row of fewer than 4096 characters, got %s", host::describe(field).text);
   mxGetString(field, path, static_cast<mwSize>(sizeof path));
   if (std::strlen(path) != n || path[0] != '/') host::refuse("\"library\" must be a path from the root, /..., got \"%s\"", path);
   return userLibrary(path);
@@ -39,13 +39,13 @@ void requireCount(const char* what, int wanted, int got) {
   if (wanted != QUARN_ANY && wanted != got) host::refuse("the law in the library takes %d %s, the element has %d", wanted, what, got);
 }
 
-/// What a number that is none is called.
+/// What to call a value that is not finite.
 const char* nameOf(double x) {
   if (std::isnan(x)) return "NaN";
   return x > 0.0 ? "Inf" : "-Inf";
 }
 
-/// Names the first value that is not finite; nothing where the motion has grown out of hand.
+/// Ends the call and names the first value that is not finite; does nothing where the motion has grown out of hand.
 void refuseNumbers(const chandleNl_inout& h, int rows, int states, double t) {
   for (int i = 0; i < rows; ++i) {
     if (!(std::fabs(h.unl[i]) < 1e30 && std::fabs(h.vnl[i]) < 1e30)) return;

@@ -4,7 +4,7 @@
 //   "library"  path of a shared library with a law (quarn_law.h), a row of characters that begins with a slash
 //   "call"     function handle: f = call (x, v, s, t), or [f, s] = call (x, v, s, t) where there are states; columns
 // opt holds the code, one value that is not used, the time step h [s] and the parameters p; a function is not given h and p. iopt[2] is
-// the number of rows, iopt[3] that of states, iopt[4] 1 where there are states; they lie behind the observed displacements in unl. Without
+// the number of rows, iopt[3] that of states, iopt[4] 1 where there are states; these follow the observed displacements in unl. Without
 // states the law is evaluated for every iopt[2] rows in turn (0: for all of them at once).
 // "snl" and "vnl" are needed.
 #pragma once

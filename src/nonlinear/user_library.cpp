@@ -100,8 +100,8 @@ const quarn_law* entryOf(void* loaded, char* why, std::size_t size) {
   return nullptr;
 }
 
-/// A copy of the file in memory, so that what is written into the file later cannot reach code that is loaded; -1 where there is none to be
-/// had, or it is not what was looked at.
+/// A copy of the file in memory, so that what is written into the file later cannot reach code that is loaded; -1 where none can be made,
+/// or it is not what was looked at.
 int copyInMemory(const char* path, const Content& content) {
   std::FILE* file = std::fopen(path, "rb");
   if (!file) return -1;

@@ -14,7 +14,7 @@ namespace {
 /// Process that started the workers; 0 where none did. Its children, which fork makes, have none and cannot get any.
 pid_t owner = 0;
 
-/// Address space that is held while this is alive, if it is to be had; nothing is written into it.
+/// Address space that is held while this is alive, if it is available; nothing is written into it.
 class Reserved {
  public:
   explicit Reserved(std::size_t n) : bytes(n), place(mmap(nullptr, n, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0)) {}
@@ -30,14 +30,14 @@ class Reserved {
   void* place;
 };
 
-/// What the scheduler's threads take beside their stacks, where the address space is limited (ulimit -v): the C library gives each a heap
+/// What the scheduler's threads take besides their stacks, where the address space is limited (ulimit -v): the C library gives each a heap
 /// of 64 MB and asks for twice as much to begin with, the scheduler has tables. The scheduler ends the process for a stack that it does
 /// not get.
 constexpr std::size_t heaps = std::size_t{workerThreads} * 64 << 20;
 constexpr std::size_t tables = std::size_t{32} << 20;
 
 /// Starts as many threads as the scheduler will, which wait for one another, and ends them.
-bool threadsToBeHad() {
+bool threadsAvailable() {
   const Reserved reserved(heaps + tables);
   std::mutex waiting;
   std::thread probes[workerThreads - 1];
@@ -66,7 +66,7 @@ tbb::task_arena& arena() {
 }  // namespace
 
 tbb::task_arena* workers() {
-  if (owner == 0 && threadsToBeHad()) owner = getpid();
+  if (owner == 0 && threadsAvailable()) owner = getpid();
   return owner == getpid() ? &arena() : nullptr;
 }
 

@@ -8,8 +8,8 @@ namespace quarn {
 /// Threads that share a product, the calling one included, whatever the number of processors.
 constexpr int workerThreads = 8;
 
-/// The place where products run, one for all of them: where each product makes and destroys one of its own, 18 KB stay behind every time,
-/// and the scheduler's end can wait for ever. Null where the system does not let this process have the threads (a limit of a batch system,
+/// The arena where products run, one for all of them: if each product made and destroyed its own, 18 KB would be lost every time, and the
+/// scheduler's end could wait for ever. Null where the system does not let this process have the threads (a limit of a batch system,
 /// say): the scheduler would end the host then.
 tbb::task_arena* workers();
 

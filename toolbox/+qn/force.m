@@ -43,7 +43,7 @@ function f = force (law, x, v, h)
   end
   if ~memory
     if nargin < 3 && rates
-      error ('qn:input', 'qn.force: the law "%s" depends on the velocity: give it behind the displacements', law(end).kind);
+      error ('qn:input', 'qn.force: the law "%s" depends on the velocity: give it after the displacements', law(end).kind);
     end
     if nargin < 3, v = zeros (size (x)); end
     v = qn.impl.numbers (who, 'V', v, size (x), 'each', 'as the displacements');

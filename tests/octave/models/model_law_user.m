@@ -1,6 +1,6 @@
 % [S, CTX] = MODEL_LAW_USER (S, T, CTX)  a law of the user's in the field "call" of the element
 %
-% iopt(3) rows of a group, iopt(4) states behind the displacements.
+% iopt(3) rows of a group, iopt(4) states after the displacements.
 function [s, ctx] = model_law_user (s, t, ctx)
   n = model_page (s);
   states = double (s.iopt(4));

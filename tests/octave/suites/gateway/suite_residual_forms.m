@@ -287,7 +287,7 @@ end
 function text = short_text (k, name, element)
   place = '';
   if k == 3, place = sprintf ('element %d : ', element); end
-  if k == 3 && strcmp (name, 'r'), name = 'the residual (in an integration, the part of uva behind the copies of u, v and a)'; end
+  if k == 3 && strcmp (name, 'r'), name = 'the residual (in an integration, the part of uva after the copies of u, v and a)'; end
   text = ['quarn residual : ' place name ' must hold 3 values (one for each row of u), got 2'];
 end
 

@@ -306,7 +306,7 @@ function test_factors_that_are_no_tables_of_time_are_refused ()
               [0 1 1 1 2; 1 2 3 4 5], [times '1 in column 4']
               [0 1; 1 NaN], [of 'must be finite, got nan in row 2, column 2']
               [0 1; -Inf 1], [of 'must be finite, got -inf in row 2, column 1']
-              [0 1; -1e308 1e308], [of 'must change by a finite number, got 1e+308 behind -1e+308 in column 2']
+              [0 1; -1e308 1e308], [of 'must change by a finite number, got 1e+308 after -1e+308 in column 2']
               [0 0.4; 1 1], [of 'must be given for every step: its times go from 0 to 0.4, a step ends at 0.5']
               [0.2 1; 1 1], [of 'must be given for every step: its times go from 0.2 to 1, a step ends at 0.1']};
     for j = 1:size (trials, 1)

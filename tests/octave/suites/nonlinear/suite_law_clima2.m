@@ -169,7 +169,7 @@ function test_short_arrays_are_refused ()
   expect_error (@() evaluate_law (e, u, u), '', '~^quarn residual : element 1 : "opt" of law "Clima2" must hold 7 values or more, got 6$');
   e = element ();
   e.opt = e.opt(1:15);
-  expect_error (@() evaluate_law (e, u, u), '', '~^quarn residual : element 1 : the search record at opt\(14\) ends behind opt of 15 values');
+  expect_error (@() evaluate_law (e, u, u), '', '~^quarn residual : element 1 : the search record at opt\(14\) ends beyond opt of 15 values');
   e = element ();
   e.iopt = e.iopt(1:8);
   expect_error (@() evaluate_law (e, u, u), '', '~iopt');

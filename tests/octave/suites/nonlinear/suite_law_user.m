@@ -181,7 +181,7 @@ function test_what_names_no_law_is_refused ()
   e = one_row ();
   e.call = 3;
   refused (e, '"call" must be a function handle, got double 1x1');
-  refused_library (5, '"library" must be the path of a library, a row of less than 4096 characters, got double 1x1');
+  refused_library (5, '"library" must be the path of a library, a row of fewer than 4096 characters, got double 1x1');
   refused_library (['ab'; 'cd'], '"library" must be the path of a library, .* got char 2x2');
   refused_library (repmat ('/', 1, 5000), '"library" must be the path of a library, .* got char 1x5000');
   refused_library ('law.so', '"library" must be a path from the root, /..., got "law.so"');

@@ -168,7 +168,7 @@ end
 function test_a_table_that_ends_one_value_late_and_a_record_on_its_first_value_are_refused ()
   tail = [0 0 0, 0 1 2, 10 20];   % the record first, and a table of three knots whose last force is missing
   expect_refused (@() observed ('Table', tail, 1, [-1 0 0 0 0 4 1 3 1]), ...
-                  'quarn residual : element 1 : a table of 3 knots and 1 columns at opt(5) ends behind opt of 9 values');
+                  'quarn residual : element 1 : a table of 3 knots and 1 columns at opt(5) ends beyond opt of 9 values');
   expect_refused (@() observed ('Table', [0 0 0, 1 2, 10 20 30], 1, [-1 0 0 0 0 3 1 3 1]), ...
                   'quarn residual : element 1 : the search record at opt(2) to (4) lies on the table at opt(4) to (9)');
 end

@@ -8,10 +8,9 @@ namespace quarn {
 namespace {
 
 constexpr int kSums = 8;
-/// The partial sums of a line, side by side; a compiler splits them where the processor's registers are shorter.
-using Sums [[gnu::vector_size(kSums * sizeof(double))]] = double;
 
-/// Sums 0 to 3, or 4 to 7, and the two that they become at the end.
+// The partial sums of a line are side by side in vectors that fill a register of the processor: longer ones would be worked on in memory.
+using Eight [[gnu::vector_size(kSums * sizeof(double))]] = double;
 using Half [[gnu::vector_size(kSums / 2 * sizeof(double))]] = double;
 using Pair [[gnu::vector_size(2 * sizeof(double))]] = double;
 
@@ -51,12 +50,26 @@ template <int first, class Part, class Vector>
 #endif
 }
 
+/// Partial sums 0 to 3, and 4 to 7.
+[[gnu::always_inline]] inline void halves(const Eight* sums, Half& low, Half& high) {
+  take<0>(low, sums[0]);
+  take<4>(high, sums[0]);
+}
+[[gnu::always_inline]] inline void halves(const Half* sums, Half& low, Half& high) {
+  low = sums[0];
+  high = sums[1];
+}
+[[gnu::always_inline]] inline void halves(const Pair* sums, Half& low, Half& high) {
+  low = Half{sums[0][0], sums[0][1], sums[1][0], sums[1][1]};
+  high = Half{sums[2][0], sums[2][1], sums[3][0], sums[3][1]};
+}
+
 /// The sum of a line from its partial sums and its last n entries, n < 8.
-[[gnu::always_inline]] inline double total(const Sums& sums, int n, const double* row, const double* x) {
+template <class Vector>
+[[gnu::always_inline]] inline double total(const Vector* sums, int n, const double* row, const double* x) {
   Half low;
   Half high;
-  take<0>(low, sums);
-  take<4>(high, sums);
+  halves(sums, low, high);
   if (n >= 4) {
     Half a;
     Half b;
@@ -77,32 +90,65 @@ template <int first, class Part, class Vector>
 }
 
 /// The sums of Rows rows with Vectors vectors: y[v][i] for row i. They are independent, and keep the processor busy together.
-template <int Rows, int Vectors>
+template <class Vector, int Rows, int Vectors>
 [[gnu::always_inline]] inline void sumTogether(int n, const double* pr, const double* const* x, double* const* y, int first) {
-  Sums sum[Rows][Vectors] = {};
+  constexpr int length = sizeof(Vector) / sizeof(double);
+  constexpr int parts = kSums / length;
+  Vector sum[Rows][Vectors][parts] = {};
   int k = 0;
   for (; k + kSums <= n; k += kSums) {
-    Sums part[Vectors];
-    for (int v = 0; v < Vectors; ++v) load(part[v], x[v] + k);
-    for (int i = 0; i < Rows; ++i) {
-      Sums row;
-      load(row, pr + static_cast<std::ptrdiff_t>(i) * n + k);
-      for (int v = 0; v < Vectors; ++v) sum[i][v] += row * part[v];
+    for (int p = 0; p < parts; ++p) {
+      Vector part[Vectors];
+      for (int v = 0; v < Vectors; ++v) load(part[v], x[v] + k + p * length);
+      for (int i = 0; i < Rows; ++i) {
+        Vector row;
+        load(row, pr + static_cast<std::ptrdiff_t>(i) * n + k + p * length);
+        for (int v = 0; v < Vectors; ++v) sum[i][v][p] += row * part[v];
+      }
     }
   }
+#pragma GCC unroll 4  // in a loop the sums would be in memory
   for (int i = 0; i < Rows; ++i) {
+#pragma GCC unroll 2
     for (int v = 0; v < Vectors; ++v) {
       y[v][first + i] = 0.0 + total(sum[i][v], n - k, pr + static_cast<std::ptrdiff_t>(i) * n + k, x[v] + k);
     }
   }
 }
 
-template <int Rows, int Vectors>
+template <class Vector, int Rows, int Vectors>
 [[gnu::always_inline]] inline void sumRows(int rows, int n, const double* pr, const double* const* x, double* const* y) {
   int i = 0;
-  for (; i + Rows <= rows; i += Rows) sumTogether<Rows, Vectors>(n, pr + static_cast<std::ptrdiff_t>(i) * n, x, y, i);
-  for (; i < rows; ++i) sumTogether<1, Vectors>(n, pr + static_cast<std::ptrdiff_t>(i) * n, x, y, i);
+  for (; i + Rows <= rows; i += Rows) sumTogether<Vector, Rows, Vectors>(n, pr + static_cast<std::ptrdiff_t>(i) * n, x, y, i);
+  for (; i < rows; ++i) sumTogether<Vector, 1, Vectors>(n, pr + static_cast<std::ptrdiff_t>(i) * n, x, y, i);
 }
+
+template <class Vector>
+[[gnu::always_inline]] inline void sumOneRow(int n, const double* pr, const double* x, double* y) {
+  sumTogether<Vector, 1, 1>(n, pr, &x, &y, 0);
+}
+
+// As many rows together as leave their sums in registers.
+#define QUARN_SUMS(version, Vector)                                                                                                \
+  version void oneSum(int n, const double* pr, const double* x, double* y) { sumOneRow<Vector>(n, pr, x, y); }                     \
+  version void sums(int rows, int n, const double* pr, const double* x, double* y) { sumRows<Vector, 4, 1>(rows, n, pr, &x, &y); } \
+  version void sumsOfTwo(int rows, int n, const double* pr, const double* u, double* yu, const double* v, double* yv) {            \
+    const double* const vectors[] = {u, v};                                                                                        \
+    double* const results[] = {yu, yv};                                                                                            \
+    sumRows<Vector, 2, 2>(rows, n, pr, vectors, results);                                                                          \
+  }
+#ifdef QUARN_VERSION_BASE
+QUARN_SUMS(QUARN_VERSION_BASE, Pair)
+QUARN_SUMS(QUARN_VERSION_V3, Half)
+QUARN_SUMS(QUARN_VERSION_V4, Eight)
+#elif defined(__AVX512F__)
+QUARN_SUMS(, Eight)
+#elif defined(__AVX__)
+QUARN_SUMS(, Half)
+#else
+QUARN_SUMS(, Pair)
+#endif
+#undef QUARN_SUMS
 
 /// Columns values of y from place at on, with the products of all rows: few enough of them to stay in registers.
 template <int Columns>
@@ -119,20 +165,13 @@ template <int Columns>
 
 }  // namespace
 
-QUARN_PROCESSOR_VERSIONS
 void denseSums(int rows, int n, const double* pr, const double* x, double* y) {
-  const double* const vectors[] = {x};
-  double* const sums[] = {y};
-  if (rows == 1) return sumTogether<1, 1>(n, pr, vectors, sums, 0);
-  sumRows<4, 1>(rows, n, pr, vectors, sums);
+  if (rows == 1) return oneSum(n, pr, x, y);
+  sums(rows, n, pr, x, y);
 }
 
-QUARN_PROCESSOR_VERSIONS
 void denseSumsOfTwo(int rows, int n, const double* pr, const double* u, double* yu, const double* v, double* yv) {
-  const double* const vectors[] = {u, v};
-  double* const sums[] = {yu, yv};
-  if (rows == 1) return sumTogether<1, 2>(n, pr, vectors, sums, 0);
-  sumRows<2, 2>(rows, n, pr, vectors, sums);
+  sumsOfTwo(rows, n, pr, u, yu, v, yv);
 }
 
 QUARN_PROCESSOR_VERSIONS

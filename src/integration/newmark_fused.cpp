@@ -5,6 +5,11 @@
 
 #include "numbers/processor.h"
 
+// Copies stay in the pass over the modes that they are part of: as calls of memcpy they would be passes of their own.
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC optimize("no-tree-loop-distribute-patterns")
+#endif
+
 namespace quarn {
 
 namespace {

@@ -32,8 +32,12 @@ end
 
 % An error of a law that is a function, with the time of the step that it ended.
 function with_time (err, sim, newmark)
-  laws = arrayfun (@(e) e.law.kind, sim.elements, 'UniformOutput', false);
-  if any (strcmp (laws, 'function')) && isempty (strfind (err.message, 'quarn chandlediagnewmark : '))
+  calls = false;
+  for e = reshape (sim.elements, 1, [])
+    l = qn.impl.law_of (e.law.kind);
+    calls = calls || any (strcmp (l.parameters(:, 3), 'function'));
+  end
+  if calls && isempty (strfind (err.message, 'quarn chandlediagnewmark : '))
     value = quarn ('chandleget', remi (newmark, 1));
     err = struct ('message', sprintf ('%s (in the run, at t = %.9g s)', err.message, value.data(6)), 'identifier', err.identifier, ...
                   'stack', err.stack);

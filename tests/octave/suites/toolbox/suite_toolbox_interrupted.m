@@ -44,6 +44,7 @@ end
 
 function test_a_run_interrupted_at_the_prompt_leaves_what_it_reached ()
   if system ('command -v script > /dev/null') ~= 0, error ('this test needs the program script (util-linux)'); end
+  if system ('script -qec true /dev/null > /dev/null 2>&1') ~= 0, skip_test ('this system makes no pseudo-terminal (/dev/pts)'); end
   file = [tempname() '.mat'];
   mark = [file '.mark'];
   clean = onCleanup (@() cellfun (@gone, {file, mark}));

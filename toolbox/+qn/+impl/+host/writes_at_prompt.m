@@ -20,10 +20,10 @@ function line = one (name, statement, target)
   target = ['quarn_report_' target];
   evalin ('base', ['quarn_report_' statement ';']);
   evalin ('base', 'quarn_report_copy = quarn_report_y;');
-  before = evalin ('base', [target ' + 0;']);
+  before = evalin ('base', [target ' + 0']);
   n = numel (before);
   evalin ('base', sprintf ('quarn (''tbbp'', qn.pack (3 * eye (%d)), 2 * ones (%d, 1), %s);', n, n, target));
-  now = evalin ('base', [target ' + 0;']);
-  copy = evalin ('base', [strrep(target, 'report_y', 'report_copy') ' + 0;']);
+  now = evalin ('base', [target ' + 0']);
+  copy = evalin ('base', [strrep(target, 'report_y', 'report_copy') ' + 0']);
   line = qn.impl.host.written (name, before, now, copy);
 end

@@ -23,7 +23,8 @@
 %     'power'      the load is LOAD * (2 pi f)^power; 2 for an unbalance, with LOAD in kg m: m e at x, -1i * m e at y, or L{1, 1} -
 %                  1i * L{2, 1} of L = qn.unbalance (...) (0)
 %     'G'          gyroscopic matrix of the structure, n x n, skew: the damping gets 2 pi f * G. The model is the one at rest, made with
-%                  'speed', 0 ([])
+%                  'speed', 0 ([]). With 'power' 2 a model with a gyroscopic matrix needs it: zeros (n) for one that stands still and
+%                  is shaken
 %
 % Output
 %   R     struct: hertz      1 x k frequencies along the curve
@@ -32,8 +33,10 @@
 %                 amplitude  m x k, greatest value of each mode over a period
 %
 % Errors
-%   qn:input     sizes do not fit, a value is not finite, or a law has a memory
+%   qn:input     sizes do not fit, a value is not finite, or a law has a memory; 'power' 2 without 'G' for a model with a gyroscopic
+%                matrix at standstill
 %   qn:diverged  no solution at the first frequency
+%   The warning qn:harmonic says that with 'power' 2 the gyroscopic matrix keeps one speed, which is not that of an unbalance
 %
 % Example
 %   model = qn.modal (1, 1, 'damping', 0.05);
@@ -52,6 +55,7 @@ function r = harmonic (model, load, elements, hertz, varargin)
   o.points = qn.impl.count (who, 'points', o.points);
   o.step = qn.impl.scalar (who, 'step', o.step, realmin ());
   o.power = qn.impl.scalar (who, 'power', o.power, 0);
+  if o.power == 2 && isempty (o.G), of_unbalance (who, model); end
   b = qn.impl.periodic (who, model, load, elements, o.harmonics, o.samples, o.power, turning (who, model, o.G));
   free = onCleanup (@() delete (b.handles));
   omega = 2 * pi * hertz;
@@ -100,6 +104,19 @@ function g = turning (who, model, g)
   beside = norm (g + g.', 'fro') / norm (g, 'fro');
   if beside > 1e-6, error ('qn:input', '%s: "G" must be skew (G.'' = -G): its symmetric part is %.2g of it', who, beside / 2); end
   g = qn.project (model.shapes, g);
+end
+
+% A load of unbalance turns as fast as the shaft, and the gyroscopic matrix with it.
+function of_unbalance (who, model)
+  if ~isfield (model, 'rotation') || isempty (model.rotation) || ~any (model.rotation.G(:)), return, end
+  w = model.rotation.speed;
+  if w == 0
+    error ('qn:input', ['%s: a load of "power" 2 is that of an unbalance, and the model has a gyroscopic matrix at standstill: give ' ...
+                        'it as "G", so that it turns with the load, or "G", zeros (%d) if the structure is shaken and does not turn'], ...
+           who, size (model.shapes, 1));
+  end
+  warning ('qn:harmonic', ['%s: the load of "power" 2 runs through the frequencies and the gyroscopic matrix stays that of %g rad/s: ' ...
+                           'an unbalance turns with the shaft; make the model with ''speed'', 0 and give "G"'], who, w);
 end
 
 function [g, j] = fixed (b, z, omega)

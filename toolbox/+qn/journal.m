@@ -24,7 +24,9 @@
 %   LAW   journal law, for two observation rows: x and y of the journal relative to the bearing; see qn.law
 %
 % Errors
-%   qn:input  a parameter is missing, unknown, not one finite number or out of its range; both or neither of radius and diameter
+%   qn:input  a parameter is missing, unknown, not one finite number or out of its range; both or neither of radius and diameter; a
+%             clearance that is not below the radius
+%   The warning qn:journal names a clearance that is less than 1e-4 or more than 1e-2 of the radius (film_ratio in docs/checks.md)
 %
 % Example
 %   film = qn.journal ('viscosity', 0.1, 'length', 0.03, 'diameter', 0.1, 'clearance', 1e-4, 'speed', 157);
@@ -44,6 +46,13 @@ function law = journal (varargin)
   o.speed = qn.impl.scalar (who, 'speed', o.speed);
   if o.limit >= 1, error ('qn:input', '%s: "limit" must be below 1, got %.15g', who, o.limit); end
   centre = qn.impl.numbers (who, 'centre', o.centre, 2, 'each', '[x y] of the bearing');
+  if o.clearance >= o.radius
+    error ('qn:input', '%s: "clearance" of %g m is not below the radius of the journal, %g m: is it in m?', who, o.clearance, o.radius);
+  end
+  if o.clearance / o.radius < 1e-4 || o.clearance / o.radius > 1e-2
+    warning ('qn:journal', ['%s: "clearance" is %.2g of the radius of the journal, where bearings have 1e-4 to 1e-2: are both in m, ' ...
+                            'and is the clearance that of the radius?'], who, o.clearance / o.radius);
+  end
   law = qn.law ('journal', 'viscosity', o.viscosity, 'length', o.length, 'radius', o.radius, 'clearance', o.clearance, ...
                 'speed', o.speed, 'limit', o.limit, 'x0', centre(1), 'y0', centre(2));
   law.note = 'journal bearing';

@@ -13,7 +13,8 @@
 %          zeros for degrees of freedom without mass. Those follow the others statically, which is exact where no load and no
 %          element acts on them: what acts there directly also bends them, and that no mode holds.
 %   S      structure with the fields K, M and, where there are such, C, G, speed: a physical model. Of a rotor of qn.rotor the modes are
-%          those of M and the symmetric part Ks; the rest of K is treated like 'K'.
+%          those of M and the symmetric part Ks; the rest of K is treated like 'K'. Its "speed" is that of qn.rotor, not one set by hand
+%          where bearings depend on it.
 %   Names and values
 %     'modes'     how many modes to keep (all, at most 200)
 %     'damping'   modal damping ratios, one for all or one per mode, 1 being critical (0)
@@ -48,7 +49,8 @@
 %                  M          the mass matrix, for base motion and initial states [kg]
 %                  K          the stiffness matrix, with which qn.check finds what flexibility the modes leave out [N/m]
 %                  attached   number of shapes that are not modes: the last ones, from 'attach'
-%                  rotation   [] without 'G', else struct: G and K (modal, K is [] without 'KG'), speed, and damping, that at standstill
+%                  rotation   [] without 'G', else struct: G and K (modal, K is [] without 'KG'), speed, and damping, that at standstill;
+%                             of a rotor of qn.rotor also its places, which qn.unbalance needs
 %                  m counts them too.
 %
 % Errors
@@ -74,7 +76,7 @@ function model = modal (varargin)
   if nargin > 0 && isstruct (varargin{1})
     s = varargin{1};
     if ~isfield (s, 'K') || ~isfield (s, 'M'), error ('qn:input', '%s: the model needs the fields K and M', who); end
-    args = structure (who, s, varargin(2:end));
+    args = qn.impl.structure (who, s, varargin(2:end));
   else
     args = varargin;
   end
@@ -110,27 +112,12 @@ function model = modal (varargin)
   damping = qn.impl.with_matrix (damping, who, phi, 'C', o.C);
   [damping, rotation] = qn.impl.with_rotation (damping, who, phi, o);
   stiffness = qn.impl.with_matrix (w .^ 2, who, phi, 'K', o.K);
+  if nargin > 0 && isstruct (varargin{1}) && all (isfield (varargin{1}, {'parts', 'places'})) && ~isempty (rotation)
+    rotation.places = varargin{1}.places;
+  end
   model = struct ('shapes', phi, 'w', w, 'hertz', w / (2 * pi), 'stiffness', stiffness, 'damping', damping, 'M', m, ...
                   'K', k, 'attached', attached, 'rotation', rotation);
   qn.impl.finite_model (who, model);
-end
-
-% Arguments from the fields of a structure. Without a speed of its own the structure takes 'speed' from the arguments ARGS.
-function args = structure (who, s, args)
-  if isempty (s.K) && isfield (s, 'Ks')
-    error ('qn:input', '%s: the bearings of this rotor depend on the speed; give it with qn.rotor (R, ''speed'', W)', who);
-  end
-  own = isfield (s, 'Ks');
-  further = {};
-  k = s.K;
-  if own
-    k = s.Ks;
-    if ~isequal (s.K, s.Ks), further = {'K', s.K - s.Ks}; end
-  end
-  args = [{k, s.M}, args, further];
-  for name = {'C', 'G', 'speed'}
-    if isfield (s, name{1}) && ~isempty (s.(name{1})), args = [args, name, {s.(name{1})}]; end
-  end
 end
 
 function symmetric (who, name, x)

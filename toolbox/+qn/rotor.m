@@ -68,6 +68,7 @@ function r = rotor (varargin)
     end
     o = qn.impl.options (who, struct ('speed', '<required>'), varargin(2:end));
     o.speed = qn.impl.scalar (who, 'speed', o.speed);
+    qn.impl.rotor.own_fields (who, r);
     qn.impl.rotor.unchanged (who, r);
     r = qn.impl.rotor.at_speed (r, o.speed);
     return
@@ -75,6 +76,7 @@ function r = rotor (varargin)
   o = struct ('nodes', [], 'shaft', [], 'outer', [], 'inner', 0, 'young', 2.1e11, 'density', 7850, 'poisson', 0.3, 'shear', true, ...
               'disks', [], 'cylinders', [], 'bearings', {{}}, 'seals', {{}}, 'stator', [], 'speed', []);
   o = qn.impl.options (who, o, varargin);
+  if ~isempty (o.shaft), of_nodes_alone (who, varargin(1:2:end)); end
   if isempty (o.nodes) == isempty (o.shaft), error ('qn:input', '%s: give "nodes" or "shaft", one of them', who); end
   if ~isempty (o.speed), o.speed = qn.impl.scalar (who, 'speed', o.speed); end
   r = qn.impl.rotor.shaft (who, o);
@@ -86,6 +88,7 @@ function r = rotor (varargin)
       error ('qn:input', '%s: "stator" does not turn, it has no G', who);
     end
     s = qn.impl.rotor.matrices (who, 'stator', o.stator);
+    qn.impl.rotor.known_fields (who, 'stator', o.stator, {'M', 'K', 'C', 'G'});
     r.stator = n + (1:size (s.M, 1));
     for field = 'MKCG', r.(field) = blkdiag (r.(field), s.(field)); end
   end
@@ -101,9 +104,19 @@ function r = rotor (varargin)
     for field = 'KCM', turning = turning || isa (s.(field), 'function_handle'); end
   end
   r.parts.by_speed = turning;
+  r.parts.speed = [];
   if turning && isempty (o.speed)
     for field = {'M', 'K', 'C', 'Ks', 'speed'}, r.(field{1}) = []; end
   else
     r = qn.impl.rotor.at_speed (r, o.speed);
+  end
+end
+
+% What describes beams between "nodes" says nothing about the matrices of a "shaft".
+function of_nodes_alone (who, names)
+  for name = {'outer', 'inner', 'young', 'density', 'poisson', 'shear'}
+    if any (strcmpi (name{1}, cellfun (@qn.impl.chars, names, 'UniformOutput', false)))
+      error ('qn:input', '%s: "%s" describes beams between "nodes"; the matrices of "shaft" stay what they are', who, name{1});
+    end
   end
 end

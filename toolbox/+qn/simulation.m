@@ -100,6 +100,9 @@ function sim = simulation (model, varargin)
   sim.start = qn.impl.initial (sim, o);
   % What it was made of, for runs with another step.
   o.start = [];
-  if first > 0, o = []; end
   sim.options = o;
+  if first == 0, return, end
+  % A run that goes on is not made of that; what can only be found of it is kept.
+  sim.told = qn.impl.check_unbalance (sim);
+  sim.options = [];
 end

@@ -59,10 +59,25 @@ function found = check_law (sim, k, x, motion, state, f, record)
     for j = 1:size (own, 1), say (own{j, 1}, own{j, 2}, '%s', own{j, 3}); end
   end
 
+  beside ();
   if qn.impl.runs_up (sim) && turns (e.law.parameters)
     say ('law_speed', 'warning', ['its shaft turns at %g rad/s all the time, and the rotor runs from %g to %g rad/s: the law keeps the ' ...
                                   'speed that it was given. Run at steady speeds, or in parts that go on with ''start'', each with ' ...
                                   'the law of its speed'], e.law.parameters.speed, sim.speed(2, [1 end]));
+  end
+
+  % A rubbing ring or a film whose shaft turns with another speed than the rotor. A damper without speed of its own does not turn with it.
+  function beside ()
+    p = e.law.parameters;
+    r = [];
+    if isfield (sim.model, 'rotation'), r = sim.model.rotation; end
+    if qn.impl.runs_up (sim) || isempty (r) || ~any (r.G(:)) || ~isfield (p, 'speed'), return, end
+    if isfield (p, 'friction')
+      if p.friction == 0 || abs (p.speed - r.speed) <= 1e-3 * abs (r.speed), return, end
+    elseif p.speed == 0 || abs (p.speed - r.speed) <= 1e-3 * abs (r.speed)
+      return
+    end
+    say ('law_speed', 'warning', 'its shaft turns at %g rad/s, and the rotor at %g rad/s: give both the same speed', p.speed, r.speed);
   end
 
   % Whether its force depends on a speed of rotation.

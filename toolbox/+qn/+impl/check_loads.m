@@ -18,6 +18,10 @@ function found = check_loads (sim)
       end
     end
   end
+  top = qn.impl.highest_kept (sim.model);
+  for k = 1:size (sim.loads, 1)
+    if isfinite (top), fast (k, sim.loads(k, :)); end
+  end
   for k = 1:numel (sim.notes)
     code = strtok (sim.notes{k}, ':');
     found(end + 1) = qn.impl.finding (code, 'note', '%s', sim.notes{k}(numel (code) + 3:end));
@@ -32,6 +36,28 @@ function found = check_loads (sim)
     if isnumeric (signal) && size (signal, 1) == 2 && size (signal, 2) > 1 && size (signal, 2) ~= numel (sim.time)
       record (k, double (signal));
     end
+  end
+
+  % Whether next to nothing of load K is slower than the highest mode that is kept: by the spectrum of its last steps, tapered.
+  function fast (k, f)
+    n = min (numel (f), 2 ^ 17);
+    f = f(end - n + 1:end);
+    if n < 20 || any (isnan (f)) || (isstruct (sim.options) && isfield (sim.options, 'load') && turned (k)), return, end
+    f = (f - mean (f)) .* (1 - cos (2 * pi * (0:n - 1) / (n - 1)));
+    power = abs (fft (f)) .^ 2;
+    power = power(2:floor (n / 2));
+    w = 2 * pi * (1:numel (power)) / (n * sim.step);
+    if ~any (power) || sum (power(w <= top)) > 0.01 * sum (power), return, end
+    [unused, at] = max (power);
+    found(end + 1) = qn.impl.finding ('load_fast', 'warning', ...
+      ['load %d oscillates with %.4g Hz, faster than all %d modes that are kept, of which the highest has %.4g Hz, and those left out ' ...
+       'are rigid: keep more modes'], k, w(at) / (2 * pi), numel (sim.model.w), top / (2 * pi));
+  end
+
+  % Loads of qn.unbalance are looked at by their speed.
+  function yes = turned (k)
+    given = sim.options.load;
+    yes = k <= size (given, 1) && ~isempty (qn.impl.rotor.unbalance_of (given{k, 2}));
   end
 
   % The table of load K: how much of it the run uses, how much of the run it covers, and what the steps see of it.

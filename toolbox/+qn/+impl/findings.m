@@ -4,7 +4,7 @@ function found = findings (sim, res)
   if any (strcmp ({found.level}, 'error')), return, end
   motion = qn.impl.motion_bound (sim);
   lists = {qn.impl.check_step(sim), qn.impl.check_speeds(sim, res), qn.impl.check_initial(sim), qn.impl.check_loads(sim), ...
-           qn.impl.check_modes(sim), qn.impl.check_base(sim)};
+           qn.impl.check_unbalance(sim), qn.impl.check_modes(sim), qn.impl.check_base(sim)};
   for k = 1:numel (sim.elements)
     x = [];
     if ~isempty (res), x = sim.elements(k).observe * res.q; end

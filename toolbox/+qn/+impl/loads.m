@@ -27,6 +27,9 @@ function [shapes, loads, notes] = loads (model, list, time, base)
       try
         f = signal (time);
       catch err
+        if strcmp (err.identifier, 'qn:input') && ~isempty (qn.impl.rotor.unbalance_of (signal))
+          error ('qn:input', '%s: load %d: %s', who, k, err.message);
+        end
         error ('qn:input', '%s: the function of load %d fails for a row of times; write it with .* ./ .^ (%s)', who, k, err.message);
       end
       if islogical (f), f = double (f); end

@@ -72,9 +72,16 @@ function fit (who, name, x, shape, one, r)
   elseif numel (shape) == 2
     matches = @(s) all (isnan (shape) | s == shape);
     good = good && matches (got);
-    if ~good && ~isempty (x) && numel (got) == 2 && matches (got([2 1])), turned = '. It looks transposed: give X.'' instead of X'; end
+    if ~good && ~isempty (x) && numel (got) == 2 && matches (got([2 1])) && as_table (x, shape)
+      turned = '. It looks transposed: give X.'' instead of X';
+    end
   end
   if ~good, error ('qn:input', '%s: "%s" must be %s, got %s%s', who, name, wanted, sized (x), turned); end
+end
+
+% Whether the first of two columns ascends, as the times of a table do that was given in columns.
+function yes = as_table (x, shape)
+  yes = ~isequaln (shape, [2 NaN]) || all (diff (x(:, 1)) > 0);
 end
 
 function text = kind_of (one)

@@ -146,6 +146,15 @@ function c = cases ()
        'preload', 'note', {with(qn.contact ('stiffness', 1e4, 'gap', -1e-3))}, {with(qn.contact ('stiffness', 1e4))}
        'law_speed', 'warning', {turning(rub (0.1, 50))}, {turning(rub (0, 50))}
        'law_speed', 'warning', {turning(oil (50))}, {turning(oil (0))}
+       'law_speed', 'warning', {at_speed(rub (0.1, 50), 60)}, {at_speed(rub (0, 50), 60)}
+       'law_speed', 'warning', {at_speed(rub (0.1, 0), 60)}, {at_speed(rub (0.1, 60), 60)}
+       'law_speed', 'warning', {at_speed(oil (50), 60)}, {at_speed(oil (0), 60)}
+       'film_ratio', 'warning', {narrow(9.9e-3)}, {narrow(10.1e-3)}
+       'film_ratio', 'warning', {narrow(1.01)}, {narrow(0.99)}
+       'load_fast', 'warning', {pushed_at(900)}, {pushed_at(800)}
+       'load_fast', 'warning', {turned_at(900)}, {turned_at(800)}
+       'unbalance_ends', 'warning', {spun([0 0.1; 0 50])}, {spun([0 0.2; 0 50])}
+       'unbalance_speed', 'warning', {spun([0 0.2; 0 60])}, {spun([0 0.2; 0 50])}
        'boucwen_feeds', 'warning', {with(bouc_wen (1, 1.1))}, {with(bouc_wen (1, 1))}
        'boucwen_feeds', 'warning', {with(bouc_wen (1, -1))}, {with(bouc_wen (1.1, -1))}
        'clima2_stiffness', 'warning', {on_pad(pad (1, 10))}, {on_pad(pad (1, 0))}
@@ -202,13 +211,42 @@ function law = rub (friction, speed)
 end
 
 function law = oil (speed)
-  law = qn.journal ('viscosity', 1e-3, 'length', 0.01, 'radius', 0.02, 'clearance', 1e-3, 'speed', speed);
+  law = qn.journal ('viscosity', 1e-3, 'length', 0.01, 'radius', 0.02, 'clearance', 1e-4, 'speed', speed);
 end
 
 % A run-up with an element on both directions.
 function sim = turning (law)
   model = qn.modal (4e4 * eye (2), eye (2), 'G', [0 1; -1 0], 'speed', 0);
   sim = qn.simulation (model, 'step', 1e-4, 'until', 0.2, 'v0', [1; 0], 'speed', [0 1; 0 100], 'elements', {law, eye(2)});
+end
+
+% A rotor that turns steadily, with an element on both directions.
+function sim = at_speed (law, speed)
+  model = qn.modal (4e4 * eye (2), eye (2), 'G', [0 1; -1 0], 'speed', speed);
+  sim = qn.simulation (model, 'step', 1e-4, 'until', 0.2, 'v0', [1; 0], 'elements', {law, eye(2)});
+end
+
+% A run-up to 50 rad/s in which an unbalance turns along PROFILE.
+function sim = spun (profile)
+  model = qn.modal (4e4 * eye (2), eye (2), 'G', [0 1; -1 0], 'speed', 0);
+  sim = qn.simulation (model, 'step', 1e-4, 'until', 0.2, 'speed', [0 0.2; 0 50], 'load', qn.unbalance (model, [1 2], 1e-3, 'profile', profile));
+end
+
+% Two modes of a chain, the higher one of 831 rad/s, under a force or an unbalance of W rad/s.
+function sim = pushed_at (w)
+  model = chain ('modes', 2);
+  sim = qn.simulation (model, 'step', 1e-4, 'until', 0.3, 'load', {qn.load_at(model, 5), @(t) sin(w * t)});
+end
+
+function sim = turned_at (w)
+  model = chain ('modes', 2);
+  sim = qn.simulation (model, 'step', 1e-4, 'until', 0.3, 'load', qn.unbalance (model, [2 3], 1e-3, 'speed', w));
+end
+
+% A film of 0.1 mm around a journal of RADIUS.
+function sim = narrow (radius)
+  film = qn.law ('journal', 'viscosity', 1e-3, 'length', 0.001, 'radius', radius, 'clearance', 1e-4, 'speed', 100);
+  sim = qn.simulation (qn.modal (4e4 * eye (2), eye (2)), 'step', 1e-4, 'until', 0.1, 'v0', [1e-3; 0], 'elements', {film, eye(2)});
 end
 
 % A journal of 10 kg on its film, which carries 774 N at its limit, pushed from the middle with LOAD newtons.

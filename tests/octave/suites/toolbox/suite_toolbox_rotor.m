@@ -229,7 +229,9 @@ function test_what_does_not_make_a_rotor_is_refused_in_words ()
   trials = {{}, 'give "nodes" or "shaft"'; {'nodes', [0 1], 'shaft', point}, 'give "nodes" or "shaft"'
             {'nodes', 1, 'outer', 1}, 'two nodes or more'; {'nodes', [0 1 1], 'outer', 1}, '"nodes" must ascend'
             {'nodes', [0 1 2], 'outer', [1 2 3]}, '"outer" must be 2 values'; {ok{:}, 'inner', 0.1}, '"inner" of element 1 is 0.1 m'
-            {ok{:}, 'disks', [4 1 1 1]}, 'a disk at node 4; nodes are numbered from 1 to 3'; {ok{:}, 'disks', [1.5 1 1 1]}, 'a disk at node 1.5'
+            {ok{:}, 'disks', [1 1 1 1; 4 1 1 1]}, 'row 2 of "disks" is a disk at node 4; nodes are numbered from 1 to 3'
+            {ok{:}, 'disks', [1.5 1 1 1]}, 'a disk at node 1.5'
+            {ok{:}, 'disks', [1 1 1 1], 'cylinders', [0.35 1 2 1 1]}, 'row 1 of "cylinders" is a disk at node 0.35'
             {ok{:}, 'disks', [1 1 1 3]}, 'Ip of a body is at most twice Id'; {ok{:}, 'cylinders', [1 1 1 2 1]}, 'inner diameter of row 1'
             {ok{:}, 'bearings', 3}, '"bearings" is a cell'; {ok{:}, 'bearings', {1, 2, 3, 4}}, '"bearings" is a cell'
             {ok{:}, 'bearings', {4, 1}}, '"bearings{1, 1}" must be the number of a node, from 1 to 3'
@@ -248,4 +250,81 @@ function test_what_does_not_make_a_rotor_is_refused_in_words ()
   end
   expect_error (@() qn.rotor (struct ('M', 1), 'speed', 1), 'qn:input', '~no result of qn.rotor');
   expect_error (@() qn.rotor (qn.rotor (ok{:})), 'qn:input', '~"speed" is missing');
+end
+
+% Matrices of three beam elements, with the degrees of freedom in another order.
+function s = shaft_of (order)
+  r = qn.rotor ('nodes', [0 0.3 0.7 1], 'outer', 0.05);
+  p = r.places(:, [1 2 3 4]);
+  if strcmp (order, 'by kind'), at = p(:); else, at = reshape (p(:, order).', [], 1); end
+  s = struct ('M', r.M(at, at), 'K', r.K(at, at), 'G', r.G(at, at));
+end
+
+function test_a_shaft_in_another_order_is_not_taken_for_nodes_of_x_y_thx_thy ()
+  expect_error (@() qn.rotor ('shaft', shaft_of ('by kind')), 'qn:input', '~those of node 1, the degrees of freedom \[1 2 3 4\], have the masses');
+  expect_error (@() qn.rotor ('shaft', shaft_of ([1 4 2 3])), 'qn:input', '~say with the field "places" which are which');
+  own = shaft_of (1:4);
+  r = qn.rotor ('shaft', own);
+  expect_equal (r.K, own.K);
+  s = shaft_of ([1 4 2 3]);
+  s.places = reshape (1:16, 4, []).';
+  s.places = s.places(:, [1 3 4 2]);
+  r = qn.rotor ('shaft', s);
+  expect_equal (r.places, s.places);
+end
+
+function test_a_shaft_whose_disks_turn_the_other_way_is_said ()
+  s = shaft_of (1:4);
+  said = @(s) regexprep (evalc ('qn.rotor (''shaft'', s);'), '\s+', ' ');
+  expect_equal (said (s), '');
+  s.G = -s.G;
+  expect_in (said (s), 'G of "shaft" is that of a rotation from y to x');
+end
+
+function test_what_nothing_would_read_is_refused ()
+  s = shaft_of (1:4);
+  ok = {'nodes', [0 1], 'outer', 0.1};
+  other = s;
+  other.g = s.G;
+  expect_error (@() qn.rotor ('shaft', other), 'qn:input', '~"shaft" has a field "g", which nothing reads; "G" is meant\?');
+  expect_error (@() qn.rotor (ok{:}, 'stator', struct ('M', 1, 'K', 1, 'D', 1)), 'qn:input', '~"stator" has a field "D"');
+  for name = {'outer', 'inner', 'young', 'density', 'poisson', 'shear'}
+    expect_error (@() qn.rotor ('shaft', s, name{1}, 0.1), 'qn:input', ['~"' name{1} '" describes beams between "nodes"']);
+  end
+  r = qn.rotor (ok{:});
+  r.bearings = {1, 1e6};
+  expect_error (@() qn.modal (r, 'speed', 0), 'qn:input', '~the field "bearings" was set in a result of qn.rotor');
+  expect_error (@() qn.campbell (r, [1 2]), 'qn:input', '~the field "bearings" was set');
+  expect_error (@() qn.rotor (r, 'speed', 0), 'qn:input', '~the field "bearings" was set');
+  r = qn.rotor (ok{:});
+  r.Speed = 3;
+  expect_error (@() qn.modal (r, 'speed', 0), 'qn:input', '~the field "Speed" was set');
+end
+
+function test_places_of_two_nodes_are_not_the_same ()
+  s = struct ('M', eye (4), 'K', eye (4), 'places', [1 2; 3 2]);
+  expect_error (@() qn.rotor ('shaft', s), 'qn:input', '~"places" names degree of freedom 2 twice, in the rows \[1 2\]');
+end
+
+function test_a_bearing_on_one_degree_of_freedom_of_the_stator_twice_is_refused ()
+  expect_error (@() qn.rotor ('nodes', [0 1], 'outer', 0.1, 'stator', struct ('M', eye (2), 'K', eye (2)), 'bearings', {[2 1 1], 5}), ...
+                'qn:input', '~"bearings{1, 1}" stands on degree of freedom 1 of the stator with x and with y');
+end
+
+% The gyroscopic matrix would have taken the new speed, the bearings the old one.
+function test_a_speed_set_by_hand_does_not_leave_the_bearings_of_another ()
+  r = qn.rotor ('nodes', [0 1], 'outer', 0.1, 'bearings', {1, @(w) 1e6 + w; 2, 1e6}, 'speed', 100);
+  r.speed = 300;
+  text = '~"speed" of the rotor was set to 300, and its bearings are those of 100 rad/s';
+  expect_error (@() qn.modal (r), 'qn:input', text);
+  expect_error (@() qn.campbell (r, [1 2]), 'qn:input', text);
+  r = qn.rotor ('nodes', [0 1], 'outer', 0.1, 'bearings', {1, 1e6; 2, 1e6});
+  r.speed = 300;
+  model = qn.modal (r);
+  expect_equal (model.rotation.speed, 300);
+end
+
+function test_a_speed_beside_a_rotor_without_its_name_is_said_in_the_words_of_the_call ()
+  r = qn.rotor ('nodes', [0 1], 'outer', 0.1, 'bearings', {1, 1e6; 2, 1e6});
+  expect_error (@() qn.modal (r, 100), 'qn:input', '~in pairs after the structure, got 1 arguments there; a speed is given as ''speed'', W');
 end

@@ -252,6 +252,7 @@ function test_speeds_that_do_not_fit_are_refused_in_words ()
             [0 1; 0 1i], '~"speed"\(2, 2\) is .*; real numbers expected'
             [0; 1; 2], '~"speed" must be 2 x n numbers, \[times; speeds\], got 3 x 1'
             [0 0; 1 2; 2 3], '~"speed" must be 2 x n numbers, \[times; speeds\], got 3 x 2. It looks transposed'
+            [0 1; 0 100; 0 5], '~"speed" must be 2 x n numbers, \[times; speeds\], got 3 x 2$'
             300, '~"speed" must be 2 x n numbers, \[times; speeds\], got 1 x 1'
             'fast', '~"speed" must be numbers, got .*char'};
   for k = 1:size (trials, 1)

@@ -210,3 +210,23 @@ function test_a_ring_that_takes_nothing_keeps_the_energy ()
   rubs.elements.law = qn.radial ('gap', 1e-3, 'stiffness', 1e6, 'friction', 0.1, 'radius', 0.02, 'speed', 10);
   expect_equal (qn.impl.energy_limit (rubs, sim.start), Inf);
 end
+
+function test_friction_without_the_speed_of_the_surface_is_refused ()
+  ring = @(varargin) qn.radial ('gap', 1e-4, 'stiffness', 1e6, varargin{:});
+  expect_error (@() ring ('friction', 0.1), 'qn:input', '~"friction" of 0.1 needs "radius" and "speed"');
+  expect_error (@() ring ('friction', 0.1, 'radius', 0.02), 'qn:input', '~of a shaft that does not turn give "speed", 0');
+  expect_error (@() ring ('friction', 0.1, 'speed', 30), 'qn:input', '~at the "speed" of 30 rad/s needs a "radius" above 0');
+  expect_error (@() ring ('friction', 0.1, 'speed', 30, 'radius', 0), 'qn:input', '~needs a "radius" above 0');
+  still = ring ('friction', 0.1, 'speed', 0);
+  expect_equal (qn.force (still, [2e-4; 0], [0; 1]), [100; 10 / sqrt(1 + 1e-4)], 1e-9);
+  expect_equal (qn.force (ring (), [2e-4; 0], [0; 1]), [100; 0], 1e-12);
+end
+
+function test_a_clearance_that_no_bearing_has_is_said ()
+  film = @(c) qn.journal ('viscosity', 0.02, 'length', 0.03, 'radius', 0.05, 'clearance', c, 'speed', 10);
+  expect_error (@() film (0.05), 'qn:input', '~"clearance" of 0.05 m is not below the radius of the journal, 0.05 m');
+  said = @(film, c) regexprep (evalc ('film (c);'), '\s+', ' ');
+  expect_equal ([said(film, 4.9e-4), said(film, 5.1e-6)], '');
+  expect_in (said (film, 5.1e-4), '"clearance" is 0.01 of the radius of the journal, where bearings have 1e-4 to 1e-2');
+  expect_in (said (film, 0.08e-6), '"clearance" is 1.6e-06 of the radius');
+end

@@ -78,6 +78,12 @@ function found = check (law, x, h, state)
                       'its force is that of %g: from then on the result is no bearing''s. Look at load, clearance and viscosity, ' ...
                       'start from qn.static, or put a contact behind the film (qn.radial)'], most, p.limit, p.limit)};
   end
+  ratio = p.clearance / p.radius;
+  if ratio < 1e-4 || ratio > 1e-2
+    found(end + 1, :) = {'film_ratio', 'warning', ...
+                         sprintf(['its clearance is %.2g of the radius of its journal, where bearings have 1e-4 to 1e-2: are both in ' ...
+                                  'm, and is the clearance that of the radius?'], ratio)};
+  end
   slender = p.length / (2 * p.radius);
   if slender > 0.5
     level = 'note';

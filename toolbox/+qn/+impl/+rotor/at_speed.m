@@ -4,6 +4,7 @@
 % supports share is called once.
 function r = at_speed (r, speed)
   r.speed = speed;
+  r.parts.speed = speed;
   p = r.parts;
   r.M = p.M;
   r.C = p.C;

@@ -16,9 +16,15 @@ function s = disks (who, s, o)
     polar = mass .* (c(:, 3) .^ 2 + c(:, 4) .^ 2) / 8;
     rows = [rows; c(:, 1), mass, polar / 2 + mass .* c(:, 2) .^ 2 / 12, polar];
   end
-  for row = rows.'
+  given = size (rows, 1);
+  if ~isempty (o.cylinders), given = given - size (o.cylinders, 1); end
+  for k = 1:size (rows, 1)
+    row = rows(k, :).';
     if row(1) ~= fix (row(1)) || row(1) < 1 || row(1) > size (s.places, 1)
-      error ('qn:input', '%s: a disk at node %g; nodes are numbered from 1 to %d', who, row(1), size (s.places, 1));
+      [name, at] = deal ('disks', k);
+      if k > given, [name, at] = deal ('cylinders', k - given); end
+      error ('qn:input', '%s: row %d of "%s" is a disk at node %g; nodes are numbered from 1 to %d, whatever their positions', who, at, ...
+             name, row(1), size (s.places, 1));
     end
     at = s.places(row(1), :);
     if numel (at) < 4

@@ -11,6 +11,7 @@ function s = eigenproblem (who, r, places, basis)
     s.rotor = r;
     r = qn.rotor (r, 'speed', basis.speed);
   end
+  if isstruct (r) && isfield (r, 'parts'), qn.impl.rotor.own_fields (who, r); end
   if isstruct (r) && isfield (r, 'places') && isempty (places), places = r.places(:, 1:2); end
   a = qn.impl.rotor.matrices (who, 'R', r);
   n = size (a.M, 1);

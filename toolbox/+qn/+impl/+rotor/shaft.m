@@ -5,15 +5,19 @@ function s = shaft (who, o)
   if ~isempty (o.shaft)
     s = qn.impl.rotor.matrices (who, 'shaft', o.shaft);
     n = size (s.M, 1);
+    qn.impl.rotor.known_fields (who, 'shaft', o.shaft, {'M', 'K', 'C', 'G', 'places'});
     if isfield (o.shaft, 'places')
       s.places = qn.impl.numbers (who, 'places', o.shaft.places, [NaN NaN], 'from', 1, 'to', n, 'whole', 'each', ...
                                   'x and y, or x, y, thx, thy, of a node in a row');
       if all (size (s.places, 2) ~= [2 4]), error ('qn:input', '%s: "places" has 2 or 4 columns, got %d', who, size (s.places, 2)); end
+      once (who, s.places);
     elseif mod (n, 4) == 0
       s.places = reshape (1:n, 4, []).';
+      in_order (who, s);
     else
       error ('qn:input', '%s: a shaft of %d degrees of freedom has no 4 a node; say with "places" which are x and y of each node', who, n);
     end
+    turns_ahead (who, s);
     s.nodes = 1:size (s.places, 1);
     return
   end
@@ -45,6 +49,40 @@ function s = shaft (who, o)
     s.G(x, y) = s.G(x, y) + g;
     s.G(y, x) = s.G(y, x) - g.';
   end
+end
+
+% Refuses a degree of freedom that has two places.
+function once (who, places)
+  all_of = sort (places(:));
+  twice = all_of(find (diff (all_of) == 0, 1));
+  if isempty (twice), return, end
+  [row, unused] = find (places == twice);
+  error ('qn:input', '%s: "places" names degree of freedom %d twice, in the rows %s', who, twice, mat2str (sort (row.')));
+end
+
+% Without "places": x and y of a node move the same mass, and what turns moves none of their size, where the order is the one expected.
+function in_order (who, s)
+  m = diag (s.M);
+  m = m(s.places);
+  m = reshape (m, [], 4);
+  for pair = [1 3; 2 4]
+    bad = find (abs (m(:, pair(1)) - m(:, pair(2))) > 0.1 * max (abs (m(:, pair)), [], 2), 1);
+    if isempty (bad), continue, end
+    error ('qn:input', ['%s: without "places" a node of "shaft" has its x, y, thx, thy one after another, and those of node %d, the ' ...
+                        'degrees of freedom %s, have the masses %s on the diagonal of M, where x and y, and thx and thy, of a round ' ...
+                        'shaft have equal ones; say with the field "places" which are which'], who, bad, mat2str (s.places(bad, :)), ...
+           mat2str (m(bad, :), 4));
+  end
+end
+
+% The sense of the rotation by the moments of disks: of G(thx, thy), which is Ip.
+function turns_ahead (who, s)
+  if size (s.places, 2) < 4, return, end
+  moment = diag (s.G(s.places(:, 3), s.places(:, 4)));
+  if sum (moment) >= -1e-9 * sum (abs (moment)), return, end
+  warning ('qn:rotor', ['%s: G of "shaft" is that of a rotation from y to x: G(thx, thy) adds up to %.4g kg m^2 where a shaft that ' ...
+                        'turns from x to y has Ip. Forward and backward whirl change places; swap x and y in "places", or give -G'], ...
+           who, sum (moment));
 end
 
 function x = each (who, name, x, count, varargin)

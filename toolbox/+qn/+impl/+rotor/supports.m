@@ -19,6 +19,10 @@ function list = supports (who, name, rows, r)
       error ('qn:input', ['%s: "%s" must be the number of a node, from 1 to %d, or [node a b] with two degrees of freedom of the ' ...
                           'stator, got %s'], who, label (1), size (r.places, 1), mat2str (at));
     end
+    if numel (at) == 3 && at(2) == at(3)
+      error ('qn:input', '%s: "%s" stands on degree of freedom %d of the stator with x and with y; give two, [node a b]', ...
+             who, label (1), at(2));
+    end
     values = cell (1, 3);
     size_of = 2;
     for j = 2:size (rows, 2)

@@ -1,5 +1,6 @@
 % UNCHANGED (WHO, R)  refuses a rotor whose matrices are not those that it was made with: forming them anew would lose the change
 function unchanged (who, r)
+  qn.impl.rotor.formed_at (who, r);
   if isempty (r.K), return, end
   made = qn.impl.rotor.at_speed (r, r.speed);
   for name = 'MKC'

@@ -7,7 +7,7 @@ if(NOT "QUARN_WITH_MKL" IN_LIST blas_definitions OR NOT OTHER_CBLAS_LIBRARY OR N
   return()
 endif()
 
-set(depends_on_blas blas_name.cpp projection_kernels.cpp spblas.cpp)
+set(depends_on_blas blas_name.cpp spblas.cpp)
 list(TRANSFORM depends_on_blas PREPEND ${CMAKE_SOURCE_DIR}/src/sparse/ OUTPUT_VARIABLE sources_with_blas)
 add_library(quarn_other_blas_objects OBJECT ${sources_with_blas})
 target_include_directories(quarn_other_blas_objects PRIVATE ${CMAKE_SOURCE_DIR}/src)

@@ -7,6 +7,7 @@
 #include "numbers/ranges.h"
 #include "sparse/line_checks.h"
 #include "sparse/line_runs.h"
+#include "sparse/dense_lines.h"
 #include "sparse/line_sums.h"
 #include "sparse/sp_tbb.h"
 

@@ -1,9 +1,7 @@
 // Lines that are dense vectors: the row of an element in modal coordinates has an entry for every mode.
 //
-// A line is full when its indices run consecutively from the first to the last, and are eight or more. Its sum is formed by a kernel of
-// our own, in an order that is the same on every processor and in every build, wherever the line is used: eight partial sums begin at 0,
-// the k-th entry of the line goes to partial sum k mod 8, in ascending k; then t_j = s_j + s_(j+4), and the sum is (t_0 + t_2) + (t_1 +
-// t_3).
+// A line is full when its indices run consecutively from the first to the last, and are eight or more. Its sum has the bits of every other
+// line (line_sums.h says in which order), without a look at the indices.
 #pragma once
 
 #include "numbers/processor.h"

@@ -1,5 +1,6 @@
 #include "sparse/line_runs.h"
 
+#include "sparse/dense_lines.h"
 #include "sparse/line_sums.h"
 
 namespace quarn {

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "sparse/blas.h"
+#include "sparse/dense_lines.h"
+
 namespace quarn {
 
 namespace {

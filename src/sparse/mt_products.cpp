@@ -4,6 +4,7 @@
 
 #include "base/fixed_errors.h"
 #include "host/errors.h"
+#include "sparse/blas.h"
 #include "sparse/line_checks.h"
 #include "sparse/mt_kernels.h"
 

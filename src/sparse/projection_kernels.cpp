@@ -4,78 +4,50 @@
 #include <cstring>
 
 #include "numbers/processor.h"
-#include "sparse/line_sums.h"
 
 namespace quarn {
 
 namespace {
 
-// Pairs of columns are summed side by side in tiles of this size: independent sums, one vector register each four (or eight) of
+// Pairs of columns are summed side by side in tiles of this size: independent sums, one vector register each two, four or eight of
 // them. Bases are padded to whole tiles; the sums of the padding are dropped.
 constexpr std::size_t kTileA = 4;
 constexpr std::size_t kTileB = 8;
 // Lines that are handled together, so that a tile's sums stay in registers: line products and a copy of b's rows fit in cache.
-constexpr std::size_t kBlock = 64;
-// Columns that they are multiplied with at a time, so that what they gather fits in the first-level cache.
-constexpr std::size_t kColumns = 8;
+constexpr std::size_t kBlock = 128;
 
 constexpr std::size_t padded(std::size_t n, std::size_t tile) { return (n + tile - 1) / tile * tile; }
 
-/// g[j] = line i . base(:, j), j = 0 ... n-1; columns are ld values apart.
-void lineProducts(double* g, const SparseLines& s, std::size_t i, const double* base, std::size_t ld, std::size_t n) {
-  const int first = s.jc[i];
-  const int entries = s.jc[i + 1] - first;
-  const double* val = s.pr + first;
-  const int* ind = s.ir + first;
-  std::size_t j = 0;
-  if (isFull(entries, ind)) {
-    for (; j < n; ++j) g[j] = denseSum(entries, val, base + j * ld + ind[0]);
-    return;
-  }
-#ifndef QUARN_WITH_MKL
-  // The cblas_ddoti that quarn brings sums in index order, which four columns can do at the same time.
-  for (; j + 4 <= n; j += 4) {
-    const double* c = base + j * ld;
-    double sum[4] = {0.0, 0.0, 0.0, 0.0};
-    for (int k = 0; k < entries; ++k) {
-      const double x = val[k];
-      const auto at = static_cast<std::size_t>(ind[k]);
-      sum[0] += x * c[at];
-      sum[1] += x * c[ld + at];
-      sum[2] += x * c[2 * ld + at];
-      sum[3] += x * c[3 * ld + at];
-    }
-    std::copy(sum, sum + 4, g + j);
-  }
-#endif
-  for (; j < n; ++j) g[j] = lineSum(entries, val, ind, base + j * ld);
-}
-
-/// Neighbours in a row of a tile, which a compiler keeps in registers; it splits them where the processor's are shorter.
-constexpr std::size_t kLane = 4;
-using Lane [[gnu::vector_size(kLane * sizeof(double))]] = double;
+/// A row of a tile, which a compiler keeps in registers; it splits it where the processor's are shorter.
+using Row [[gnu::vector_size(kTileB * sizeof(double))]] = double;
 
 /// acc(a, b) += sum of g(l, a) * t(l, b) over the lines l in ascending order, for one tile.
 QUARN_PROCESSOR_VERSIONS
 void addTile(double* acc, std::size_t ldAcc, const double* g, std::size_t ldG, const double* t, std::size_t ldT, std::size_t lines) {
-  Lane low[kTileA];
-  Lane high[kTileA];
-  static_assert(kTileB == 2 * kLane);
-  for (std::size_t a = 0; a < kTileA; ++a) {
-    std::memcpy(&low[a], acc + a * ldAcc, sizeof(Lane));
-    std::memcpy(&high[a], acc + a * ldAcc + kLane, sizeof(Lane));
-  }
+  Row sum[kTileA];
+  for (std::size_t a = 0; a < kTileA; ++a) std::memcpy(&sum[a], acc + a * ldAcc, sizeof(Row));
   for (std::size_t l = 0; l < lines; ++l, g += ldG, t += ldT) {
-    Lane b[2];
-    std::memcpy(b, t, sizeof b);
-    for (std::size_t a = 0; a < kTileA; ++a) {
-      low[a] += g[a] * b[0];
-      high[a] += g[a] * b[1];
+    Row b;
+    std::memcpy(&b, t, sizeof b);
+    for (std::size_t a = 0; a < kTileA; ++a) sum[a] += g[a] * b;
+  }
+  for (std::size_t a = 0; a < kTileA; ++a) std::memcpy(acc + a * ldAcc, &sum[a], sizeof(Row));
+}
+
+/// rows(l, j) = sign * column j, row first + l, for a block of lines; rows are ldRows values apart. Four columns at a time, so that what is
+/// written lies together.
+QUARN_PROCESSOR_VERSIONS
+void copyRows(double* __restrict rows, std::size_t ldRows, double sign, const Columns& columns, std::size_t first, std::size_t lines) {
+  std::size_t j = 0;
+  for (; j + 4 <= columns.count; j += 4) {
+    const double* __restrict from = columns.values + j * columns.ld + first;
+    for (std::size_t l = 0; l < lines; ++l) {
+      for (std::size_t c = 0; c < 4; ++c) rows[l * ldRows + j + c] = sign * from[l + c * columns.ld];
     }
   }
-  for (std::size_t a = 0; a < kTileA; ++a) {
-    std::memcpy(acc + a * ldAcc, &low[a], sizeof(Lane));
-    std::memcpy(acc + a * ldAcc + kLane, &high[a], sizeof(Lane));
+  for (; j < columns.count; ++j) {
+    const double* from = columns.values + j * columns.ld + first;
+    for (std::size_t l = 0; l < lines; ++l) rows[l * ldRows + j] = sign * from[l];
   }
 }
 
@@ -92,10 +64,7 @@ struct Sizes {
 };
 
 void addBlock(const Term& term, const DenseBase& b, std::size_t first, std::size_t lines, const double* g, double* rowsOfB, Sizes pad) {
-  for (std::size_t j = 0; j < b.cols; ++j) {
-    const double* column = term.base + j * b.rows + first;
-    for (std::size_t l = 0; l < lines; ++l) rowsOfB[l * pad.padB + j] = term.sign * column[l];
-  }
+  copyRows(rowsOfB, pad.padB, term.sign, {term.base, b.rows, b.cols}, first, lines);
   for (std::size_t a = 0; a < pad.padA; a += kTileA) {
     for (std::size_t j = 0; j < pad.padB; j += kTileB) {
       addTile(term.acc + a * pad.padB + j, pad.padB, g + a, pad.padA, rowsOfB + j, pad.padB, lines);
@@ -108,10 +77,7 @@ void addPart(const double* part, const Term* terms, int nTerms, const DenseBase&
              double* g, double* rowsOfB, Sizes pad) {
   for (std::size_t first = 0; first < n; first += kBlock) {
     const std::size_t lines = std::min(kBlock, n - first);
-    for (std::size_t j = 0; j < a.cols; j += kColumns) {
-      const std::size_t columns = std::min(kColumns, a.cols - j);
-      for (std::size_t l = 0; l < lines; ++l) lineProducts(g + l * pad.padA + j, s, first + l, part + j * a.rows, a.rows, columns);
-    }
+    columnSums(g, pad.padA, s, first, lines, {part, a.rows, a.cols});
     for (int t = 0; t < nTerms; ++t) addBlock(terms[t], b, first, lines, g, rowsOfB, pad);
   }
 }
@@ -125,7 +91,9 @@ void store(double* out, const double* acc, std::size_t nA, std::size_t nB, std::
 }  // namespace
 
 void projectLines(double* p, const DenseBase& a, const SparseLines& s, std::size_t lines) {
-  for (std::size_t i = 0; i < lines; ++i) lineProducts(p + i * a.cols, s, i, a.re, a.rows, a.cols);
+  for (std::size_t first = 0; first < lines; first += kBlock) {
+    columnSums(p + first * a.cols, a.cols, s, first, std::min(kBlock, lines - first), {a.re, a.rows, a.cols});
+  }
 }
 
 std::size_t bilinearWork(std::size_t nA, std::size_t nB) {

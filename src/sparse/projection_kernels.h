@@ -7,14 +7,9 @@
 
 #include <cstddef>
 
-namespace quarn {
+#include "sparse/column_sums.h"
 
-/// Lines of a matrix: line i has the values pr[k] at the positions ir[k], k = jc[i] ... jc[i+1]-1.
-struct SparseLines {
-  const int* ir;
-  const int* jc;
-  const double* pr;
-};
+namespace quarn {
 
 /// Columns of a dense matrix with rows x cols values, column after column; im is null for a real one.
 struct DenseBase {

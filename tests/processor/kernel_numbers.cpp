@@ -57,7 +57,7 @@ void newmark(Vector& all, int n) {
 }
 
 void projections(Vector& all, int n) {
-  const quarn::test::Lines m = quarn::test::randomLines(n, n, 9, 11);
+  const quarn::test::Lines m = quarn::test::randomLines(n, n, 20, 11);
   const std::size_t cols = 7;
   const auto lines = static_cast<std::size_t>(n);
   const Vector re = randomVector(n * static_cast<int>(cols), 12);

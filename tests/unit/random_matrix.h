@@ -38,4 +38,11 @@ inline std::vector<double> randomVector(int n, unsigned seed) {
   return x;
 }
 
+/// A line's sum in the order that line_sums.h states, said once more: eight partial sums, combined crosswise.
+inline double statedSum(int n, const double* pr, const int* ir, const double* x) {
+  double s[8] = {};
+  for (int k = 0; k < n; ++k) s[k % 8] += pr[k] * x[ir[k]];
+  return ((s[0] + s[4]) + (s[2] + s[6])) + ((s[1] + s[5]) + (s[3] + s[7]));
+}
+
 }  // namespace quarn::test

@@ -3,6 +3,7 @@
 #include <numeric>
 
 #include "random_matrix.h"
+#include "sparse/dense_lines.h"
 #include "sparse/line_runs.h"
 #include "sparse/line_sums.h"
 

@@ -2,7 +2,6 @@
 #include <oneapi/tbb/global_control.h>
 
 #include "random_matrix.h"
-#include "sparse/blas.h"
 #include "sparse/sp_tbb.h"
 
 namespace quarn {
@@ -15,7 +14,7 @@ using test::randomVector;
 std::vector<double> serial(const Lines& m, const std::vector<double>& x, std::vector<double> y) {
   for (std::size_t i = 0; i < y.size(); ++i) {
     const int k0 = m.jc[i];
-    y[i] += cblas_ddoti(m.jc[i + 1] - k0, m.pr.data() + k0, m.ir.data() + k0, x.data());
+    y[i] += test::statedSum(m.jc[i + 1] - k0, m.pr.data() + k0, m.ir.data() + k0, x.data());
   }
   return y;
 }

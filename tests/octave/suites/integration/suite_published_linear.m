@@ -98,7 +98,8 @@ function test_free_beam_frequencies_from_projected_matrices ()
   buffer = zeros (size (basis, 2), size (m, 2));
   quarn ('c<-a''*b', basis, matrix_lines (m), buffer);
   mr = buffer * basis;
-  expect_equal (kr, full (basis' * k * basis), 1e-10);
+  % Sums of terms as large as the stiffness of an element, whatever is left of them.
+  expect_equal (kr, full (basis' * k * basis), 1e-14 * full (max (abs (k(:)))));
   expect_equal (mr, full (basis' * m * basis), 1e-12);
   lambda = sort (real (eig ((kr + kr') / 2, (mr + mr') / 2)));
   beta_l = lambda(3:6) .^ 0.25;

@@ -129,11 +129,9 @@ void chandleDiagNewmark::initCb(const ROr& c, const mxArray* model, const mxArra
   if (c.a == c.v && c.v) host::fail(fixed::identicalVA);
   if (c.v == c.u && c.u) host::fail(fixed::identicalVU);
   if (c.a == c.u && c.u) host::fail(fixed::identicalAU);
-  for (int k = 0; k < nh; ++k) {
-    if (list[k] && list[k]->type == HandleType::nonlinear && list[k]->stateEnd() > static_cast<std::int64_t>(Ndef) + 1) {
-      host::fail(fixed::statesTooLong);
-    }
-  }
+  forLive(list, nh, [this](const chandle& h, int) {
+    if (h.type == HandleType::nonlinear && h.stateEnd() > static_cast<std::int64_t>(Ndef) + 1) host::fail(fixed::statesTooLong);
+  });
 }
 
 void chandleDiagNewmark::checkRun(const ROr& c, chandle** list, int nh) {

@@ -6,7 +6,7 @@
 %   the film says where; two runs with the whole film, 4 % below and 4 % above, show a disturbance die out and grow.
 %
 % Reference
-%   Poles of the rotor with the stiffness and damping of a short bearing with torn film (Ocvirk, 1952) at its equilibrium under the weight,
+%   Poles of the rotor with the stiffness and damping of a short bearing with a ruptured film (Ocvirk, 1952) at its equilibrium under the weight,
 %   from qn.campbell with qn.journal_coefficients: onset speed, and growth rates at the speeds of the runs.
 %
 % Checked

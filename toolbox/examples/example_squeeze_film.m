@@ -6,7 +6,7 @@
 %   fifths of the clearance; without oil its radius would be thirty clearances. The wider the orbit, the stiffer the film.
 %
 % Reference
-%   Circular centred orbit of the radius e c in a short damper with torn film: damping mu R (L/c)^3 (pi/2)/(1 - e^2)^1.5 and stiffness
+%   Circular centred orbit of the radius e c in a short damper with a ruptured film: damping mu R (L/c)^3 (pi/2)/(1 - e^2)^1.5 and stiffness
 %   2 mu W R (L/c)^3 e/(1 - e^2)^2 (R. Holmes, J. Mechanical Engineering Science 14, 1972; J. M. Vance, Rotordynamics of Turbomachinery,
 %   1988), with which the unbalance gives one equation for e.
 %

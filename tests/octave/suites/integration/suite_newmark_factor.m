@@ -193,24 +193,6 @@ function [s, speed, slope] = rotor (ending)
   slope = [0 ending; top / ending * [1 1]];
 end
 
-% The scheme in plain Octave, with the matrix of every step.
-function out = by_hand (s, p, h, omega, slope)
-  u = zeros (6, 1);
-  v = u;
-  a = s.M \ p(:, 1);
-  out = zeros (6, numel (omega));
-  for j = 2:numel (omega)
-    c = s.C + omega(j) * s.G;
-    k = s.K + slope * s.S;
-    u = u + h * v + h ^ 2 / 4 * a;
-    v = v + h / 2 * a;
-    a = (s.M + h / 2 * c + h ^ 2 / 4 * k) \ (p(:, j) - c * v - k * u);
-    u = u + h ^ 2 / 4 * a;
-    v = v + h / 2 * a;
-    out(:, j) = u;
-  end
-end
-
 % Force of an unbalance that turns by the angle of a steady run-up.
 function p = unbalance (time, top, ending)
   angle = top / ending * time .^ 2 / 2;
@@ -248,7 +230,7 @@ function test_a_run_up_in_one_call_is_the_scheme_with_the_matrix_of_every_step (
   [s, speed, slope] = rotor (ending);
   h = 1e-3;
   steps = ending / h;
-  wanted = by_hand (s, unbalance ((0:steps) * h, speed(2, end), ending), h, linspace (0, speed(2, end), steps + 1), slope(2));
+  wanted = newmark_of_speeds (s, unbalance ((0:steps) * h, speed(2, end), ending), h, linspace (0, speed(2, end), steps + 1), slope(2) * s.S);
   off = zeros (1, 3);
   pages = [9 65 1501];
   for j = 1:3

@@ -16,12 +16,7 @@ end
 function e = element (parameters, page)
   if nargin < 1, parameters = usual (); end
   if nargin < 2, page = 2; end
-  line = matrix_lines (eye (page), true);
-  e = struct ('type', 1003, 'c', line, 'b', line, 'opt', [law_code('Journal'); parameters(:)]);
-  e.unl = zeros (page, 1);
-  e.vnl = zeros (page, 1);
-  e.snl = zeros (page, 1);
-  e = fresh (e);
+  e = page_element ('Journal', parameters, page);
 end
 
 function [f, e] = force (e, u, v)

@@ -7,12 +7,7 @@ end
 function e = element (parameters, page)
   if nargin < 1, parameters = [2 10 2 0.5 0.25 0 2 3 0 0]; end
   if nargin < 2, page = 2; end
-  line = matrix_lines (eye (page), true);
-  e = struct ('type', 1003, 'c', line, 'b', line, 'opt', [law_code('Radial'); parameters(:)]);
-  e.unl = zeros (page, 1);
-  e.vnl = zeros (page, 1);
-  e.snl = zeros (page, 1);
-  e = fresh (e);
+  e = page_element ('Radial', parameters, page);
 end
 
 % The parameters above with value K replaced.

@@ -3,49 +3,39 @@ function tests = suite_laws_of_velocity ()
   tests = localfunctions ();
 end
 
-% An element that observes N values as they are.
-function e = element (word, parameters, n)
-  line = matrix_lines (eye (n), true);
-  e = struct ('type', 1003, 'c', line, 'b', line, 'opt', [law_code(word); parameters(:)]);
-  e.unl = zeros (n, 1);
-  e.vnl = zeros (n, 1);
-  e.snl = zeros (n, 1);
-  e = fresh (e);
-end
-
 function test_a_damper_pushes_along_the_velocity ()
   v = [-2; -0.5; 1; 3];
-  [e, r] = evaluate_law (element ('Damper', [4 1], 4), [9; 9; 9; 9], v);
+  [e, r] = evaluate_law (page_element ('Damper', [4 1], 4), [9; 9; 9; 9], v);
   expect_equal (e.snl, 4 * v);
   expect_equal (r, 4 * v);
-  e = evaluate_law (element ('Damper', [4 2], 4), zeros (4, 1), v);
+  e = evaluate_law (page_element ('Damper', [4 2], 4), zeros (4, 1), v);
   expect_equal (e.snl, [-16; -1; 4; 36]);
-  e = evaluate_law (element ('Damper', [4 0.5], 2), [0; 0], [-0.25; 9]);
+  e = evaluate_law (page_element ('Damper', [4 0.5], 2), [0; 0], [-0.25; 9]);
   expect_equal (e.snl, [-2; 12]);
 end
 
 function test_a_damper_at_rest_has_no_force_whatever_its_exponent ()
   for exponent = [0 1 2 -1]
-    e = evaluate_law (element ('Damper', [4 exponent], 2), [1; 1], [0; -0]);
+    e = evaluate_law (page_element ('Damper', [4 exponent], 2), [1; 1], [0; -0]);
     expect_equal (e.snl, [0; 0]);
   end
-  e = evaluate_law (element ('Damper', [4 0], 2), [1; 1], [-3; 5]);
+  e = evaluate_law (page_element ('Damper', [4 0], 2), [1; 1], [-3; 5]);
   expect_equal (e.snl, [-4; 4]);   % dry friction
 end
 
 function test_no_number_as_a_velocity_gives_none ()
-  e = evaluate_law (element ('Damper', [4 2], 2), [0; 0], [NaN; Inf]);
+  e = evaluate_law (page_element ('Damper', [4 2], 2), [0; 0], [NaN; Inf]);
   expect_equal (e.snl, [NaN; Inf]);
 end
 
 function test_forces_of_a_damper_replace_the_displacements_without_snl ()
-  [e, r] = evaluate_law (rmfield (element ('Damper', [4 1], 2), 'snl'), [9; 9], [1; -2]);
+  [e, r] = evaluate_law (rmfield (page_element ('Damper', [4 1], 2), 'snl'), [9; 9], [1; -2]);
   expect_equal (e.unl, [4; -8]);
   expect_equal (r, [4; -8]);
 end
 
 function test_a_damper_is_stored_among_the_forces ()
-  e = element ('Damper', [4 1], 2);
+  e = page_element ('Damper', [4 1], 2);
   e.iopt = int32 (1);
   model = struct ('FNL', zeros (4, 1));
   still = struct ('type', 2000, 'r', zeros (2, 2), 'tft', [0 1], 'data', zeros (1, 6));
@@ -59,9 +49,9 @@ end
 function test_short_arrays_of_a_damper_are_refused ()
   head = 'quarn residual : element 1 : ';
   u = [0; 0];
-  e = element ('Damper', 4, 2);
+  e = page_element ('Damper', 4, 2);
   expect_refused (@() evaluate_law (e, u, u), [head 'opt must hold 3 values (code, coefficient, exponent), got 2']);
-  e = element ('Damper', [4 1], 2);
+  e = page_element ('Damper', [4 1], 2);
   expect_refused (@() evaluate_law (rmfield (e, 'vnl'), u, u), [head '"vnl" of law "Damper" must hold 2 values or more, got 0']);
   e.snl = 0;
   expect_refused (@() evaluate_law (rmfield (e, 'b'), u, u), [head 'snl must hold 2 values (as many as a page of unl), got 1']);
@@ -69,7 +59,7 @@ end
 
 function test_one_array_for_both_observations_is_refused ()
   shared = zeros (2, 1);
-  e = element ('Damper', [4 1], 2);
+  e = page_element ('Damper', [4 1], 2);
   e.unl = shared;
   e.vnl = shared;
   still = struct ('type', 2000, 'r', zeros (2, 2), 'tft', [0 1], 'data', zeros (1, 6));
@@ -80,7 +70,7 @@ end
 
 % Stiffness 4, exponent 2, damping 0.5, gap 1 unless said.
 function e = stop (side, n)
-  e = element ('Contact', [4 2 0.5 1 side], n);
+  e = page_element ('Contact', [4 2 0.5 1 side], n);
 end
 
 function test_an_impact_is_met_at_its_gap_on_its_side ()

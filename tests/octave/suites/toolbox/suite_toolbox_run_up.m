@@ -43,21 +43,13 @@ end
 function out = by_hand (s, table, h, steps)
   time = (0:steps) * h;
   p = [unbalance(table, time); zeros(4, steps + 1)];
-  kg = zeros (6);
-  if ~isempty (s.KG), kg = s.KG; end
-  [u, v, out] = deal (zeros (6, 1), zeros (6, 1), zeros (6, steps + 1));
-  a = s.M \ p(:, 1);
-  for j = 2:steps + 1
-    [omega, slope] = turned (table, time(j));
-    c = s.C + omega * s.G;
-    k = s.K + slope * kg;
-    u = u + h * v + h ^ 2 / 4 * a;
-    v = v + h / 2 * a;
-    a = (s.M + h / 2 * c + h ^ 2 / 4 * k) \ (p(:, j) - c * v - k * u);
-    u = u + h ^ 2 / 4 * a;
-    v = v + h / 2 * a;
-    out(:, j) = u;
+  speeds = zeros (1, steps + 1);
+  changing = zeros (6, 6, steps + 1);
+  for j = 1:steps + 1
+    [speeds(j), slope] = turned (table, time(j));
+    if ~isempty (s.KG), changing(:, :, j) = slope * s.KG; end
   end
+  out = newmark_of_speeds (s, p, h, speeds, changing);
 end
 
 function e = relative (x, wanted)

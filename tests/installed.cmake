@@ -6,7 +6,7 @@ add_test(NAME package COMMAND ${CMAKE_CURRENT_LIST_DIR}/package/run ${CMAKE_CURR
 if(NOT QUARN_MKL)
   set_tests_properties(package PROPERTIES ENVIRONMENT QUARN_MKL=no)
 endif()
-set_tests_properties(package PROPERTIES TIMEOUT 600 PROCESSORS 2)
+set_tests_properties(package PROPERTIES TIMEOUT 600 PROCESSORS 2 COST 40)
 add_test(NAME install
          COMMAND ${CMAKE_CURRENT_LIST_DIR}/install/run ${CMAKE_BINARY_DIR} ${CMAKE_CURRENT_BINARY_DIR}/install ${CMAKE_COMMAND} ${OCTAVE_CLI})
 set_tests_properties(install PROPERTIES TIMEOUT 600)

@@ -16,11 +16,15 @@ file(GLOB suites CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/octave/suites/*/sui
 foreach(file ${suites})
   get_filename_component(suite ${file} NAME_WE)
   string(REGEX REPLACE "^suite_" "octave." name ${suite})
+  # octave.validation runs all tests of these.
+  if(file MATCHES "/suites/toolbox/suite_published_")
+    continue()
+  endif()
   add_test(NAME ${name} COMMAND ${octave_run} ${suite} $<TARGET_FILE_DIR:quarn>)
   set_tests_properties(${name} PROPERTIES TIMEOUT 1200 ENVIRONMENT "${host_environment}"
                        SKIP_REGULAR_EXPRESSION "^0 passed, 0 failed, [1-9]|\n0 passed, 0 failed, [1-9]")
   # The toolbox is Octave code: it does not change with the way the module is built.
-  if(file MATCHES "/suites/toolbox/" OR name MATCHES "^octave\\.(install|document|validation|recipes|test_)")
+  if(file MATCHES "/suites/toolbox/" OR name MATCHES "^octave\\.(install|document|validation|recipes|includes|test_)")
     set_tests_properties(${name} PROPERTIES LABELS once)
   # What runs the code of other suites again, more often or in more processes: sanitizers see no more of it there.
   elseif(name MATCHES "_random$|^octave\\.(newmark_model|published_|memory|leaving|demo_after_errors)")
@@ -28,8 +32,12 @@ foreach(file ${suites})
   endif()
 endforeach()
 # Some forty suites and two demos in one test.
-set_tests_properties(octave.demo_after_errors PROPERTIES TIMEOUT 1500 COST 60)
-set_tests_properties(octave.toolbox_examples PROPERTIES COST 50)
+set_tests_properties(octave.demo_after_errors PROPERTIES TIMEOUT 1500)
+# The longest begin first, so that none is left alone at the end.
+set_tests_properties(octave.toolbox_examples octave.demo_after_errors PROPERTIES COST 50)
+set_tests_properties(octave.validation octave.toolbox_sweep octave.toolbox_run_up octave.toolbox_runs octave.toolbox_help
+                     octave.toolbox_arguments octave.toolbox_advice octave.toolbox_check_codes octave.hostile_arguments
+                     octave.laws_random PROPERTIES COST 20)
 # The long mixed run of scripts/soak, for some seconds.
 add_test(NAME octave.soak COMMAND ${OCTAVE_CLI} --no-history -qf ${CMAKE_CURRENT_LIST_DIR}/soak/soak.m $<TARGET_FILE_DIR:quarn> 4)
 set_tests_properties(octave.soak PROPERTIES LABELS repeats TIMEOUT 600 ENVIRONMENT "${host_environment}")

@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 
 #include "integration/full_gain.h"
+#include "newmark_coefficients.h"
 #include "random_matrix.h"
 
 namespace quarn {
 namespace {
 
+using test::coefficients;
 using test::randomVector;
-
-const NewmarkCoefficients k{0.01, 2.5e-5, 0.005, 200.0, 4.0e4};
 
 TEST(FullGain, CorrectionHasTheBitsOfSumsInColumnOrderAtEverySize) {
   for (const int n : {0, 1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 33, 64, 100, 255, 256, 257, 300, 520}) {
@@ -27,12 +27,12 @@ TEST(FullGain, CorrectionHasTheBitsOfSumsInColumnOrderAtEverySize) {
         d = d + term;
       }
       wantedU[i] -= d;
-      volatile double dv = k.vFromD * d;
+      volatile double dv = coefficients.vFromD * d;
       wantedV[i] -= dv;
-      volatile double da = d * k.aFromD;
+      volatile double da = d * coefficients.aFromD;
       wantedA[i] -= da;
     }
-    newmarkCorrectFull(u.data(), v.data(), a.data(), f.data(), gain.data(), n, k);
+    newmarkCorrectFull(u.data(), v.data(), a.data(), f.data(), gain.data(), n, coefficients);
     EXPECT_EQ(u, wantedU) << n;
     EXPECT_EQ(v, wantedV) << n;
     EXPECT_EQ(a, wantedA) << n;
@@ -58,13 +58,13 @@ TEST(FullGain, BetweenTwoPagesItIsOneSumOverBoth) {
         d = d + term;
       }
       wantedU[i] -= d;
-      volatile double dv = k.vFromD * d;
+      volatile double dv = coefficients.vFromD * d;
       wantedV[i] -= dv;
-      volatile double da = d * k.aFromD;
+      volatile double da = d * coefficients.aFromD;
       wantedA[i] -= da;
     }
     std::vector<double> work(2 * u.size());
-    newmarkCorrectBetween(u.data(), v.data(), a.data(), f.data(), pages.data(), weight, work.data(), n, k);
+    newmarkCorrectBetween(u.data(), v.data(), a.data(), f.data(), pages.data(), weight, work.data(), n, coefficients);
     EXPECT_EQ(u, wantedU) << n;
     EXPECT_EQ(v, wantedV) << n;
     EXPECT_EQ(a, wantedA) << n;
@@ -83,8 +83,8 @@ TEST(FullGain, ADiagonalOneGivesTheBitsOfTheColumn) {
   auto wantedU = u;
   auto wantedV = v;
   auto wantedA = a;
-  newmarkCorrect(wantedU.data(), wantedV.data(), wantedA.data(), f.data(), column.data(), n, k);
-  newmarkCorrectFull(u.data(), v.data(), a.data(), f.data(), gain.data(), n, k);
+  newmarkCorrect(wantedU.data(), wantedV.data(), wantedA.data(), f.data(), column.data(), n, coefficients);
+  newmarkCorrectFull(u.data(), v.data(), a.data(), f.data(), gain.data(), n, coefficients);
   EXPECT_EQ(u, wantedU);
   EXPECT_EQ(v, wantedV);
   EXPECT_EQ(a, wantedA);

@@ -1,22 +1,18 @@
 // The one-pass kernels against the separate ones, bit for bit, signed zeros included.
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 #include "integration/newmark_fused.h"
+#include "newmark_coefficients.h"
 #include "random_matrix.h"
+#include "same_bits.h"
 
 namespace quarn {
 namespace {
 
+using test::coefficients;
 using test::randomVector;
+using test::sameBits;
 using Vector = std::vector<double>;
-
-const NewmarkCoefficients k{0.01, 2.5e-5, 0.005, 200.0, 4.0e4};
-
-bool sameBits(const Vector& a, const Vector& b) {
-  return a.size() == b.size() && (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(double)) == 0);
-}
 
 /// A problem with n modes, nb loads and some zeros of both signs.
 struct Problem {
@@ -44,7 +40,7 @@ struct Problem {
 
   /// Predictor, load and diagonal forces, one after the other.
   void beginSeparately(const double* loads, int kind) {
-    newmarkPredict(u.data(), v.data(), a.data(), n, k);
+    newmarkPredict(u.data(), v.data(), a.data(), n, coefficients);
     f.assign(u.size(), 9.0);
     newmarkLoad(f.data(), r.data(), n, loads, n, nb);
     for (std::size_t i = 0; kind > 0 && i < u.size(); ++i) f[i] += stiffness[i] * (u[i] + 0.3 * v[i]);
@@ -78,7 +74,7 @@ TEST(NewmarkFused, BeginsAStepLikeTheSeparateLoops) {
         Vector ca(cu);
         got.f.assign(got.u.size(), 9.0);
         newmarkBegin({got.u.data(), got.v.data(), got.a.data(), n}, cu.data(), cv.data(), ca.data(), got.f.data(), got.r.data(),
-                     got.p.data(), nb, got.forces(kind), k);
+                     got.p.data(), nb, got.forces(kind), coefficients);
         const Problem start(n, nb);
         EXPECT_TRUE(sameBits(cu, start.u) && sameBits(cv, start.v) && sameBits(ca, start.a)) << n << ' ' << nb;
         EXPECT_TRUE(sameBits(got.u, wanted.u) && sameBits(got.v, wanted.v) && sameBits(got.a, wanted.a)) << n << ' ' << nb;
@@ -98,10 +94,10 @@ TEST(NewmarkFused, DoesWholeStepsLikeTheSeparateLoops) {
         const int stride = nb + 1;
         for (int j = 0; j < steps; ++j) {
           wanted.beginSeparately(wanted.p.data() + j * stride, kind);
-          newmarkCorrect(wanted.u.data(), wanted.v.data(), wanted.a.data(), wanted.f.data(), wanted.gain.data(), n, k);
+          newmarkCorrect(wanted.u.data(), wanted.v.data(), wanted.a.data(), wanted.f.data(), wanted.gain.data(), n, coefficients);
         }
         newmarkSteps({got.u.data(), got.v.data(), got.a.data(), n}, got.r.data(), got.gain.data(), got.p.data(), stride, nb, steps,
-                     got.forces(kind), k);
+                     got.forces(kind), coefficients);
         EXPECT_TRUE(sameBits(got.u, wanted.u)) << n << ' ' << nb << ' ' << kind;
         EXPECT_TRUE(sameBits(got.v, wanted.v)) << n << ' ' << nb << ' ' << kind;
         EXPECT_TRUE(sameBits(got.a, wanted.a)) << n << ' ' << nb << ' ' << kind;

@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 
 #include "integration/newmark_kernels.h"
+#include "newmark_coefficients.h"
 #include "random_matrix.h"
 
 namespace quarn {
 namespace {
 
+using test::coefficients;
 using test::randomVector;
-
-const NewmarkCoefficients k{0.01, 2.5e-5, 0.005, 200.0, 4.0e4};
 
 TEST(NewmarkKernels, PredictorHasTheBitsOfThePlainFormulaAtEverySize) {
   for (int n = 0; n < 70; ++n) {
@@ -18,14 +18,14 @@ TEST(NewmarkKernels, PredictorHasTheBitsOfThePlainFormulaAtEverySize) {
     auto wantedU = u;
     auto wantedV = v;
     for (std::size_t i = 0; i < u.size(); ++i) {
-      volatile double fromA = k.uFromA * a[i];
-      volatile double fromV = k.dt * v[i];
+      volatile double fromA = coefficients.uFromA * a[i];
+      volatile double fromV = coefficients.dt * v[i];
       volatile double sum = fromA + fromV;
       wantedU[i] = sum + u[i];
-      volatile double rate = k.vFromA * a[i];
+      volatile double rate = coefficients.vFromA * a[i];
       wantedV[i] = rate + v[i];
     }
-    newmarkPredict(u.data(), v.data(), a.data(), n, k);
+    newmarkPredict(u.data(), v.data(), a.data(), n, coefficients);
     EXPECT_EQ(u, wantedU);
     EXPECT_EQ(v, wantedV);
     EXPECT_EQ(a, std::vector<double>(static_cast<std::size_t>(n)));
@@ -64,12 +64,12 @@ TEST(NewmarkKernels, CorrectionHasTheBitsOfThePlainFormulaAtEverySize) {
     for (std::size_t i = 0; i < u.size(); ++i) {
       volatile double d = f[i] * gain[i];
       wantedU[i] -= d;
-      volatile double dv = k.vFromD * d;
+      volatile double dv = coefficients.vFromD * d;
       wantedV[i] -= dv;
-      volatile double da = d * k.aFromD;
+      volatile double da = d * coefficients.aFromD;
       wantedA[i] -= da;
     }
-    newmarkCorrect(u.data(), v.data(), a.data(), f.data(), gain.data(), n, k);
+    newmarkCorrect(u.data(), v.data(), a.data(), f.data(), gain.data(), n, coefficients);
     EXPECT_EQ(u, wantedU);
     EXPECT_EQ(v, wantedV);
     EXPECT_EQ(a, wantedA);

@@ -2,17 +2,18 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstring>
 #include <random>
 #include <vector>
 
 #include "random_matrix.h"
+#include "same_bits.h"
 #include "sparse/phi1tmphi2.h"
 #include "sparse/projection_kernels.h"
 
 namespace quarn {
 namespace {
 
+using test::sameBits;
 using Values = std::vector<double>;
 
 struct Matrix {
@@ -46,10 +47,6 @@ class Projection : public ::testing::Test {
   std::mt19937 generator{20240517};
   std::normal_distribution<double> normal;
 };
-
-bool sameBits(const Values& a, const Values& b) {
-  return a.size() == b.size() && (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(double)) == 0);
-}
 
 DenseBase baseOf(const Values& re, const Values& im, std::size_t rows, std::size_t cols) {
   return {re.data(), im.empty() ? nullptr : im.data(), rows, cols};

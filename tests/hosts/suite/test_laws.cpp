@@ -10,7 +10,7 @@ using namespace build;
 
 ON_MATLAB(Laws);
 
-const Values identity{1, 0, 0, 0, 1, 0, 0, 0, 1};
+const Values identity3{1, 0, 0, 0, 1, 0, 0, 0, 1};
 
 TEST_P(Laws, MaxwellAddsElasticAndViscousParts) {
   // opt: code, -, h, sub-steps, -, Cu (2), Dv (2), B, A, E
@@ -41,8 +41,8 @@ TEST_P(Laws, MaxwellWithoutObservedValuesEndsWhateverItsCounts) {
 TEST_P(Laws, Clima2AddsTwoBranchesAndTheTabulatedForce) {
   // opt: code, -, h, k, e, mu, offset, table (abscissae 0 1, limits 10 20, stiffnesses 100 100), record (3)
   mxArray* value = structure({{"type", scalar(1003)},
-                              {"c", compressed(3, 3, identity, true)},
-                              {"b", compressed(3, 3, identity, true)},
+                              {"c", compressed(3, 3, identity3, true)},
+                              {"b", compressed(3, 3, identity3, true)},
                               {"opt", column({lawCode("Clima2"), 0, 0.01, 3, 1, 0.5, 2, 0, 1, 10, 20, 100, 100, 0, 0, 0})},
                               {"unl", pages(5, 1, 3, {})},
                               {"vnl", pages(5, 1, 3, {})},
@@ -100,7 +100,7 @@ mxArray* rotcenterElement(int rows, int unset = 0) {
   std::vector<mxArray*> cells(static_cast<std::size_t>(2 * rows), nullptr);
   const auto put = [&](int row, mxArray* value) { cells[static_cast<std::size_t>(rows + row - 1)] = row == unset ? nullptr : value; };
   put(1, scalar(1));
-  put(2, matrix(3, 3, identity));
+  put(2, matrix(3, 3, identity3));
   put(3, zeros(3));
   put(4, zeros(3));
   put(5, scalar(2));
@@ -139,7 +139,7 @@ TEST_P(Laws, UnsetParametersOfRotcenterAreRefused) {
 
 TEST_P(Laws, Mocirc2AddsNothing) {
   mxArray* r = column({1, 2, 3});
-  mxArray* e = structure({{"type", text("mocirc2")}, {"cta", compressed(3, 3, identity)}});
+  mxArray* e = structure({{"type", text("mocirc2")}, {"cta", compressed(3, 3, identity3)}});
   run("residual", {r, modelOf(e), column({1, 2, 3}), zeros(3), zeros(0)}, 0);
   EXPECT_EQ(values(r), (Values{1, 2, 3}));
 }

@@ -11,10 +11,10 @@ using namespace build;
 ON_MATLAB(Residual);
 
 // K = [2 -1 0; -1 2 -1; 0 -1 2]
-mxArray* stiffness() { return tridiagonal(3, 2, -1); }
+mxArray* springs() { return tridiagonal(3, 2, -1); }
 
 TEST_P(Residual, OfHandlesAddsEachContribution) {
-  const mxArray* list = handles({set(1, stiffness()), set(2, compressed(3, 3, {4, 0, 0, 0, 4, 0, 0, 0, 4})), set(3, stiffness())});
+  const mxArray* list = handles({set(1, springs()), set(2, compressed(3, 3, {4, 0, 0, 0, 4, 0, 0, 0, 4})), set(3, springs())});
   mxArray* r = column({100, 200, 300});
   mxArray* u = column({1, 2, 3});
   mxArray* v = column({10, 0, 0});
@@ -50,7 +50,7 @@ TEST_P(Residual, OfAMethodThatReturnsNothingIsRefused) {
 
 TEST_P(Residual, OfAnUnknownHandleIsRefusedBeforeAnythingIsAdded) {
   mxArray* r = column({5, 5, 5});
-  const double good = set(1, stiffness());
+  const double good = set(1, springs());
   for (const double bad : {17.0, std::nan(""), -1.0, 1e99}) {
     expectError("KORV:quarn:NonHandle", "Handle does not exist", "residual",
                 {r, handles({good, bad}), column({1, 2, 3}), zeros(3), zeros(3)});
@@ -62,7 +62,7 @@ TEST_P(Residual, OfAnUnknownHandleIsRefusedBeforeAnythingIsAdded) {
 }
 
 TEST_P(Residual, SurvivesAMethodThatClearsTheHandlesOfTheList) {
-  set(1, stiffness());
+  set(1, springs());
   int calls = 0;
   standin::define("remi", [&](int, const standin::Arguments& args) -> std::vector<mxArray*> {
     if (++calls == 2) quarn(0, "chandleclear", {scalar(0)});
@@ -74,7 +74,7 @@ TEST_P(Residual, SurvivesAMethodThatClearsTheHandlesOfTheList) {
 }
 
 TEST_P(Residual, OfAMatrixCellAddsTheLinearTermsAndReturnsEnergies) {
-  mxArray* model = cell(1, 3, {compressed(3, 3, {4, 0, 0, 0, 4, 0, 0, 0, 4}), stiffness(), stiffness()});
+  mxArray* model = cell(1, 3, {compressed(3, 3, {4, 0, 0, 0, 4, 0, 0, 0, 4}), springs(), springs()});
   mxArray* r = zeros(3);
   const standin::Result result =
       quarn(2, "residual", {r, model, column({1, 2, 3}), column({10, 0, 0}), column({1, 1, 1}), column({0.5, 0.25})});
@@ -111,8 +111,8 @@ TEST_P(Residual, ModalDampingUsesTheSecondHalfOfItsData) {
 
 TEST_P(Residual, ReachesMatricesThroughObjects) {
   mxArray* r = zeros(3);
-  const mxArray* object = standin::object("v_handle", {{"file", stiffness()}});
-  const mxArray* oldStyle = standin::oldObject("v_handle", {{"file", stiffness()}});
+  const mxArray* object = standin::object("v_handle", {{"file", springs()}});
+  const mxArray* oldStyle = standin::oldObject("v_handle", {{"file", springs()}});
   for (const mxArray* K : {object, oldStyle}) {
     run("residual", {r, cell(1, 3, {nullptr, nullptr, const_cast<mxArray*>(K)}), column({1, 2, 3}), zeros(3), zeros(0)}, 0);
   }
@@ -121,7 +121,7 @@ TEST_P(Residual, ReachesMatricesThroughObjects) {
                 {r, cell(1, 3, {nullptr, nullptr, standin::object("v_handle", {})}), zeros(3), zeros(3), zeros(0)});
   expectRefusal("without a field \"file\"", "residual",
                 {r, cell(1, 3, {nullptr, nullptr, standin::oldObject("v_handle", {})}), zeros(3), zeros(3), zeros(0)});
-  expectRefusal("without a field \"file\"", "tbbp", {standin::object("v_handle", {{"file", stiffness()}}, 0), zeros(3), zeros(3)});
+  expectRefusal("without a field \"file\"", "tbbp", {standin::object("v_handle", {{"file", springs()}}, 0), zeros(3), zeros(3)});
 }
 
 TEST_P(Residual, WritesThroughTheAddressThatAnObjectHolds) {
@@ -129,13 +129,13 @@ TEST_P(Residual, WritesThroughTheAddressThatAnObjectHolds) {
   mxArray* address = mxCreateNumericMatrix(1, 1, mxUINT64_CLASS, mxREAL);
   *static_cast<std::uint64_t*>(mxGetData(address)) = reinterpret_cast<std::uintptr_t>(buffer.data());
   run("residual",
-      {standin::object("buffer", {{"c", address}}), cell(1, 3, {nullptr, nullptr, stiffness()}), column({1, 2, 3}), zeros(3), zeros(0)}, 0);
+      {standin::object("buffer", {{"c", address}}), cell(1, 3, {nullptr, nullptr, springs()}), column({1, 2, 3}), zeros(3), zeros(0)}, 0);
   EXPECT_EQ(buffer, (Values{1, 2, 7}));
   expectRefusal("holds no 64-bit address", "residual", {standin::object("buffer", {}), cell(1, 3, {}), zeros(3), zeros(3), zeros(0)});
 }
 
 TEST_P(Residual, ErrorsOfItsArguments) {
-  mxArray* model = cell(1, 3, {nullptr, nullptr, stiffness()});
+  mxArray* model = cell(1, 3, {nullptr, nullptr, springs()});
   expectError("KORV:quarn:Invalid", "Real numbers for r", "residual", {complexMatrix(1, 1, {1}, {1}), model, zeros(1), zeros(1), zeros(1)});
   expectError("", "Real numbers needed.", "residual", {zeros(1), model, complexMatrix(1, 1, {1}, {1}), zeros(1), zeros(1)});
   expectError("", "Real numbers needed.", "residual", {zeros(1), model, zeros(1), zeros(1), complexMatrix(1, 1, {1}, {1})});

@@ -1,7 +1,12 @@
-% N = ROUNDS (N)  number of random set-ups to run: N with QUARN_FULL=1 in the environment, a third of it else; of that a fifth under
-% sanitizers, where the host is many times slower, and where a suite runs others once more (QUARN_REPEATED=1)
+% N = ROUNDS (N)  number of random set-ups to run: N with QUARN_FULL=1 in the environment, a sixth of it else; under sanitizers, where the host
+% is many times slower, and where a suite runs others once more (QUARN_REPEATED=1), a fifth of N with it and a fifteenth else
 function n = rounds (n)
-  if isempty (getenv ('QUARN_FULL')), n = n / 3; end
-  if ~isempty (getenv ('QUARN_SANITIZED')) || ~isempty (getenv ('QUARN_REPEATED')), n = n / 5; end
+  short = isempty (getenv ('QUARN_FULL'));
+  if ~isempty (getenv ('QUARN_SANITIZED')) || ~isempty (getenv ('QUARN_REPEATED'))
+    n = n / 5;
+    if short, n = n / 3; end
+  elseif short
+    n = n / 6;
+  end
   n = ceil (n);
 end

@@ -22,9 +22,9 @@ class UserCode {
   UserCode& operator=(const UserCode&) = delete;
 };
 
-/// What to pass to the user's functions in place of a, whose elements or fields a command is going to look at. Octave passes on an array that
-/// has been looked into as a new value, built from all its parts at each call; a twin made before the first look shares the data of a and
-/// costs nothing. MATLAB passes a itself. Host memory of the call.
+/// What to pass to the user's functions in place of a, whose elements or fields a command is going to look at. Octave passes on an array
+/// that has been looked into as a new value, built from all its parts at each call; a twin made before the first look shares the data of a
+/// and costs nothing. MATLAB passes a itself. Host memory of the call.
 const mxArray* forUserCode(const mxArray* a);
 
 /// Whether a command waits for the user's functions: the current call comes from them, and must leave alone what that command may hold.

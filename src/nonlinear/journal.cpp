@@ -5,6 +5,37 @@
 
 namespace quarn {
 
+namespace {
+
+struct Integrals {
+  double A;
+  double B;
+};
+
+/// A and B where the film opens, X < 0, and s is small: there both numerators cancel down to s^2. Series in t = s/X^2 without what cancels,
+///   -X^3 A = sum of (-t)^(n-2) 4 (n-1)/(4 n^2 - 1),   X^4 B/Y = sum of (-t)^(n-2) (2 n - 2)/(2 n + 1),   n from 2; 17 terms for t < 0.1.
+Integrals opening(double X, double Y, double s) {
+  const double square = X * X;
+  const double t = s / square;
+  double a = 0.0;
+  double b = 0.0;
+  for (int n = 18; n >= 2; --n) {
+    const double m = 2.0 * n;
+    a = 2.0 * (m - 2.0) / (m * m - 1.0) - t * a;
+    b = (m - 2.0) / (m + 1.0) - t * b;
+  }
+  return {a / (square * -X), Y * b / (square * square)};
+}
+
+Integrals integrals(double X, double Y, double s) {
+  if (X < 0.0 && s < 0.1 * X * X) return opening(X, Y, s);
+  const double q = std::sqrt(s);
+  const double g = std::atan2(q, -X) / q;
+  return {(3.0 * X + g * (s + 3.0 * X * X)) / (s * s), Y * (2.0 + X * X / (1.0 - Y * Y) + 3.0 * X * g) / (s * s)};
+}
+
+}  // namespace
+
 void checkJournal(const chandleNl_inout& h, const ROr& /*ro*/) {
   requirePairs(h, "Journal", 10);
   if (!(h.opt[4] > 0.0)) host::refuse("the clearance of law \"Journal\", opt(5), must be above 0, got %g", h.opt[4]);
@@ -39,10 +70,7 @@ void FuJournal(chandleNl_inout* h, ROr ro) {
     const double X = (x * a - y * b) / n;
     const double Y = (x * b + y * a) / n;
     const double s = 1.0 - x * x - y * y;
-    const double q = std::sqrt(s);
-    const double g = std::atan2(q, -X) / q;
-    const double A = (3.0 * X + g * (s + 3.0 * X * X)) / (s * s);
-    const double B = Y * (2.0 + X * X / (1.0 - Y * Y) + 3.0 * X * g) / (s * s);
+    const auto [A, B] = integrals(X, Y, s);
     h->snl[i] = scale * (A * a + B * b);
     h->snl[i + 1] = scale * (B * a - A * b);
   }

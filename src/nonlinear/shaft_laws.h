@@ -23,6 +23,7 @@ void FuRadial(chandleNl_inout* h, ROr ro);
 ///   A = integral of cos (p)^2/h^3        = (3 X + g (s + 3 X^2))/s^2,    g = atan2 (sqrt (s), -X)/sqrt (s)
 ///   B = integral of cos (p) sin (p)/h^3  = Y (2 + X^2/(1 - Y^2) + 3 X g)/s^2
 ///   F = mu R L^3/(2 c^2) (A a + B b, B a - A b)
+/// Near the wall, s < 0.1 X^2, and X < 0 (the film opens) A and B are summed as series, as their numerators cancel there.
 /// It is 0 where n is, and with W = 0 the film of a squeeze film damper. Beyond the eccentricity e1 the position counts as that on the
 /// circle of e1 in the same direction: the force stays finite and continuous, and opt[9] shows how far out it was. opt: mu [Pa s], length
 /// L, radius R, c [m], W [rad/s], e1, x and y of the bearing's centre [m], from opt[1] on; opt[9] is raised to the greatest

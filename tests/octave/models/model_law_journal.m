@@ -19,12 +19,28 @@ function [s, ctx] = model_law_journal (s, t, ctx)
     ahead = (at(1) * press(1) - at(2) * press(2)) / rate;
     aside = (at(1) * press(2) + at(2) * press(1)) / rate;
     gap = 1 - at(1) * at(1) - at(2) * at(2);
-    turn = atan2 (sqrt (gap), -ahead) / sqrt (gap);
-    first = (3 * ahead + turn * (gap + 3 * ahead * ahead)) / (gap * gap);
-    second = aside * (2 + ahead * ahead / (1 - aside * aside) + 3 * ahead * turn) / (gap * gap);
+    if ahead < 0 && gap < 0.1 * ahead * ahead
+      [first, second] = series (ahead, aside, gap);
+    else
+      turn = atan2 (sqrt (gap), -ahead) / sqrt (gap);
+      first = (3 * ahead + turn * (gap + 3 * ahead * ahead)) / (gap * gap);
+      second = aside * (2 + ahead * ahead / (1 - aside * aside) + 3 * ahead * turn) / (gap * gap);
+    end
     force(i) = scale * (first * press(1) + second * press(2));
     force(i + 1) = scale * (second * press(1) - first * press(2));
   end
   s = model_set_forces (s, force);
   ctx = model_store_forces (s, ctx);
+end
+
+% Both integrals where their closed forms cancel: powers of gap / ahead^2.
+function [first, second] = series (ahead, aside, gap)
+  ratio = gap / (ahead * ahead);
+  [first, second] = deal (0, 0);
+  for n = 18:-1:2
+    first = 4 * (n - 1) / ((2 * n) * (2 * n) - 1) - ratio * first;
+    second = (2 * n - 2) / (2 * n + 1) - ratio * second;
+  end
+  first = first / (ahead * ahead * -ahead);
+  second = aside * second / (ahead * ahead * (ahead * ahead));
 end

@@ -155,3 +155,32 @@ function test_parameters_without_a_film_are_refused ()
                        'got %g'], limit));
   end
 end
+
+% Eccentricity e, angle from the direction in which the film is pressed together to the place, and both integrals, in quadruple precision.
+function test_a_film_that_opens_near_the_wall_keeps_its_digits ()
+  c = 1e-4;
+  cases = [0.9 2.5 5.4040926797760e-01 5.0745930249891e-01; 0.99 2.5 5.2036013727279e-01 5.7280325931131e-01
+           0.999 3 2.7517971304257e-01 5.8770274848649e-02; 0.9999 2 3.6976811895365e+00 1.2111379520404e+01
+           0.99999 -2.8 3.1879623430854e-01 -1.7001016868300e-01; 0.9999999 3.1 2.6735977921482e-01 1.6689927461788e-02
+           0.99 0.5 1.2846455555795e+05 6.9569675794499e+04; 0.999 -1 1.5404083277833e+07 -2.3935701280429e+07];
+  p = with (5:6, [0, 1 - 1e-12]);
+  unit = p(1) * p(3) * p(2) ^ 3 / (2 * c ^ 2);
+  for x = cases.'
+    % Without spin the film is pressed together along the velocity, with twice its rate over the clearance.
+    f = force (element (p), c * x(1) * [cos(x(2)); sin(x(2))], [c * 500; 0]);
+    expect_equal (f / (unit * 1000), x(3:4), (1e-11 + 1e-15 / (1 - x(1))) * norm (x(3:4)));
+  end
+end
+
+function test_both_formulas_of_a_film_that_opens_meet ()
+  c = 1e-4;
+  p = with (5:6, [0, 0.999]);
+  e = 0.97;
+  % s = 0.1 X^2
+  turn = acos (-sqrt ((1 - e ^ 2) / 0.1) / e);
+  at = @(turn) force (element (p), c * e * [cos(turn); sin(turn)], [c * 500; 0]);
+  [a, b] = deal (at (turn - 1e-9), at (turn + 1e-9));
+  expect_equal (a, b, 1e-8 * norm (a));
+  [a, b] = deal (at (-turn - 1e-9), at (-turn + 1e-9));
+  expect_equal (a, b, 1e-8 * norm (a));
+end

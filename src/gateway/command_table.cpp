@@ -39,7 +39,7 @@ constexpr CommandRow commands[] = {
 
 const CommandRow* findCommand(const char* word) {
   for (const CommandRow& row : commands) {
-    if (std::strcmp(word, row.word) == 0) return &row;
+    if (word[0] == row.word[0] && std::strcmp(word, row.word) == 0) return &row;
   }
   return nullptr;
 }

@@ -8,7 +8,13 @@
 namespace quarn::host {
 
 namespace {
+
 int narrow(std::size_t n) { return n > INT_MAX ? INT_MAX : static_cast<int>(n); }
+
+[[noreturn]] void refuseDoubles(const mxArray* a, const char* name) {
+  refuse("%s must be a full real double array, got %s", name, describe(a).text);
+}
+
 }  // namespace
 
 std::size_t count(const mxArray* a) { return a ? static_cast<std::size_t>(mxGetNumberOfElements(a)) : 0; }
@@ -46,8 +52,10 @@ bool isObject(const mxArray* a) {
   return a && !mxIsNumeric(a) && !mxIsStruct(a) && !mxIsCell(a) && !mxIsChar(a) && !mxIsLogical(a) && !mxIsClass(a, "function_handle");
 }
 
-// Asking Octave for the class name of a struct or cell leaks the name once the array is looked into.
-bool isClass(const mxArray* a, const char* className) { return a && !mxIsStruct(a) && !mxIsCell(a) && mxIsClass(a, className); }
+// Asking Octave for the class name of a struct or cell leaks the name once the array is looked into, and of any array makes a string.
+bool isClass(const mxArray* a, const char* className) {
+  return a && !mxIsNumeric(a) && !mxIsStruct(a) && !mxIsCell(a) && mxIsClass(a, className);
+}
 
 bool isRealDouble(const mxArray* a) { return a && mxIsDouble(a) && !mxIsSparse(a) && !mxIsComplex(a); }
 
@@ -56,15 +64,17 @@ bool holdsDoubles(const mxArray* a) { return count(a) == 0 || (mxIsDouble(a) && 
 bool holdsReals(const mxArray* a) { return count(a) == 0 || isRealDouble(a); }
 
 Doubles doubles(const mxArray* a, const char* name) {
-  if (!holdsDoubles(a)) refuse("%s must be a full real double array, got %s", name, describe(a).text);
   const std::size_t n = count(a);
   if (n == 0) return {};
+  if (!mxIsDouble(a) || mxIsSparse(a)) refuseDoubles(a, name);
   return {mxGetPr(a), n};
 }
 
 Doubles realDoubles(const mxArray* a, const char* name) {
-  if (!holdsReals(a)) refuse("%s must be a full real double array, got %s", name, describe(a).text);
-  return doubles(a, name);
+  const std::size_t n = count(a);
+  if (n == 0) return {};
+  if (!isRealDouble(a)) refuseDoubles(a, name);
+  return {mxGetPr(a), n};
 }
 
 Ints int32s(const mxArray* a, const char* name) {
@@ -75,9 +85,10 @@ Ints int32s(const mxArray* a, const char* name) {
 }
 
 double number(const mxArray* a, const char* name) {
-  const bool values = a && (mxIsNumeric(a) || mxIsLogical(a)) && count(a) > 0;
-  if (!values || (mxIsSparse(a) && count(a) > 1)) refuse("%s must be a number, got %s", name, describe(a).text);
-  return mxIsSparse(a) ? sparseElement(a, 0) : mxGetScalar(a);
+  const std::size_t n = a && (mxIsNumeric(a) || mxIsLogical(a)) ? count(a) : 0;
+  const bool sparse = n > 0 && mxIsSparse(a);
+  if (n == 0 || (sparse && n > 1)) refuse("%s must be a number, got %s", name, describe(a).text);
+  return sparse ? sparseElement(a, 0) : mxGetScalar(a);
 }
 
 double sparseElement(const mxArray* a, std::size_t k) {
@@ -90,10 +101,9 @@ double sparseElement(const mxArray* a, std::size_t k) {
   return 0.0;
 }
 
-mxArray* field(const mxArray* a, const char* name) {
-  if (!a || !mxIsStruct(a) || count(a) == 0) return nullptr;
-  return mxGetField(a, 0, name);
-}
+Fields::Fields(const mxArray* a) : element(a && mxIsStruct(a) && count(a) > 0 ? a : nullptr) {}
+
+mxArray* field(const mxArray* a, const char* name) { return Fields(a).get(name); }
 
 mxArray* cell(const mxArray* a, std::size_t i) {
   if (!a || !mxIsCell(a) || i >= count(a)) return nullptr;

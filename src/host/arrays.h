@@ -61,6 +61,17 @@ double number(const mxArray* a, const char* name);
 /// Element k of a sparse array of the host's own kind, counted column by column; of a complex one the real part.
 double sparseElement(const mxArray* a, std::size_t k);
 
+/// The fields of element 0 of a struct, which is looked at once for all of them. What is not a struct, or has no element, has no field.
+class Fields {
+ public:
+  explicit Fields(const mxArray* a);
+  /// Null where there is no such field.
+  mxArray* get(const char* name) const { return element ? mxGetField(element, 0, name) : nullptr; }
+
+ private:
+  const mxArray* element;
+};
+
 /// Field of element 0 of a struct; null where there is none, or where a is not a struct or has no element.
 mxArray* field(const mxArray* a, const char* name);
 /// Element i of a cell; null where it is unset or has no elements, or where there is no such element.

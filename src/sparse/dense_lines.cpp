@@ -92,7 +92,7 @@ template <class Vector>
 /// The sums of Rows rows with Vectors vectors: y[v][i] for row i. They are independent, and keep the processor busy together.
 template <class Vector, int Rows, int Vectors>
 [[gnu::always_inline]] inline void sumTogether(int n, const double* pr, const double* const* x, double* const* y, int first) {
-  constexpr int length = sizeof(Vector) / sizeof(double);
+  constexpr std::ptrdiff_t length = sizeof(Vector) / sizeof(double);
   constexpr int parts = kSums / length;
   Vector sum[Rows][Vectors][parts] = {};
   int k = 0;

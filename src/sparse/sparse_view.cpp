@@ -23,26 +23,26 @@ SparseView denseView(const mxArray* a, const char* name) {
   return v;
 }
 
-void readDims(const mxArray* a, const char* name, SparseView& v) {
-  if (const mxArray* dims = host::field(a, "dims")) {
+void readDims(const host::Fields& a, const char* name, SparseView& v) {
+  if (const mxArray* dims = a.get("dims")) {
     const host::Doubles d = host::doubles(dims, "field \"dims\"");
     if (d.count < 2) host::refuse("%s.dims must hold 2 values (rows, cols), got %zu", name, d.count);
     v.rows = toInt(d.data[0]);
     v.cols = toInt(d.data[1]);
     return;
   }
-  const mxArray* jc = host::field(a, "jc");
+  const mxArray* jc = a.get("jc");
   if (!jc) host::refuse("%s needs a field \"dims\" or a column \"jc\" to give its size, got neither", name);
   v.rows = v.cols = host::rows(jc) - 1;
 }
 
-SparseView structView(const mxArray* a, const char* name) {
+SparseView structView(const host::Fields& a, const char* name) {
   SparseView v;
-  const mxArray* pr = host::field(a, "pr");
+  const mxArray* pr = a.get("pr");
   if (!pr) return v;
   const host::Doubles values = host::doubles(pr, "field \"pr\"");
-  const host::Ints ir = host::int32s(host::field(a, "ir"), "field \"ir\"");
-  const host::Ints jc = host::int32s(host::field(a, "jc"), "field \"jc\"");
+  const host::Ints ir = host::int32s(a.get("ir"), "field \"ir\"");
+  const host::Ints jc = host::int32s(a.get("jc"), "field \"jc\"");
   v.pr = values.data;
   v.prLen = values.count;
   v.realPart = values && mxIsComplex(pr);
@@ -50,7 +50,7 @@ SparseView structView(const mxArray* a, const char* name) {
   v.irLen = ir.count;
   v.jc = jc.data;
   v.jcLen = jc.count;
-  const mxArray* trans = host::field(a, "trans");
+  const mxArray* trans = a.get("trans");
   if (host::count(trans) > 0 && host::number(trans, "field \"trans\"") != 0.0) v.trans = 1;
   readDims(a, name, v);
   return v;
@@ -59,6 +59,7 @@ SparseView structView(const mxArray* a, const char* name) {
 }  // namespace
 
 SparseView sparseView(const mxArray* a, const char* name) {
+  if (a && mxIsStruct(a)) return structView(host::Fields(a), name);
   bool throughObject = false;
   if (host::isClass(a, "v_handle")) {
     a = host::objectField(a, "file");
@@ -67,7 +68,7 @@ SparseView sparseView(const mxArray* a, const char* name) {
   }
   if (!a) return {};
   if (mxIsSparse(a)) host::fail(fixed::nativeSparse);
-  SparseView v = mxIsStruct(a) ? structView(a, name) : denseView(a, name);
+  SparseView v = mxIsStruct(a) ? structView(host::Fields(a), name) : denseView(a, name);
   v.throughObject = throughObject;
   return v;
 }

@@ -6,8 +6,8 @@ namespace quarn {
 
 namespace {
 
-/// Entries from which a line is worth the look whether it is full.
-constexpr int kLookedAt = 16;
+/// Entries from which it pays to test whether a line is full.
+constexpr int kWorthTesting = 16;
 
 double scatteredSum(int n, const double* pr, const int* ir, const double* x) {
   // Partial sums 0 and 1, 2 and 3, ...
@@ -57,7 +57,7 @@ double scatteredSum(int n, const double* pr, const int* ir, const double* x) {
 }  // namespace
 
 double longLineSum(int n, const double* pr, const int* ir, const double* x) {
-  if (n >= kLookedAt && isFull(n, ir)) return denseSum(n, pr, x + ir[0]);
+  if (n >= kWorthTesting && isFull(n, ir)) return denseSum(n, pr, x + ir[0]);
   return scatteredSum(n, pr, ir, x);
 }
 

@@ -1,7 +1,7 @@
 % S = CONTINUED (SIM, O)  state at the first time, from the end of the earlier run O.start
 %
 % Displacements and velocities pass through those of the structure, memories from element to element. Where nothing changed that
-% enters the equation of motion, accelerations and forces are taken over with their bits, else they are found anew.
+% enters the equation of motion, accelerations and forces are kept to the bit, else they are computed again.
 function s = continued (sim, o)
   who = 'qn.simulation';
   for name = {'u0', 'v0', 'q0', 'dq0'}

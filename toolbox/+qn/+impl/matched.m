@@ -1,4 +1,4 @@
-% FROM = MATCHED (SIM, BEFORE, LINK, FRESH)  number of the earlier element whose memory each element of SIM takes over, 0: none
+% FROM = MATCHED (SIM, BEFORE, LINK, FRESH)  number of the earlier element whose memory each element of SIM inherits, 0: none
 %
 % Elements match that have the same kind of law and observe and act at the same place: rows that are equal, or nearest within 5 % in
 % the norm of the modes where LINK leads from other modes. Of several at one place each takes from the one with the same parameters;

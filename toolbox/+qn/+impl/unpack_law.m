@@ -1,4 +1,4 @@
-% [LAW, STEP] = UNPACK_LAW (E)  the law and the time step in the value of a nonlinear element; LAW is [] where it is none of ours
+% [LAW, STEP] = UNPACK_LAW (E)  the law and the time step in the value of a nonlinear element; LAW is [] where it is not one of ours
 function [law, step] = unpack_law (e)
   opt = double (e.opt(:));
   step = [];

@@ -1,4 +1,4 @@
-% SIM = WITH_STEP (SIM, STEP, STEPS, EVERY)  the same set-up with another step, that many steps, and results at every so many
+% SIM = WITH_STEP (SIM, STEP, STEPS, EVERY)  the same set-up with another step, STEPS of them, and results at every EVERY-th
 function sim = with_step (sim, step, steps, every)
   o = sim.options;
   o.step = step;

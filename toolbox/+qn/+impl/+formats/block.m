@@ -1,6 +1,6 @@
 % C = BLOCK (T, FROM, COUNT, WIDTH, WHAT)  COUNT lines from line FROM as a matrix of characters, filled with blanks to WIDTH
 %
-% What stands right of WIDTH is left out. WHAT names the lines in errors: for a file that ends early, and for tabs, whose width nobody
+% What is to the right of column WIDTH is left out. WHAT names the lines in errors: for a file that ends early, and for tabs, whose width nobody
 % knows.
 function c = block (t, from, count, width, what)
   n = numel (t.first);

@@ -1,6 +1,6 @@
 % LIST = BULK_ENTRIES (T)  the DMIG entries of bulk data: rows {line, data fields}, continuations joined
 %
-% Comments, other entries and what stands before and after are passed over; DMI, DMIAX and DMIJ are refused by name.
+% Comments, other entries and what comes before and after are passed over; DMI, DMIAX and DMIJ are refused by name.
 function list = bulk_entries (t)
   list = cell (0, 2);
   open = false;

@@ -1,6 +1,6 @@
 % [FIELDS, KEY, NEXT] = BULK_FIELDS (T, K, LINE)  fields of a line of bulk data, as a cell of texts
 %
-% FIELDS begins with what stands in the first eight columns, without its "*"; the data fields after it are 8, or 4 in the large form.
+% FIELDS begins with what is in the first eight columns, without its "*"; the data fields after it are 8, or 4 in the large form.
 % KEY is that of the continuation that follows ('' without one). LARGE says which form it is.
 function [fields, key, large] = bulk_fields (t, k, line)
   if any (line == char (9)), qn.impl.formats.refuse (t, k, 'a tab; fields stand in columns, which a tab leaves open'); end

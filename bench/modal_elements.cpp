@@ -97,8 +97,8 @@ void cubicSprings(int modes, int count) {
                           plainRun();
                           return plain.state();
                         }});
-  c.programs.push_back({"one handle each", [&] { each.run(); }, [&] { return numbers(each); }});
-  c.programs.push_back({"one handle, all rows", [&] { together.run(); }, [&] { return numbers(together); }});
+  c.programs.push_back({"quarn, one handle each", [&] { each.run(); }, [&] { return numbers(each); }});
+  c.programs.push_back({"quarn, all rows in one", [&] { together.run(); }, [&] { return numbers(together); }});
   run(c);
 }
 

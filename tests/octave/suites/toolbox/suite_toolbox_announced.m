@@ -33,7 +33,7 @@ function [off, announced, errors] = outcome (sim, exact)
 end
 
 function test_no_error_above_5_percent_goes_unannounced_with_elements ()
-  which = chosen (12, 300);
+  which = chosen (24, 300);
   before = warning ('off', 'qn:diverged');
   back = onCleanup (@() warning (before));
   for k = 1:numel (which)
@@ -41,7 +41,7 @@ function test_no_error_above_5_percent_goes_unannounced_with_elements ()
     randn ('twister', which(k));
     [sims{k}, c(k)] = random_set_up ();
   end
-  finest = 8;
+  finest = 4;
   if in_full (), finest = 32; end
   [motion, sure] = settled_motion (c, finest);
   count = struct ('off', 0, 'silent', 0, 'false_alarms', 0);

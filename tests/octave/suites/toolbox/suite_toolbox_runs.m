@@ -43,7 +43,7 @@ function test_everything_in_the_rich_run_takes_part ()
 end
 
 function test_a_cut_run_has_the_same_bits_as_a_whole_one ()
-  for piece = [7 100 1499]
+  for piece = [37 1499]
     same_results (qn.run (rich (), 'piece', piece), whole_run ());
   end
   same_results (qn.run (rich ('steps', 300), 'piece', 1), qn.run (rich ('steps', 300), 'piece', 300));
@@ -56,7 +56,7 @@ function test_a_stopped_run_goes_on_with_the_same_bits ()
   expect_equal (part.q(:, 1:600), whole.q(:, 1:600));
   if part.time_end < 0.3 || part.time_end > 0.31, error ('stopped at %g s', part.time_end); end
   same_results (qn.resume (part), whole);
-  same_results (qn.resume (qn.resume (part), 'piece', 3), whole);
+  same_results (qn.resume (qn.resume (part), 'piece', 30), whole);
 end
 
 function test_a_run_saved_to_a_file_goes_on_in_another_process_with_the_same_bits ()

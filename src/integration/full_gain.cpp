@@ -15,8 +15,8 @@ constexpr int kRows = 256;
 constexpr int kColumns = 8;
 
 /// d = the first n rows of gain times f. Rows are independent entries, so that every processor gives the same bits.
-[[gnu::always_inline]] inline void gainTimes(double* __restrict d, const double* __restrict gain, std::ptrdiff_t ld,
-                                             const double* __restrict f, int columns, int n) {
+[[gnu::always_inline]] inline void gainProduct(double* __restrict d, const double* __restrict gain, std::ptrdiff_t ld,
+                                               const double* __restrict f, int columns, int n) {
   for (int i = 0; i < n; ++i) d[i] = 0.0;
   int j = 0;
   for (; j + kColumns <= columns; j += kColumns) {
@@ -50,7 +50,7 @@ void correct(double* __restrict u, double* __restrict v, double* __restrict a, c
   double d[kRows];
   for (int first = 0; first < n; first += kRows) {
     const int rows = std::min(kRows, n - first);
-    gainTimes(d, gain + first, n, f, columns, rows);
+    gainProduct(d, gain + first, n, f, columns, rows);
     for (int i = 0; i < rows; ++i) {
       u[first + i] -= d[i];
       v[first + i] -= vFromD * d[i];

@@ -92,9 +92,12 @@ void realForm(const Problem& p) {
                           const_cast<double*>(p.g.pr.data()));
   const int n = p.g.n;
   const int cols = static_cast<int>(p.cols);
+  const matrix_descr general{SPARSE_MATRIX_TYPE_GENERAL, SPARSE_FILL_MODE_FULL, SPARSE_DIAG_NON_UNIT};
+  mkl_set_num_threads(1);
+  mkl_sparse_set_mm_hint(m, SPARSE_OPERATION_NON_TRANSPOSE, general, SPARSE_LAYOUT_COLUMN_MAJOR, cols, 100000);
+  mkl_sparse_optimize(m);
   add(c, "MKL", out, [&, n, cols] {
     mkl_set_num_threads(1);
-    const matrix_descr general{SPARSE_MATRIX_TYPE_GENERAL, SPARSE_FILL_MODE_FULL, SPARSE_DIAG_NON_UNIT};
     mkl_sparse_d_mm(SPARSE_OPERATION_NON_TRANSPOSE, 1.0, m, general, SPARSE_LAYOUT_COLUMN_MAJOR, p.re.data(), cols, n, 0.0, kt.data(), n);
     cblas_dgemm(CblasColMajor, CblasTrans, CblasNoTrans, cols, cols, n, 1.0, p.re.data(), n, kt.data(), n, 0.0, out.data(), cols);
   });

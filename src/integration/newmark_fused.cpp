@@ -7,6 +7,7 @@
 
 // Copies stay in the pass over the modes that they are part of: as calls of memcpy they would be passes of their own.
 #if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC push_options
 #pragma GCC optimize("no-tree-loop-distribute-patterns")
 #endif
 
@@ -135,3 +136,7 @@ void newmarkSteps(const ModalState& x, const double* r, const double* gain, cons
 }
 
 }  // namespace quarn
+
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC pop_options
+#endif

@@ -11,7 +11,7 @@ function x = fine_motion (cases, parts)
   act = zeros (n * many, 0);
   rows = zeros (0, n * many);
   blank = struct ('power', 0, 'exponent', 1, 'scale', 0, 'base', 1, 'maxwell', 0, 'rate', 0, 'dahl', 0, 'slip', 1, 'slides', 0, ...
-                  'contact', 0, 'ground', 0, 'hold', 0, 'part', 0, 'step', 0, 'knots', [], 'forces', [], 'growth', []);
+                  'contact', 0, 'ground', 0, 'hold', 0, 'part', 0, 'kind', 0, 'own', zeros (1, 7), 'step', 0, 'knots', [], 'forces', [], 'growth', []);
   for k = 1:many
     s = cases(k);
     at = n * (k - 1) + (1:n);
@@ -36,6 +36,14 @@ function x = fine_motion (cases, parts)
           case 'clima2'
             e.part = i; e.power = -l.stiffness; e.slides = l.exponent == 0;
             e.knots = l.displacement; e.forces = l.normal; e.growth = l.growth; e.slip = l.friction; e.hold = l.offset;
+          case 'damper', e.kind = 1; e.own(1:2) = [l.damping, l.exponent];
+          case 'contact', e.kind = 2; e.own(1:5) = [l.stiffness, l.exponent, l.damping, l.gap, l.side];
+          case 'boucwen'
+            e.kind = 3; e.power = l.ratio * l.stiffness; e.own(1:5) = [(1 - l.ratio) * l.stiffness, l.A, l.beta, l.gamma, l.exponent];
+          case 'radial'
+            e.kind = 4 * (i == 1); e.own = [l.gap, l.stiffness, l.exponent, l.damping, l.friction, l.onset, l.radius * l.speed];
+          case 'journal'
+            e.kind = 5 * (i == 1); e.own(1:4) = [l.viscosity * l.radius * l.length ^ 3 / (4 * l.clearance ^ 2), l.clearance, l.speed, l.limit];
         end
         elements = [elements, e];
         rows(end + 1, at) = s.rows{j}(i, :);
@@ -47,9 +55,11 @@ function x = fine_motion (cases, parts)
   act = sparse (act);
   c = blank;
   for name = {'power', 'exponent', 'scale', 'base', 'maxwell', 'rate', 'dahl', 'slip', 'slides', 'step', 'contact', ...
-              'ground', 'hold', 'part'}
+              'ground', 'hold', 'part', 'kind'}
     c.(name{1}) = [elements.(name{1})].';
   end
+  given_to = cat (1, elements.own);
+  of_rates = any (c.kind > 0);
   tables = find (~cellfun (@isempty, {elements.knots})).';
   most = max ([2, cellfun(@numel, {elements(tables).knots})]);
   [knots, forces, growth] = deal (Inf (most, numel (tables)), zeros (most, numel (tables)), zeros (most, numel (tables)));
@@ -134,6 +144,11 @@ function x = fine_motion (cases, parts)
     sliding = abs (z) >= slip & z .* ds > 0;
     share = (1 - c.slides) .* (1 - z ./ slip .* sign (ds)) + c.slides .* ~sliding;
     dz = c.rate .* (s - z) + grows .* ds .* share;
+    if of_rates
+      [force, moved] = forces_of_rates (c.kind, given_to, s, ds, z);
+      f = f + force;
+      dz = dz + moved;
+    end
     a = push .* sin (about .* t) - stiff * u - damp * v - act * f;
   end
 end

@@ -1,10 +1,12 @@
-% [SIM, CASE] = RANDOM_SET_UP ()  a random structure with one to three nonlinear elements, and its equations in physical coordinates
+% [SIM, CASE] = RANDOM_SET_UP (KINDS)  a random structure with one to three nonlinear elements, and its equations in physical coordinates
 %
 % CASE has M, K, C (4 x 4), laws (cell), rows (cell, a matrix each), push, force and about (a sine of that frequency), v0, step, steps. The
 % step keeps the phase of the highest mode to 2 % over the run, the elements may be too stiff for it or not. Laws: power, exponential, table
-% (gap, stop, bearing), Maxwell, Dahl and two Dahl branches under a normal force with exponents 0 and 1, stick-slip. Damping: none, modal,
+% (gap, stop, bearing), Maxwell, Dahl and two Dahl branches under a normal force with exponents 0 and 1, stick-slip; with the KINDS 'rates'
+% those that look at velocities instead: damper, contact with losses, Bouc-Wen, ring with friction, oil film. Damping: none, modal,
 % Rayleigh, or dashpots and gyroscopic coupling. Draws from rand and randn.
-function [sim, case_of] = random_set_up ()
+function [sim, case_of] = random_set_up (kinds)
+  if nargin < 1, kinds = ''; end
   n = 4;
   m = diag (0.5 + rand (1, n));
   k = zeros (n);
@@ -42,7 +44,8 @@ function [sim, case_of] = random_set_up ()
   rows = cell (size (list, 1), 1);
   for j = 1:size (list, 1)
     kind = floor (10 * rand ());
-    rows{j} = zeros (1 + 2 * (kind == 9), n);
+    if strcmp (kinds, 'rates'), kind = 10 + floor (5 * rand ()); end
+    rows{j} = zeros (1 + 2 * (kind == 9) + (kind > 12), n);
     for i = 1:size (rows{j}, 1)
       rows{j}(i, 1 + floor (n * rand ())) = 1;
       if rand () < 0.3, rows{j}(i, 1 + floor (n * rand ())) = -1; end
@@ -51,7 +54,13 @@ function [sim, case_of] = random_set_up ()
     % From soft to somewhat beyond the limit of the step.
     mass = 1 / max (diag (rows{j} / m * rows{j}.'));
     stiff = mass / step ^ 2 * 10 ^ (-4 + 5 * rand ());
-    list(j, :) = {a_law(kind, reach, stiff), qn.observe(model, sparse (rows{j}))};
+    if kind < 10
+      law = a_law (kind, reach, stiff);
+    else
+      seen = rows{j} * model.shapes * linear.q;
+      law = law_of_rates (kind, max (reach), max (max (abs (diff (seen, 1, 2)))) / step, mass, step, w(1));
+    end
+    list(j, :) = {law, qn.observe(model, sparse (rows{j}))};
   end
   sim = qn.simulation (model, 'step', step, 'steps', steps, 'load', {model.shapes.' * push, signal}, 'v0', v0, 'elements', list);
   case_of = struct ('M', m, 'K', k, 'C', c, 'laws', {list(:, 1)}, 'rows', {rows}, 'push', push, 'force', force, 'about', about, ...
@@ -96,4 +105,33 @@ function law = a_pad (reach, stiff)
   growth = stiff * (0.3 + 0.7 * rand (4, 1));
   law = qn.law ('clima2', 'displacement', knots, 'normal', normal * share, 'growth', growth, 'friction', friction, ...
                 'exponent', floor (2 * rand ()), 'stiffness', stiff * 0.01 * (rand () < 0.2), 'offset', normal);
+end
+
+% From soft to somewhat beyond the limit of the step, at displacements up to REACH and velocities up to FAST. The film is of usual proportions,
+% so that nothing is said but of the motion.
+function law = law_of_rates (kind, reach, fast, mass, step, w)
+  stiff = mass / step ^ 2 * 10 ^ (-4 + 4.5 * rand ());
+  damping = mass / step * 10 ^ (-3.5 + 3.8 * rand ());
+  switch kind
+    case 10
+      exponent = 0.5 + 1.5 * rand ();
+      law = qn.damper ('damping', damping / fast ^ (exponent - 1), 'exponent', exponent);
+    case 11
+      exponent = 1 + 0.5 * floor (2 * rand ());
+      law = qn.contact ('stiffness', stiff / reach ^ (exponent - 1), 'exponent', exponent, 'damping', rand () / fast, ...
+                        'gap', reach * (0.1 + 0.8 * rand ()), 'side', sign (rand () - 0.5));
+    case 12
+      law = qn.boucwen ('stiffness', stiff, 'ratio', rand (), 'yield', reach * 10 ^ (-1.5 * rand ()), 'exponent', 1 + floor (3 * rand ()), ...
+                        'shape', 0.5 + 0.5 * rand ());
+    case 13
+      exponent = 1 + 0.5 * floor (2 * rand ());
+      law = qn.radial ('gap', reach * (0.1 + 0.8 * rand ()), 'stiffness', stiff / reach ^ (exponent - 1), 'exponent', exponent, ...
+                       'damping', rand () / fast, 'friction', 0.3 * rand () * (rand () < 0.7), 'onset', fast * 10 ^ (-2 * rand ()), ...
+                       'radius', reach, 'speed', 3 * w * randn ());
+    case 14
+      clearance = reach * (0.7 + 2 * rand ());
+      radius = 500 * clearance;
+      law = qn.journal ('viscosity', damping / (radius * 250 ^ 3), 'length', radius / 2, 'radius', radius, 'clearance', clearance, ...
+                        'speed', 3 * w * randn () * (rand () < 0.7), 'limit', 0.9);
+  end
 end

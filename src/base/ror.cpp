@@ -3,6 +3,7 @@
 #include "base/fixed_errors.h"
 #include "host/arrays.h"
 #include "host/errors.h"
+#include "numbers/ranges.h"
 
 namespace quarn {
 
@@ -23,6 +24,14 @@ void readRayleigh(const mxArray* source, ROr& c) {
 }
 
 }  // namespace
+
+const char* writtenIn(const StepTimes& times, const double* x, std::size_t n) {
+  for (int k = 0; k < times.writtenCount; ++k) {
+    const WrittenArray& a = times.written[k];
+    if (overlap(a.data, a.count, x, n)) return a.name;
+  }
+  return nullptr;
+}
 
 ROr getROr(int nrhs, const mxArray** prhs) {
   if (nrhs < 6) host::refuse("expected at least 6 inputs (command, r or handles, model, u, v, a), got %d", nrhs);

@@ -28,12 +28,24 @@ struct ROr {
   std::int32_t begunAtZero = 0;  ///< leading values of the residual that are sums begun at 0: none is a negative zero
 };
 
-/// The times at which the steps of a run end: count values, stride apart. Borrowed.
+/// An array that the steps of a run write, and what errors call it. Borrowed.
+struct WrittenArray {
+  const char* name;
+  const double* data;
+  std::size_t count;
+};
+
+/// The times at which the steps of a run end: count values, stride apart; and the arrays that the steps write. Borrowed.
 struct StepTimes {
   const double* first;
   std::ptrdiff_t stride;
   int count;
+  const WrittenArray* written;
+  int writtenCount;
 };
+
+/// Null, or the name of the first of the arrays that the steps write whose memory is among the n values at x.
+const char* writtenIn(const StepTimes& times, const double* x, std::size_t n);
 
 /// Builds the context of a call from its arguments: prhs[1] residual vector or handle list (only tested for complex values),
 /// prhs[2] model (field "FNL"), prhs[3..5] u, v, a, prhs[6] optional Rayleigh pair [alpha beta], or a struct with it in its field

@@ -54,7 +54,9 @@ class chandleDiagNewmark final : public chandle {
   void foldDiagonals(const ROr& c, chandle** list, int nh);
   void findClosing(chandle** list, int nh);
   bool apart(const ROr& c) const;
-  void checkGain(const ROr& c) const;
+  static constexpr int writtenArrays = 9;
+  void findWritten(const ROr& c, WrittenArray* arrays) const;
+  void checkGain(const StepTimes& times) const;
   void checkGainTimes(const StepTimes& times) const;
   void correct(double t, const ROr& c);
   void finishPass(const ROr& c);

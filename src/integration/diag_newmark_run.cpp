@@ -3,7 +3,6 @@
 
 #include "base/handle_walk.h"
 #include "host/arrays.h"
-#include "host/errors.h"
 #include "integration/diag_newmark.h"
 #include "numbers/ranges.h"
 
@@ -42,46 +41,6 @@ bool chandleDiagNewmark::apart(const ROr& c) const {
     }
   }
   return true;
-}
-
-/// Refuses a matrix gain, or its residual, in memory that a correction writes: what it reads would change on the way.
-void chandleDiagNewmark::checkGain(const ROr& c) const {
-  if (!gainFull) return;
-  struct Written {
-    const char* name;
-    Range range;
-  };
-  const Written arrays[] = {{"u", {c.u, c.uLen}},
-                            {"v", {c.v, c.vLen}},
-                            {"a", {c.a, c.aLen}},
-                            {"mem.uva.uva", {uva.data, uva.count}},
-                            {"mem.uva.FNL", {snapshot.data, snapshot.count}},
-                            {"the model's FNL", {store.data, store.count}},
-                            {"out.def", {def.data, def.count}},
-                            {"out.FNL.def", {storeDef.data, storeDef.count}},
-                            {"data", {data, 6}}};
-  const auto n = static_cast<std::size_t>(N);
-  const auto pages = static_cast<std::size_t>(std::max(1, gainTimes.count()));
-  for (const Written& a : arrays) {
-    if (overlap(a.range.data, a.range.count, gainFull, n * n * pages)) {
-      host::refuse("the integrator's gain must have memory of its own, got that of %s, which a step writes", a.name);
-    }
-  }
-  for (int k = 0; k < 3; ++k) {
-    if (overlap(arrays[k].range.data, arrays[k].range.count, uva.data, uva.count)) {
-      host::refuse("mem.uva.uva must have memory of its own beside a gain that is a matrix, got that of %s", arrays[k].name);
-    }
-  }
-}
-
-/// Refuses steps that end outside the times of the gain's pages.
-void chandleDiagNewmark::checkGainTimes(const StepTimes& times) const {
-  for (int j = 0; gainTimes.count() > 0 && j < times.count; ++j) {
-    const double t = times.first[times.stride * j];
-    if (gainTimes.covers(t)) continue;
-    host::refuse("the integrator's gain must be given for every step: the times of gaint go from %g to %g, a step ends at %g",
-                 gainTimes.first(), gainTimes.last(), t);
-  }
 }
 
 /// Takes a diagonal stiffness at the head of the list, and a diagonal damping after it, into the pass over the modes.

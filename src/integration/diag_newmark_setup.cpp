@@ -145,11 +145,13 @@ void chandleDiagNewmark::checkRun(const ROr& c, chandle** list, int nh) {
   fmod = uva.data ? uva.data + 3 * static_cast<std::ptrdiff_t>(Ndef) : nullptr;
   NFNL = static_cast<std::int32_t>(std::min(static_cast<std::size_t>(NFNL), store.count));
   coefficients = {data[0], data[1], data[2], data[3], data[4]};
-  const StepTimes times{tft + Nb + 1, Nb + 1, steps()};
+  WrittenArray written[writtenArrays];
+  findWritten(c, written);
+  const StepTimes times{tft + Nb + 1, Nb + 1, steps(), written, writtenArrays};
   checkGainTimes(times);
   giveTimes(list, nh, 2, times);
   checkAll(list, nh, 2, c, forceLen);  // the integrator is the first
-  checkGain(c);
+  checkGain(times);
   takeAllWork(list, nh, {fmod, forceLen});
   plan(c, list, nh);
 }

@@ -18,6 +18,7 @@ class Knots {
   Knots(const double* times, int stride, int count) : x(times), step(stride), n(count) {}
 
   int count() const { return n; }
+  const double* data() const { return x; }
   double first() const { return time(0); }
   double last() const { return time(n - 1); }
   bool covers(double t) const { return n > 0 && t >= first() && t <= last(); }

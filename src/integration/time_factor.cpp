@@ -51,6 +51,9 @@ void TimeFactor::read(const mxArray* value, const char* owner) {
 void TimeFactor::take(const StepTimes& times, const char* owner) {
   if (!table) return;
   taken = true;
+  if (const char* name = writtenIn(times, table, 2 * static_cast<std::size_t>(knots.count()))) {
+    host::refuse("the factor of %s must have memory of its own, got that of %s, which a step writes", owner, name);
+  }
   for (int j = 0; j < times.count; ++j) {
     const double t = times.first[times.stride * j];
     if (knots.covers(t)) continue;

@@ -14,7 +14,7 @@ class TimeFactor {
   /// class or shape, values that are not finite, and times that do not ascend (two equal ones are a jump, which has the mean of its sides).
   void read(const mxArray* value, const char* owner);
   explicit operator bool() const { return table != nullptr; }
-  /// Refuses times of steps that the table does not cover.
+  /// Refuses times of steps that the table does not cover, and a table in memory that the steps write.
   void take(const StepTimes& times, const char* owner);
   /// Refuses a call that has not given the times of its steps: one of "residual".
   void checkTaken(const char* owner) const;

@@ -2,7 +2,8 @@
 %
 % Purpose
 %   A run that is ended from outside returns nothing to its caller. Where it was not saved in a file, its part is kept in memory, until
-%   the next run that ends this way or the end of the session.
+%   the next run that ends this way or the end of the session. Of a run that ended in its first piece it is the state that the run
+%   began with; that is never written to a file, where it could take the place of a longer run.
 %
 % Calls
 %   RES = qn.interrupted ()

@@ -40,7 +40,8 @@
 %                                                            the content, found by qn.law. See docs/user_laws.md
 %   'function'     CALL, states* (0), rows* (1)              a law of your own as a function handle (name of the parameter: call),
 %                                                            slower: f = call (x, v, s, t), or [f, s] = call (x, v, s, t) with states.
-%                                                            It observes that many rows and keeps that many states; columns
+%                                                            It observes that many rows and keeps that many states, up to 2000
+%                                                            of each; columns
 %   'boucwen'      stiffness [N/m], ratio, beta [1/m^n],     stiffness * (ratio * x + (1 - ratio) * z), z' = A v - beta |v| |z|^(n-1) z
 %                  gamma [1/m^n], exponent* n (1), A* (1)    - gamma v |z|^n (Bouc 1967, Wen 1976). See qn.boucwen.
 %
@@ -104,9 +105,9 @@ function x = checked (who, name, x, sort_of)
         error ('qn:input', '%s: "%s" must be a function handle, such as @(x, v, s, t) 1e9 * x ^ 3, got class %s', who, name, class (x));
       end
     case 'whole'
-      x = qn.impl.numbers (who, name, x, [1 1], 'from', 0, 'to', 1e6, 'whole');
+      x = qn.impl.numbers (who, name, x, [1 1], 'from', 0, 'to', 2000, 'whole');  % the observation of an element is a full matrix
     case 'count'
-      x = qn.impl.count (who, name, x, 1e6);
+      x = qn.impl.count (who, name, x, 2000);
     case 'free list'
       x = reshape (qn.impl.numbers (who, name, x, [], 'list', 'empty'), [], 1);
     otherwise

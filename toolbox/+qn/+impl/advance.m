@@ -11,11 +11,12 @@ function res = advance (res, o)
   h = qn.impl.register ([res.final.values; qn.impl.turning_values(sim)]);
   free = onCleanup (@() delete (h));
   limit = qn.impl.energy_limit (sim, res.final);
-  reached = containers.Map ();
-  watch = onCleanup (@() ended_early (reached, o));
   begun = tic ();
   before = res.seconds;
   from = res.final.column;
+  key = qn.impl.reached ();
+  qn.impl.reached (key, qn.impl.sized (res, kept));
+  watch = onCleanup (@() ended_early (key, from, o));
   told = 0;
   written = 0;
   noting = 0;
@@ -58,7 +59,7 @@ function res = advance (res, o)
       % Until the copy that this is has cost a twentieth of the time.
       noted = tic ();
       res.final.values = current (res.final.values, h);
-      reached('run') = qn.impl.sized (res, kept);
+      qn.impl.reached (key, qn.impl.sized (res, kept));
       noting = toc (begun) + 20 * toc (noted);
     end
     stop = res.diverged || (~isempty (o.stop) && o.stop (res));
@@ -75,7 +76,7 @@ function res = advance (res, o)
     if stop, break, end
   end
   res = qn.impl.sized (res, kept);
-  if reached.isKey ('run'), reached.remove ('run'); end
+  qn.impl.reached (key);
 end
 
 % What qn.run says about the motion S at a time, once: LIMIT is then infinite.
@@ -107,9 +108,13 @@ function file = can_write (file)
 end
 
 % A run that is ended from outside, by Ctrl-C or by an error in the function of 'stop': what it has reached is not lost.
-function ended_early (reached, o)
-  if ~reached.isKey ('run'), return, end
-  res = reached('run');
+function ended_early (key, from, o)
+  res = qn.impl.reached (key);
+  if isempty (res), return, end
+  if res.final.column == from
+    qn.impl.interrupted (res);
+    return
+  end
   share = 100 * (res.final.column - 1) / (numel (res.sim.time) - 1);
   if ~isempty (o.save) && qn.impl.files.save_run (res, o.save, o.progress)
     fprintf ('  the run ended early; its state at %g s (%.0f %%) is saved: res = qn.resume (''%s'') goes on\n', res.time_end, share, ...

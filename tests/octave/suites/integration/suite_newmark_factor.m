@@ -383,3 +383,40 @@ function test_a_later_page_in_memory_that_a_step_writes_is_refused ()
   expect_refused (@() call (run), ['quarn chandlediagnewmark : the integrator''s gain must have memory of its own, got that of out.def, ' ...
                                    'which a step writes']);
 end
+
+% The run with the memory M as one of the arrays that its steps write.
+function run = with_array (run, name, m)
+  switch name
+    case {'u', 'v', 'a'}, run.(name) = m;
+    case 'mem.uva.uva', run.mem.uva.uva = m;
+    case 'mem.uva.FNL', run.mem.uva.FNL = m;
+    case 'the model''s FNL', run.model.FNL = m;
+    case 'out.def', run.out.def = reshape (m, 3, []);
+    case 'out.FNL.def', run.out.FNL = struct ('data', 0.1, 'def', m);
+    case 'data', run.list{1}.data = m(1:6);
+  end
+end
+
+% It was read while the steps wrote it: the matrix changed with the motion and not with time.
+function test_a_factor_or_times_of_pages_in_memory_that_a_step_writes_are_refused ()
+  text = 'must have memory of its own, got that of %s, which a step writes';
+  names = {'u', 'v', 'a', 'mem.uva.uva', 'mem.uva.FNL', 'the model''s FNL', 'out.def', 'out.FNL.def', 'data'};
+  owners = {'stiffness', 'damping'};
+  for k = 1:numel (names)
+    for j = 1:2
+      m = zeros (12, 1);
+      m(1:2:end) = 0:5;
+      run = with_array (small_run (), names{k}, m);
+      run.list{j + 1}.factor = reshape (m, 2, 6);
+      if strcmp (names{k}, 'data'), run.list{j + 1}.factor = reshape (m(1:6), 2, 3); end
+      refused (run, sprintf (['element %d : the factor of the %s matrix ' text], j + 1, owners{j}, names{k}));
+    end
+    m = zeros (12, 1);
+    m(1:12) = 0:11;
+    run = with_array (small_run (), names{k}, m);
+    run.list = run.list(1);
+    run.list{1}.gain = zeros (3, 3, 2);
+    run.list{1}.gaint = m(1:2);
+    refused (run, sprintf (['the integrator''s gaint ' text], names{k}));
+  end
+end

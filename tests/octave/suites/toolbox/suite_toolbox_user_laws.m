@@ -177,13 +177,66 @@ function test_what_does_not_compile_is_said_in_the_words_of_the_compiler ()
   put_file (file, sprintf ('#include "own.h"\n'));
   expect_error (@() qn.law ('compiled', file), 'qn:compile', '~own.h: No such file');    % one file is a law: its content is all there is
   put_file (file, 'int nothing;');
-  law = qn.law ('compiled', file);
-  expect_error (@() qn.force (law, 1, 0), '', '~cannot be used: it has no law: a line QUARN_LAW');
+  expect_error (@() qn.law ('compiled', file), 'qn:compile', '~the law .*calls.c compiles, and there is no law in it: a line QUARN_LAW');
   setenv ('CC', 'no-such-compiler -x');
   expect_error (@() qn.law ('compiled', cubic_source (folder)), 'qn:compile', '~does not compile with "no-such-compiler -x -std=gnu11.*not found');
   setenv ('CC', '');
   qn.law ('compiled', cubic_source (folder));
-  expect_equal (numel (kept (folder)), 2);
+  expect_equal (numel (kept (folder)), 1);
+end
+
+% The host's loader said it before, at the first run of the law.
+function test_what_a_law_calls_and_is_nowhere_is_said_when_it_is_made ()
+  [folder, clean] = workshop ();
+  file = fullfile (folder, 'calls.c');
+  put_file (file, sprintf ('%s\n', '#include "quarn_law.h"', 'double nowhere (double);', ...
+                           'static void law (const quarn_step* now, double* force, double* state) { force[0] = nowhere (now->x[0]); }', ...
+                           'QUARN_LAW (law, 1, 0, 0)'));
+  expect_error (@() qn.law ('compiled', file), 'qn:compile', '~the law .*calls.c does not compile with .*undefined reference to .nowhere');
+  expect_equal (numel (kept (folder)), 0);
+end
+
+function test_counts_beyond_what_memory_holds_are_refused ()
+  for name = {'states', 'rows'}
+    expect_error (@() qn.law ('function', @(x, v, s, t) x, name{1}, 1e6), 'qn:input', ...
+                  sprintf ('~"%s" must be from \\d to 2000, got 1000000', name{1}));
+  end
+end
+
+% Blocks of zeros are what a file system leaves of a file that was being written when the machine lost its power.
+function test_a_library_with_zeroed_blocks_is_compiled_again_before_it_is_loaded ()
+  [folder, clean] = workshop ();
+  law = qn.law ('compiled', cubic_source (folder), 'parameters', 1);
+  library = qn.impl.user.library (law.parameters);
+  good = fileread (library);
+  block = 4096;
+  for first = 1:block:numel (good)
+    bad = good;
+    bad(first:min (first + block - 1, end)) = char (0);
+    damaged (library, bad, good, law);
+  end
+  damaged (library, good(1:end - 73), good, law);    % what a version before wrote, or another program: no sum behind it
+  damaged (library, good(1:100), good, law);
+  damaged (library, '', good, law);
+  bad = good;
+  bad(end) = char (double (bad(end)) + 1);
+  damaged (library, bad, good, law);
+  expect_equal (numel (kept (folder)), 1);
+  expect_equal (qn.force (law, 2, 0), 8);
+end
+
+% In a process of its own it would be loaded; in this one the module would say that it was changed.
+function damaged (library, bytes, good, law)
+  put_bytes_in (library, bytes);
+  expect_equal (qn.impl.user.whole (library), false);
+  expect_equal (qn.impl.user.library (law.parameters), library);
+  expect_equal (fileread (library), good);
+end
+
+function put_bytes_in (file, bytes)
+  id = fopen (file, 'w');
+  fwrite (id, bytes, 'uint8');
+  fclose (id);
 end
 
 function test_warnings_of_the_compiler_are_passed_on ()
@@ -268,11 +321,28 @@ function test_a_stored_run_goes_on_with_the_law_that_it_had_or_not_at_all ()
   expect_error (@() qn.resume (file), 'qn:input', '~the file of its law, .*plastic.c, is not there any more');
   put_file (source_file, text);
   setenv ('XDG_CACHE_HOME', fullfile (folder, 'another'));
-  expect_error (@() qn.resume (file), 'qn:input', '~has not been compiled by this user with this content: look at the file, then qn.law');
+  expect_error (@() qn.resume (file), 'qn:input', '~has not been compiled by this user with this content, or .*: look at the file, then qn.law');
   expect_equal (numel (readdir (fullfile (folder, 'another', 'quarn', 'laws'))), 2);    % nothing was compiled
+  library = fullfile (folder, 'cache', 'quarn', 'laws', kept (folder){1});
+  good = fileread (library);
+  put_bytes_in (library, good(1:end - 1));
+  setenv ('XDG_CACHE_HOME', fullfile (folder, 'cache'));
+  expect_error (@() qn.resume (file), 'qn:input', '~or its library is damaged: look at the file, then qn.law');
+  expect_equal (fileread (library), good(1:end - 1));                                   % and nothing is mended
+  setenv ('XDG_CACHE_HOME', fullfile (folder, 'another'));
   qn.law ('compiled', source_file);
   res = qn.resume (file, 'progress', false, 'check', false, 'save', '');
   expect_equal (res.q, whole.q);
+end
+
+function test_a_run_that_ends_in_its_first_piece_leaves_the_file_of_a_longer_one ()
+  [folder, clean] = workshop ();
+  law = @(late) qn.law ('compiled', source (folder, 'late.c', 'force[0] = 100.0 * now->x[0] / (now->t < now->p[0]);'), 'parameters', late);
+  file = fullfile (folder, 'run.mat');
+  half = run_of (oscillator ({law(1), 1}), 'piece', 50, 'save', file, 'stop', @(r) r.time_end > 0.18);
+  expect_error (@() run_of (oscillator ({law(0.02), 1}), 'piece', 50, 'save', file), '', '~gives Inf as force 1 at t = 0.02 s');
+  expect_equal (getfield (qn.impl.files.read_run ('test', file), 'time_end'), half.time_end);
+  expect_equal (getfield (qn.interrupted (), 'time_end'), 0);
 end
 
 function test_a_run_with_a_function_goes_on_in_the_session_and_is_not_stored ()
@@ -308,6 +378,19 @@ end
 function f = dry (x, t)
   f = x;
   if t > 0.0205, error ('bearing:dry', 'no oil'); end
+end
+
+% A map of the host's class library lost its functions, and the run ended with "isKey not found".
+function test_a_function_that_clears_all_functions_of_the_session_changes_nothing ()
+  [folder, clean] = new_folder ();
+  put_file (fullfile (folder, 'clearing.m'), sprintf ('function f = clearing (x, what)\n  wipe (what);\n  f = 1e4 * x;\nend\n\nfunction wipe (what)\n  eval (what);\nend\n'));
+  code = sprintf (['addpath (''%s''); mine = quarn (''chandleset'', 1, magic (3)); model = qn.modal (1e4, 1); run = @(law) qn.run (qn.simulation ' ...
+    '(model, ''step'', 1e-3, ''steps'', 300, ''v0'', 1, ''elements'', {qn.law(''function'', law), 1}), ''piece'', 100, ''progress'', false); ' ...
+    'wanted = run (@(x, v, s, t) 1e4 * x); for c = {''clear quarn'', ''clear -f'', ''clear all'', ''clear functions'', ''clear classes''}, ' ...
+    'res = run (@(x, v, s, t) clearing (x, c{1})); if ~isequal (res.q, wanted.q), error (''other results with %%s'', c{1}); end, end, ' ...
+    'assert (isequal (quarn (''chandleget'', mine), magic (3))); disp (''the same'')'], folder);
+  [status, text] = system ([octave_command(code) ' 2>&1']);
+  if status ~= 0 || isempty (strfind (text, 'the same')) || ~isempty (strfind (text, 'warning')), error ('it said "%s"', text); end
 end
 
 function test_laws_are_described_and_read_back_from_elements_and_handles ()

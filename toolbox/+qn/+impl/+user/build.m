@@ -1,7 +1,8 @@
 % BUILD (FILE, SOURCE, HEADER, TARGET)  compiles the bytes SOURCE of a law in FILE, with the HEADER beside it, to the library TARGET
 %
-% All happens in a new folder that nobody else can guess; the library gets its name in one step, and one that is there stays. Another
-% file of the user's is not found by #include "...": the content of a law is that of one file, by which it is kept.
+% All happens in a new folder that nobody else can guess; the library gets its name in one step. One that is there stays if it is whole: behind
+% the bytes of the linker stands their sum (qn.impl.user.seal). Another file of the user's is not found by #include "...": the content of
+% a law is that of one file, by which it is kept.
 function build (file, source, header, target)
   [~, random] = fileparts (tempname ());
   folder = fullfile (fileparts (target), ['quarn-' random]);
@@ -19,12 +20,16 @@ function build (file, source, header, target)
   if status ~= 0 || ~exist (library, 'file')
     error ('qn:compile', 'the law %s does not compile with "%s":\n%s', file, strjoin (qn.impl.user.words (), ' '), text);
   end
-  if ~isempty (text), warning ('qn:compile', 'the compiler says of the law %s:\n%s', file, text); end
-  [state, why] = qn.impl.files.new_name (library, target);
-  if isempty (state)
-    [done, why] = qn.impl.files.rename_file (library, target);
-    if ~done, error ('qn:input', 'the compiled law cannot be kept as %s: %s', target, why); end
+  bytes = qn.impl.user.bytes_of (library);
+  if isempty (strfind (char (bytes), 'quarn_law_entry'))
+    error ('qn:compile', 'the law %s compiles, and there is no law in it: a line QUARN_LAW (function, rows, parameters, states) is expected', file);
   end
+  if ~isempty (text), warning ('qn:compile', 'the compiler says of the law %s:\n%s', file, text); end
+  write (library, [bytes, qn.impl.user.seal(bytes)]);
+  state = qn.impl.files.new_name (library, target);
+  if strcmp (state, 'made') || qn.impl.user.whole (target), return, end
+  [done, why] = qn.impl.files.rename_file (library, target);
+  if ~done, error ('qn:input', 'the compiled law cannot be kept as %s: %s', target, why); end
 end
 
 % As one word of the shell, whatever characters are in it.

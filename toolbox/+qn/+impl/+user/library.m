@@ -1,7 +1,8 @@
-% FILE = LIBRARY (P)  library of a compiled law with the parameters P; compiled where it is not there, as on a node that has not seen the law
+% FILE = LIBRARY (P)  library of a compiled law with the parameters P; compiled where it is not there, as on a node that has not seen the law,
+% or where it is damaged
 function file = library (p)
   file = qn.impl.user.place (p);
-  if exist (file, 'file'), return, end
+  if qn.impl.user.whole (file), return, end
   [hash, source, header] = qn.impl.user.content (p.file);
   if ~strcmp (hash, p.hash)
     error ('qn:input', ...

@@ -3,9 +3,9 @@
 % A stored run never makes anything compile: that is for the user to say, with qn.law.
 function unchanged (p)
   hint = sprintf ('qn.law (''compiled'', ''%s'', ...)', p.file);
-  if ~exist (qn.impl.user.place (p), 'file')
-    error ('qn:input', ...
-           'its law %s has not been compiled by this user with this content: look at the file, then %s compiles it', p.file, hint);
+  if ~qn.impl.user.whole (qn.impl.user.place (p))
+    error ('qn:input', ['its law %s has not been compiled by this user with this content, or its library is damaged: look at the file, ' ...
+                        'then %s compiles it'], p.file, hint);
   end
   if ~exist (p.file, 'file'), error ('qn:input', 'the file of its law, %s, is not there any more', p.file); end
   if ~strcmp (qn.impl.user.content (p.file), p.hash)

@@ -139,6 +139,36 @@ function test_bad_harwell_boeing_files_are_refused_with_their_line ()
   expect_error (@() read (@qn.read_hb, ''), 'qn:input', '~is empty');
 end
 
+% The exponent of the last number of a line lost its last digit, and 3e+12 became 3e+1.
+function test_numbers_that_go_on_right_of_their_columns_are_refused ()
+  bad = @(pattern, varargin) expect_bad_file (@qn.read_hb, sample_of ('hb', varargin{:}), pattern);
+  bad ('line 8: "2" right of column 45, where the values end', '  3.0000000D+00', '   3.0000000D+12');
+  bad ('line 8: "7.0" right of column 45, where the values end', '  3.0000000D+00', '  3.0000000D+00 7.0');
+  named = sample_of ('hb', '  3.0000000D+00', '  3.0000000D+00           CARD 7');
+  expect_equal (full (read (@qn.read_hb, named)), demo ());
+end
+
+function test_numbers_outside_of_their_columns_are_read_and_said ()
+  lastwarn ('', '');
+  evalc ('a = read (@qn.read_hb, sample_of (''hb'', ''-1.0000000D+00  3.0000000D+00'', ''-1.0000000D+009 3.0000000D+00''));');
+  expect_equal (full (a), [4 -1e9 0; -1e9 3 -2; 0 -2 5]);
+  [text, id] = lastwarn ();
+  expect_equal (id, 'qn:file');
+  expect_in (text, 'line 8: the values do not stand in the columns of their format; they are read as numbers with blanks between them');
+end
+
+function test_a_symmetric_matrix_in_parts_of_both_triangles_is_refused ()
+  expect_bad_file (@qn.read_hb, sample_of ('hb', '    1    2    2    3    3', '    1    2    2    3    1'), ...
+                   'line 7: the entry \(1, 3\) is above the diagonal, others of the symmetric matrix are below it');
+end
+
+% The host reads "--1" as 1.
+function test_two_signs_before_a_number_are_none ()
+  expect_bad_file (@qn.mmread, sample_of ('mm', '2 1 -1', '2 1 --1'), 'line 5: .*"--1" is not a finite number');
+  expect_bad_file (@qn.mmread, sample_of ('mm', '2 1 -1', '2 1 +-1'), 'line 5: .*"\+-1" is not a finite number');
+  expect_equal (full (read (@qn.mmread, sample_of ('mm', '2 1 -1', '2 1 -1e+0'))), demo ());
+end
+
 function test_a_wrong_total_of_lines_is_said_and_not_needed ()
   lastwarn ('', '');
   evalc ('a = read (@qn.read_hb, sample_of (''hb'', ''             5             1'', ''             9             1''));');

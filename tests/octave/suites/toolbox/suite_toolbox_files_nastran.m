@@ -112,6 +112,29 @@ function test_bad_binary_output4_is_refused_with_its_byte ()
   bad (put (op4_bytes (1, 1, 'little', 8, 'dense'), 28, 2), 'byte 0: type 2 with whole numbers of 64 bits is not read');
 end
 
+% They were added, without a word.
+function test_strings_of_a_sparse_column_that_overlap_or_go_back_are_refused ()
+  expect_bad_file (@qn.read_op4, sample_of ('op4 sparse', '  196611', '  196609'), ...
+                   'line 5: column 1 of "BDEMO": a string from row 1 on, behind one to row 1');
+  expect_bad_file (@qn.read_op4, strrep (sample_of ('op4 sparse', '  196611', '  196610'), '  196609', '  196611'), ...
+                   'line 5: column 1 of "BDEMO": a string from row 2 on, behind one to row 3');
+  expect_bad_file (@qn.read_op4, sample_of ('op4 bigmat', '       3       3', '       3       1'), 'a string from row 1 on, behind one to row 1');
+  put = @(bytes, at, x) [bytes(1:at) char(typecast (int32 (x), 'uint8')) bytes(at + 5:end)];
+  good = op4_bytes ([4; 0; -1], 2, 'little', 4, 'sparse');
+  expect_equal (full (read (@(f) qn.read_op4 (f, 'KAA'), good)), [4; 0; -1]);
+  expect_bad_file (@qn.read_op4, put (good, 60, 3 * 65536 + 1), 'byte 32: column 1: a string from row 1 on, behind one to row 1');
+end
+
+function test_columns_that_begin_at_no_row_are_refused ()
+  put = @(bytes, at, x) [bytes(1:at) char(typecast (int32 (x), 'uint8')) bytes(at + 5:end)];
+  good = op4_bytes ([4; 0; -1], 2, 'little', 4, 'sparse');
+  expect_bad_file (@qn.read_op4, put (good, 40, -1), 'byte 32: column 1 begins at row -1 of 3 and has 6 words');
+  expect_bad_file (@qn.read_op4, put (good, 40, 4), 'byte 32: column 1 begins at row 4 of 3');
+  expect_bad_file (@qn.read_op4, put (good, 44, -3), 'byte 32: column 1 begins at row 0 of 3 and has -3 words');
+  none = char (typecast (int32 ([12, 1, -1, 0, 12]), 'uint8'));
+  expect_bad_file (@qn.read_op4, [good(1:32), none, good(73:end)], 'byte 32: column 1 begins at row -1 of 3 and has 0 words');
+end
+
 function test_small_large_and_free_fields_are_read ()
   [k, rows, columns] = read (@(f) qn.read_dmig (f, 'kd'), sample_of ('dmig'));
   expect_equal (full (k), [4000 -0.01 0; -0.01 3000 -2.5; 0 -2.5 5000]);

@@ -19,7 +19,11 @@ function [x, lines] = free_numbers (t, from, count)
                             qn.impl.formats.shown (rest(first(count + 1):last(count + 1))), count);
   end
   [x, got, unused, stop] = sscanf (rest, '%f');
-  if got ~= count || ~isempty (strtrim (rest(stop:end))) || ~all (isfinite (x))
+  % The host reads "--1" as 1.
+  sign = rest == '-' | rest == '+';
+  before = [' ', rest(1:end - 1)];
+  odd = any (sign & ~(before <= ' ' | before == 'e' | before == 'E'));
+  if odd || got ~= count || ~isempty (strtrim (rest(stop:end))) || ~all (isfinite (x))
     % What the host does not take in one go: exponents in other writings, or no number at all.
     x = qn.impl.formats.column_of (t, lines, begin - 1 + first, begin - 1 + last, 'the number', false);
   end

@@ -23,4 +23,11 @@ function [a, next] = hb_assembled (t, h)
   kinds = {'symmetric', 'hermitian', 'skew', 'general', 'general'};
   say = @(k, varargin) qn.impl.formats.refuse (t, at + floor ((k - 1) / max ([h.indices.per, 1])), varargin{:});
   a = qn.impl.formats.entries (say, i, j, v, [h.rows, h.columns], kinds{h.type(2) == 'SHZUR'}, 'refuse');
+  if any (h.type(2) == 'SHZ') && any (i > j) && any (i < j)
+    stored = sparse (i, j, 1, h.rows, h.columns) > 0;
+    if ~isequal (stored, stored.')
+      say (find (i < j, 1), 'the entry (%d, %d) is above the diagonal, others of the symmetric matrix are below it, and these are not the same', ...
+           i(find (i < j, 1)), j(find (i < j, 1)));
+    end
+  end
 end

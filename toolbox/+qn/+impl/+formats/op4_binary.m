@@ -27,6 +27,9 @@ function list = op4_binary (t, order, word)
       x = whole (f, payload(1:3 * word));
       if x(1) > h.columns, break, end
       if x(1) <= before, stop (f, from, 'column %.15g after column %d; columns must ascend', x(1), before); end
+      if x(2) < 0 || x(2) > h.rows || x(3) < 0
+        stop (f, from, 'column %d begins at row %.15g of %d and has %.15g words', x(1), x(2), h.rows, x(3));
+      end
       if numel (payload) ~= (3 + x(3)) * word
         stop (f, from, 'column %d has %.15g words, its record %d bytes; %.15g expected', x(1), x(3), numel (payload), (3 + x(3)) * word);
       end
@@ -77,6 +80,7 @@ function [i, v] = column (f, from, h, x, bytes)
   heads = (1 + h.big) * f.word;
   [i, v] = deal (cell (0, 1));
   at = 0;
+  before = 0;
   while at < numel (bytes)
     if at + heads > numel (bytes), stop (f, from, 'column %d ends within a string of values', x(1)); end
     y = whole (f, bytes(at + (1:heads)));
@@ -92,6 +96,8 @@ function [i, v] = column (f, from, h, x, bytes)
     v{end + 1, 1} = numbers (f, from, h, bytes(at + (1:long * f.word)));
     i{end + 1, 1} = row + (0:numel (v{end}) - 1).';
     if i{end}(end) > h.rows, stop (f, from, 'values to row %.15g of %d', i{end}(end), h.rows); end
+    if row <= before, stop (f, from, 'column %d: a string from row %.15g on, behind one to row %d', x(1), row, before); end
+    before = i{end}(end);
     at = at + long * f.word;
   end
   [i, v] = deal (cat (1, zeros (0, 1), i{:}), cat (1, zeros (0, 1), v{:}));

@@ -106,6 +106,7 @@ function [i, v, k] = strings (t, k, h, record, width)
   per_value = words(h.type);
   numbers = [1 1 2 2];
   done = 0;
+  before = 0;
   [i, v] = deal (cell (0, 1));
   while done < record(3)
     x = integers (t, k, 1 + h.big);
@@ -122,6 +123,10 @@ function [i, v, k] = strings (t, k, h, record, width)
       qn.impl.formats.refuse (t, k, 'a string of %.15g words from row %.15g on does not fit %d rows and the %d words of its column', ...
                               long, row, h.rows, record(3));
     end
+    if row <= before
+      qn.impl.formats.refuse (t, k, 'column %d of "%s": a string from row %d on, behind one to row %d', record(1), h.name, row, before);
+    end
+    before = row + count - 1;
     [x, next] = qn.impl.formats.items (t, k + 1, count * numbers(h.type), h.layout, sprintf ('column %d of "%s"', record(1), h.name));
     v{end + 1, 1} = values (t, k, h, x);
     i{end + 1, 1} = row + (0:count - 1).';

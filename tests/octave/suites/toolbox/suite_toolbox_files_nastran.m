@@ -156,6 +156,15 @@ function test_square_rectangular_and_complex_entries_are_read ()
   expect_equal (full (m(3).matrix), 2 - 1i);
 end
 
+% A continuation whose first character was damaged was passed over with its terms.
+function test_an_entry_whose_continuation_is_missing_is_refused ()
+  bad = @(varargin) expect_bad_file (@qn.read_dmig, sample_of ('dmig', varargin{:}), 'line 4: the entry goes on in "\+D1", which does not follow');
+  bad ([char(10) '+D1 '], [char(10) '-D1 ']);
+  bad ([char(10) '+D1 '], [char(10) '$D1 ']);
+  text = sample_of ('dmig');
+  expect_bad_file (@qn.read_dmig, text(1:strfind (text, [char(10) '+D1 '])), 'the entry goes on in "\+D1", which does not follow');
+end
+
 function test_bad_dmig_entries_are_refused_with_their_line ()
   bad = @(pattern, varargin) expect_bad_file (@qn.read_dmig, sample_of ('dmig', varargin{:}), pattern);
   bad ('line 4: terms of "KD", which has no head', 'DMIG    KD             0       6', 'DMIG    KE             0       6');

@@ -1,6 +1,7 @@
 % LIST = BULK_ENTRIES (T)  the DMIG entries of bulk data: rows {line, data fields}, continuations joined
 %
-% Comments, other entries and what comes before and after are passed over; DMI, DMIAX and DMIJ are refused by name.
+% Comments, other entries and what comes before and after are passed over; DMI, DMIAX and DMIJ are refused by name, and so is an entry whose
+% last field says that it goes on (+NAME) where it does not.
 function list = bulk_entries (t)
   list = cell (0, 2);
   open = false;
@@ -15,6 +16,7 @@ function list = bulk_entries (t)
     follows = any (line(1) == '+*,') || all (head == ' ');
     if follows && ~open, continue, end
     if ~follows
+      if open, all_there (t, list, key); end
       word = strtrim (regexprep (head, '[,*].*$', ''));
       open = strcmp (word, 'DMIG');
       if strcmp (word, 'ENDDATA'), break, end
@@ -34,6 +36,13 @@ function list = bulk_entries (t)
       list(end + 1, :) = {k * ones(1, numel (fields) - 1), fields(2:end)};
     end
     key = next;
+  end
+  if open, all_there (t, list, key); end
+end
+
+function all_there (t, list, key)
+  if numel (key) > 1 && any (key(1) == '+*') && ~isempty (bare (key))
+    qn.impl.formats.refuse (t, list{end, 1}(end), 'the entry goes on in "%s", which does not follow', qn.impl.formats.shown (key));
   end
 end
 

@@ -162,6 +162,8 @@ function c = all_cases ()
        'unbalance_ends', 'warning', {spun([0 0.1; 0 50])}, {spun([0 0.2; 0 50])}
        'unbalance_speed', 'warning', {spun([0 0.2; 0 60])}, {spun([0 0.2; 0 50])}
        'boucwen_feeds', 'warning', {with(bouc_wen (1, 1.1))}, {with(bouc_wen (1, 1))}
+       'boucwen_kink', 'note', {with(qn.boucwen ('stiffness', 1e4, 'yield', 0.01, 'exponent', 0.7))}, {with(qn.boucwen ('stiffness', 1e4, 'yield', 0.01, 'exponent', 1))}
+       'boucwen_kink', 'warning', {with(qn.boucwen ('stiffness', 1e4, 'yield', 0.01, 'exponent', 0.2))}, {with(qn.boucwen ('stiffness', 1e4, 'yield', 0.01, 'exponent', 2))}
        'boucwen_feeds', 'warning', {with(bouc_wen (1, -1))}, {with(bouc_wen (1.1, -1))}
        'clima2_stiffness', 'warning', {on_pad(pad (1, 10))}, {on_pad(pad (1, 0))}
        'clima2_normal', 'warning', {on_pad(pad (-1, 0))}, {on_pad(pad (1, 0))}
@@ -464,5 +466,27 @@ function test_flexibility_of_a_free_structure_is_that_of_its_shape ()
                          {qn.gap('gap', 1e-4, 'stiffness', 1e8), qn.observe(model, 1, -1)});
     found = qn.check (sim);
     expect_equal (any (strcmp ({found.code}, 'flexibility')), ~attached);
+  end
+end
+
+% The newtons of "boucwen_kink" against ways through z = 0 in one step, compared with the same way in 500 parts.
+function test_the_error_at_a_kink_of_bouc_wen_is_bounded_by_what_is_said ()
+  for exponent = [0.2 0.35 0.5 0.7]
+    law = qn.law ('boucwen', 'stiffness', 1e4, 'ratio', 0, 'beta', 1, 'gamma', 0, 'exponent', exponent);
+    found = qn.check (with (law));
+    text = found(strcmp ({found.code}, 'boucwen_kink')).text;
+    said = cellfun (@str2double, regexp (text, 'up to ([\d.e+]+) N', 'tokens'));
+    if numel (said) ~= 2, error ('it said "%s"', text); end
+    off = [0 0];
+    for way = [0.1 0.5 1 1.8]
+      for back = [0.03 0.3]
+        to = linspace (0, -back, 200);
+        once = qn.force (law, [to, way - back], zeros (1, 201), 1e-3);
+        fine = qn.force (law, [to, linspace(-back, way - back, 501)], zeros (1, 701), 1e-3);
+        e = abs (once(end) - fine(end));
+        if fine(end) > 0, off = max (off, [e, e * (way <= 0.1)]); end
+      end
+    end
+    if any (off > said) || off(1) < said(1) / 20, error ('exponent %g: off by %g and %g N, said were %g and %g N', exponent, off, said); end
   end
 end

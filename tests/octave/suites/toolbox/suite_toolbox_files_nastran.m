@@ -115,14 +115,14 @@ end
 % They were added, without a word.
 function test_strings_of_a_sparse_column_that_overlap_or_go_back_are_refused ()
   expect_bad_file (@qn.read_op4, sample_of ('op4 sparse', '  196611', '  196609'), ...
-                   'line 5: column 1 of "BDEMO": a string from row 1 on, behind one to row 1');
+                   'line 5: column 1 of "BDEMO": a string from row 1 on, after one to row 1');
   expect_bad_file (@qn.read_op4, strrep (sample_of ('op4 sparse', '  196611', '  196610'), '  196609', '  196611'), ...
-                   'line 5: column 1 of "BDEMO": a string from row 2 on, behind one to row 3');
-  expect_bad_file (@qn.read_op4, sample_of ('op4 bigmat', '       3       3', '       3       1'), 'a string from row 1 on, behind one to row 1');
+                   'line 5: column 1 of "BDEMO": a string from row 2 on, after one to row 3');
+  expect_bad_file (@qn.read_op4, sample_of ('op4 bigmat', '       3       3', '       3       1'), 'a string from row 1 on, after one to row 1');
   put = @(bytes, at, x) [bytes(1:at) char(typecast (int32 (x), 'uint8')) bytes(at + 5:end)];
   good = op4_bytes ([4; 0; -1], 2, 'little', 4, 'sparse');
   expect_equal (full (read (@(f) qn.read_op4 (f, 'KAA'), good)), [4; 0; -1]);
-  expect_bad_file (@qn.read_op4, put (good, 60, 3 * 65536 + 1), 'byte 32: column 1: a string from row 1 on, behind one to row 1');
+  expect_bad_file (@qn.read_op4, put (good, 60, 3 * 65536 + 1), 'byte 32: column 1: a string from row 1 on, after one to row 1');
 end
 
 function test_columns_that_begin_at_no_row_are_refused ()

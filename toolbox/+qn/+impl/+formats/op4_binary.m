@@ -96,7 +96,7 @@ function [i, v] = column (f, from, h, x, bytes)
     v{end + 1, 1} = numbers (f, from, h, bytes(at + (1:long * f.word)));
     i{end + 1, 1} = row + (0:numel (v{end}) - 1).';
     if i{end}(end) > h.rows, stop (f, from, 'values to row %.15g of %d', i{end}(end), h.rows); end
-    if row <= before, stop (f, from, 'column %d: a string from row %.15g on, behind one to row %d', x(1), row, before); end
+    if row <= before, stop (f, from, 'column %d: a string from row %.15g on, after one to row %d', x(1), row, before); end
     before = i{end}(end);
     at = at + long * f.word;
   end

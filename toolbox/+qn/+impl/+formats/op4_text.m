@@ -124,7 +124,7 @@ function [i, v, k] = strings (t, k, h, record, width)
                               long, row, h.rows, record(3));
     end
     if row <= before
-      qn.impl.formats.refuse (t, k, 'column %d of "%s": a string from row %d on, behind one to row %d', record(1), h.name, row, before);
+      qn.impl.formats.refuse (t, k, 'column %d of "%s": a string from row %d on, after one to row %d', record(1), h.name, row, before);
     end
     before = row + count - 1;
     [x, next] = qn.impl.formats.items (t, k + 1, count * numbers(h.type), h.layout, sprintf ('column %d of "%s"', record(1), h.name));

@@ -60,4 +60,21 @@ function found = check (law, x, h, state)
     found = {'boucwen_feeds', 'warning', sprintf('beta %g is below |gamma| %g: some of its loops give energy to the structure', ...
                                                  p.beta, abs (p.gamma))};
   end
+  if p.exponent < 1 && p.beta + p.gamma > 0, found = [found; kinked(p)]; end
+end
+
+% Where z changes its sign its slope has a kink, which the rule of the module steps across. Found with 6400 increments through 0 for each exponent
+% here and for beta/(beta + gamma) of 0.5, 0.7, 1 and 2, as parts of the limit and rounded up by a quarter or more.
+function found = kinked (p)
+  exponent = [0 0.05 0.1 0.2 0.35 0.5 0.7 0.9];
+  worst = [1 1 0.95 0.6 0.15 0.035 0.015 0.005];
+  tenth = [1 0.15 0.13 0.075 0.03 0.0075 0.0025 0.001];
+  k = find (exponent <= p.exponent, 1, 'last');
+  limit = (p.A / (p.beta + p.gamma)) ^ (1 / p.exponent);
+  force = abs (p.stiffness * (1 - p.ratio)) * limit;
+  level = 'note';
+  if worst(k) > 0.05, level = 'warning'; end
+  found = {'boucwen_kink', level, sprintf(['exponent %g is below 1: in a step in which its force changes its sign it comes out wrong by up to ' ...
+    '%.2g N of %.2g N, where it moves by about %.2g m in a step; by up to %.2g N where that is a tenth of it'], p.exponent, ...
+    worst(k) * force, force, limit / p.A, tenth(k) * force)};
 end

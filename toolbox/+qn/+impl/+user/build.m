@@ -1,7 +1,7 @@
 % BUILD (FILE, SOURCE, HEADER, TARGET)  compiles the bytes SOURCE of a law in FILE, with the HEADER beside it, to the library TARGET
 %
-% All happens in a new folder that nobody else can guess; the library gets its name in one step. One that is there stays if it is whole: behind
-% the bytes of the linker stands their sum (qn.impl.user.seal). Another file of the user's is not found by #include "...": the content of
+% All happens in a new folder that nobody else can guess; the library gets its name in one step. One that is there stays if it is whole: after
+% the bytes of the linker comes their sum (qn.impl.user.seal). Another file of the user's is not found by #include "...": the content of
 % a law is that of one file, by which it is kept.
 function build (file, source, header, target)
   [~, random] = fileparts (tempname ());

@@ -74,7 +74,7 @@ function found = kinked (p)
   force = abs (p.stiffness * (1 - p.ratio)) * limit;
   level = 'note';
   if worst(k) > 0.05, level = 'warning'; end
-  found = {'boucwen_kink', level, sprintf(['exponent %g is below 1: in a step in which its force changes its sign it comes out wrong by ' ...
-    'up to %.2g N of %.2g N, where it moves by about %.2g m in a step; by up to %.2g N where that is a tenth of it'], p.exponent, ...
-    worst(k) * force, force, limit / p.A, tenth(k) * force)};
+  text = ['exponent %g is below 1: in a step in which its force changes its sign it comes out wrong by up to %.2g N of %.2g N, ' ...
+          'where it moves by about %.2g m in a step; by up to %.2g N where that is a tenth of it'];
+  found = {'boucwen_kink', level, sprintf(text, p.exponent, worst(k) * force, force, limit / p.A, tenth(k) * force)};
 end

@@ -26,8 +26,8 @@ function [a, next] = hb_assembled (t, h)
   if any (h.type(2) == 'SHZ') && any (i > j) && any (i < j)
     stored = sparse (i, j, 1, h.rows, h.columns) > 0;
     if ~isequal (stored, stored.')
-      say (find (i < j, 1), 'the entry (%d, %d) is above the diagonal, others of the symmetric matrix are below it, and these are not the same', ...
-           i(find (i < j, 1)), j(find (i < j, 1)));
+      k = find (i < j, 1);
+      say (k, 'the entry (%d, %d) is above the diagonal, others of the symmetric matrix are below it, and these are not the same', i(k), j(k));
     end
   end
 end

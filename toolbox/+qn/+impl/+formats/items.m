@@ -75,8 +75,8 @@ function tell (t, from, what)
   begin = sprintf ('%s: %s, line ', t.who, t.file);
   [last, id] = lastwarn ();
   if strcmp (id, 'qn:file') && strncmp (last, begin, numel (begin)), return, end
-  warning ('qn:file', '%s%d: the %s do not stand in the columns of their format; they are read as numbers with blanks between them', begin, ...
-           from, what);
+  warning ('qn:file', '%s%d: the %s do not stand in the columns of their format; they are read as numbers with blanks between them', ...
+           begin, from, what);
 end
 
 function text = said (c, k)

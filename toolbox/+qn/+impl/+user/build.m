@@ -22,7 +22,8 @@ function build (file, source, header, target)
   end
   bytes = qn.impl.user.bytes_of (library);
   if isempty (strfind (char (bytes), 'quarn_law_entry'))
-    error ('qn:compile', 'the law %s compiles, and there is no law in it: a line QUARN_LAW (function, rows, parameters, states) is expected', file);
+    error ('qn:compile', ['the law %s compiles, and there is no law in it: a line QUARN_LAW (function, rows, parameters, states) is ' ...
+                          'expected'], file);
   end
   if ~isempty (text), warning ('qn:compile', 'the compiler says of the law %s:\n%s', file, text); end
   write (library, [bytes, qn.impl.user.seal(bytes)]);

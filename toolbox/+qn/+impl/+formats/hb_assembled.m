@@ -27,7 +27,8 @@ function [a, next] = hb_assembled (t, h)
     stored = sparse (i, j, 1, h.rows, h.columns) > 0;
     if ~isequal (stored, stored.')
       k = find (i < j, 1);
-      say (k, 'the entry (%d, %d) is above the diagonal, others of the symmetric matrix are below it, and these are not the same', i(k), j(k));
+      say (k, 'the entry (%d, %d) is above the diagonal, others of the symmetric matrix are below it, and these are not the same', ...
+           i(k), j(k));
     end
   end
 end

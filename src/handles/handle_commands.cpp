@@ -23,6 +23,15 @@ chandle* existing(int index) {
   return h;
 }
 
+/// A copy of the handle's value that a function of the host may keep. Where arguments are lent, what a command returns is the host's own.
+mxArray* copyToGive(chandle& h, const mxArray* index) {
+  if (!host::lendsArguments()) return host::duplicate(h.get_val());
+  mxArray* in[2] = {mxCreateString("chandleget"), const_cast<mxArray*>(index)};
+  mxArray* out = nullptr;
+  host::callHost(1, &out, 2, in, "quarn");
+  return out;
+}
+
 mxArray* listKeys() {
   const auto& all = cIndex.all();
   mxArray* keys = mxCreateDoubleMatrix(static_cast<mwSize>(all.size()), 1, mxREAL);
@@ -62,7 +71,7 @@ void commandChandleGet(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[
   if (nrhs > mostInputs) host::fail(fixed::tooManyArguments);
   mxArray* in[mostInputs];
   std::transform(prhs + 1, prhs + nrhs, in, [](const mxArray* a) { return const_cast<mxArray*>(a); });
-  in[1] = host::duplicate(h->get_val());
+  in[1] = copyToGive(*h, prhs[2]);
   host::callHost(nlhs, plhs, nrhs - 1, in, "feval");
 }
 

@@ -101,4 +101,8 @@ class PropertiesOfCall {
 /// A copy that shares no memory with a: deep on every host. Objects other than structs and cells are copied by the host.
 mxArray* duplicate(const mxArray* a);
 
+/// Whether a function of the host that is called with an array made by the module loses its values when the command ends, though it may
+/// have kept or returned them: Octave 11 lends it the memory.
+bool lendsArguments();
+
 }  // namespace quarn::host

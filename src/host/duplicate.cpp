@@ -9,6 +9,11 @@
 #include "host/errors.h"
 #include "host/user_code.h"
 
+#ifdef QUARN_HOST_OCTAVE
+// Modules for Octave 11 and later have it: the build adds it.
+extern "C" __attribute__((weak, visibility("default"))) const int __octave_mex_soversion__;
+#endif
+
 namespace quarn::host {
 
 #ifdef QUARN_HOST_OCTAVE
@@ -16,6 +21,8 @@ namespace quarn::host {
 namespace {
 std::vector<mxArray*> properties;
 }
+
+bool lendsArguments() { return &__octave_mex_soversion__ != nullptr; }
 
 PropertiesOfCall::PropertiesOfCall() : before(properties.size()) {}
 
@@ -37,6 +44,8 @@ static mxArray* held(mxArray* property) {
 #else
 
 static mxArray* held(mxArray* property) { return property; }
+
+bool lendsArguments() { return false; }
 
 #endif
 

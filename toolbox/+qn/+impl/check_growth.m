@@ -49,7 +49,7 @@ function found = check_growth (sim, res)
     % How long it stays farthest out is not known.
     if numel (found) > before && ~isempty (res), found(end).level = 'warning'; end
   end
-  for k = setdiff (1:numel (sim.elements), together)
+  for k = reshape (setdiff (1:numel (sim.elements), together), 1, [])
     e = sim.elements(k);
     [x, state] = deal ([]);
     if ~isempty (res)

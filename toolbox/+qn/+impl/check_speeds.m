@@ -12,7 +12,7 @@ function found = check_speeds (sim, res)
   speeds = linspace (min (omega), max (omega), 9);
   near = ones (size (omega));
   if speeds(1) < speeds(end), near = 1 + round (8 * (omega - speeds(1)) / (speeds(end) - speeds(1))); end
-  for k = unique (near)
+  for k = reshape (unique (near), 1, [])
     columns = near == k;
     now = sim;
     now.speed = [];

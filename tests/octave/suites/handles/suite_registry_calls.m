@@ -10,6 +10,22 @@ function test_a_function_is_called_on_the_value ()
   expect_equal (quarn ('chandleget', @(v) {v, 'wrapped'}, h), {[3 1 2], 'wrapped'});
 end
 
+% In Octave 11 the memory of what a module gives to a function is gone when the command ends.
+function test_a_function_may_keep_the_value ()
+  h = quarn ('chandleset', 1, struct ('pr', {{[3 1 2], int8([4 5 6]), 'text', 1i * [1 2], sparse([0 7])}}));
+  keep ();
+  quarn ('chandleget', @keep, h);
+  others = cell (1, 100);
+  for k = 1:numel (others), others{k} = {rand(1, 3), int8(randi (9, 1, 3)), ['te' 'xx'], rand(1, 2) * 1i, sparse(rand (1, 2))}; end
+  expect_equal (keep (), struct ('pr', {{[3 1 2], int8([4 5 6]), 'text', 1i * [1 2], sparse([0 7])}}));
+end
+
+function v = keep (v)
+  persistent kept
+  if nargin > 0, kept = v; end
+  v = kept;
+end
+
 function test_extra_arguments_follow_the_value ()
   h = quarn ('chandleset', 1, struct ('pr', 7));
   expect_equal (quarn ('chandleget', 'getfield', h, 'pr'), 7);

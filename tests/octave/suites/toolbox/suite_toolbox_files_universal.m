@@ -112,10 +112,7 @@ end
 function test_a_step_that_the_file_cannot_hold_is_said ()
   file = [tempname() '.unv'];
   clean = onCleanup (@() delete (file));
-  lastwarn ('', '');
-  evalc ('qn.write_unv58 (file, (0:99999) / 51200, zeros (1, 100000));');
-  [text, id] = lastwarn ();
-  expect_equal (id, 'qn:file');
+  text = evalc ('qn.write_unv58 (file, (0:99999) / 51200, zeros (1, 100000));');
   expect_in (text, 'X ends 0.256 steps from where it should');
   s = qn.read_unv (file);
   f = s.functions;

@@ -5,9 +5,9 @@
 #include "base/fixed_errors.h"
 #include "host/errors.h"
 #include "numbers/ranges.h"
+#include "sparse/dense_lines.h"
 #include "sparse/line_checks.h"
 #include "sparse/line_runs.h"
-#include "sparse/dense_lines.h"
 #include "sparse/line_sums.h"
 #include "sparse/sp_tbb.h"
 

@@ -32,10 +32,12 @@ fprintf ('ok      failed and lost cases are reported and run again\n');
 
 % More cases than tasks are shared among the tasks.
 folder = [args{2} '_shared'];
-job = qn.impl.sweep.job (@(p) 2 * p, 1:7, folder, false);
-qn.impl.sweep.keep (fullfile (folder, 'slurm_tasks.mat'), struct ('pending', [1 2 4 5 7], 'tasks', 2));
-qn.impl.sweep.task (folder, 2);
+job = qn.impl.sweep.job (@(p) 2 * p, 1:7, folder, struct ('progress', false, 'trust', false));
+job.tasks = {[1 4 7], [2 5]};
+work = fullfile (folder, 'slurm_work.bin');
+digest = qn.impl.sweep.pack (job, work);
+qn.impl.sweep.task (work, digest, 2);
 expect_equal (find (qn.impl.sweep.state (job)), [2 5]);
-qn.impl.sweep.task (folder, 1);
+qn.impl.sweep.task (work, digest, 1);
 expect_equal (find (qn.impl.sweep.state (job)), [1 2 4 5 7]);
 fprintf ('ok      cases are shared among tasks\n');

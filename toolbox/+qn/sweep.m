@@ -1,9 +1,9 @@
 % QN.SWEEP  runs one set-up over many sets of parameters
 %
 % Purpose
-%   Calls a function for every set of parameters: on all cores of the machine, or on the nodes of a cluster. Each result is kept in
-%   a file of its own as soon as it is there, so that a sweep that was killed goes on where it ended. Results come back in the order
-%   of the cases, and with the same bits whichever engine ran them.
+%   Calls a function for every set of parameters: on all cores of the machine, or on the nodes of a cluster. Results are
+%   kept in files while it runs, half a second of short cases in one, so that a sweep that was killed goes on where it ended. They come
+%   back in the order of the cases, and with the same bits whichever engine ran them.
 %
 % Calls
 %   RESULTS = qn.sweep (F, CASES, ...)
@@ -11,7 +11,8 @@
 %
 % Input
 %   F       function of one set of parameters with one output, which can be saved to a file. It runs in other processes: it is an
-%           anonymous function or a function file on the path. Random numbers start anew in every case, from the case's number.
+%           anonymous function or a function file on the path. It is always the caller's, never one that
+%           a folder holds. Random numbers start anew in every case, from the case's number.
 %   CASES   struct array (an element is a case; see qn.grid), cell array (an element), or numbers (a column)
 %   Names and values
 %     'folder'    folder of the result files; the same call with the same folder goes on ('': a temporary one, removed at the end)
@@ -21,6 +22,8 @@
 %     'again'     true: cases that failed before are run again (false)
 %     'progress'  true: say every second how many cases are done and how long the rest will take (true)
 %     'sbatch'    more options of the job array, such as '--time=1:00:00 --mem=2G' ('')
+%     'trust'     true: read also files of results that hold functions or objects, or are of an earlier version, from a folder that others
+%                 can write. Reading them runs what they hold (false)
 %     'wait'      false: hand in the job array and come back with what is there; the same call later collects (true)
 %
 % Output
@@ -35,7 +38,7 @@
 %                     folder     see above; '' for a temporary one
 %
 % Errors
-%   qn:input   the cases are none of the above; the folder cannot be written or belongs to another sweep
+%   qn:input   the cases are none of the above; the folder cannot be written, belongs to another sweep or is not trusted
 %   qn:engine  there is no such engine here, or it stopped
 %   Cases that fail do not end the sweep. Without the output REPORT they are said in the warning qn:failed. A case whose process
 %   died before it wrote a result has the identifier qn:lost, and is run again by the next call. Where the package is missing, the
@@ -54,28 +57,31 @@
 function [results, report] = sweep (f, cases, varargin)
   who = 'qn.sweep';
   begun = tic ();
-  o = struct ('folder', '', 'engine', 'auto', 'workers', [], 'again', false, 'progress', true, 'sbatch', '', 'wait', true);
+  o = struct ('folder', '', 'engine', 'auto', 'workers', [], 'again', false, 'progress', true, 'sbatch', '', 'trust', false, ...
+              'wait', true);
   o = qn.impl.options (who, o, varargin);
   if ~isempty (o.workers), o.workers = qn.impl.count (who, 'workers', o.workers); end
-  for name = {'again', 'progress', 'wait'}, o.(name{1}) = qn.impl.flag (who, name{1}, o.(name{1})); end
+  for name = {'again', 'progress', 'trust', 'wait'}, o.(name{1}) = qn.impl.flag (who, name{1}, o.(name{1})); end
   if isempty (o.folder)
     if strcmp (o.engine, 'slurm')
       error ('qn:input', '%s: a job array needs the "folder", in a place that all nodes see', who);
     end
-    temporary = tempname ();
-    clean = onCleanup (@() remove (temporary));
-    job = qn.impl.sweep.job (f, cases, temporary, o.progress);
+    temporary = qn.impl.files.private_folder ();
+    clean = onCleanup (@() qn.impl.sweep.remove (temporary));
+    job = qn.impl.sweep.job (f, cases, temporary, o);
   else
-    job = qn.impl.sweep.job (f, cases, o.folder, o.progress);
+    job = qn.impl.sweep.job (f, cases, o.folder, o);
   end
-  [done, failed] = qn.impl.sweep.state (job);
+  [done, failed, files] = qn.impl.sweep.state (job);
   if o.again
-    for k = find (failed), qn.impl.files.remove_file (qn.impl.sweep.file (job, 'failed', k)); end
+    for name = [files.errors, files.failed], qn.impl.files.remove_file (fullfile (job.folder, name{1})); end
     failed(:) = false;
   end
   finished = done | failed;
   job.before = sum (finished);
-  job.begun = now ();
+  job.failed_before = sum (failed);
+  [job.ended, job.failed] = deal (0, 0);
+  job.clock = tic ();
   [engine, workers] = qn.impl.sweep.choose_engine (o.engine, o.workers, sum (~finished));
   pending = find (~finished);
   if job.joined, pending = fliplr (pending); end          % one that works on it as well comes from the other end
@@ -89,11 +95,4 @@ function [results, report] = sweep (f, cases, varargin)
     first = report.failed(1);
     warning ('qn:failed', '%d of %d cases failed; case %d: %s', numel (report.failed), job.n, first.number, first.message);
   end
-end
-
-function remove (folder)
-  if ~exist (folder, 'dir'), return, end
-  names = qn.impl.files.names_in (folder);
-  for k = 1:numel (names), qn.impl.files.remove_file (fullfile (folder, names{k})); end
-  [~, ~] = rmdir (folder);
 end

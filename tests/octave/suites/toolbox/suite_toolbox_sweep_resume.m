@@ -9,20 +9,19 @@ function kill_and_resume (engine)
   inner = fullfile (folder, 'x');
   code = sprintf (['folder = ''%s''; qn.sweep (@(p) sweep_logged (p, folder), 1:10, ''engine'', ''%s'', ''workers'', 2, ' ...
                    '''folder'', ''%s'');'], folder, engine, inner);
-  [~, pid] = system ([octave_command(code) ' >/dev/null 2>&1 & echo $!']);
+  [~, pid] = system (['TMPDIR=' folder ' ' octave_command(code) ' >/dev/null 2>&1 & echo $!']);
   waited = tic ();
-  while numel (dir (fullfile (inner, 'case_*.mat'))) < 3
+  while numel (dir (fullfile (inner, 'results_*.mat'))) < 3
     if toc (waited) > 60, error ('the other process does not get on'); end
     pause (0.05);
   end
   kill (str2double (pid), 9);
   % Its workers end what they have begun.
-  pause (0.5);
-  while numel (dir (fullfile (inner, 'begun_*.mat'))) > 0
+  while workers_of (folder) > 0
     if toc (waited) > 90, error ('the workers do not end'); end
     pause (0.1);
   end
-  finished = numel (dir (fullfile (inner, 'case_*.mat')));
+  finished = numel (dir (fullfile (inner, 'results_*.mat')));
   logged = numel (dir (fullfile (folder, 'ran_*')));
   if finished > 8, error ('%d cases were done: it was not killed in time', finished); end
   [got, report] = qn.sweep (@(p) sweep_logged (p, folder), 1:10, 'engine', engine, 'workers', 2, 'folder', inner, 'progress', false);
@@ -35,6 +34,19 @@ function kill_and_resume (engine)
   expect_equal (again, got);
   expect_equal (report.ran, 0);
   expect_equal (numel (dir (fullfile (folder, 'ran_*'))), numel (ran));
+end
+
+% Marks of processes at work, in temporary folders within FOLDER.
+function n = workers_of (folder)
+  n = 0;
+  for name = names_like (folder, 'quarn-')
+    n = n + numel (names_like (fullfile (folder, name{1}), 'begun_'));
+  end
+end
+
+function names = names_like (folder, first)
+  names = readdir (folder).';
+  names = names(strncmp (names, first, numel (first)));
 end
 
 function test_a_killed_serial_sweep_goes_on_without_running_a_case_twice ()
@@ -50,8 +62,14 @@ function test_half_files_count_as_nothing ()
   f = @(p) 7 * p;
   qn.sweep (f, 1:3, 'folder', folder, 'engine', 'serial');
   fclose (fopen (fullfile (folder, 'abc.part'), 'w'));
-  whole = fileread (fullfile (folder, 'case_000002.mat'));
-  fid = fopen (fullfile (folder, 'case_000002.mat'), 'w');
+  % Each case a file, as long ones have.
+  for k = 1:3
+    one = struct ('cases', k, 'results', {{7 * k}}, 'seconds', 1);
+    qn.impl.sweep.keep (fullfile (folder, sprintf ('results_%d.mat', k)), qn.impl.files.flatten (one));
+  end
+  delete (fullfile (folder, 'results_1-3.mat'));
+  whole = fileread (fullfile (folder, 'results_2.mat'));
+  fid = fopen (fullfile (folder, 'results_2.mat'), 'w');
   fwrite (fid, whole(1:end / 2));
   fclose (fid);
   [got, report] = qn.sweep (f, 1:3, 'folder', folder);
@@ -76,22 +94,3 @@ function test_a_folder_belongs_to_one_sweep ()
   expect_error (@() qn.sweep (@(p) p, 1:2, 'folder', folder), 'qn:input', '~but not the file sweep.mat');
 end
 
-% A folder of the first release has no number; one with a number that is not known here is left as it is.
-function test_folders_of_another_format_are_refused_and_old_ones_go_on ()
-  [folder, clean] = new_folder ();
-  f = @(p) 3 * p;
-  qn.sweep (f, 1:2, 'folder', folder, 'engine', 'serial');
-  file = fullfile (folder, 'sweep.mat');
-  s = load (file);
-  expect_equal (s.format, 2);
-  old = rmfield (s, 'format');
-  old.f = f;
-  save ('-binary', file, '-struct', 'old');
-  [got, report] = qn.sweep (f, 1:2, 'folder', folder);
-  expect_equal (got, {3, 6});
-  expect_equal (report.ran, 0);
-  s.format = 7;
-  save ('-binary', file, '-struct', 's');
-  expect_error (@() qn.sweep (f, 1:2, 'folder', folder), 'qn:input', '~has files of format 7, this version reads format 2');
-  expect_equal (exist (fullfile (folder, 'case_000001.mat'), 'file'), 2);
-end

@@ -13,9 +13,7 @@ function [folder, file, why] = beside (file)
     why = 'it is a folder';
     return
   end
-  [~, random] = fileparts (tempname ());
-  [made, why] = mkdir (parent, ['quarn-' random]);
-  if made && isempty (why), folder = fullfile (parent, ['quarn-' random]); end
+  [folder, why] = qn.impl.files.private_folder (parent);
 end
 
 % A change of the folder makes Octave read its load path again, which takes 50 ms.

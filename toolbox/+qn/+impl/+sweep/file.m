@@ -1,4 +1,5 @@
-% FILE = FILE (JOB, KIND, K)  file of case K: its result (KIND 'case'), its error ('failed') or the mark of its start ('begun')
-function file = file (job, kind, k)
-  file = fullfile (job.folder, sprintf ('%s_%06d.mat', kind, k));
+% FILE = FILE (JOB, KIND, CASES)  file of a bundle of cases: their results (KIND 'results' as plain data, 'objects' in the host's own form) or
+%                                 their errors ('errors')
+function file = file (job, kind, cases)
+  file = [job.folder, filesep(), kind, '_', qn.impl.sweep.spelt(cases), '.mat'];
 end

@@ -5,8 +5,5 @@ end
 
 function waiting = run (job, pending, workers, o)
   waiting = false;
-  for k = pending
-    qn.impl.sweep.run_case (job, k);
-    qn.impl.sweep.tell (job);
-  end
+  qn.impl.sweep.run_cases (job, pending, Inf, @(k) 0, @(ended, failed) qn.impl.sweep.tell (job, ended, failed));
 end

@@ -36,16 +36,19 @@ function waiting = run (job, pending, workers, o)
   end
 end
 
-% Clusters take about a thousand tasks an array: more cases share a task.
+% Clusters take about a thousand tasks an array: more cases share a task. What a task runs is in the script, which Slurm keeps, with the
+% digest of the file that holds function and cases: whoever changes that file changes nothing that is run.
 function id = hand_in (job, pending, workers, options)
   tasks = min (numel (pending), 1000);
-  qn.impl.sweep.keep (fullfile (job.folder, 'slurm_tasks.mat'), struct ('pending', pending, 'tasks', tasks));
-  script = fullfile (job.folder, 'slurm_task.m');
-  write (script, sprintf ('cd (%s);\npath (%s);\nqn.impl.sweep.task (%s, str2double (getenv (''SLURM_ARRAY_TASK_ID'')));\n', ...
-                          text (pwd ()), text (path ()), text (job.folder)));
+  job.tasks = arrayfun (@(k) pending(k:tasks:end), 1:tasks, 'UniformOutput', false);
+  file = fullfile (job.folder, 'slurm_work.bin');
+  digest = qn.impl.sweep.pack (job, file);
+  code = sprintf ('cd (%s); path (%s); qn.impl.sweep.task (%s, %s, str2double (getenv (''SLURM_ARRAY_TASK_ID'')));', ...
+                  text (pwd ()), text (path ()), text (file), text (digest));
+  if numel (code) > 1e5, error ('qn:engine', 'qn.sweep: the path of %d characters is too long for a job', numel (path ())); end
   program = fullfile (OCTAVE_EXEC_HOME (), 'bin', 'octave-cli');
   start = fullfile (job.folder, 'slurm_task.sh');
-  write (start, sprintf ('#!/bin/sh\nexec %s --no-history -qf %s\n', shell (program), shell (script)));
+  write (start, sprintf ('#!/bin/sh\nexec %s --no-history -qf --eval %s\n', shell (program), shell (code)));
   array = sprintf ('1-%d', tasks);
   if ~isempty (workers), array = sprintf ('%s%%%d', array, workers); end
   command = sprintf ('sbatch --parsable --job-name=qn.sweep --array=%s --output=%s %s %s', array, ...

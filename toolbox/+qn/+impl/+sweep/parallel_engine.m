@@ -86,14 +86,18 @@ function counts = told (job, counts)
   qn.impl.sweep.tell (job, job.ended + counts(1), job.failed + counts(2));
 end
 
-% The cases that processes were at that are gone, and whether any began to work at all; the marks of all go.
+% The cases that processes were at that are gone, and whether any began to work at all; the marks of all go. A process that is killed closes
+% its pipes a moment before it is gone.
 function [cases, worked] = marks (private)
   [cases, worked] = deal ([], false);
+  waited = tic ();
   names = qn.impl.files.names_in (private);
   for name = names(~cellfun (@isempty, regexp (names, '^(begun|ended)_', 'once'))).'
     worked = true;
     file = fullfile (private, name{1});
-    if strncmp (name{1}, 'begun_', 6) && gone (name{1}(7:end))
+    begun = strncmp (name{1}, 'begun_', 6);
+    while begun && exist (file, 'file') && ~gone (name{1}(7:end)) && toc (waited) < 3, pause (0.02); end
+    if begun && gone (name{1}(7:end))
       cases = [cases, sscanf(char (qn.impl.files.bytes_of (file)), '%d', 1)];
     end
     qn.impl.files.remove_file (file);

@@ -129,6 +129,7 @@ template <class Vector>
 }
 
 // As many rows together as leave their sums in registers.
+// NOLINTBEGIN(bugprone-macro-parentheses): attributes and types take none
 #define QUARN_SUMS(version, Vector)                                                                                                \
   version void oneSum(int n, const double* pr, const double* x, double* y) { sumOneRow<Vector>(n, pr, x, y); }                     \
   version void sums(int rows, int n, const double* pr, const double* x, double* y) { sumRows<Vector, 4, 1>(rows, n, pr, &x, &y); } \
@@ -137,6 +138,7 @@ template <class Vector>
     double* const results[] = {yu, yv};                                                                                            \
     sumRows<Vector, 2, 2>(rows, n, pr, vectors, results);                                                                          \
   }
+// NOLINTEND(bugprone-macro-parentheses)
 #ifdef QUARN_VERSION_BASE
 QUARN_SUMS(QUARN_VERSION_BASE, Pair)
 QUARN_SUMS(QUARN_VERSION_V3, Half)

@@ -11,7 +11,8 @@
 
 #ifdef QUARN_HOST_OCTAVE
 // Modules for Octave 11 and later have it: the build adds it.
-extern "C" __attribute__((weak, visibility("default"))) const int __octave_mex_soversion__;
+extern "C" __attribute__((weak, visibility("default")))
+const int __octave_mex_soversion__;  // NOLINT(bugprone-reserved-identifier): its name for it
 #endif
 
 namespace quarn::host {

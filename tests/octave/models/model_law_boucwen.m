@@ -1,8 +1,8 @@
-% [S, CTX] = MODEL_LAW_BOUCW (S, T, CTX)  Bouc-Wen hysteresis in groups of three (displacement, z, displacement before)
+% [S, CTX] = MODEL_LAW_BOUCWEN (S, T, CTX)  Bouc-Wen hysteresis in groups of three (displacement, z, displacement before)
 %
 % opt(4) stiffness, opt(5) share of the spring, opt(6:9) A, beta, gamma, n. Along the way dz/dx = A - |z|^n (gamma + beta sign (z dx)) is
 % integrated by the Runge-Kutta rule of fourth order in at most 32 parts.
-function [s, ctx] = model_law_boucw (s, t, ctx)
+function [s, ctx] = model_law_boucwen (s, t, ctx)
   own = isfield (s, 'snl') && ~isempty (s.snl);
   [a, beta, gamma, n] = deal (s.opt(6), s.opt(7), s.opt(8), s.opt(9));
   limit = Inf;

@@ -1,4 +1,4 @@
-% L = IMPACT_LAW ()  one-sided stop, stiff and lossy after Hunt and Crossley; the fields are those of qn.impl.law_list
+% L = CONTACT_LAW ()  one-sided stop, stiff and lossy after Hunt and Crossley; the fields are those of qn.impl.law_list
 function l = contact_law ()
   parameters = {'stiffness', '<required>', 'number'
                 'exponent', 1.5, 'positive'

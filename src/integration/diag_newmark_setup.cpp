@@ -33,6 +33,9 @@ Knots timesOfGain(const mxArray* value) {
     host::refuse("the integrator's gaint must be finite and ascend (two equal times are a jump), got %g in place %d", times.data[wrong],
                  wrong + 1);
   }
+  if (!knots.spanIsFinite()) {
+    host::refuse("the integrator's gaint goes from %g to %g: the time between them is beyond all numbers", knots.first(), knots.last());
+  }
   return knots;
 }
 

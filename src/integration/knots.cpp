@@ -10,8 +10,10 @@ int Knots::firstWrong() const {
     if (k > 0 && time(k) < time(k - 1)) return k;
     if (k > 1 && time(k) == time(k - 2)) return k;
   }
-  return n > 0 && !std::isfinite(last() - first()) ? n - 1 : n;
+  return n;
 }
+
+bool Knots::spanIsFinite() const { return n == 0 || std::isfinite(last() - first()); }
 
 KnotPlace Knots::find(double t) {
   int k = cursor;

@@ -22,9 +22,10 @@ class Knots {
   double first() const { return time(0); }
   double last() const { return time(n - 1); }
   bool covers(double t) const { return n > 0 && t >= first() && t <= last(); }
-  /// The first time, counted from 0, that is not finite, below the one before it, or the third of equal ones; n where there is none. The
-  /// span of the times must be finite as well: otherwise the last one is named.
+  /// The first time, counted from 0, that is not finite, below the one before it, or the third of equal ones; n where there is none.
   int firstWrong() const;
+  /// Whether the time from the first to the last one is a number: that from -1e308 to 1e308 s is not, and no weight can be told.
+  bool spanIsFinite() const;
   /// The place of t, which the times must cover. It depends on t alone; the search begins where the last one ended.
   KnotPlace find(double t);
 

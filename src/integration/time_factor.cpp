@@ -38,6 +38,9 @@ void TimeFactor::read(const mxArray* value, const char* owner) {
     host::refuse("the times of %s must be finite and ascend (two equal ones are a jump), got %g in column %d", name.text,
                  all.data[2 * static_cast<std::ptrdiff_t>(wrong)], wrong + 1);
   }
+  if (!knots.spanIsFinite()) {
+    host::refuse("the times of %s go from %g to %g: the time between them is beyond all numbers", name.text, knots.first(), knots.last());
+  }
   for (int k = 0; k < n; ++k) {
     const double* y = all.data + 2 * static_cast<std::ptrdiff_t>(k) + 1;
     if (!std::isfinite(y[0])) host::refuse("%s must be finite, got %g in row 2, column %d", name.text, y[0], k + 1);

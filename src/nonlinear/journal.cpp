@@ -2,6 +2,7 @@
 
 #include "host/errors.h"
 #include "nonlinear/shaft_laws.h"
+#include "numbers/plane_length.h"
 
 namespace quarn {
 
@@ -53,7 +54,7 @@ void FuJournal(chandleNl_inout* h, ROr ro) {
   for (int i = 0; i < h->unlLen; i += 2) {
     double x = (h->unl[i] - h->opt[7]) / clearance;
     double y = (h->unl[i + 1] - h->opt[8]) / clearance;
-    const double eccentricity = std::sqrt(x * x + y * y);
+    const double eccentricity = planeLength(x, y);
     if (eccentricity > h->opt[9]) h->opt[9] = eccentricity;
     if (eccentricity > most) {
       x = x * (most / eccentricity);
@@ -61,7 +62,7 @@ void FuJournal(chandleNl_inout* h, ROr ro) {
     }
     const double a = y * spin + 2.0 * (h->vnl[i] / clearance);
     const double b = x * spin - 2.0 * (h->vnl[i + 1] / clearance);
-    const double n = std::sqrt(a * a + b * b);
+    const double n = planeLength(a, b);
     if (n == 0.0) {
       h->snl[i] = 0.0;
       h->snl[i + 1] = 0.0;

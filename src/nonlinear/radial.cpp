@@ -4,6 +4,7 @@
 #include "nonlinear/laws.h"
 #include "nonlinear/shaft_laws.h"
 #include "nonlinear/state_laws.h"
+#include "numbers/plane_length.h"
 
 namespace quarn {
 
@@ -30,7 +31,7 @@ void FuRadial(chandleNl_inout* h, ROr ro) {
   for (int i = 0; i < h->unlLen; i += 2) {
     const double x = h->unl[i] - h->opt[9];
     const double y = h->unl[i + 1] - h->opt[10];
-    const double r = std::sqrt(x * x + y * y);
+    const double r = planeLength(x, y);
     if (r <= gap) {
       h->snl[i] = 0.0;
       h->snl[i + 1] = 0.0;
@@ -42,7 +43,7 @@ void FuRadial(chandleNl_inout* h, ROr ro) {
     const double sliding = nx * h->vnl[i + 1] - ny * h->vnl[i] + surface;
     double normal = stiffness * std::pow(r - gap, exponent) * (1.0 + damping * deepening);
     if (normal < 0.0) normal = 0.0;
-    const double speed = std::sqrt(sliding * sliding + smooth * smooth);
+    const double speed = planeLength(sliding, smooth);
     const double tangent = speed == 0.0 ? 0.0 : friction * normal * (sliding / speed);
     h->snl[i] = normal * nx - tangent * ny;
     h->snl[i + 1] = normal * ny + tangent * nx;

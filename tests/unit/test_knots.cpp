@@ -70,18 +70,16 @@ TEST(Knots, StayInsideATableThatHasBeenWrittenInto) {
 
 TEST(Knots, NameTheFirstTimeThatIsWrong) {
   const double inf = std::numeric_limits<double>::infinity();
-  const std::vector<std::pair<std::vector<double>, int>> cases{{{}, 0},
-                                                               {{5}, 1},
-                                                               {{1, 2, 3}, 3},
-                                                               {{1, 1, 2, 2}, 4},
-                                                               {{1, 1, 1}, 2},
-                                                               {{2, 1}, 1},
-                                                               {{std::nan("")}, 0},
-                                                               {{0, inf}, 1},
-                                                               {{-1e308, 0, 1e308}, 2},
-                                                               {{-inf, 0}, 0},
-                                                               {{0, 1, 1, 1}, 3}};
+  const std::vector<std::pair<std::vector<double>, int>> cases{{{}, 0},        {{5}, 1},         {{1, 2, 3}, 3},      {{1, 1, 2, 2}, 4},
+                                                               {{1, 1, 1}, 2}, {{2, 1}, 1},      {{std::nan("")}, 0}, {{0, inf}, 1},
+                                                               {{-inf, 0}, 0}, {{0, 1, 1, 1}, 3}};
   for (const auto& [x, wrong] : cases) EXPECT_EQ(Knots(x.data(), 1, static_cast<int>(x.size())).firstWrong(), wrong);
+}
+
+TEST(Knots, TellWhetherTheTimeBetweenThemIsANumber) {
+  const std::vector<std::pair<std::vector<double>, bool>> cases{
+      {{}, true}, {{1e308}, true}, {{-8e307, 8e307}, true}, {{-1e308, 0, 1e308}, false}};
+  for (const auto& [x, finite] : cases) EXPECT_EQ(Knots(x.data(), 1, static_cast<int>(x.size())).spanIsFinite(), finite);
 }
 
 }  // namespace

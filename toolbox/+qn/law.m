@@ -76,6 +76,11 @@ function law = law (kind, varargin)
       error ('qn:input', '%s: "%s" must ascend, but value %d is %g and value %d is %g; sort the table by it', who, name{1}, k, x(k), ...
              k + 1, x(k + 1));
     end
+    k = find (isinf (diff (x)), 1);
+    if ~isempty (k)
+      error ('qn:input', '%s: "%s" goes from %g to %g between value %d and value %d: the distance is beyond all numbers', who, name{1}, x(k), ...
+             x(k + 1), k, k + 1);
+    end
   end
   for name = of_sort (l, 'sign')
     if ~any (p.(name{1}) == [1 -1]), error ('qn:input', '%s: "%s" must be 1 or -1, got %g', who, name{1}, p.(name{1})); end

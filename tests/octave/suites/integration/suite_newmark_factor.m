@@ -286,7 +286,8 @@ function test_factors_that_are_no_tables_of_time_are_refused ()
               'ab', [of 'must be a full real double array, got char 1x2']
               [0 NaN 1; 1 1 1], [times 'nan in column 2']
               [0 1 Inf; 1 1 1], [times 'inf in column 3']
-              [-1e308 0 1e308; 1 1 1], [times '1e+308 in column 3']
+              [-1e308 0 1e308; 1 1 1], sprintf('element %d : the times of the factor of %s go from -1e+308 to 1e+308: the time between %s', ...
+                                               k, names{k}, 'them is beyond all numbers')
               [0 2 1; 1 1 1], [times '1 in column 3']
               [0 1 1 1 2; 1 2 3 4 5], [times '1 in column 4']
               [0 1; 1 NaN], [of 'must be finite, got nan in row 2, column 2']
@@ -354,6 +355,7 @@ function test_gains_whose_pages_and_times_do_not_fit_are_refused ()
             pages, [1 0], [times '0 in place 2']
             pages, [0 Inf], [times 'inf in place 2']
             zeros(3, 3, 3), [1 1 1], [times '1 in place 3']
+            pages, [-1e308 1e308], 'the integrator''s gaint goes from -1e+308 to 1e+308: the time between them is beyond all numbers'
             pages, single([0 1]), 'the integrator''s gaint must be a full real double array, got single 1x2'
             pages, 'ab', 'the integrator''s gaint must be a full real double array, got char 1x2'
             NaN(3, 3, 2), [0 1], 'the integrator''s gain must be finite, got nan in row 1, column 1'};

@@ -184,3 +184,17 @@ function test_both_formulas_of_a_film_that_opens_meet ()
   [a, b] = deal (at (-turn - 1e-9), at (-turn + 1e-9));
   expect_equal (a, b, 1e-8 * norm (a));
 end
+
+function test_far_out_the_film_is_that_of_the_limit_in_the_same_direction ()
+  % Squares of what is beyond 1.3e154 are beyond all numbers: the journal must not come back to the middle.
+  want = force (element (), 0.99e-4 * [0.6; 0.8], [0; 0]);
+  for far = [1 1e149 1e160 1e300]
+    [f, e] = force (element (), far * [0.6; 0.8], [0; 0]);
+    expect_equal (f, want, 1e-9 * norm (want));
+    expect_equal (e.opt(10), far * 1e4, far * 1e-9);
+  end
+  % A film squeezed slowly or quickly has a force in proportion.
+  for v = [1e-175 1e155]
+    expect_equal (force (element (with (5, 0)), [0; 0], [3; 4] * v) / v, force (element (with (5, 0)), [0; 0], [3; 4]), 1e-9 * norm (want));
+  end
+end

@@ -98,6 +98,20 @@ function test_what_is_not_a_number_does_not_vanish ()
   expect_equal (force (element (), [3; 0], [0; NaN])(2), NaN);
 end
 
+% Squares of what is beyond 1.3e154 are beyond all numbers, those of what is below 1.5e-162 are 0.
+function test_squares_may_be_beyond_all_numbers ()
+  far = element ([1e200 1e-180 1 0 0.25 0 2 3 0 0]);
+  expect_equal (force (far, [3e200; 4e200], [0; 0]), 4e20 * [0.6 - 0.25 * 0.8; 0.8 + 0.25 * 0.6], 1e6);
+  expect_equal (force (far, [0.6e200; -0.7e200], [0; 0]), [0; 0]);
+  % And those of the speed of sliding, and of its onset.
+  expect_equal (force (element (with ([4 6], [0 3e200])), [3; 0], [0; 4e200]), [10; 2.5 * 0.8], 1e-12);
+end
+
+function test_squares_may_be_below_all_numbers ()
+  near = element ([0 1e180 1 0 0.25 0 2 3 0 0]);
+  expect_equal (force (near, [3e-170; 4e-170], [0; 0]), 5e10 * [0.6 - 0.25 * 0.8; 0.8 + 0.25 * 0.6], 1e-4);
+  expect_equal (force (element (with ([4 6 8], [0 3e-200 0])), [3; 0], [0; 4e-200]), [10; 2.5 * 0.8], 1e-12);
+end
 
 function test_forces_go_over_the_displacements_where_there_is_no_place_for_them ()
   e = element ();

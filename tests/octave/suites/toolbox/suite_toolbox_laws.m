@@ -22,6 +22,10 @@ function test_mistakes_in_laws_are_explained ()
   expect_error (@() qn.law ('power', 'k', 1), 'qn:input', '~no parameter called "k"; there are stiffness, exponent');
   expect_error (@() qn.law ('power', 'stiffness', [1 2], 'exponent', 1), 'qn:input', '~one finite real number');
   expect_error (@() qn.law ('table', 'displacement', [0 2 1], 'force', [0 1 2]), 'qn:input', '~must ascend');
+  % The module would divide by an infinite distance and give the first force everywhere.
+  expect_error (@() qn.law ('table', 'displacement', [0 1e308] - 8e307 * [1 0], 'force', [0 1]), 'qn:input', ...
+                'qn.law, ''table'': "displacement" goes from -8e+307 to 1e+308 between value 1 and value 2: the distance is beyond all numbers');
+  expect_equal (qn.force (qn.law ('table', 'displacement', [-1e308 -1 1 7e307], 'force', [-2 -2 2 2]), [-5 0 5]), [-2 0 2]);
   expect_error (@() qn.law ('table', 'displacement', [0 2], 'force', [0 1 2]), 'qn:input', '~has 2 values and "force" has 3');
   expect_error (@() qn.slider ('slip', 0, 'stiffness', 1), 'qn:input', '~must be above 0');
   expect_error (@() qn.maxwell ('springs', [1 2], 'times', 1), 'qn:input', '~"times" must be 2 values, one a spring');

@@ -56,7 +56,7 @@ end
 % The greatest; 0 where no displacements are known.
 function e = eccentricity (p, x)
   e = 0;
-  if ~isempty (x), e = max (sqrt ((x(1, :) - p.x0) .^ 2 + (x(2, :) - p.y0) .^ 2)) / p.clearance; end
+  if ~isempty (x), e = max (hypot (x(1, :) - p.x0, x(2, :) - p.y0)) / p.clearance; end
 end
 
 % A shaft that turns feeds the motion.

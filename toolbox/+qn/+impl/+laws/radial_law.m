@@ -75,9 +75,9 @@ function v = reserve (p, x, state)
 end
 
 function r = away (p, x)
-  r = sqrt ((x(1, :) - p.x0) .^ 2 + (x(2, :) - p.y0) .^ 2);
+  r = hypot (x(1, :) - p.x0, x(2, :) - p.y0);
 end
 
 function r = reach (p)
-  r = max (0, p.gap - sqrt (p.x0 ^ 2 + p.y0 ^ 2));
+  r = max (0, p.gap - hypot (p.x0, p.y0));
 end

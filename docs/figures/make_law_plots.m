@@ -2,13 +2,18 @@
 %
 %   octave-cli --no-history -qf --path MODULE_DIR --path docs/figures --eval make_law_plots
 %   make_law_plots                draws all of them
-%   make_law_plots ('maxwell')    draws one, by the name of its function below
+%   make_law_plots ('Maxw')       draws one, by its keyword
 function make_law_plots (only)
-  if exist ('graphics_toolkit'), graphics_toolkit ('gnuplot'); end
-  laws = {@power, @exponential, @table, @maxwell, @dahl, @stick_slip, @clima2, @damper, @radial, @film, @impact, @user, @bouc_wen};
-  for k = 1:numel (laws)
-    if nargin == 0 || strcmp (only, func2str (laws{k})), laws{k} (); end
+  laws = {'Power', @power; 'Expon', @exponential; 'Table', @table; 'Damper', @damper; 'Contact', @contact; 'Maxw', @maxwell; ...
+          'DahlC', @dahl; 'sts', @stick_slip; 'BoucWen', @bouc_wen; 'Clima2', @clima2; 'Radial', @radial; 'Journal', @film; ...
+          'User', @user};
+  if nargin > 0
+    known = strjoin (laws(:, 1).', ', ');
+    laws = laws(strcmp (laws(:, 1), only), :);
+    if isempty (laws), error ('make_law_plots draws no law "%s"; it draws %s', only, known); end
   end
+  if exist ('graphics_toolkit'), graphics_toolkit ('gnuplot'); end
+  for k = 1:size (laws, 1), laws{k, 2} (); end
 end
 
 function power ()
@@ -148,7 +153,7 @@ function film ()
 end
 
 % A mass of 1 kg hits the stop at x = 1 mm and leaves it: central differences, which need no more than the force.
-function impact ()
+function contact ()
   e = element ('Contact', [1e6 1.5 0.5 1e-3 1], 1);
   speeds = [0.25 0.5 1];
   h = 1e-5;

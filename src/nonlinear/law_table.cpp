@@ -21,20 +21,15 @@ constexpr LawRow row(const char* keyword, NlForceLaw law, NlLawCheck check, bool
   return {keyword, codeOf(keyword), law, check, needsPages};
 }
 
+/// In the order of every list of laws that is read: memoryless ones first, then those with states, of shafts, of the user.
 constexpr LawRow laws[] = {
-    row("Power", FuPower, checkPower),
-    row("Maxw", Maxw, checkMaxw),
-    row("Table", FuTable, checkTable),
-    row("Expon", FuExpon, checkExpon),
-    row("DahlC", FuDahlC, checkDahlC, true),
-    row("Clima2", Clima2, checkClima2, true),
-    row("sts", STS, checkSts),
-    row("Damper", FuDamper, checkDamper),
-    row("Radial", FuRadial, checkRadial),
-    row("Journal", FuJournal, checkJournal),
-    row("Contact", FuContact, checkContact),
+    row("Power", FuPower, checkPower),       row("Expon", FuExpon, checkExpon),
+    row("Table", FuTable, checkTable),       row("Damper", FuDamper, checkDamper),
+    row("Contact", FuContact, checkContact), row("Maxw", Maxw, checkMaxw),
+    row("DahlC", FuDahlC, checkDahlC, true), row("sts", STS, checkSts),
+    row("BoucWen", FuBoucWen, checkBoucWen), row("Clima2", Clima2, checkClima2, true),
+    row("Radial", FuRadial, checkRadial),    row("Journal", FuJournal, checkJournal),
     row("User", FuUser, checkUser),
-    row("BoucWen", FuBoucWen, checkBoucWen),
 };
 
 static_assert(codeOf("Power") == 491328597840 && codeOf("Clima2") == 55394028842051 && codeOf("sts") == 7566451);

@@ -79,19 +79,19 @@ class chandleNl_inout final : public chandle {
   double* bWork = nullptr;        ///< work vector of the scatter, host memory of the current call; zero between the steps if bSparse
   bool bSparse = false;           ///< b touches few of its columns
   bool pagesApart = false;        ///< unl and vnl lie apart from the state that they are observed from
-  bool optApart = false;          ///< and so do the law's parameters
-  bool cApart = false;            ///< and the values of c as well
-  bool bSingles = false;          ///< and each of its lines has at most one entry, in a column of its own
+  bool optApart = false;          ///< the law's parameters lie apart from what a run writes
+  bool cApart = false;            ///< the values of c lie apart from what a run writes
+  bool bSingles = false;          ///< each line of b has at most one entry, in a column of its own; bSparse holds
   bool cSingles = false;          ///< each line of c has at most one entry
   int* cRuns = nullptr;           ///< full lines of c that are summed together, host memory of the current call; null where none is full
   int cLength = 0;                ///< entries of each line of c where all lines are full, with the same indices; else 0
-  const double* cRows = nullptr;  ///< their values
-  int cFirst = 0;                 ///< and their first place
+  const double* cRows = nullptr;  ///< values of those lines
+  int cFirst = 0;                 ///< their first index
   bool together = false;          ///< unl and vnl are observed in one pass over c
   bool bBlock = false;            ///< the lines of b are full, or empty
-  int bFirst = 0;                 ///< their places
-  int bLength = 0;
-  bool bOne = false;              ///< and b has one line
+  int bFirst = 0;                 ///< first index of those full lines
+  int bLength = 0;                ///< entries of each of them
+  bool bOne = false;              ///< b has one line, and bBlock holds
   const double* bRows = nullptr;  ///< values of b, or those of c where they are the same: in cache from the observation
 };
 

@@ -1,7 +1,6 @@
 // Nonlinear elements: every law with parameters that fit, mostly.
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <string>
 
 #include "models.h"
@@ -11,6 +10,7 @@ namespace fuzz {
 
 namespace {
 
+/// Inputs of the corpus pick by place: new ones go to the end.
 constexpr const char* lawWords[] = {"Power",  "Maxw",   "Table",   "Expon",   "DahlC", "Clima2", "sts",
                                     "Damper", "Radial", "Journal", "Contact", "User",  "BoucWen"};
 
@@ -48,10 +48,10 @@ int offset(Bytes& in, std::size_t usual) {
   return i > -2147483647 ? i - 1 : i;
 }
 
-Law makeLaw(Bytes& in, const char* word, std::size_t which) {
-  Law law{{lawCode(word)}, {offset(in, 6), offset(in, 4), in.index(2), in.index(3), in.index(3)}, 1 + in.below(4), 1 + in.below(4)};
+Law makeLaw(Bytes& in, const std::string& word) {
+  Law law{{lawCode(word.c_str())}, {offset(in, 6), offset(in, 4), in.index(2), in.index(3), in.index(3)}, 1 + in.below(4), 1 + in.below(4)};
   for (int k = 1; k < 7; ++k) law.opt.push_back(in.number());
-  if (which == 1) {  // Maxw
+  if (word == "Maxw") {
     const int q = in.rarely(8) ? in.index(4) : 1;
     const int m = in.rarely(4) ? in.index(4) : q;
     const int elements = 1 + static_cast<int>(in.below(3));
@@ -61,18 +61,18 @@ Law makeLaw(Bytes& in, const char* word, std::size_t which) {
     law.opt[3] = in.rarely(6) ? -1.0 : 1.0 + static_cast<double>(in.below(5));
     while (law.opt.size() < 40) law.opt.push_back(in.number());
   }
-  if (which == 2) addTable(in, law, static_cast<int>(in.below(6)), static_cast<int>(in.below(3)));
-  if (std::strcmp(word, "User") == 0) {
+  if (word == "Table") addTable(in, law, static_cast<int>(in.below(6)), static_cast<int>(in.below(3)));
+  if (word == "User") {
     const int states = law.iopt[3];
     if (states >= 0) law.iopt[2] = static_cast<int>(law.page) - states;
     law.iopt[4] = 1;
   }
-  if (which == 4 || which == 5) law.pages = 2 + in.below(3);
-  if (which == 5) {
+  if (word == "DahlC" || word == "Clima2") law.pages = 2 + in.below(3);
+  if (word == "Clima2") {
     law.page = 5 * (1 + in.below(2));
     addTable(in, law, 1 + static_cast<int>(in.below(5)), 2);
   }
-  if (std::string(word) == "Radial" || std::string(word) == "Journal") {
+  if (word == "Radial" || word == "Journal") {
     law.page = 2 * (1 + in.below(3)) + in.below(20) / 19;
     law.opt[1] = std::abs(law.opt[1]);  // gap
     law.opt[4] = std::abs(law.opt[4]);  // clearance
@@ -105,11 +105,11 @@ void bound(mxArray* opt, mxArray* iopt) {
 
 mxArray* elementValue(Maker& make, std::size_t n) {
   Bytes& in = make.in;
-  const std::size_t which = in.below(sizeof lawWords / sizeof *lawWords);
-  const bool user = std::strcmp(lawWords[which], "User") == 0;
-  const Law law = makeLaw(in, lawWords[which], which);
+  const std::string word = lawWords[in.below(sizeof lawWords / sizeof *lawWords)];
+  const bool user = word == "User";
+  const Law law = makeLaw(in, word);
   const std::size_t observed = in.rarely(6) ? in.below(8) : law.page;
-  const std::size_t forces = law.page * (which == 2 ? 2 : 1);
+  const std::size_t forces = law.page * (word == "Table" ? 2 : 1);
   mxArray* opt = make.doubles(law.opt.size());
   if (double* values = ordinary(opt)) std::copy_n(law.opt.begin(), std::min(law.opt.size(), mxGetNumberOfElements(opt)), values);
   mxArray* iopt = make.int32s(law.iopt);

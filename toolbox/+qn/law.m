@@ -9,10 +9,14 @@
 %
 % Input
 %   KIND and its parameters (names marked with * have a default)
-%   'power'        stiffness [N/m^p], exponent p              force = stiffness * x^p. With an exponent that is not a whole number, x
-%                                                            must not be negative.
+%   'power'        stiffness [N/m^p], exponent p             force = stiffness * x^p. With an exponent that is not a whole number, x
+%                                                            must not be negative
 %   'exponential'  scale [N], base                           force = scale * base^x, x in m
 %   'table'        displacement [m], force [N]               linear between the knots, which ascend; beyond them the end segments continue
+%   'damper'       damping [N (s/m)^a], exponent* a (1)      force = damping * |v|^a with the sign of the velocity v
+%   'contact'      stiffness [N/m^p], exponent* p (1.5),     one-sided stop: stiffness * d^p (1 + damping * d') and never below 0, where
+%                  damping* [s/m] (0), gap* [m] (0),         side * x is beyond the gap by d > 0; side is 1 or -1 (Hunt and Crossley
+%                  side* (1)                                 1975). See qn.contact.
 %   'maxwell'      springs [N/m], dampers [N s/m],           spring-and-damper branches in parallel, and a spring beside them; the
 %                  stiffness* [N/m] (0)                      states advance by the explicit Euler rule
 %   'dahl'         stiffness [N/m], slip [N], exponent* (1)  dF/dx = stiffness * (1 - F/slip * sign (v))^exponent. Exponent 0: an elastic
@@ -20,10 +24,11 @@
 %   'stickslip'    contact [N/m], slip [N],                  the module's stick-slip law: the slider moves when the spring force
 %                  stiffness* [N/m] (0), ground* [N/m] (0)   truncated to whole newtons reaches the slip force, and the spring force
 %                                                            then changes its sign. For Coulomb friction use 'dahl' or qn.slider.
+%   'boucwen'      stiffness [N/m], ratio, beta [1/m^n],     stiffness * (ratio * x + (1 - ratio) * z), z' = A v - beta |v| |z|^(n-1) z
+%                  gamma [1/m^n], exponent* n (1), A* (1)    - gamma v |z|^n (Bouc 1967, Wen 1976). See qn.boucwen.
 %   'clima2'       displacement [m], normal [N],             two Dahl branches whose slip force is friction * normal(x3) and whose
 %                  growth [N/m], friction, exponent* (1),    stiffness is growth(x3), tables of a third displacement x3, and the
 %                  stiffness* [N/m] (0), offset* [N] (0)     force normal(x3) - offset along it. Observes three displacements.
-%   'damper'       damping [N (s/m)^a], exponent* a (1)      force = damping * |v|^a with the sign of the velocity v
 %   'radial'       gap [m], stiffness [N/m^p],               a round shaft in a round clearance around x0, y0: force
 %                  exponent* p (1), damping* [s/m] (0),      stiffness * d^p * (1 + damping * d') along the radius, d the depth beyond
 %                  friction* (0), onset* [m/s] (0.01),       the gap, and friction times that against sliding, with the surface speed
@@ -32,9 +37,6 @@
 %   'journal'      viscosity [Pa s], length [m], radius [m], oil film of a short plain bearing around x0, y0 (Ocvirk), of a journal that
 %                  clearance [m], speed [rad/s],             turns at speed; up to the eccentricity limit, in parts of the clearance.
 %                  limit* (0.99), x0*, y0* [m] (0)           Observes two displacements and their velocities. See qn.journal.
-%   'contact'      stiffness [N/m^p], exponent* p (1.5),     one-sided stop: stiffness * d^p (1 + damping * d') and never below 0, where
-%                  damping* [s/m] (0), gap* [m] (0),         side * x is beyond the gap by d > 0; side is 1 or -1 (Hunt and Crossley
-%                  side* (1)                                 1975). See qn.contact.
 %   'compiled'     FILE, parameters* ([]), states* (0),      a law of your own in C, in FILE.c (name of the parameter: file); compiled
 %                  rows* (1), hash* ('')                     once. The help of states and rows is that of 'function'; hash is that of
 %                                                            the content, found by qn.law. See docs/user_laws.md
@@ -42,8 +44,6 @@
 %                                                            slower: f = call (x, v, s, t), or [f, s] = call (x, v, s, t) with states.
 %                                                            It observes that many rows and keeps that many states, up to 2000
 %                                                            of each; columns
-%   'boucwen'      stiffness [N/m], ratio, beta [1/m^n],     stiffness * (ratio * x + (1 - ratio) * z), z' = A v - beta |v| |z|^(n-1) z
-%                  gamma [1/m^n], exponent* n (1), A* (1)    - gamma v |z|^n (Bouc 1967, Wen 1976). See qn.boucwen.
 %
 % Output
 %   LAW   struct: kind, parameters (struct of the values), note (text)

@@ -50,6 +50,30 @@ function test_a_place_that_the_guide_does_not_name_is_reported ()
   expect_equal (new_problems (root), {'CONTRIBUTING.md does not name tests/octave/support/random_law.m under "Add a force law"'});
 end
 
+function test_a_list_of_laws_in_another_order_than_the_table_is_reported ()
+  [root, away] = copy_of_places ();
+  orders = recipe_places ();
+  for list = orders.orders.'
+    file = fullfile (root, list{1});
+    text = fileread (file);
+    [first, last, laws] = regexp (text, list{2}, 'start', 'end', 'tokens', 'lineanchors');
+    if numel (laws) < 13, error ('only %d laws found in %s by %s', numel (laws), list{:}); end
+    put_file (file, [text(1:first(2)-1), text(first(3):last(3)), text(last(2)+1:first(3)-1), text(first(2):last(2)), text(last(3)+1:end)]);
+    problems = new_problems (root);
+    put_file (file, text);
+    wanted = sprintf ('the laws of %s are not in the order of the table in src: "%s" is before "%s"', list{1}, laws{3}{1}, laws{2}{1});
+    expect_equal (problems, {wanted});
+  end
+end
+
+function test_a_plot_of_an_unknown_law_says_which_are_drawn ()
+  figures = fullfile (project_folder (), 'docs', 'figures');
+  addpath (figures);
+  away = onCleanup (@() rmpath (figures));
+  tables = source_tables ();
+  expect_error (@() make_law_plots ('tanh'), '', ['make_law_plots draws no law "tanh"; it draws ' strjoin(tables.laws, ', ')]);
+end
+
 function test_a_table_that_is_not_found_is_reported ()
   [root, away] = copy_of_places ();
   delete (fullfile (root, 'src', 'nonlinear', 'law_table.cpp'));
@@ -82,8 +106,9 @@ end
 function [root, away] = copy_of_places ()
   [root, away] = new_folder ();
   places = recipe_places ();
+  orders = places.orders;
   places = [places.commands, places.laws, places.types];
-  paths = unique ([{'src', 'CONTRIBUTING.md', 'docs/images', 'tests/octave/models'}, {places.path}]);
+  paths = unique ([{'src', 'CONTRIBUTING.md', 'docs/images', 'tests/octave/models'}, {places.path}, orders(:, 1).']);
   for path = paths(cellfun (@isempty, strfind (paths, '%')))
     to = fileparts (fullfile (root, path{1}));
     if ~exist (to, 'dir'), mkdir (to); end

@@ -47,7 +47,7 @@ function test_the_toolbox_knows_every_law_of_the_module ()
     error (['the law %s of the module is none of the toolbox: write toolbox/+qn/+impl/+laws/NAME_law.m after exponential_law.m and ' ...
             'call it in law_list.m'], strjoin (missing, ', '));
   end
-  expect_equal (unique ({list.keyword}), sort (tables.laws));     % two laws of the toolbox are one of the module's
+  expect_equal (unique ({list.keyword}, 'stable'), tables.laws);  % in the module's order; two laws of the toolbox are one of the module's
 end
 
 function test_help_and_selftest_name_every_law ()
@@ -55,6 +55,15 @@ function test_help_and_selftest_name_every_law ()
   text = fileread (file);
   text = text(1:regexp (text, '\nfunction ', 'once'));
   checks = qn.impl.selftest_laws ();
+  list = qn.impl.law_list ();
+  rows = regexp (text, '^%   ''(\w+)'' +\S.*$', 'tokens', 'lineanchors', 'dotexceptnewline');
+  expect_equal ([rows{:}], {list.kind});                          % in the order of the list
+  rows = regexp (text, '^%   ''\w+'' .*$', 'match', 'lineanchors', 'dotexceptnewline');
+  for row = rows
+    if row{1}(61) ~= ' ' || row{1}(62) == ' '
+      error ('help qn.law: the force begins in column 62, in other than "%s"', row{1});
+    end
+  end
   for l = qn.impl.law_list ()
     if isempty (strfind (text, ['''' l.kind ''''])), error ('help qn.law does not name the law %s', l.kind); end
     for name = l.parameters(:, 1).'

@@ -214,7 +214,7 @@ function test_a_seal_whose_mass_is_unsymmetric_or_negative_is_refused_with_its_p
             {2, 1, 1, [2 1; -1 2]}, 'the mass "seals{1, 4}" at node 2 is not symmetric: M - M.'' is 0.89 of it'
             {2, 1, 1, -3}, 'the mass "seals{1, 4}" at node 2 is negative in one direction: its least eigenvalue is -3'
             {2, 1, 1, [1 2; 2 1]}, 'the mass "seals{1, 4}" at node 2 is negative in one direction: its least eigenvalue is -1'
-            {2, 1, 1, @(w) 5 - w}, 'the mass "seals{1, 4}" at node 2 at 9 rad/s is negative in one direction: its least eigenvalue is -4'};
+            {2, 1, 1, @(w) 5 - w}, 'the mass "seals{1, 4} at 9 rad/s" at node 2 is negative in one direction: its least eigenvalue is -4'};
   for k = 1:size (trials, 1)
     expect_error (@() qn.rotor (ok{:}, 'seals', trials{k, 1}, 'speed', 9), 'qn:input', ['~' regexptranslate('escape', trials{k, 2})]);
   end

@@ -1,6 +1,6 @@
 % PROBLEMS = RECIPE_PROBLEMS (ROOT)  rows of the tables of the sources below ROOT that are missing in a place of RECIPE_PLACES
 %
-% A cell row of texts, each with the row, what to add, and where. A place that the guide for contributors does not name under the heading
+% A cell row of texts, each with the row, what to add, and where. A list of laws in another order than the table, a place that the guide for contributors does not name under the heading
 % of its table, and a table without rows, are problems as well.
 function problems = recipe_problems (root)
   tables = source_tables (root);
@@ -24,6 +24,20 @@ function problems = recipe_problems (root)
         problems{end + 1} = sprintf ('CONTRIBUTING.md does not name %s under "%s"', shown (place.path), headings.(table{1}));
       end
     end
+  end
+  for list = places.orders.', problems = [problems, order_problem(root, list{:}, tables.laws)]; end
+end
+
+% A list that has two laws the other way round than the table.
+function problem = order_problem (root, path, pattern, laws)
+  listed = regexp (text_of (root, path), pattern, 'tokens', 'lineanchors');
+  listed = unique ([listed{:}, {}], 'stable');
+  listed = listed(ismember (listed, laws));
+  [~, at] = ismember (listed, laws);
+  k = find (diff (at) < 0, 1);
+  problem = {};
+  if ~isempty (k)
+    problem = {sprintf('the laws of %s are not in the order of the table in src: "%s" is before "%s"', path, listed{k}, listed{k + 1})};
   end
 end
 

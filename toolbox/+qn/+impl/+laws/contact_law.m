@@ -21,7 +21,7 @@ end
 
 function text = words (p)
   sides = {'negative', 'positive'};
-  text = sprintf ('impact, force = %g * d^%g * (1 + %g * d'') beyond a gap of %g m on the %s side', p.stiffness, p.exponent, p.damping, ...
+  text = sprintf ('contact, force = %g * d^%g * (1 + %g * d'') beyond a gap of %g m on the %s side', p.stiffness, p.exponent, p.damping, ...
                   p.gap, sides{1 + (p.side > 0)});
 end
 

@@ -23,12 +23,15 @@ function list = supports (who, name, rows, r)
       error ('qn:input', '%s: "%s" stands on degree of freedom %d of the stator with x and with y; give two, [node a b]', ...
              who, label (1), at(2));
     end
-    values = cell (1, 3);
+    given = [rows(k, 2:end), cell(1, 4 - size (rows, 2))];    % K, C, M
     size_of = 2;
-    for j = 2:size (rows, 2)
-      values{j - 1} = value_of (who, label (j), rows{k, j});
-      if isnumeric (values{j - 1}), size_of = max (size_of, size (values{j - 1}, 1)); end
-      if isa (values{j - 1}, 'function_handle') && numel (at) == 1, size_of = max (size_of, size (r.places, 2)); end
+    for j = 1:3
+      if isa (given{j}, 'function_handle')
+        if numel (at) == 1, size_of = max (size_of, size (r.places, 2)); end
+      else
+        given{j} = value_of (who, label (j + 1), given{j});
+        if isnumeric (given{j}), size_of = max (size_of, size (given{j}, 1)); end
+      end
     end
     if numel (at) > 1 || size (r.places, 2) < 4, size_of = 2; end
     s = struct ('rows', zeros (size_of, n), 'K', [], 'C', [], 'M', [], 'source', []);
@@ -40,20 +43,26 @@ function list = supports (who, name, rows, r)
       s.rows(:, r.stator(at(2:3))) = s.rows(:, r.stator(at(2:3))) - eye (2);
     end
     names = 'KCM';
-    for j = 1:3, s.(names(j)) = widened (who, label (j + 1), values{j}, size_of); end
-    s.M = of_mass (who, sprintf ('%s" at node %d', label (4), at(1)), s.M);
+    for j = 1:3
+      checks = {@(name, x) value_of (who, name, x), @(name, x) wide (who, name, x, size_of)};
+      if j == 3, checks{3} = @(name, x) of_mass (who, name, at(1), x); end
+      if isa (given{j}, 'function_handle')
+        s.(names(j)) = @(speed) checked (checks, sprintf ('%s at %g rad/s', label (j + 1), speed), given{j} (speed));
+      else
+        s.(names(j)) = checked (checks(2:end), label (j + 1), given{j});
+      end
+    end
     if isa (s.K, 'function_handle'), s.source = rows{k, 2}; end
     list(end + 1) = s;
   end
 end
 
-% A number, two or a matrix as a matrix; functions of the speed give such ones, or a structure with stiffness and damping.
+function x = checked (checks, name, x)
+  for check = checks, x = check{1} (name, x); end
+end
+
+% A number, two or a matrix as a matrix, or a structure of stiffness and damping as {K, C}.
 function x = value_of (who, name, x)
-  if isa (x, 'function_handle')
-    f = x;
-    x = @(speed) value_of (who, sprintf ('%s at %g rad/s', name, speed), f (speed));
-    return
-  end
   if isstruct (x) && all (isfield (x, {'stiffness', 'damping'}))
     x = {value_of(who, name, x.stiffness), value_of(who, name, x.damping)};
     return
@@ -64,15 +73,6 @@ function x = value_of (who, name, x)
   if numel (x) == 2, x = diag (x); end
   if ~isequal (size (x), [2 2]) && ~isequal (size (x), [4 4])
     error ('qn:input', '%s: "%s" must be one value, two (along x and y), 2 x 2 or 4 x 4, got %d x %d', who, name, size (x));
-  end
-end
-
-function x = widened (who, name, x, n)
-  if isa (x, 'function_handle')
-    f = x;
-    x = @(speed) wide (who, name, f (speed), n);
-  else
-    x = wide (who, name, x, n);
   end
 end
 
@@ -93,18 +93,13 @@ function x = wide (who, name, x, n)
 end
 
 % An added mass: its energy is that of a symmetric matrix and is not negative.
-function x = of_mass (who, place, x)
-  if isa (x, 'function_handle')
-    f = x;
-    x = @(speed) of_mass (who, sprintf ('%s at %g rad/s', place, speed), f (speed));
-    return
-  end
+function x = of_mass (who, name, node, x)
   even = norm (x - x.', 'fro') / norm (x, 'fro');
   if even > 1e-6
-    error ('qn:input', '%s: the mass "%s is not symmetric: M - M.'' is %.2g of it', who, place, even);
+    error ('qn:input', '%s: the mass "%s" at node %d is not symmetric: M - M.'' is %.2g of it', who, name, node, even);
   end
   least = min (eig ((x + x.') / 2));
   if least < -1e-9 * norm (x, 'fro')
-    error ('qn:input', '%s: the mass "%s is negative in one direction: its least eigenvalue is %g', who, place, least);
+    error ('qn:input', '%s: the mass "%s" at node %d is negative in one direction: its least eigenvalue is %g', who, name, node, least);
   end
 end

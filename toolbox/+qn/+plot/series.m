@@ -40,22 +40,12 @@ function series (res, c, varargin)
     if any (rows > n), error ('qn:input', 'qn.plot.series: "ROWS" has %g; the result has %d rows of forces', max (rows), n); end
     y = res.force(rows, :);
     varargin(1) = [];
-    [factor, unit] = qn.impl.prefixed (y(:), 'N');
-    what = 'Force';
+    [what, unit] = deal ('Force', 'N');
   else
     y = qn.impl.observation_rows (res.sim.model, c, 'qn.plot.series: ') * res.q;
-    [factor, unit] = qn.impl.prefixed (y(:), 'm');
-    what = 'Displacement';
+    [what, unit] = deal ('Displacement', 'm');
   end
   names = {};
   if ~isempty (varargin), names = varargin{1}; end
-  k = qn.impl.thinned (numel (res.time), 6000);
-  [by, seconds] = qn.impl.prefixed (res.time, 's');
-  for j = 1:size (y, 1)
-    plot (by * res.time(k), factor * y(j, k), '-', 'color', qn.impl.colours (j), 'linewidth', qn.impl.width ());
-    hold on;
-  end
-  hold off;
-  set (gca (), 'xlim', by * res.time([1 end]));
-  qn.impl.style (sprintf ('%s history', what), sprintf ('Time [%s]', seconds), sprintf ('%s [%s]', what, unit), names);
+  qn.impl.histories (sprintf ('%s history', what), res.time, y, what, unit, names);
 end

@@ -159,7 +159,7 @@ function test_a_function_may_give_stiffness_and_damping_at_once_and_is_called_on
   b = qn.rotor ('nodes', [0 1], 'outer', 0.05, 'bearings', {1, [5 3; -3 6], [1 0; 0 2]; 2, [5 3; -3 6], [8 0; 0 9]});
   for name = 'MKC', expect_equal (r.(name), b.(name)); end
   expect_error (@() qn.rotor ('nodes', [0 1], 'outer', 1, 'bearings', {1, 5, @(w) counted(w)}, 'speed', 1), 'qn:input', ...
-                '~"bearings{1, 3}" takes no structure');
+                '~"bearings{1, 3} at 1 rad/s" takes no structure');
 end
 
 function x = counted (w)

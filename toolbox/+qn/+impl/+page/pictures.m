@@ -60,14 +60,5 @@ function energies_of (res)
   e = qn.energies (res);
   y = [e.kinetic + e.strain; e.stored; e.damped + e.dissipated; e.work; e.residual];
   names = {'in the modes', 'stored', 'damped', 'work of loads', 'residual'};
-  [factor, unit] = qn.impl.prefixed (y(:), 'J');
-  [by, seconds] = qn.impl.prefixed (e.time, 's');
-  k = qn.impl.thinned (numel (e.time), 4000);
-  for j = 1:size (y, 1)
-    plot (by * e.time(k), factor * y(j, k), '-', 'color', qn.impl.colours (j), 'linewidth', qn.impl.width ());
-    hold on;
-  end
-  hold off;
-  set (gca (), 'xlim', by * e.time([1 end]));
-  qn.impl.style ('Energies', sprintf ('Time [%s]', seconds), sprintf ('Energy [%s]', unit), names);
+  qn.impl.histories ('Energies', e.time, y, 'Energy', 'J', names);
 end

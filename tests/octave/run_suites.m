@@ -28,6 +28,10 @@ function counts = run_suites (names, options)
     if ~isfield (options, field{1}), options.(field{1}) = defaults.(field{1}); end
   end
   put_on_path (here, options);
+  if ~isempty (options.module) && ~options.quiet
+    newer = newer_source (fullfile (here, '..', '..', 'src'), options.module);
+    if ~isempty (newer), fprintf ('note: %s is newer than the module (scripts/build release quarn)\n', newer); end
+  end
   if isempty (names), names = every_suite (options.suites); end
   if ischar (names), names = {names}; end
   tests = struct ('suite', {}, 'name', {}, 'outcome', {}, 'text', {}, 'seconds', {});

@@ -12,6 +12,21 @@ function f = folder ()
   f = fullfile (project_folder (), 'tests', 'octave', 'support', 'runner_suites');
 end
 
+% A module that was built before the last change of the sources, whose results say nothing about it.
+function test_a_source_that_is_newer_than_the_module_is_named ()
+  [root, away] = new_folder ();
+  at = @(file, time) system (sprintf ('mkdir -p "$(dirname "%s/%s")" && touch -d "2024-05-06 07:0%d:00" "%s/%s"', root, file, time, root, file));
+  cellfun (at, {'src/base/a.h', 'src/b.cpp', 'src/text.md', 'module/quarn.mex'}, {1, 3, 9, 4});
+  [src, module] = deal (fullfile (root, 'src'), fullfile (root, 'module'));
+  expect_equal (newer_source (src, module), '');
+  at ('src/base/a.h', 5);
+  expect_equal (newer_source (src, module), fullfile (src, 'base', 'a.h'));
+  at ('module/quarn.mex', 6);
+  expect_equal (newer_source (src, module), '');
+  delete (fullfile (module, 'quarn.mex'));
+  expect_equal (newer_source (src, module), '');
+end
+
 function test_every_outcome_is_counted_and_said ()
   [counts, said] = run ('suite_with_every_outcome');
   expect_equal ([counts.passed, counts.failed, counts.skipped], [1 2 1]);

@@ -1,14 +1,14 @@
 % QN.CAMPBELL  whirl speeds, damping and critical speeds of a rotor over its speed of rotation
 %
 % Purpose
-%   The poles of M q'' + (C + W G) q' + K q = 0 at every speed W, followed from speed to speed by their shapes, with the direction of the
+%   The poles of M q'' + (C + W G) q' + (K + W N) q = 0 at every speed W, followed from speed to speed by their shapes, with the direction of the
 %   whirl; the critical speeds, where a whirl speed meets an order of the speed of rotation; and the speeds where a mode loses its damping.
 %
 % Calls
 %   D = qn.campbell (R, SPEEDS, ...)
 %
 % Input
-%   R        from qn.rotor, with bearings by speed or without, or a structure with the fields M, K and perhaps C and G [per rad/s]
+%   R        from qn.rotor, with bearings by speed or without, or a structure with the fields M, K and perhaps C, G and N [per rad/s]
 %   SPEEDS   speeds of rotation, ascending, two or more [rad/s]
 %   Names and values
 %     'modes'   how many modes to give: those with the lowest whirl speeds within SPEEDS, modes that are damped by 0.9 or more throughout
@@ -104,19 +104,32 @@ end
 function list = found (s, at, number, order, measure)
   list = struct ('speed', {}, 'order', {}, 'mode', {}, 'whirl', {}, 'damping', {}, 'direction', {}, 'shape', {});
   for mode = 1:size (number, 1)
+    was_damped = false;
     for k = 2:size (number, 2)
       [i, j] = deal (number(mode, k - 1), number(mode, k));
       if i == 0 || j == 0, continue, end
       first = measure (at{k - 1}.pole(i), at{k - 1}.speed);
       last = measure (at{k}.pole(j), at{k}.speed);
       if order == 0
-        if ~(first < -1e-8 * abs (at{k - 1}.pole(i)) && last > 1e-8 * abs (at{k}.pole(j))), continue, end
+        damped = first < -1e-8 * abs (at{k - 1}.pole(i));
+        lost = last > 1e-8 * abs (at{k}.pole(j));
+        if lost && ~damped && was_damped && abs (first) <= 1e-8 * abs (at{k - 1}.pole(i))
+          % One of the speeds is where the damping is lost.
+          list(end + 1) = entry (s, at{k - 1}, i, mode, order);
+        end
+        was_damped = damped || (was_damped && ~lost);
+        if ~(damped && lost), continue, end
       elseif (first > 0) == (last > 0)
         continue
       end
       [p, n] = qn.impl.rotor.crossing (s, at{k - 1}, i, at{k}, j, measure);
-      list(end + 1) = struct ('speed', p.speed, 'order', order, 'mode', mode, 'whirl', imag (p.pole(n)), ...
-                              'damping', -real (p.pole(n)) / abs (p.pole(n)), 'direction', p.whirl(n), 'shape', s.basis * p.shape(:, n));
+      list(end + 1) = entry (s, p, n, mode, order);
     end
   end
+end
+
+% Pole N of P.
+function x = entry (s, p, n, mode, order)
+  x = struct ('speed', p.speed, 'order', order, 'mode', mode, 'whirl', imag (p.pole(n)), ...
+              'damping', -real (p.pole(n)) / abs (p.pole(n)), 'direction', p.whirl(n), 'shape', s.basis * p.shape(:, n));
 end

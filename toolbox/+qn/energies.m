@@ -21,7 +21,8 @@
 %           dissipated        by elements with memory and by those that depend on the velocity
 %           exchanged         taken by elements that act elsewhere than they observe ("B" beside "C"); negative: put in
 %           circulatory       taken by the skew part of a full stiffness (bearings with cross terms); negative: put in, as in oil whirl.
-%                             In a run-up also by 'KG' of qn.modal, all of it
+%                             In a run-up also by all stiffness that changes with the speed or with its rate: 'KG', 'N' and
+%                             'by_speed' of qn.modal
 %           gyroscopic        taken by the skew part of a full damping matrix, in a run-up with the speed of each step: as the force is
 %                             at right angles to the velocity at the ends of a step, nothing to the order of the step squared.
 %                             What the drive does to keep to the speeds of a run-up is not in the model
@@ -53,9 +54,16 @@ function e = energies (res)
               'damped', between (c * v), 'dissipated', none, 'exchanged', none, 'circulatory', between (circulatory * q), ...
               'gyroscopic', between (gyroscopic * v), 'work', between (sim.shapes * sim.loads));
   if qn.impl.runs_up (sim)
-    [omega, slope] = qn.impl.speed_at (sim, sim.time);
-    e.gyroscopic = e.gyroscopic + between (qn.impl.turning_force (sim, omega, 0 * slope, q, v));
-    e.circulatory = e.circulatory + between (qn.impl.turning_force (sim, 0 * omega, slope, q, v));
+    for p = qn.impl.varying (sim)
+      if p.type == 1
+        e.circulatory = e.circulatory + between (qn.impl.turning_force (p, sim.time, q, v));
+        continue
+      end
+      [p.matrix, skew] = parts (p.matrix);
+      e.damped = e.damped + between (qn.impl.turning_force (p, sim.time, q, v));
+      p.matrix = skew;
+      e.gyroscopic = e.gyroscopic + between (qn.impl.turning_force (p, sim.time, q, v));
+    end
   end
   d = qn.dissipated (res);
   for k = 1:numel (d)

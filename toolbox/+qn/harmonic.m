@@ -24,7 +24,8 @@
 %                  1i * L{2, 1} of L = qn.unbalance (...) (0)
 %     'G'          gyroscopic matrix of the structure, n x n, skew: the damping gets 2 pi f * G. The model is the one at rest, made with
 %                  'speed', 0 ([]). With 'power' 2 a model with a gyroscopic matrix needs it: zeros (n) for one that stands still and
-%                  is shaken
+%                  is shaken. What else of the model depends on the speed, its 'N' and 'by_speed', then turns with the frequency as
+%                  well, also where G is zero
 %
 % Output
 %   R     struct: hertz      1 x k frequencies along the curve
@@ -34,7 +35,7 @@
 %
 % Errors
 %   qn:input     sizes do not fit, a value is not finite, or a law has a memory; 'power' 2 without 'G' for a model with a gyroscopic
-%                matrix at standstill
+%                or circulatory matrix at standstill; frequencies beyond the speeds of 'by_speed'
 %   qn:diverged  no solution at the first frequency
 %   The warning qn:harmonic says that with 'power' 2 the gyroscopic matrix keeps one speed, which is not that of an unbalance
 %
@@ -56,7 +57,8 @@ function r = harmonic (model, load, elements, hertz, varargin)
   o.step = qn.impl.scalar (who, 'step', o.step, realmin ());
   o.power = qn.impl.scalar (who, 'power', o.power, 0);
   if o.power == 2 && isempty (o.G), of_unbalance (who, model); end
-  b = qn.impl.periodic (who, model, load, elements, o.harmonics, o.samples, o.power, turning (who, model, o.G));
+  [model, rotation] = turning (who, model, o.G, 2 * pi * hertz);
+  b = qn.impl.periodic (who, model, load, elements, o.harmonics, o.samples, o.power, rotation);
   free = onCleanup (@() delete (b.handles));
   omega = 2 * pi * hertz;
   % First point: Newton at a fixed frequency, from the linear answer.
@@ -89,27 +91,42 @@ function r = harmonic (model, load, elements, hertz, varargin)
   r = b.result (bsxfun (@times, curve, unit));
 end
 
-% Modal gyroscopic matrix, per rad/s; 0 without one.
-function g = turning (who, model, g)
-  if isempty (g)
-    g = 0;
-    return
-  end
+% What of the model turns with the load, [] for nothing, and the model without it.
+function [model, rotation] = turning (who, model, g, speeds)
+  rotation = [];
+  if isempty (g), return, end
   n = size (model.shapes, 1);
-  if isfield (model, 'rotation') && ~isempty (model.rotation) && model.rotation.speed ~= 0
+  turned = isfield (model, 'rotation') && ~isempty (model.rotation);
+  tabled = turned && qn.impl.by_speed (model.rotation);
+  if turned && model.rotation.speed ~= 0 && ~tabled
     error ('qn:input', '%s: "G" is taken at each frequency; the model has it at %g rad/s already: make it with ''speed'', 0', who, ...
            model.rotation.speed);
   end
   g = qn.impl.numbers (who, 'G', g, [n n]);
   beside = norm (g + g.', 'fro') / norm (g, 'fro');
   if beside > 1e-6, error ('qn:input', '%s: "G" must be skew (G.'' = -G): its symmetric part is %.2g of it', who, beside / 2); end
-  g = qn.project (model.shapes, g);
+  if turned && ~any (g(:)) && any (model.rotation.G(:)) && (tabled || qn.impl.circulates (model.rotation))
+    error ('qn:input', ['%s: with "G" zero the structure is shaken and does not turn, and the model has more that depends on the ' ...
+                        'speed: make it without ("internal" 0, bearings of one speed)'], who);
+  end
+  rotation = struct ('G', 0);
+  if turned
+    rotation = model.rotation;
+    if isfield (rotation, 'stiffness'), model.stiffness = rotation.stiffness; end
+    model.damping = rotation.damping;
+  end
+  if tabled, qn.impl.within_table ([who ', "HERTZ" times 2 pi'], rotation.table, speeds); end
+  rotation.G = qn.project (model.shapes, g);
 end
 
 % A load of unbalance turns as fast as the shaft, and the gyroscopic matrix with it.
 function of_unbalance (who, model)
-  if ~isfield (model, 'rotation') || isempty (model.rotation) || ~any (model.rotation.G(:)), return, end
+  if ~qn.impl.turns (model), return, end
   w = model.rotation.speed;
+  if w == 0 && ~any (model.rotation.G(:))
+    error ('qn:input', ['%s: a load of "power" 2 is that of an unbalance, and the model has a circulatory matrix or bearings by speed ' ...
+                        'at standstill: give "G", zeros (%d), so that they turn with the load'], who, size (model.shapes, 1));
+  end
   if w == 0
     error ('qn:input', ['%s: a load of "power" 2 is that of an unbalance, and the model has a gyroscopic matrix at standstill: give ' ...
                         'it as "G", so that it turns with the load, or "G", zeros (%d) if the structure is shaken and does not turn'], ...

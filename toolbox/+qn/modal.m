@@ -12,7 +12,7 @@
 %   K, M   stiffness [N/m] and mass [kg], n x n, symmetric, K without negative eigenvalues, M positive definite; or with rows of
 %          zeros for degrees of freedom without mass. Those follow the others statically, which is exact where no load and no
 %          element acts on them: what acts there directly also bends them, and that no mode holds.
-%   S      structure with the fields K, M and, where there are such, C, G, speed: a physical model. Of a rotor of qn.rotor the modes are
+%   S      structure with the fields K, M and, where there are such, C, G, N, speed: a physical model. Of a rotor of qn.rotor the modes are
 %          those of M and the symmetric part Ks; the rest of K is treated like 'K'. Its "speed" is that of qn.rotor, not one set by hand
 %          where bearings depend on it.
 %   Names and values
@@ -23,6 +23,10 @@
 %     'G'         gyroscopic matrix [kg m^2 or kg m, whatever times 'speed' gives N s/m], n x n, skew (G.' = -G)
 %     'speed'     speed of rotation [rad/s] that belongs to 'G': the damping gets speed*G. For a run-up it is 0 here, and 'speed' of
 %                 qn.simulation says how the speed changes
+%     'N'         circulatory matrix [N/m per rad/s], any real n x n: the stiffness gets speed*N. Damping C that turns with the shaft
+%                 has N = C*J, J taking x to y and y to -x
+%     'by_speed'  {SPEED, K, C; ...}: further stiffness [N/m] and damping [N s/m] (n x n, [] for none) at ascending speeds [rad/s], linear
+%                 in the speed in between; speeds beyond are refused
 %     'KG'        matrix that times the angular acceleration is a stiffness [kg m^2], any real n x n: it acts in run-ups alone. Where
 %                 slopes are measured in a fixed frame, it is the part of G that the derivative of the spin's moment leaves
 %     'K'         further stiffness [N/m], any real n x n: bearings, with cross terms that differ. The modes stay those of K and M
@@ -49,8 +53,9 @@
 %                  M          the mass matrix, for base motion and initial states [kg]
 %                  K          the stiffness matrix, with which qn.check finds what flexibility the modes leave out [N/m]
 %                  attached   number of shapes that are not modes: the last ones, from 'attach'
-%                  rotation   [] without 'G', else struct: G and K (modal, K is [] without 'KG'), speed, and damping, that at standstill;
-%                             of a rotor of qn.rotor also its places, which qn.unbalance needs
+%                  rotation   [] where nothing depends on the speed, else struct: G, K and N (modal; K is [] without 'KG', N without 'N'),
+%                             table (modal 'by_speed', or []), speed, and damping and stiffness without all these; of a rotor of
+%                             qn.rotor also its places, which qn.unbalance needs
 %                  m counts them too.
 %
 % Errors
@@ -92,7 +97,7 @@ function model = modal (varargin)
   symmetric (who, 'K', k);
   symmetric (who, 'M', m);
   o = struct ('modes', min (n, 200), 'damping', 0, 'rayleigh', [0 0], 'C', [], 'G', [], 'speed', [], 'K', [], 'method', 'auto', ...
-              'attach', [], 'KG', []);
+              'attach', [], 'KG', [], 'N', [], 'by_speed', []);
   o = qn.impl.options (who, o, args(3:end));
   o.modes = qn.impl.count (who, 'modes', o.modes);
   count = min (o.modes, n);
@@ -110,8 +115,8 @@ function model = modal (varargin)
   if numel (o.damping) > 1, o.damping = [o.damping(:); repmat(o.damping(end), attached, 1)]; end
   damping = 2 * o.damping(:) .* w + o.rayleigh(1) + o.rayleigh(2) * w .^ 2;
   damping = qn.impl.with_matrix (damping, who, phi, 'C', o.C);
-  [damping, rotation] = qn.impl.with_rotation (damping, who, phi, o);
   stiffness = qn.impl.with_matrix (w .^ 2, who, phi, 'K', o.K);
+  [damping, stiffness, rotation] = qn.impl.with_rotation (damping, stiffness, who, phi, o);
   if nargin > 0 && isstruct (varargin{1}) && all (isfield (varargin{1}, {'parts', 'places'})) && ~isempty (rotation)
     rotation.places = varargin{1}.places;
   end

@@ -1,7 +1,7 @@
 % QN.ROTOR  a rotor: shaft, disks, bearings, seals and stator as plain matrices
 %
 % Purpose
-%   Builds M, K, C and G of M q'' + (C + W G) q' + K q = F at the speed of rotation W. A node has four degrees of freedom x, y, thx, thy:
+%   Builds M, K, C, G and N of M q'' + (C + W G) q' + (K + W N) q = F at the speed of rotation W. A node has four degrees of freedom x, y, thx, thy:
 %   displacements across the shaft, and rotations about the axes x and y (thy = dx/dz, thx = -dy/dz, z along the shaft). The spin turns
 %   x towards y. The elements are beams with shear and rotary inertia (Timoshenko) of round section.
 %
@@ -13,7 +13,7 @@
 %   R   from qn.rotor, as it was made: what depends on the speed is formed again at W
 %   Names and values
 %     'nodes'      positions of the nodes along the shaft, ascending [m]; or
-%     'shaft'      a structure with the fields M, K and perhaps C and G [per rad/s], from another program. Where its degrees of freedom
+%     'shaft'      a structure with the fields M, K and perhaps C, G and N [per rad/s], from another program. Where its degrees of freedom
 %                  are not four a node in the order above, its field "places" has a row a node with the numbers of x and y, or of
 %                  x, y, thx, thy.
 %     'outer'      outer diameter, one for all elements or one an element [m]
@@ -22,6 +22,10 @@
 %     'density'    [kg/m^3] (7850)
 %     'poisson'    Poisson's ratio (0.3)
 %     'shear'      false: beams without shear deformation (true)
+%     'internal'   viscous damping that turns with the shaft, over its stiffness: one time for all or one an element [s] (0). The moment
+%                  of a section follows the strain and 'internal' times its rate as the shaft feels them: C gets eta K of the shaft,
+%                  and N what the rotation of the frame leaves, across the deflection. It feeds forward whirl slower than the rotation.
+%                  With "shaft" one value, for the K given, whose degrees of freedom must all have places.
 %     'disks'      rows [node mass Id Ip]: moments of inertia about a diameter and about the axis [kg, kg m^2]
 %     'cylinders'  rows [node width outer inner density]: solid disks by their dimensions [m, kg/m^3]
 %     'bearings'   {NODE, K, C; ...}: stiffness [N/m] and damping [N s/m], each one value, two (along x and y), a matrix 2 x 2 with
@@ -37,6 +41,7 @@
 %   R   struct: M, K, C  n x n, with all bearings and seals; K and C may be unsymmetric. [] while a bearing depends on a speed that was
 %                not given.
 %                G       n x n, skew, per rad/s: W * G is added to C
+%                N       n x n, per rad/s: W * N is added to K (circulatory, of 'internal'); zeros without
 %                Ks      symmetric part of K from which qn.modal takes the modes; the rest of K it adds as a further stiffness
 %                places  nodes x 4: numbers of the degrees of freedom x, y, thx, thy
 %                stator  numbers of those of the stator
@@ -49,8 +54,8 @@
 %             degree of freedom is not there; an inertia is not that of a body; a matrix of R was changed
 %
 % Source
-%   H. D. Nelson, J. Mechanical Design 102, 1980; M. I. Friswell, J. E. T. Penny, S. D. Garvey and A. W. Lees, Dynamics of Rotating
-%   Machines, 2010
+%   H. D. Nelson, J. Mechanical Design 102, 1980; E. S. Zorzi and H. D. Nelson, J. Engineering for Power 99, 1977; M. I. Friswell,
+%   J. E. T. Penny, S. D. Garvey and A. W. Lees, Dynamics of Rotating Machines, 2010
 %
 % Example
 %   r = qn.rotor ('nodes', 0:0.25:1.5, 'outer', 0.05, 'cylinders', [3 0.07 0.28 0.05 7810; 5 0.07 0.35 0.05 7810], ...
@@ -74,7 +79,7 @@ function r = rotor (varargin)
     return
   end
   o = struct ('nodes', [], 'shaft', [], 'outer', [], 'inner', 0, 'young', 2.1e11, 'density', 7850, 'poisson', 0.3, 'shear', true, ...
-              'disks', [], 'cylinders', [], 'bearings', {{}}, 'seals', {{}}, 'stator', [], 'speed', []);
+              'internal', 0, 'disks', [], 'cylinders', [], 'bearings', {{}}, 'seals', {{}}, 'stator', [], 'speed', []);
   o = qn.impl.options (who, o, varargin);
   if ~isempty (o.shaft), of_nodes_alone (who, varargin(1:2:end)); end
   if isempty (o.nodes) == isempty (o.shaft), error ('qn:input', '%s: give "nodes" or "shaft", one of them', who); end
@@ -84,13 +89,15 @@ function r = rotor (varargin)
   n = size (r.M, 1);
   r.stator = [];
   if ~isempty (o.stator)
-    if isstruct (o.stator) && isfield (o.stator, 'G') && any (any (o.stator.G))
-      error ('qn:input', '%s: "stator" does not turn, it has no G', who);
+    for field = 'GN'
+      if isstruct (o.stator) && isfield (o.stator, field) && any (any (o.stator.(field)))
+        error ('qn:input', '%s: "stator" does not turn, it has no %s', who, field);
+      end
     end
     s = qn.impl.rotor.matrices (who, 'stator', o.stator);
-    qn.impl.rotor.known_fields (who, 'stator', o.stator, {'M', 'K', 'C', 'G'});
+    qn.impl.rotor.known_fields (who, 'stator', o.stator, {'M', 'K', 'C', 'G', 'N'});
     r.stator = n + (1:size (s.M, 1));
-    for field = 'MKCG', r.(field) = blkdiag (r.(field), s.(field)); end
+    for field = 'MKCGN', r.(field) = blkdiag (r.(field), s.(field)); end
   end
   beside = norm (r.K - r.K.', 'fro') / norm (r.K, 'fro');
   if beside > 1e-6

@@ -67,7 +67,7 @@ function load = unbalance (model, dofs, me, varargin)
   else
     what = struct ('speed', [], 'table', [], 'motion', qn.impl.rotor.turning (who, o.profile));
     if isnumeric (o.profile), what.table = double (o.profile); end
-    if turns (model) && model.rotation.speed ~= 0
+    if qn.impl.turns (model) && model.rotation.speed ~= 0
       warning ('qn:unbalance', ['%s: the unbalance runs along a profile, the model turns at %g rad/s: make it with ''speed'', 0, ' ...
                                 'and give the profile to qn.simulation as ''speed'''], who, model.rotation.speed);
     end
@@ -95,13 +95,8 @@ function across_the_shaft (who, model, dofs)
   end
 end
 
-% Whether the model has a gyroscopic matrix.
-function yes = turns (model)
-  yes = isfield (model, 'rotation') && ~isempty (model.rotation) && any (model.rotation.G(:));
-end
-
 function same_speed (who, model, speed)
-  if ~turns (model) || abs (model.rotation.speed - speed) <= 1e-3 * abs (speed), return, end
+  if ~qn.impl.turns (model) || abs (model.rotation.speed - speed) <= 1e-3 * abs (speed), return, end
   warning ('qn:unbalance', ['%s: the unbalance turns at %g rad/s, the model at %g rad/s: its gyroscopic forces are those of ' ...
                             'another speed'], who, speed, model.rotation.speed);
 end

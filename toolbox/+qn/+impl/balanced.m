@@ -14,8 +14,7 @@ function s = balanced (sim, s, a0)
   s.FNL = zeros (max (sim.slots, 1), 1);
   s.FNL(1:numel (forces)) = forces;
   if qn.impl.runs_up (sim)
-    [omega, slope] = qn.impl.speed_at (sim, sim.time(1));
-    r(1:m) = r(1:m) + qn.impl.turning_force (sim, omega, slope, s.u(1:m), s.v(1:m));
+    r(1:m) = r(1:m) + qn.impl.turning_force (qn.impl.varying (sim), sim.time(1), s.u(1:m), s.v(1:m));
   end
   if ischar (a0)
     if ~strcmp (a0, 'consistent'), error ('qn:input', '%s: "a0" is ''consistent'' or modal values', who); end

@@ -46,7 +46,13 @@ function found = check_arrays (sim)
     if ~yes, return, end
     r = model.rotation;
     whole = @(x) isa (x, 'double') && isreal (x) && isequal (size (x), [m m]) && all (isfinite (x(:)));
-    yes = whole (r.G) && (isempty (r.K) || whole (r.K)) && isequal (r.damping, model.damping);
+    yes = whole (r.G) && (isempty (r.K) || whole (r.K)) && isequal (r.damping, model.damping) && ...
+          (~qn.impl.circulates (r) || whole (r.N)) && (~qn.impl.by_speed (r) || tabled (r.table, m));
+  end
+
+  function yes = tabled (t, m)
+    pages = @(x) isa (x, 'double') && isreal (x) && isequal (size (x), [m m numel(t.speed)]) && all (isfinite (x(:)));
+    yes = all (isfield (t, {'speed', 'K', 'C'})) && pages (t.K) && pages (t.C) && all (diff (t.speed) > 0);
   end
 
   function yes = fits (x, m)

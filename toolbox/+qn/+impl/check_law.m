@@ -71,7 +71,7 @@ function found = check_law (sim, k, x, motion, state, f, record)
     p = e.law.parameters;
     r = [];
     if isfield (sim.model, 'rotation'), r = sim.model.rotation; end
-    if qn.impl.runs_up (sim) || isempty (r) || ~any (r.G(:)) || ~isfield (p, 'speed'), return, end
+    if qn.impl.runs_up (sim) || ~qn.impl.turns (sim.model) || ~isfield (p, 'speed'), return, end
     if isfield (p, 'friction')
       if p.friction == 0 || abs (p.speed - r.speed) <= 1e-3 * abs (r.speed), return, end
     elseif p.speed == 0 || abs (p.speed - r.speed) <= 1e-3 * abs (r.speed)

@@ -38,7 +38,7 @@ function found = check_unbalance (sim)
   function beside (k, speed)
     r = [];
     if isfield (sim.model, 'rotation'), r = sim.model.rotation; end
-    if isempty (r) || ~any (r.G(:)), return, end
+    if ~qn.impl.turns (sim.model), return, end
     own = r.speed + 0 * speed;
     more = ': give qn.simulation the speeds of the profile as ''speed'', or qn.modal the speed of the unbalance';
     if qn.impl.runs_up (sim)

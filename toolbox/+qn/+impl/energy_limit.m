@@ -3,11 +3,11 @@
 % Structure and elements that only store and dissipate cannot get more energy than is in the state, that in the elements counted from
 % its least value. A load p adds to the root of twice the energy at most the integral of |p|, as its rate of work is at most |p| |v|
 % with masses of 1. Inf where something could feed the motion by right: a stiffness that is not symmetric or not positive, negative
-% damping, a stiffness that goes with the angular acceleration, an element that acts elsewhere than it observes, or a law whose energy has no bound.
+% damping, what changes with time and is not gyroscopic, an element that acts elsewhere than it observes, or a law whose energy has no bound.
 function e = energy_limit (sim, s)
   e = Inf;
   m = numel (sim.model.w);
-  if qn.impl.runs_up (sim) && ~isempty (sim.model.rotation.K), return, end
+  if numel (qn.impl.varying (sim)) > 1, return, end
   if ~passive (sim.model.damping, Inf) || ~passive (sim.model.stiffness, 0), return, end
   energy = qn.impl.motion (sim, s) ^ 2 / 2;
   for k = 1:numel (sim.elements)

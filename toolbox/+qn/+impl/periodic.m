@@ -1,6 +1,7 @@
-% B = PERIODIC (WHO, MODEL, LOAD, ELEMENTS, H, N, POWER, G)  harmonic-balance equations of a modal model
+% B = PERIODIC (WHO, MODEL, LOAD, ELEMENTS, H, N, POWER, ROTATION)  harmonic-balance equations of a modal model
 %
-% The load is the real part of LOAD * omega^POWER * exp (i omega t), the damping has omega * G besides (modal); both 0 where not given.
+% The load is the real part of LOAD * omega^POWER * exp (i omega t). With ROTATION, that of a model, or [], its matrices are those of the
+% speed omega; MODEL then has those that remain.
 %
 % Unknowns z: for every mode in turn [c0; c1; s1; ...; cH; sH]. B has the functions
 %   equations (z, omega)  residual, Jacobian, and derivative for omega
@@ -8,8 +9,8 @@
 %   result (y)            structure of qn.harmonic from columns [z; omega]
 % and the handles of the elements' laws, which the caller deletes. Every law is evaluated at all N points of a period in one call
 % of "residual", as N springs side by side.
-function b = periodic (who, model, load, elements, harmonics, n, power, g)
-  if nargin < 8, [power, g] = deal (0); end
+function b = periodic (who, model, load, elements, harmonics, n, power, rotation)
+  if nargin < 8, [power, rotation] = deal (0, []); end
   m = numel (model.w);
   load = qn.impl.numbers (who, 'LOAD', load, m, 'complex', 'each', 'one a mode (qn.load_at times forces)');
   harmonics = qn.impl.count (who, 'harmonics', harmonics);
@@ -38,16 +39,39 @@ function b = periodic (who, model, load, elements, harmonics, n, power, g)
   end
   push = zeros (p, m);
   if harmonics > 0, push(2:3, :) = [real(load(:)), -imag(load(:))].'; end
-  damping = @(w) qn.impl.matrix (model.damping) + w * g;
-  stiffness = qn.impl.matrix (model.stiffness);
   % In one period x = series.' * z; its rate is omega * turn * z.
-  linear = @(w) kron (stiffness, eye (p)) + w * kron (damping (w), turn) + w ^ 2 * kron (eye (m), turn ^ 2);
-  by_omega = @(w) kron (damping (2 * w), turn) + 2 * w * kron (eye (m), turn ^ 2);
+  linear = @(w) of_speed (w, model, rotation, p, turn);
+  by_omega = @(w) slope_of (w, model, rotation, p, turn);
   grown = @(w) w ^ power * push(:);
   b.linear = @(w) linear (w) \ grown (w);
   more = @(w) power * w ^ (power - 1) * push(:);
   b.equations = @(z, w) equations (z, w, linear, by_omega, grown, more, e, index, series, back, p, m, n);
   b.result = @(y) result (y, series, harmonics, m);
+end
+
+function a = of_speed (w, model, rotation, p, turn)
+  [k, c] = matrices (w, model, rotation);
+  a = kron (k, eye (p)) + w * kron (c, turn) + w ^ 2 * kron (eye (size (k)), turn ^ 2);
+end
+
+% The derivative of it for w.
+function a = slope_of (w, model, rotation, p, turn)
+  [k, c, dk, dc] = matrices (w, model, rotation);
+  a = kron (dk, eye (p)) + kron (c + w * dc, turn) + 2 * w * kron (eye (size (k)), turn ^ 2);
+end
+
+% Stiffness and damping at the speed w and their derivatives.
+function [k, c, dk, dc] = matrices (w, model, rotation)
+  k = qn.impl.matrix (model.stiffness);
+  c = qn.impl.matrix (model.damping);
+  [dk, dc] = deal (zeros (size (k)));
+  if isempty (rotation), return, end
+  dc = dc + rotation.G;
+  if qn.impl.circulates (rotation), dk = dk + rotation.N; end
+  [k, c] = deal (k + w * dk, c + w * dc);
+  if ~qn.impl.by_speed (rotation), return, end
+  [more_k, more_c, slope_k, slope_c] = qn.impl.bearings_at (rotation.table, w);
+  [k, c, dk, dc] = deal (k + more_k, c + more_c, dk + slope_k, dc + slope_c);
 end
 
 function [g, j, slope] = equations (z, w, linear, by_omega, grown, more, e, index, series, back, p, m, n)

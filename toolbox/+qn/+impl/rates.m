@@ -34,18 +34,22 @@ function [v, a] = rates (res, who)
   end
 end
 
-% The same with the gyroscopic matrix of every step; Q are the displacements, G the forces without those that go with speed and slope.
+% The same with the matrices of every step; Q are the displacements, G the forces without those that change with time.
 function [v, a] = while_turning (sim, q, g)
   m = size (q, 1);
   h = sim.step;
   gamma = sim.scheme.gamma;
   rest = qn.impl.matrix (sim.model.damping);
-  [omega, slope] = qn.impl.speed_at (sim, sim.time);
-  if ~isempty (sim.model.rotation.K), g = g - bsxfun (@times, slope, sim.model.rotation.K * q); end
+  parts = qn.impl.varying (sim);
+  g = g - qn.impl.turning_force (parts([parts.type] == 1), sim.time, q, []);
+  parts = parts([parts.type] == 3);
+  factors = zeros (numel (parts), numel (sim.time));
+  for k = 1:numel (parts), factors(k, :) = qn.impl.factor_at (parts(k).factor, sim.time); end
   v = [sim.start.v(1:m), zeros(m, size (g, 2) - 1)];
   a = [sim.start.a(1:m), zeros(m, size (g, 2) - 1)];
   for j = 2:size (g, 2)
-    c = rest + omega(j) * sim.model.rotation.G;
+    c = rest;
+    for k = 1:numel (parts), c = c + factors(k, j) * parts(k).matrix; end
     v(:, j) = (eye (m) + h * gamma * c) \ (v(:, j - 1) + h * ((1 - gamma) * a(:, j - 1) + gamma * g(:, j)));
     a(:, j) = g(:, j) - c * v(:, j);
   end

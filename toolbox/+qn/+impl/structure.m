@@ -24,4 +24,5 @@ function args = structure (who, s, args)
   for name = {'C', 'G', 'speed'}
     if isfield (s, name{1}) && ~isempty (s.(name{1})), args = [args, name, {s.(name{1})}]; end
   end
+  if isfield (s, 'N') && any (s.N(:)), args = [args, {'N', s.N}]; end
 end

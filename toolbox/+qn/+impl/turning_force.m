@@ -1,6 +1,9 @@
-% F = TURNING_FORCE (SIM, OMEGA, SLOPE, Q, V)  modal forces of a run-up on its left side, omega G v + slope KG q, a column a time
-function f = turning_force (sim, omega, slope, q, v)
-  r = sim.model.rotation;
-  f = bsxfun (@times, omega, r.G * v);
-  if ~isempty (r.K), f = f + bsxfun (@times, slope, r.K * q); end
+% F = TURNING_FORCE (PARTS, TIME, Q, V)  modal forces on the left side of what changes with time (qn.impl.varying), a column a time
+function f = turning_force (parts, time, q, v)
+  f = zeros (size (q));
+  for p = parts
+    x = q;
+    if p.type == 3, x = v; end
+    f = f + bsxfun (@times, qn.impl.factor_at (p.factor, time), p.matrix * x);
+  end
 end

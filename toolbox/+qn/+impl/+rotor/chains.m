@@ -47,5 +47,7 @@ function yes = meets (pole, ratio, speed, orders)
     yes = yes | any (slight & above(:, 1:end - 1) ~= above(:, 2:end), 2);
   end
   below = bsxfun (@lt, imag (pole), max (orders) * speed);
-  yes = yes | any (slight & below(:, 2:end) & ratio(:, 1:end - 1) > 1e-8 & ratio(:, 2:end) < -1e-8, 2);
+  % A speed may be the one where the damping is lost, to rounding.
+  damped = cumsum (ratio(:, 1:end - 1) > 1e-8, 2) > 0;
+  yes = yes | any (slight & below(:, 2:end) & damped & ratio(:, 1:end - 1) > -1e-8 & ratio(:, 2:end) < -1e-8, 2);
 end

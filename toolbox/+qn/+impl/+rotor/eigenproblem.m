@@ -1,6 +1,6 @@
 % S = EIGENPROBLEM (WHO, R, PLACES, BASIS)  a rotor for its poles at many speeds
 %
-% R is from qn.rotor or has M, K and perhaps C and G. S has basis (n x b: displacements from coordinates of unit mass), M, K, C and G in
+% R is from qn.rotor or has M, K and perhaps C, G and N. S has basis (n x b: displacements from coordinates of unit mass), M, K, C, G and N in
 % these coordinates, circle (b x b Hermitian: forward minus backward whirl of a shape; [] without PLACES), size (the sum of both), and
 % rotor: [] or, where bearings depend on the speed, the rotor to form K and C of at each speed.
 function s = eigenproblem (who, r, places, basis)
@@ -24,7 +24,7 @@ function s = eigenproblem (who, r, places, basis)
     if isfield (r, 'Ks'), held = full (r.Ks); end
     s.basis = qn.impl.modes (held, a.M, min (qn.impl.count (who, 'basis', basis.count), n), 'auto');
   end
-  for field = 'MKCG', s.(field) = s.basis.' * a.(field) * s.basis; end
+  for field = 'MKCGN', s.(field) = s.basis.' * a.(field) * s.basis; end
   s.circle = [];
   if isempty (places), return, end
   places = qn.impl.numbers (who, 'places', places, [NaN 2], 'from', 1, 'to', n, 'whole', 'each', 'x and y of a node in a row');

@@ -1,4 +1,4 @@
-% S = MATRICES (WHO, NAME, S)  full M, K, C and G of a structure with these fields; C and G may be missing
+% S = MATRICES (WHO, NAME, S)  full M, K, C, G and N of a structure with these fields; C, G and N may be missing
 %
 % M and K are needed; M must be symmetric, G skew.
 function s = matrices (who, name, given)
@@ -7,7 +7,7 @@ function s = matrices (who, name, given)
   end
   n = size (given.M, 1);
   s = struct ('M', full (qn.impl.numbers (who, 'M', given.M, [n n])));
-  for field = {'K', 'C', 'G'}
+  for field = {'K', 'C', 'G', 'N'}
     s.(field{1}) = zeros (n);
     if isfield (given, field{1}) && (field{1} == 'K' || ~isempty (given.(field{1})))
       s.(field{1}) = full (qn.impl.numbers (who, field{1}, given.(field{1}), [n n]));

@@ -14,7 +14,7 @@ function p = poles (s, speed)
     k = s.basis.' * r.K * s.basis;
     m = s.basis.' * r.M * s.basis;
   end
-  [v, d] = eig ([zeros(n), eye(n); -(m \ [k, c + speed * s.G])]);
+  [v, d] = eig ([zeros(n), eye(n); -(m \ [k + speed * s.N, c + speed * s.G])]);
   d = diag (d).';
   keep = find (imag (d) > 1e-7 * abs (d));
   [unused, order] = sort (imag (d(keep)));

@@ -78,8 +78,8 @@ function law = law (kind, varargin)
     end
     k = find (isinf (diff (x)), 1);
     if ~isempty (k)
-      error ('qn:input', '%s: "%s" goes from %g to %g between value %d and value %d: the distance is beyond all numbers', who, name{1}, x(k), ...
-             x(k + 1), k, k + 1);
+      error ('qn:input', '%s: "%s" goes from %g to %g between value %d and value %d: the distance is beyond all numbers', who, name{1}, ...
+             x(k), x(k + 1), k, k + 1);
     end
   end
   for name = of_sort (l, 'sign')

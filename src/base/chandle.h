@@ -7,6 +7,7 @@
 #include "base/handle_type.h"
 #include "base/ror.h"
 #include "host/arrays.h"
+#include "numbers/ranges.h"
 
 namespace quarn {
 
@@ -38,6 +39,9 @@ class chandle {
   /// function of the user's can run before Residual: one that calls quarn with the same handle would leave memory of a call here that has
   /// ended.
   virtual void takeWork(host::Doubles /*r*/) {}
+  /// Whether nothing but u, v, a, the force store and the value's own arrays is looked at or written in a step, those arrays lie apart from
+  /// the count ranges, and Residual neither ends the call nor calls the host. Asked for a run of the integrator, after takeWork.
+  virtual bool keepsToItself(const Range* /*ranges*/, int /*count*/) const { return false; }
   /// Offset of the first value after the state block that the handle writes into ctx.u; 0 if it writes none.
   virtual std::int64_t stateEnd() const { return 0; }
   /// Diagonal of a matrix handle whose matrix is diagonal; null for all others.

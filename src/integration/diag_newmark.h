@@ -53,16 +53,32 @@ class chandleDiagNewmark final : public chandle {
   void plan(const ROr& c, chandle** list, int nh);
   void foldDiagonals(const ROr& c, chandle** list, int nh);
   void findClosing(chandle** list, int nh);
-  bool apart(const ROr& c) const;
+  static constexpr int rangesOfRun = 15;
+  int findRanges(const ROr& c, Range* ranges) const;
+  static bool apart(const Range* ranges, int written);
   static constexpr int writtenArrays = 9;
   void findWritten(const ROr& c, WrittenArray* arrays) const;
   void checkGain(const StepTimes& times) const;
   void checkGainTimes(const StepTimes& times) const;
   void correct(double t, const ROr& c);
-  void finishPass(const ROr& c);
+  int runUnseen(chandle** list, int nh, int j, ROr c);
+  void enterStep(int j, ROr& c);
+  void beginModes(int j, const ROr& c);
+  void finishCopies(const ROr& c);
+  void finishForces(const ROr& c);
+  void addForces(chandle** list, int nh, const ROr& c);
+  void endHandles();
   bool saveDue(double t) const { return jSave < NSave && t >= saveTimes.data[jSave]; }
+  bool storeSaveDue(double t) const {
+    if (jFNLSave >= NFNLSave) return false;
+    const auto place = static_cast<std::size_t>(jFNLSave);
+    return t > storeTimes.data[place] || (place < saveTimes.count && t == saveTimes.data[place]);
+  }
+  const double* loadsAt(int column) const { return tft + static_cast<std::ptrdiff_t>(Nb + 1) * column + 1; }
   double time(int column) const { return tft[static_cast<std::ptrdiff_t>(Nb + 1) * column]; }
+  double* columnFor(double t);
   void save(double t, const ROr& c);
+  void saveBefore(const ROr& c);
   void saveStore(double t);
 
   std::int32_t N = 0;         ///< modes: rows of "r"
@@ -99,6 +115,7 @@ class chandleDiagNewmark final : public chandle {
   chandle** closing = nullptr;  ///< handles that have something to do when a step ends, in host memory of the current call
   int closingCount = 0;
   bool undisturbed = false;  ///< nothing but loads and folded diagonals acts, and nothing looks at the work array between the steps
+  bool unseen = false;       ///< other forces act, none of which looks at the copies in the work array
 };
 
 }  // namespace quarn

@@ -8,37 +8,33 @@
 
 namespace quarn {
 
-namespace {
-
-struct Range {
-  const double* data;
-  std::size_t count;
-};
-
-}  // namespace
+/// The arrays of a run: first those that a step writes, then those that it reads.
+int chandleDiagNewmark::findRanges(const ROr& c, Range* ranges) const {
+  const auto n = static_cast<std::size_t>(c.N);
+  const Range all[rangesOfRun] = {{c.u, c.uLen},
+                                  {c.v, c.vLen},
+                                  {c.a, c.aLen},
+                                  {uva.data, uva.count},
+                                  {store.data, store.count},
+                                  {snapshot.data, snapshot.count},
+                                  {def.data, def.count},
+                                  {storeDef.data, storeDef.count},
+                                  {data, 6},
+                                  {r.data, r.count},
+                                  {tft, static_cast<std::size_t>(Nb + 1) * static_cast<std::size_t>(NT)},
+                                  {saveTimes.data, saveTimes.count},
+                                  {storeTimes.data, storeTimes.count},
+                                  {diagonals.k, diagonals.k ? n : 0},
+                                  {diagonals.c, diagonals.c ? n : 0}};
+  std::copy_n(all, rangesOfRun, ranges);
+  constexpr int written = 9;
+  return written;
+}
 
 /// Whether no array that a step writes shares memory with another one: a caller's arrays may.
-bool chandleDiagNewmark::apart(const ROr& c) const {
-  const auto n = static_cast<std::size_t>(c.N);
-  constexpr int written = 8;
-  const Range ranges[] = {{c.u, c.uLen},
-                          {c.v, c.vLen},
-                          {c.a, c.aLen},
-                          {uva.data, uva.count},
-                          {store.data, store.count},
-                          {snapshot.data, snapshot.count},
-                          {def.data, def.count},
-                          {data, 6},
-                          {r.data, r.count},
-                          {tft, static_cast<std::size_t>(Nb + 1) * static_cast<std::size_t>(NT)},
-                          {saveTimes.data, saveTimes.count},
-                          {diagonals.k, diagonals.k ? n : 0},
-                          {diagonals.c, diagonals.c ? n : 0}};
-  constexpr int all = sizeof ranges / sizeof ranges[0];
+bool chandleDiagNewmark::apart(const Range* ranges, int written) {
   for (int i = 0; i < written; ++i) {
-    for (int k = i + 1; k < all; ++k) {
-      if (overlap(ranges[i].data, ranges[i].count, ranges[k].data, ranges[k].count)) return false;
-    }
+    if (!apartFrom(ranges + i + 1, rangesOfRun - i - 1, ranges[i].data, ranges[i].count)) return false;
   }
   return true;
 }
@@ -56,13 +52,17 @@ void chandleDiagNewmark::foldDiagonals(const ROr& c, chandle** list, int nh) {
   diagonals = {found[0], c.beta, found[1]};
 }
 
-/// What a pass over N modes leaves out of vectors that are longer: copies up to Ndef rows, diagonal forces on c.N rows.
-void chandleDiagNewmark::finishPass(const ROr& c) {
+/// What a pass over N modes leaves out of vectors that are longer: copies up to Ndef rows.
+void chandleDiagNewmark::finishCopies(const ROr& c) {
   for (std::ptrdiff_t i = N; i < Ndef; ++i) {
     uva.data[i] = c.u[i];
     uva.data[Ndef + i] = c.v[i];
     uva.data[2 * static_cast<std::ptrdiff_t>(Ndef) + i] = c.a[i];
   }
+}
+
+/// And diagonal forces on c.N rows.
+void chandleDiagNewmark::finishForces(const ROr& c) {
   if (!diagonals.k && !diagonals.c) return;  // an empty u may have two billion rows
   for (std::ptrdiff_t i = N; i < c.N; ++i) {
     if (diagonals.k) fmod[i] += diagonals.k[i] * (c.u[i] + diagonals.beta * c.v[i]);
@@ -84,12 +84,36 @@ void chandleDiagNewmark::plan(const ROr& c, chandle** list, int nh) {
   diagonals = {};
   folded = 0;
   if (c.N >= N) foldDiagonals(c, list, nh);
-  onePass = Ndef >= N && apart(c);
+  Range ranges[rangesOfRun];
+  const int written = findRanges(c, ranges);
+  onePass = Ndef >= N && apart(ranges, written);
   if (!onePass) {
     diagonals = {};
     folded = 0;
   }
-  undisturbed = onePass && !gainFull && folded == nh && c.N == N && !iopt && NFNL == 0 && NFNLSave == 0;
+  undisturbed = onePass && !gainFull && folded == nh && c.N == N && !iopt;
+  unseen = onePass && !gainFull;
+  forLive(list + folded, nh - folded, [&](const chandle& h, int) { unseen = unseen && h.keepsToItself(ranges, rangesOfRun); });
+}
+
+/// Steps from column j on to the last but one. What they copy into the work array nobody sees, so that the correction of each and the
+/// beginning of the next are one pass; a state that is to be saved between them is formed for that alone.
+int chandleDiagNewmark::runUnseen(chandle** list, int nh, int j, ROr c) {
+  const int last = steps() - 1;
+  enterStep(j, c);
+  beginModes(j, c);
+  for (;;) {
+    addForces(list, nh, c);
+    endHandles();
+    saveBefore(c);
+    saveStore(c.t);
+    if (++j == last) break;
+    enterStep(j, c);
+    newmarkNext({c.u, c.v, c.a, N}, fmod, gain, r.data + N, loadsAt(j), Nb, diagonals, coefficients);
+    finishForces(c);
+  }
+  newmarkCorrect(c.u, c.v, c.a, fmod, gain, N, coefficients);
+  return j;
 }
 
 void chandleDiagNewmark::run(chandle** list, int nh, const ROr& c) {
@@ -99,13 +123,14 @@ void chandleDiagNewmark::run(chandle** list, int nh, const ROr& c) {
   while (undisturbed && j < last) {
     int next = j;
     do ++next;
-    while (next < last && !saveDue(time(next)));
-    const double* loads = tft + static_cast<std::ptrdiff_t>(Nb + 1) * j + 1;
-    newmarkSteps({c.u, c.v, c.a, N}, r.data + N, gain, loads, Nb + 1, Nb, next - j, diagonals, coefficients);
+    while (next < last && !saveDue(time(next)) && !storeSaveDue(time(next)));
+    newmarkSteps({c.u, c.v, c.a, N}, r.data + N, gain, loadsAt(j), Nb + 1, Nb, next - j, diagonals, coefficients);
     data[5] = time(next);
     save(time(next), c);
+    saveStore(time(next));
     j = next;
   }
+  if (unseen && j < last) j = runUnseen(list, nh, j, c);
   for (; j <= last; ++j) doStep(list, nh, j, c);
 }
 

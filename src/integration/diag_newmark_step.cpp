@@ -17,45 +17,59 @@ void copyValues(double* to, const double* from, std::size_t n) {
 }  // namespace
 
 void chandleDiagNewmark::doStep(chandle** list, int nh, int j, ROr c) {
-  const std::ptrdiff_t rows = Nb + 1;
-  const double* column = tft + rows * j;
-  const double t = column[rows];
-  const double* loads = column + 1;
-  c.t = t;
-  c.begunAtZero = onePass ? N : 0;
-  data[5] = t;
+  enterStep(j, c);
+  if (onePass) {
+    beginModes(j, c);
+  } else {
+    newmarkPredict(c.u, c.v, c.a, N, coefficients);
+    newmarkLoad(fmod, r.data + N, N, loadsAt(j), N, Nb);
+  }
+  addForces(list, nh, c);
+  if (gainFull) {
+    correct(c.t, c);
+  } else {
+    newmarkCorrect(c.u, c.v, c.a, fmod, gain, N, coefficients);
+  }
+  endHandles();
+  save(c.t, c);
+  saveStore(c.t);
+}
 
-  const auto block = static_cast<std::size_t>(Ndef);
+/// What comes before the modes' part of the step from column j: its time, copies, and the store of its loads.
+void chandleDiagNewmark::enterStep(int j, ROr& c) {
+  c.t = time(j + 1);
+  c.begunAtZero = onePass ? N : 0;
+  data[5] = c.t;
   if (!onePass) {
+    const auto block = static_cast<std::size_t>(Ndef);
     copyValues(uva.data, c.u, block);
     copyValues(uva.data + block, c.v, block);
     copyValues(uva.data + 2 * block, c.a, block);
   }
   if (NFNL > 0) copyValues(snapshot.data, store.data, static_cast<std::size_t>(NFNL));
-  if (iopt) storeClipped(c.FNL, c.fnlLen, iopt[0], loads, Nb);
+  if (iopt) storeClipped(c.FNL, c.fnlLen, iopt[0], loadsAt(j), Nb);
+}
 
-  if (onePass) {
-    newmarkBegin({c.u, c.v, c.a, N}, uva.data, uva.data + block, uva.data + 2 * block, fmod, r.data + N, loads, Nb, diagonals,
-                 coefficients);
-    finishPass(c);
-  } else {
-    newmarkPredict(c.u, c.v, c.a, N, coefficients);
-    newmarkLoad(fmod, r.data + N, N, loads, N, Nb);
-  }
+/// Copies, predictor, load and folded forces.
+void chandleDiagNewmark::beginModes(int j, const ROr& c) {
+  double* copies = uva.data;
+  newmarkBegin({c.u, c.v, c.a, N}, copies, copies + Ndef, copies + 2 * static_cast<std::ptrdiff_t>(Ndef), fmod, r.data + N, loadsAt(j), Nb,
+               diagonals, coefficients);
+  finishCopies(c);
+  finishForces(c);
+}
+
+void chandleDiagNewmark::addForces(chandle** list, int nh, const ROr& c) {
   forLive(list + folded, nh - folded, [&](chandle& h, int) {
 #ifdef QUARN_CHECKED
-    h.checkSizes(c, uva.count - 3 * block);
+    h.checkSizes(c, uva.count - 3 * static_cast<std::size_t>(Ndef));
 #endif
     h.Residual(c, fmod);
   });
-  if (gainFull) {
-    correct(t, c);
-  } else {
-    newmarkCorrect(c.u, c.v, c.a, fmod, gain, N, coefficients);
-  }
+}
+
+void chandleDiagNewmark::endHandles() {
   for (int k = 0; k < closingCount; ++k) closing[k]->EndStep();
-  save(t, c);
-  saveStore(t);
 }
 
 /// With a gain that is a matrix, or one between two of its pages.
@@ -69,11 +83,21 @@ void chandleDiagNewmark::correct(double t, const ROr& c) {
   }
 }
 
-void chandleDiagNewmark::save(double t, const ROr& c) {
+/// The column that time t is saved in; null where it is not.
+double* chandleDiagNewmark::columnFor(double t) {
   while (jSave < NSave && t > saveTimes.data[jSave]) ++jSave;
-  if (jSave < NSave && t == saveTimes.data[jSave]) {
-    copyValues(def.data + static_cast<std::ptrdiff_t>(jSave) * Ndef, c.u, static_cast<std::size_t>(Ndef));
-  }
+  const bool due = jSave < NSave && t == saveTimes.data[jSave];
+  return due ? def.data + static_cast<std::ptrdiff_t>(jSave) * Ndef : nullptr;
+}
+
+void chandleDiagNewmark::save(double t, const ROr& c) { copyValues(columnFor(t), c.u, static_cast<std::size_t>(Ndef)); }
+
+/// The same before the correction.
+void chandleDiagNewmark::saveBefore(const ROr& c) {
+  double* to = columnFor(c.t);
+  if (!to) return;
+  newmarkCorrected(to, c.u, fmod, gain, N);
+  copyValues(to + N, c.u + N, static_cast<std::size_t>(Ndef - N));
 }
 
 void chandleDiagNewmark::saveStore(double t) {

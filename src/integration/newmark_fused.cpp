@@ -54,6 +54,28 @@ template <With with>
   }
 }
 
+template <With with>
+[[gnu::always_inline]] inline void next(double* __restrict u, double* __restrict v, double* __restrict f, const double* __restrict gain,
+                                        const double* __restrict column, double p, int n, const DiagonalForces& forces,
+                                        const NewmarkCoefficients& in) {
+  const NewmarkCoefficients x = in;
+  const double beta = forces.beta;
+  const double* __restrict k = forces.k;
+  const double* __restrict c = forces.c;
+  for (int i = 0; i < n; ++i) {
+    const double d = f[i] * gain[i];
+    const double u0 = u[i] - d;
+    const double v0 = v[i] - x.vFromD * d;
+    const double a0 = 0.0 - d * x.aFromD;
+    const double up = (x.uFromA * a0 + x.dt * v0) + u0;
+    const double vp = x.vFromA * a0 + v0;
+    u[i] = up;
+    v[i] = vp;
+    const double load = 0.0 + column[i] * p;
+    f[i] = addForces<with>(load, up, vp, with == With::nothing ? 0.0 : k[i], beta, with == With::both ? c[i] : 0.0);
+  }
+}
+
 /// steps steps of up to kBlock modes with the loads p[0], p[stride], ...
 template <With with>
 [[gnu::always_inline]] inline void steps(double* __restrict u, double* __restrict v, double* __restrict a, const double* __restrict column,
@@ -78,16 +100,21 @@ template <With with>
   }
 }
 
-#define QUARN_NEWMARK_VARIANT(name, with)                                                                                 \
-  QUARN_PROCESSOR_VERSIONS                                                                                                \
-  void begin##name(const ModalState& s, double* cu, double* cv, double* ca, double* f, const double* column, double p,    \
-                   const DiagonalForces& forces, const NewmarkCoefficients& k) {                                          \
-    begin<with>(s.u, s.v, s.a, cu, cv, ca, f, column, p, s.n, forces, k);                                                 \
-  }                                                                                                                       \
-  QUARN_PROCESSOR_VERSIONS                                                                                                \
-  void steps##name(const ModalState& s, const double* column, const double* gain, const double* p, int stride, int count, \
-                   const DiagonalForces& forces, const NewmarkCoefficients& k) {                                          \
-    steps<with>(s.u, s.v, s.a, column, gain, s.n, p, stride, count, forces, k);                                           \
+#define QUARN_NEWMARK_VARIANT(name, with)                                                                                           \
+  QUARN_PROCESSOR_VERSIONS                                                                                                          \
+  void begin##name(const ModalState& s, double* cu, double* cv, double* ca, double* f, const double* column, double p,              \
+                   const DiagonalForces& forces, const NewmarkCoefficients& k) {                                                    \
+    begin<with>(s.u, s.v, s.a, cu, cv, ca, f, column, p, s.n, forces, k);                                                           \
+  }                                                                                                                                 \
+  QUARN_PROCESSOR_VERSIONS                                                                                                          \
+  void next##name(const ModalState& s, double* f, const double* gain, const double* column, double p, const DiagonalForces& forces, \
+                  const NewmarkCoefficients& k) {                                                                                   \
+    next<with>(s.u, s.v, f, gain, column, p, s.n, forces, k);                                                                       \
+  }                                                                                                                                 \
+  QUARN_PROCESSOR_VERSIONS                                                                                                          \
+  void steps##name(const ModalState& s, const double* column, const double* gain, const double* p, int stride, int count,           \
+                   const DiagonalForces& forces, const NewmarkCoefficients& k) {                                                    \
+    steps<with>(s.u, s.v, s.a, column, gain, s.n, p, stride, count, forces, k);                                                     \
   }
 QUARN_NEWMARK_VARIANT(Free, With::nothing)
 QUARN_NEWMARK_VARIANT(Elastic, With::stiffness)
@@ -115,6 +142,27 @@ void newmarkBegin(const ModalState& x, double* copyU, double* copyV, double* cop
     const DiagonalForces part{forces.k ? forces.k + first : nullptr, forces.beta, forces.c ? forces.c + first : nullptr};
     variant({x.u + first, x.v + first, x.a + first, n}, copyU + first, copyV + first, copyA + first, f + first, load, 1.0, part, k);
   }
+}
+
+void newmarkNext(const ModalState& x, double* f, const double* gain, const double* r, const double* loads, int nb,
+                 const DiagonalForces& forces, const NewmarkCoefficients& k) {
+  const auto variant = forces.c ? nextDamped : forces.k ? nextElastic : nextFree;
+  if (nb == 1) {
+    variant(x, f, gain, r, loads[0], forces, k);
+    return;
+  }
+  double load[kBlock];
+  for (int first = 0; first < x.n; first += kBlock) {
+    const int n = std::min(kBlock, x.n - first);
+    newmarkLoad(load, r + first, x.n, loads, n, nb);
+    const DiagonalForces part{forces.k ? forces.k + first : nullptr, forces.beta, forces.c ? forces.c + first : nullptr};
+    variant({x.u + first, x.v + first, nullptr, n}, f + first, gain + first, load, 1.0, part, k);
+  }
+}
+
+QUARN_PROCESSOR_VERSIONS
+void newmarkCorrected(double* __restrict to, const double* __restrict u, const double* __restrict f, const double* __restrict gain, int n) {
+  for (int i = 0; i < n; ++i) to[i] = u[i] - f[i] * gain[i];
 }
 
 void newmarkSteps(const ModalState& x, const double* r, const double* gain, const double* loads, int stride, int nb, int steps,

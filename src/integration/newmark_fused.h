@@ -28,6 +28,14 @@ struct ModalState {
 void newmarkBegin(const ModalState& x, double* copyU, double* copyV, double* copyA, double* f, const double* r, const double* loads, int nb,
                   const DiagonalForces& forces, const NewmarkCoefficients& k);
 
+/// The correction of a step and the beginning of the next one: newmarkCorrect, then newmarkBegin without its copies. The acceleration in
+/// between is not written: x.a is 0 before and after, and not touched. f (in-out): forces of the step that ends, then of the next.
+void newmarkNext(const ModalState& x, double* f, const double* gain, const double* r, const double* loads, int nb,
+                 const DiagonalForces& forces, const NewmarkCoefficients& k);
+
+/// The displacements as newmarkCorrect would leave them: to = u - f*gain, n values.
+void newmarkCorrected(double* to, const double* u, const double* f, const double* gain, int n);
+
 /// Whole steps of a state on which only the loads and the diagonal forces act. loads: steps columns of nb values, stride values
 /// apart. A few hundred modes at a time go through all steps, since modes do not act on each other.
 void newmarkSteps(const ModalState& x, const double* r, const double* gain, const double* loads, int stride, int nb, int steps,

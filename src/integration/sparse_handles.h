@@ -18,6 +18,7 @@ class chandleSparse : public chandle {
  public:
   void checkSizes(const ROr& ctx, std::size_t rLen) override;
   bool endsSteps() const override { return false; }
+  bool keepsToItself(const Range* ranges, int count) const override { return apartFrom(ranges, count, m.pr, m.prLen); }
   void takeTimes(const StepTimes& times) override { factor.take(times, name()); }
   void takeWork(host::Doubles r) override;
   const double* diagonalValues() const override { return diagonal() && !factor ? m.pr : nullptr; }

@@ -36,6 +36,7 @@ class chandleNl_inout final : public chandle {
   void Residual(ROr ro, double* r) override;
   void checkSizes(const ROr& ro, std::size_t rLen) override;
   void takeWork(host::Doubles r) override;
+  bool keepsToItself(const Range* ranges, int count) const override;
   std::int64_t stateEnd() const override;
 
   SparseView c;

@@ -1,8 +1,10 @@
 // What an element would read or write outside its arrays, the state or the residual is refused here, before it runs.
 #include <algorithm>
+#include <iterator>
 
 #include "host/errors.h"
 #include "nonlinear/nl_inout.h"
+#include "nonlinear/user_law.h"
 #include "numbers/ranges.h"
 #include "sparse/line_checks.h"
 #include "sparse/mt_products.h"
@@ -37,6 +39,14 @@ void chandleNl_inout::checkViews(const ROr& ro, std::size_t rLen) {
     if (overlap(c.pr, c.prLen, written.data, written.count)) cApart = false;
     if (overlap(opt, static_cast<std::size_t>(optLen), written.data, written.count)) optApart = false;
   }
+}
+
+/// A law of the user's may end the call, or run code that looks at any array.
+bool chandleNl_inout::keepsToItself(const Range* ranges, int count) const {
+  if (law == FuUser) return false;
+  const Range own[] = {{unl, unlTotal}, {vnl, vnlTotal}, {snl, snlTotal},
+                       {c.pr, c.prLen}, {b.pr, b.prLen}, {opt, static_cast<std::size_t>(optLen)}};
+  return std::all_of(std::begin(own), std::end(own), [&](const Range& x) { return apartFrom(ranges, count, x.data, x.count); });
 }
 
 void chandleNl_inout::checkObservation(const ROr& ro) {

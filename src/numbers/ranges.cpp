@@ -37,4 +37,8 @@ bool overlap(const double* a, std::size_t nA, const double* b, std::size_t nB) {
   return a && b && nA > 0 && nB > 0 && before(a, b + nB) && before(b, a + nA);
 }
 
+bool apartFrom(const Range* ranges, int rangeCount, const double* x, std::size_t n) {
+  return std::none_of(ranges, ranges + rangeCount, [x, n](const Range& r) { return overlap(r.data, r.count, x, n); });
+}
+
 }  // namespace quarn

@@ -14,4 +14,13 @@ void storeAscending(double* dst, std::size_t dstCount, long long offset, const d
 /// Whether nA values from a on share memory with nB values from b on. Null and no values share nothing.
 bool overlap(const double* a, std::size_t nA, const double* b, std::size_t nB);
 
+/// Values in memory. Borrowed.
+struct Range {
+  const double* data;
+  std::size_t count;
+};
+
+/// Whether the n values at x share memory with none of the ranges.
+bool apartFrom(const Range* ranges, int rangeCount, const double* x, std::size_t n);
+
 }  // namespace quarn

@@ -84,6 +84,30 @@ TEST(NewmarkFused, BeginsAStepLikeTheSeparateLoops) {
   }
 }
 
+/// Between two steps, forces that stand for those of elements: zeros of both signs among them.
+TEST(NewmarkFused, GoesToTheNextStepLikeTheSeparateLoops) {
+  for (const int n : sizes) {
+    for (int nb = 0; nb < 4; ++nb) {
+      for (int kind = 0; kind < 3; ++kind) {
+        Problem wanted(n, nb);
+        wanted.a.assign(wanted.u.size(), 0.0);
+        wanted.f = Problem::withZeros(randomVector(n, 9));
+        Problem got = wanted;
+        const Vector untouched(got.u.size(), 0.0);
+        Vector saved(got.u.size(), 7.0);
+        newmarkCorrected(saved.data(), got.u.data(), got.f.data(), got.gain.data(), n);
+        newmarkCorrect(wanted.u.data(), wanted.v.data(), wanted.a.data(), wanted.f.data(), wanted.gain.data(), n, coefficients);
+        EXPECT_TRUE(sameBits(saved, wanted.u)) << n;
+        wanted.beginSeparately(wanted.p.data(), kind);
+        newmarkNext({got.u.data(), got.v.data(), got.a.data(), n}, got.f.data(), got.gain.data(), got.r.data(), got.p.data(), nb,
+                    got.forces(kind), coefficients);
+        EXPECT_TRUE(sameBits(got.u, wanted.u) && sameBits(got.v, wanted.v) && sameBits(got.a, untouched)) << n << ' ' << nb;
+        EXPECT_TRUE(sameBits(got.f, wanted.f)) << n << ' ' << nb << ' ' << kind;
+      }
+    }
+  }
+}
+
 TEST(NewmarkFused, DoesWholeStepsLikeTheSeparateLoops) {
   for (const int n : sizes) {
     for (int nb = 0; nb < 4; ++nb) {

@@ -173,3 +173,57 @@ function test_a_snapshot_without_columns_counts_its_rows ()
   call (run);
   expect_equal (run.out.FNL.def, [0 1 2 3; 0 9 9 9]);
 end
+
+function test_force_outputs_of_linear_runs_at_times_in_any_order ()
+  % Nothing writes into the store, but when it is saved and when its cursor goes on depends on each step.
+  orders = {1:5, [4 2 3 1 5], [5 1 2 3 4], [1 3 2 5 4], [5 5 3 4 2], [2 2 2 4 4]};
+  for save = orders
+    for store = orders
+      run = small_run ();
+      run.list{3} = typed (3, diag ([0.3 0.2 0.1]));
+      times = run.list{1}.tft(1, 2:end)';
+      run.model.FNL = [7; 8];
+      run.mem.uva.FNL = zeros (2, 1);
+      run.out.FNL = struct ('data', times(store{1}), 'def', zeros (2, 5));
+      run.out.data = times(save{1});
+      run.out.def = -ones (3, 5);
+      same_as_model (fresh (run));
+    end
+  end
+end
+
+function test_diagonal_forces_on_rows_behind_the_modes ()
+  % They gather from step to step: nothing sets them back.
+  run = one_mode_run ([1 2 3 4]);
+  run.u = [1; 0.5];
+  run.v = [2; 0.25];
+  run.a = [4; 0];
+  run.list = [run.list, {typed(1, diag ([3 5])), typed(3, diag ([2 4])), page_element('Power', [2; 3], 1)}];
+  run.list{4}.c.dims = [1 2];
+  run.list{4}.b.dims = [1 2];
+  run.mem.uva.uva = zeros (5, 1);
+  got = same_as_model (fresh (run));
+  expect_equal (got.mem.uva.uva(5) ~= 0, true);
+end
+
+function refuse_late (t)
+  if t > 0.5, error ('bearing:dry', 'no oil'); end
+end
+
+function f = dry_later (x, t)
+  refuse_late (t);
+  f = x;
+end
+
+function test_law_that_ends_a_run_leaves_the_copies_of_its_step ()
+  element = page_element ('User', [0; 0.25], 1);
+  element.iopt = int32 ([-1 0 1 0 0]);
+  element.call = @(x, v, s, t) dry_later (x, t);
+  run = one_mode_run ([1 2 3 4 5]);
+  run.list{2} = element;
+  before = fresh (run);
+  before.list{1}.tft = fresh (before.list{1}.tft(:, 1:3));
+  call (before);
+  expect_error (@() call (run), 'bearing:dry', '~no oil');
+  expect_equal (run.mem.uva.uva(1:3), [before.u; before.v; before.a]);
+end

@@ -1,6 +1,6 @@
 % Runs whose arrays lie on each other: each step reads and writes them in the stated order, whatever passes the run is made in.
 %
-% One mode, two loads. All arrays are slices of one vector, which the host does not copy; the plain integrator below works on the same places
+% One mode, two loads, with or without an element. All arrays are slices of one vector, which the host does not copy; the plain integrator below works on the same places
 % of a copy of that vector.
 function tests = suite_newmark_shared_memory ()
   tests = localfunctions ();
@@ -8,7 +8,7 @@ end
 
 function p = places ()
   p = struct ('u', 1, 'v', 3, 'a', 5, 'r', 7, 'tft', 11, 'data', 26, 'uva', 32, 'store', 36, 'snapshot', 39, 'times', 42, 'def', 45, ...
-              'k', 48, 'c', 50, 'n', 52);
+              'k', 48, 'c', 50, 'row', 52, 'act', 54, 'unl', 56, 'snl', 62, 'n', 65);
 end
 
 function m = memory (p)
@@ -40,8 +40,21 @@ function integrate (m, p, stored)
     mem.uva.FNL = slice (m, p.snapshot, 3, 1);
   end
   out = struct ('data', slice (m, p.times, 3, 1), 'def', slice (m, p.def, 1, 3));
-  quarn ('chandlediagnewmark', {value, stiffness, damping}, model, slice (m, p.u, 1, 2), slice (m, p.v, 1, 2), slice (m, p.a, 1, 2), ...
+  list = {value, stiffness, damping};
+  if isfield (p, 'element'), list{4} = spring (m, p); end
+  quarn ('chandlediagnewmark', list, model, slice (m, p.u, 1, 2), slice (m, p.v, 1, 2), slice (m, p.a, 1, 2), ...
          [0 0.5], mem, out);
+end
+
+% A spring of stiffness 2 on the mode. Its page has two values that it has no use for: from the end of a second page of three a step takes
+% two values to the front.
+function e = spring (m, p)
+  line = struct ('ir', int32 (0), 'jc', int32 ([0; 1; 1; 1]), 'dims', [3 1], 'trans', 1);
+  e = struct ('type', 1003, 'c', line, 'b', line, 'opt', [law_code('Power'); 2; 1]);
+  e.c.pr = slice (m, p.row, 2, 1);
+  e.b.pr = slice (m, p.act, 2, 1);
+  e.unl = reshape (slice (m, p.unl, 6, 1), [3 1 2]);
+  e.snl = slice (m, p.snl, 3, 1);
 end
 
 % The same with the definition's loop.
@@ -65,10 +78,16 @@ function m = plainly (m, p, stored)
     m(p.uva + 3) = f;
     m(p.uva + 3) = m(p.uva + 3) + m(p.k) * (m(p.u) + 0.5 * m(p.v));
     m(p.uva + 3) = m(p.uva + 3) + m(p.c) * m(p.v);
+    if isfield (p, 'element')
+      m(p.unl + (0:2)) = [m(p.row) * m(p.u); 0; 0];
+      m(p.snl + (0:2)) = 2 * m(p.unl + (0:2));
+      m(p.uva + 3) = m(p.uva + 3) + m(p.act) * m(p.snl);
+    end
     e = m(p.uva + 3) * m(p.r + 2);
     m(p.u) = m(p.u) - e;
     m(p.v) = m(p.v) - d(4) * e;
     m(p.a) = m(p.a) - e * d(5);
+    if isfield (p, 'element'), m(p.unl + (0:1)) = m(p.unl + (4:5)); end
     while cursor < 3 && t > m(p.times + cursor), cursor = cursor + 1; end
     if cursor < 3 && t == m(p.times + cursor), m(p.def + cursor) = m(p.u); end
   end
@@ -169,4 +188,29 @@ end
 function test_current_time_on_what_is_read ()
   p = places ();
   for place = [p.tft + 4, p.tft + 7, p.r + 1, p.k, p.c, p.times, p.times + 1], moved ('data', place - 5, false); end
+end
+
+% An array of the element moved to each of the places.
+function of_the_element (what, onto, stored)
+  p = places ();
+  p.element = true;
+  p.(what) = onto;
+  same (sprintf ('%s of the element at %d', what, onto), p, stored);
+end
+
+function test_element_apart ()
+  of_the_element ('row', 52, true);
+  of_the_element ('row', 52, false);
+end
+
+function test_element_that_looks_at_the_copies_of_the_state ()
+  p = places ();
+  for k = 0:2
+    for what = {'row', 'act', 'snl'}, of_the_element (what{1}, p.uva + k, false); end
+  end
+end
+
+function test_element_that_ends_its_steps_in_the_loads_and_the_gain ()
+  p = places ();
+  for place = -1:1, of_the_element ('unl', p.r + place, false); end
 end

@@ -7,6 +7,7 @@
 % Calls
 %   MODEL = qn.modal (K, M, ...)
 %   MODEL = qn.modal (S, ...)
+%   MODEL = qn.modal (R, 'speeds', W, ...)
 %
 % Input
 %   K, M   stiffness [N/m] and mass [kg], n x n, symmetric, K without negative eigenvalues, M positive definite; or with rows of
@@ -15,6 +16,10 @@
 %   S      structure with the fields K, M and, where there are such, C, G, N, speed: a physical model. Of a rotor of qn.rotor the modes are
 %          those of M and the symmetric part Ks; the rest of K is treated like 'K'. Its "speed" is that of qn.rotor, not one set by hand
 %          where bearings depend on it.
+%   R      from qn.rotor, with bearings that depend on the speed
+%   W      ascending speeds [rad/s] at which they are formed, for run-ups: linear in between, and refused beyond. Knots of tables are
+%          added to them. The modes are those at the middle one; the model by itself is that of the speed of R, or of the first. The
+%          warning qn:modal says where the bearings leave the line between two of them by more than 1 %.
 %   Names and values
 %     'modes'     how many modes to keep (all, at most 200)
 %     'damping'   modal damping ratios, one for all or one per mode, 1 being critical (0)

@@ -29,7 +29,8 @@
 %     'disks'      rows [node mass Id Ip]: moments of inertia about a diameter and about the axis [kg, kg m^2]
 %     'cylinders'  rows [node width outer inner density]: solid disks by their dimensions [m, kg/m^3]
 %     'bearings'   {NODE, K, C; ...}: stiffness [N/m] and damping [N s/m], each one value, two (along x and y), a matrix 2 x 2 with
-%                  cross-coupling, or 4 x 4 with moments over x, y, thx, thy; or a function of the speed [rad/s] that gives one of these.
+%                  cross-coupling, or 4 x 4 with moments over x, y, thx, thy; or a function of the speed [rad/s] that gives one of these;
+%                  or a table with two rows or more, [speed xx yy] or [speed xx xy yx yy], linear in between and refused beyond.
 %                  That of K may also give a structure with "stiffness" and "damping" (qn.journal_coefficients); C adds to it.
 %                  NODE is the number of a node, which is then held against the ground, or [node a b]: against the degrees of freedom
 %                  a and b of the stator.

@@ -67,7 +67,7 @@ function load = unbalance (model, dofs, me, varargin)
   else
     what = struct ('speed', [], 'table', [], 'motion', qn.impl.rotor.turning (who, o.profile));
     if isnumeric (o.profile), what.table = double (o.profile); end
-    if qn.impl.turns (model) && model.rotation.speed ~= 0
+    if qn.impl.turns (model) && model.rotation.speed ~= 0 && ~qn.impl.by_speed (model.rotation)
       warning ('qn:unbalance', ['%s: the unbalance runs along a profile, the model turns at %g rad/s: make it with ''speed'', 0, ' ...
                                 'and give the profile to qn.simulation as ''speed'''], who, model.rotation.speed);
     end

@@ -8,12 +8,13 @@ function [gain, times] = gain_pages (sim, from, to)
   m = numel (sim.model.w);
   b = sim.scheme.beta;
   h = sim.step;
-  weight = zeros (size (parts));
   large = zeros (size (parts));
+  changing = zeros (m * m, numel (parts));
   for p = 1:numel (parts)
-    weight(p) = 1;
-    if parts(p).type == 3, weight(p) = sim.scheme.gamma / (b * h); end
-    large(p) = b * h ^ 2 * weight(p) * norm (parts(p).matrix);
+    weight = 1;
+    if parts(p).type == 3, weight = sim.scheme.gamma / (b * h); end
+    changing(:, p) = weight * parts(p).matrix(:);
+    large(p) = b * h ^ 2 * weight * norm (parts(p).matrix);
   end
   still = eye (m) / (b * h ^ 2) + sim.scheme.gamma / (b * h) * qn.impl.matrix (sim.model.damping) + qn.impl.matrix (sim.model.stiffness);
   factors = {parts.factor};
@@ -46,15 +47,14 @@ function [gain, times] = gain_pages (sim, from, to)
   for k = 1:numel (times), gain(:, :, k) = qn.impl.step_inverse (whole (pages(2:end, k)), h); end
 
   function s = whole (f)
-    s = still;
-    for i = 1:numel (f), s = s + f(i) * weight(i) * parts(i).matrix; end
+    s = still + reshape (changing * f, m, m);
   end
 
   % Share of the matrix of the step that changes in a segment: against the inertia alone, or where that is coarse against all of it.
   function s = share (low, high)
     s = sum (abs (high - low).' .* large);
-    if s <= 1, return, end
-    change = whole (high) - whole (low);
+    if s <= 0.01 || numel (parts) == 1, return, end
+    change = reshape (changing * (high - low), m, m);
     s = min (s, max (norm (whole (low) \ change), norm (whole (high) \ change)));
   end
 end

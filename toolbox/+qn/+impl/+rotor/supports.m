@@ -1,9 +1,10 @@
-% LIST = SUPPORTS (WHO, NAME, ROWS, R)  bearings or seals of qn.rotor as a struct array: rows, K, C, M, source
+% LIST = SUPPORTS (WHO, NAME, ROWS, R)  bearings or seals of qn.rotor as a struct array: rows, K, C, M, source, knots
 %
 % rows is 2 x n or 4 x n: what the support sees of the displacements. K, C and M are matrices over these, or functions of the speed; that
-% of K may give {K, C}. source is the function that was given for K, by which equal ones are known.
+% of K may give {K, C}. source is the function that was given for K, by which equal ones are known, knots the speeds
+% of tables.
 function list = supports (who, name, rows, r)
-  list = struct ('rows', {}, 'K', {}, 'C', {}, 'M', {}, 'source', {});
+  list = struct ('rows', {}, 'K', {}, 'C', {}, 'M', {}, 'source', {}, 'knots', {});
   if isempty (rows) && iscell (rows), return, end
   widths = [2 3];
   if strcmp (name, 'seals'), widths = [2 3 4]; end
@@ -25,7 +26,9 @@ function list = supports (who, name, rows, r)
     end
     given = [rows(k, 2:end), cell(1, 4 - size (rows, 2))];    % K, C, M
     size_of = 2;
+    knots = cell (1, 3);
     for j = 1:3
+      [given{j}, knots{j}] = qn.impl.rotor.coefficients (who, label (j + 1), given{j});
       if isa (given{j}, 'function_handle')
         if numel (at) == 1, size_of = max (size_of, size (r.places, 2)); end
       else
@@ -34,7 +37,7 @@ function list = supports (who, name, rows, r)
       end
     end
     if numel (at) > 1 || size (r.places, 2) < 4, size_of = 2; end
-    s = struct ('rows', zeros (size_of, n), 'K', [], 'C', [], 'M', [], 'source', []);
+    s = struct ('rows', zeros (size_of, n), 'K', [], 'C', [], 'M', [], 'source', [], 'knots', [knots{:}]);
     s.rows(:, r.places(at(1), 1:size_of)) = eye (size_of);
     if numel (at) == 3
       if any (at(2:3) > numel (r.stator))

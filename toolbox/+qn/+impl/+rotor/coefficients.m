@@ -16,7 +16,8 @@ function k = at_speed (who, name, x, speed)
   w = x(:, 1);
   slack = 1e-9 * max (abs (w));
   if speed < w(1) - slack || speed > w(end) + slack
-    error ('qn:input', '%s: the table "%s" has values from %.6g to %.6g rad/s, and is asked for at %.6g rad/s', who, name, w([1 end]), speed);
+    error ('qn:input', '%s: the table "%s" has values from %.6g to %.6g rad/s, and is asked for at %.6g rad/s', who, name, ...
+           w([1 end]), speed);
   end
   k = interp1 (w, x(:, 2:end), speed, 'linear', 'extrap');
   if numel (k) == 4, k = reshape (k, 2, 2).'; end

@@ -23,8 +23,8 @@ function args = through_speeds (who, r, speeds)
     before = now;
   end
   if worst.off > 0.01
-    warning ('qn:modal', ['%s: half-way between %g and %g rad/s the %s of the bearings is %.2g %% off the line between the two; give more ' ...
-                          '"speeds" there'], who, worst.between, worst.what, 100 * worst.off);
+    warning ('qn:modal', ['%s: half-way between %g and %g rad/s the %s of the bearings is %.2g %% off the line between the two; give ' ...
+                          'more "speeds" there'], who, worst.between, worst.what, 100 * worst.off);
   end
   speed = r.speed;
   if isempty (speed), speed = speeds(1); end

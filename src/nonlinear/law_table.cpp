@@ -21,14 +21,24 @@ constexpr LawRow row(const char* keyword, NlForceLaw law, NlLawCheck check, bool
   return {keyword, codeOf(keyword), law, check, needsPages};
 }
 
-/// In the order of every list of laws that is read: memoryless ones first, then those with states, of shafts, of the user.
+/// In the order of every list of laws that is read.
 constexpr LawRow laws[] = {
-    row("Power", FuPower, checkPower),       row("Expon", FuExpon, checkExpon),
-    row("Table", FuTable, checkTable),       row("Damper", FuDamper, checkDamper),
-    row("Contact", FuContact, checkContact), row("Maxw", Maxw, checkMaxw),
-    row("DahlC", FuDahlC, checkDahlC, true), row("sts", STS, checkSts),
-    row("BoucWen", FuBoucWen, checkBoucWen), row("Clima2", Clima2, checkClima2, true),
-    row("Radial", FuRadial, checkRadial),    row("Journal", FuJournal, checkJournal),
+    // without states
+    row("Power", FuPower, checkPower),
+    row("Expon", FuExpon, checkExpon),
+    row("Table", FuTable, checkTable),
+    row("Damper", FuDamper, checkDamper),
+    row("Contact", FuContact, checkContact),
+    // with states
+    row("Maxw", Maxw, checkMaxw),
+    row("DahlC", FuDahlC, checkDahlC, true),
+    row("sts", STS, checkSts),
+    row("BoucWen", FuBoucWen, checkBoucWen),
+    row("Clima2", Clima2, checkClima2, true),
+    // of a shaft in two directions
+    row("Radial", FuRadial, checkRadial),
+    row("Journal", FuJournal, checkJournal),
+    // of the user's own
     row("User", FuUser, checkUser),
 };
 

@@ -29,7 +29,7 @@ function counts = run_suites (names, options)
   end
   put_on_path (here, options);
   if ~isempty (options.module) && ~options.quiet
-    newer = newer_source (fullfile (here, '..', '..', 'src'), options.module);
+    newer = newer_source (fullfile (project_folder (), 'src'), options.module);
     if ~isempty (newer), fprintf ('note: %s is newer than the module (scripts/build release quarn)\n', newer); end
   end
   if isempty (names), names = every_suite (options.suites); end

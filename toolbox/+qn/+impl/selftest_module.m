@@ -19,12 +19,14 @@ function [good, text] = module ()
     return
   end
   text = fullfile (here{1}, name);
+  [~, place] = fileattrib (text);
   try
     in_front = which ('quarn');
   catch
     in_front = text;      % it cannot be loaded; the next check says why
   end
-  if ~strcmp (in_front, text), text = sprintf ('%s (behind %s)', text, in_front); end
+  [found, front] = fileattrib (in_front);
+  if ~found || ~strcmp (front.Name, place.Name), text = sprintf ('%s (behind %s)', text, in_front); end
 end
 
 function [good, text] = presence ()

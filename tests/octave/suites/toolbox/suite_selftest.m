@@ -40,6 +40,16 @@ function test_every_line_is_ok_here_and_says_a_number ()
   if isempty (getenv ('QUARN_SANITIZED')) && seconds > 10, error ('the self-test took %.1f s', seconds); end
 end
 
+% addpath of a folder that is not named from the root.
+function test_a_module_is_not_behind_itself ()
+  [folder, name] = fileparts (module ());
+  code = sprintf (['addpath (''%s''); cd (''%s''); addpath (''%s''); checks = qn.impl.selftest_module (); ' ...
+                   '[good, text] = checks{2, 2} (); printf (''%%d %%s'', good, text)'], toolbox (), folder, name);
+  [status, text] = octave_says (code);
+  expect_equal (status, 0);
+  expect_equal (text, ['1 ' fullfile(name, 'quarn.mex')]);
+end
+
 function test_nothing_is_left_behind ()
   index = quarn ('chandleset', 1, struct ('pr', 1));
   keys = quarn ('chandleget');

@@ -9,7 +9,7 @@ fprintf (f, '%s\n', jsonencode (struct ('machine', machine, 'results', {records}
 fclose (f);
 f = fopen (fullfile (out, 'report.md'), 'w');
 fprintf (f, '# Benchmark report\n\n%s\n', regexprep (machine, '(?m)$', '  '));
-groups = {'product', 'host product', 'modes', 'newmark', 'gain', 'handles', 'modal elements', 'laws', 'tables', 'projections', 'calls'};
+groups = {'product', 'host product', 'modes', 'newmark', 'demo', 'gain', 'handles', 'modal elements', 'laws', 'tables', 'projections', 'calls'};
 for g = 1:numel (groups), report_group (f, groups{g}, records); end
 report_equations (f, records);
 fprintf (f, '\n## guards\n\n%s\n## call parts\n\n%s', parts_table (records, 'guards'), parts_table (records, 'call parts'));

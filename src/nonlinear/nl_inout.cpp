@@ -133,6 +133,10 @@ void chandleNl_inout::addForces(const ROr& ro, double* r) {
     for (int j = bFirst + bLength; j < b.cols; ++j) r[j] += 0.0;
     return;
   }
+  if (bRow && b.cols <= ro.begunAtZero) {
+    addDenseRow(b.cols, b.pr, snl[0], r);
+    return;
+  }
   if (bSparse && b.cols <= ro.begunAtZero) {
     if (bSingles) {
       scatterSingles(b.rows, b.ir, b.jc, b.pr, snl, r, bWork);
@@ -172,8 +176,22 @@ void chandleNl_inout::EndStep() {
 
 std::int64_t chandleNl_inout::stateEnd() const { return ioptLen >= 4 ? static_cast<std::int64_t>(iopt[1]) + iopt[3] : 0; }
 
+/// A full matrix of one row is a full line without indices.
+bool chandleNl_inout::planFullRow() {
+  const bool row = pagesApart && cApart && c.pr && !c.sparse() && c.rows == 1 && unlLen == 1;
+  if (!row) return false;
+  cSingles = false;
+  cRuns = nullptr;
+  cLength = c.cols;
+  cRows = c.pr;
+  cFirst = 0;
+  together = unl && vnl && !overlap(unl, unlTotal, vnl, vnlTotal);
+  return cLength > 0;
+}
+
 /// Pages that share no memory with the state or with c are assigned, line after line.
 void chandleNl_inout::planObservation() {
+  if (planFullRow()) return;
   const bool assigned = pagesApart && c.pr && c.sparse() && c.trans == 1 && unlLen > 0 && c.rows == unlLen && cApart;
   cSingles = assigned && singleEntries(c.rows, c.jc);
   cRuns = nullptr;
@@ -198,6 +216,7 @@ void chandleNl_inout::planCommand(host::Doubles r) {
            !overlap(r.data, r.count, b.pr, b.prLen);
   bRows = bBlock && cApart && sameLines(b, c) && !overlap(r.data, r.count, c.pr, c.prLen) ? c.pr : b.pr;
   bOne = bBlock && b.rows == 1;
+  bRow = snl && b.pr && !b.sparse() && b.trans == 1 && !overlap(r.data, r.count, snl, snlTotal) && !overlap(r.data, r.count, b.pr, b.prLen);
   if (bOne) bRows += b.jc[0];
   bWork = scatters && !bBlock ? static_cast<double*>(mxCalloc(static_cast<std::size_t>(std::max(b.cols, 1)), sizeof(double))) : nullptr;
   bSparse = bWork && b.rows > 0 && 8LL * (b.jc[b.rows] - b.jc[0]) <= b.cols;

@@ -68,6 +68,7 @@ class chandleNl_inout final : public chandle {
   void observe(const double* x, double* page) const;
   void observeBlock(const ROr& ro) const;
   void planObservation();
+  bool planFullRow();
   void planCommand(host::Doubles r);
   void planTable(host::Doubles r);
   void addForces(const ROr& ro, double* r);
@@ -93,6 +94,7 @@ class chandleNl_inout final : public chandle {
   int bFirst = 0;                 ///< first index of those full lines
   int bLength = 0;                ///< entries of each of them
   bool bOne = false;              ///< b has one line, and bBlock holds
+  bool bRow = false;              ///< b is a full matrix of one row
   const double* bRows = nullptr;  ///< values of b, or those of c where they are the same: in cache from the observation
 };
 

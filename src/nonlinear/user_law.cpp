@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 
 #include "base/handle_walk.h"
 #include "host/errors.h"
 #include "nonlinear/state_laws.h"
 #include "nonlinear/user_library.h"
+#include "numbers/processor.h"
 #include "numbers/ranges.h"
 
 namespace quarn {
@@ -59,8 +61,18 @@ void refuseNumbers(const chandleNl_inout& h, int rows, int states, double t) {
                isForce ? "force" : "state", (isForce ? force : k) + 1, t, h.unl[0], h.vnl[0]);
 }
 
+/// An exponent of ones is that of NaN and the infinities: one more carries into the sign. Looks at all of them, several at a time.
+QUARN_PROCESSOR_VERSIONS
 bool allFinite(const double* x, int n) {
-  return std::all_of(x, x + n, [](double value) { return std::isfinite(value); });
+  constexpr std::uint64_t exponent = 0x7ff0000000000000;
+  constexpr std::uint64_t one = 0x0010000000000000;
+  std::uint64_t carried = 0;
+  for (int i = 0; i < n; ++i) {
+    std::uint64_t bits;
+    std::memcpy(&bits, x + i, sizeof bits);
+    carried |= (bits & exponent) + one;
+  }
+  return carried >> 63 == 0;
 }
 
 mxArray* columnOf(const double* x, int n) {
@@ -139,13 +151,16 @@ void FuUser(chandleNl_inout* h, ROr ro) {
   const int rows = h->unlLen - states;
   const int group = groupOf(*h);
   if (rows > 0) std::fill_n(h->snl, rows, 0.0);
-  for (int first = 0; first < rows; first += group) {
-    if (h->user) {
-      const quarn_step now{group, h->optLen - ahead, states, ro.t, h->opt[2], h->unl + first, h->vnl + first, h->opt + ahead};
-      h->user->evaluate(&now, h->snl + first, h->unl + rows);
-    } else {
-      callFunction(h, first, group, states, ro.t);
+  if (h->user) {
+    const auto evaluate = h->user->evaluate;
+    quarn_step now{group, h->optLen - ahead, states, ro.t, h->opt[2], h->unl, h->vnl, h->opt + ahead};
+    for (int first = 0; first < rows; first += group) {
+      now.x = h->unl + first;
+      now.v = h->vnl + first;
+      evaluate(&now, h->snl + first, h->unl + rows);
     }
+  } else {
+    for (int first = 0; first < rows; first += group) callFunction(h, first, group, states, ro.t);
   }
   if (!allFinite(h->snl, rows) || !allFinite(h->unl + rows, states)) refuseNumbers(*h, rows, states, ro.t);
   StoreState(h, ro);

@@ -5,6 +5,7 @@
 #include "base/fixed_errors.h"
 #include "host/errors.h"
 #include "sparse/blas.h"
+#include "sparse/dense_lines.h"
 #include "sparse/line_checks.h"
 #include "sparse/mt_kernels.h"
 
@@ -35,7 +36,9 @@ void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, 
 void Prod_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, const double* u, double* y) {
   const int rows = dims[0];
   const int cols = dims[1];
-  if (!ir) {
+  if (!ir && rows == 1) {
+    y[0] = denseSum(cols, pr, u);
+  } else if (!ir) {
     if (rows > 0) cblas_dgemv(CblasColMajor, CblasNoTrans, rows, cols, 1.0, pr, rows, u, 1, 0.0, y, 1);
   } else if (dims[2] != 1) {
     host::fail(fixed::takesTransposedOnly);

@@ -20,7 +20,7 @@ void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, 
 void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, const double* u, double* y, double* work);
 
 /// Product into y.
-///   dense:              y = A*u, overwrites y (rows values)
+///   dense:              y = A*u, overwrites y (rows values); a single row is summed as a stored line is (line_sums.h)
 ///   sparse, trans = 1:  y[i] += line i . u, accumulates (the caller zeroes y)
 ///   sparse, trans != 1: raises "Prod_Mt_u implemented for transposed sparse matrices"
 void Prod_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, const double* u, double* y);

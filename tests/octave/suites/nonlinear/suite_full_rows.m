@@ -240,3 +240,54 @@ function test_observed_values_that_overlap_observed_velocities_are_written_last 
   expect_equal (e.unl, [45; 45]);
   expect_equal (e.vnl, [0; 45]);
 end
+
+% The element's row and its command as full matrices of one row, as scripts write them.
+function e = full_row_element (c, b)
+  e = struct ('type', 1003, 'c', c(:).', 'b', struct ('pr', b(:), 'dims', [1 numel(b)], 'trans', 1), 'opt', [law_code('Power'); 1; 1], ...
+              'unl', 77 * ones (1, 1), 'vnl', 77 * ones (1, 1), 'snl', 77 * ones (1, 1));
+  e = fresh (e);
+end
+
+function test_a_full_matrix_of_one_row_is_summed_like_a_line ()
+  randn ('seed', 58);
+  for cols = [1:18 40 257]
+    c = randn (cols, 1);
+    b = randn (cols, 1);
+    u = randn (cols, 1);
+    v = randn (cols, 1);
+    r = randn (cols, 1);
+    [got, e] = residual_of (full_row_element (c, b), u, v, r);
+    expect_equal (e.unl, model_full_line (c, u));
+    expect_equal (e.vnl, model_full_line (c, v));
+    expect_equal (got, r + b * e.unl);
+    seen = fresh (struct ('c', c.', 'b', b.', 'unl', zeros (1, 1), 'type', ''));
+    quarn ('residual', zeros (cols, 1), nl_model (seen), u, v, [], [], []);
+    expect_equal (seen.unl, model_full_line (c, u));
+  end
+end
+
+function test_a_run_with_full_matrices_of_one_row_takes_the_same_sums ()
+  randn ('seed', 59);
+  for cols = [1 7 8 21]
+    e = full_row_element (randn (cols, 1), randn (cols, 1));
+    [in, mem, out] = newmark_setup (ones (cols, 1), ones (cols, 1), ones (cols, 1), cos (1:cols)', sin (0:1), 1e-2, 0.25, 0.5, 2);
+    u = sin (1:cols)';
+    v = cos (1:cols)';
+    a = randn (cols, 1);
+    run_newmark ({in, e}, u, v, a, mem, out);
+    d = in.data;
+    expect_equal (e.unl, model_full_line (e.c, (d(2) * a + d(1) * v) + u));
+    expect_equal (e.vnl, model_full_line (e.c, d(3) * a + v));
+    expect_equal (mem.uva.uva(3 * cols + (1:cols)), (0 + in.r(:, 2) * in.tft(2, 1)) + e.b.pr * e.unl);
+  end
+end
+
+function test_a_force_of_zero_through_an_infinite_entry_of_a_full_row ()
+  % Lines of sparse matrices leave a force of zero out, full rows do not.
+  e = full_row_element (zeros (9, 1), [Inf; ones(8, 1)]);
+  wanted = [NaN; (2:9)'];
+  expect_equal (residual_of (fresh (e), ones (9, 1), ones (9, 1), (1:9)'), wanted);
+  [in, mem, out] = newmark_setup (ones (9, 1), ones (9, 1), ones (9, 1), -(1:9)', ones (1, 2), 1e-2, 0.25, 0.5, 2);
+  run_newmark ({in, e}, ones (9, 1), ones (9, 1), zeros (9, 1), mem, out);
+  expect_equal (mem.uva.uva(28:36), wanted);
+end

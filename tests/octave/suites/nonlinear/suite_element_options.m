@@ -127,9 +127,9 @@ end
 % Blocks that step on by one value each, from far in front of unl to its beginning: the call took 20 s and more.
 function test_counts_of_states_beyond_the_arrays_hold_no_call ()
   e = state_element ('DahlC', [0.5 10 1 4 2], [-1 2 -2^31+2 2^31-1 2^31-1], 4, 2);
-  begun = tic ();
+  begun = cputime ();
   [got, ~, u] = evaluate_law (e, (1:4)', ones (4, 1));
-  if toc (begun) > 2, error ('it took %g s', toc (begun)); end
+  if cputime () - begun > 2, error ('it took %g s', cputime () - begun); end
   expect_equal (u, [1; 2; reshape(got.unl(1:2), 2, 1)]);
 end
 

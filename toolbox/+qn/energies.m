@@ -22,7 +22,7 @@
 %           exchanged         taken by elements that act elsewhere than they observe ("B" beside "C"); negative: put in
 %           circulatory       taken by the skew part of a full stiffness (bearings with cross terms); negative: put in, as in oil whirl.
 %                             In a run-up also by all stiffness that changes with the speed or with its rate: 'KG', 'N' and
-%                             'by_speed' of qn.modal
+%                             'by_speed' of qn.modal; and by 'varying' of qn.simulation
 %           gyroscopic        taken by the skew part of a full damping matrix, in a run-up with the speed of each step: as the force is
 %                             at right angles to the velocity at the ends of a step, nothing to the order of the step squared.
 %                             What the drive does to keep to the speeds of a run-up is not in the model
@@ -53,7 +53,7 @@ function e = energies (res)
   e = struct ('time', res.time, 'kinetic', sum (v .^ 2, 1) / 2, 'strain', sum (q .* (k * q), 1) / 2, 'stored', none, ...
               'damped', between (c * v), 'dissipated', none, 'exchanged', none, 'circulatory', between (circulatory * q), ...
               'gyroscopic', between (gyroscopic * v), 'work', between (sim.shapes * sim.loads));
-  if qn.impl.runs_up (sim)
+  if qn.impl.varies (sim)
     for p = qn.impl.varying (sim)
       if p.type == 1
         e.circulatory = e.circulatory + between (qn.impl.turning_force (p, sim.time, q, v));

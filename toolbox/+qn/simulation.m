@@ -25,6 +25,9 @@
 %                 qn.modal with 'G' (whose own speed is ignored here). Every step has its own speed: the scheme with the gyroscopic
 %                 matrix of that time, and with the angular acceleration times 'KG', the mean of both sides at a knot. Knots that are
 %                 not on a step are fine; with 'KG' put them there. Loads are not made from it, not even of an unbalance
+%     'varying'   {'K' or 'C', MATRIX, TABLE; ...}: a further stiffness [N/m] or damping [N s/m] of the structure, any real n x n, times a
+%                 factor of time, TABLE = [times; factors], linear in between, two equal times a jump, over all of the run: a support that
+%                 wears, a cracked shaft, a gear mesh. Implicit, as the model is
 %     'every'     results are kept at every k-th step (1), or
 %     'times'     at the steps next to these times [s]; those outside the run give its first or last step
 %     'u0', 'v0'  initial displacement and velocity of the structure [m, m/s] (0); what the modes do not hold of them is left out, and
@@ -60,7 +63,7 @@ function sim = simulation (model, varargin)
   qn.impl.expect_result_of (who, model, 'qn.modal');
   o = struct ('step', '<required>', 'until', [], 'steps', [], 'scheme', 'average', 'load', {{}}, 'base', {{}}, ...
               'elements', {{}}, 'every', 1, 'times', [], 'u0', [], 'v0', [], 'q0', [], 'dq0', [], 'a0', 'consistent', ...
-              'start', [], 'fresh', [], 'speed', []);
+              'start', [], 'fresh', [], 'speed', [], 'varying', {{}});
   o = qn.impl.options (who, o, varargin);
   o.step = qn.impl.scalar (who, 'step', o.step, realmin ());
   first = 0;
@@ -86,6 +89,7 @@ function sim = simulation (model, varargin)
   sim = struct ('model', model, 'scheme', qn.scheme (o.scheme), 'step', o.step, 'first', first, 'time', (first + (0:o.steps)) * o.step);
   sim.speed = [];
   if ~isempty (o.speed), [sim.speed, sim.model] = qn.impl.run_up (who, model, o.speed, sim.time, sim.step); end
+  sim.varying = qn.impl.varied (who, model, o.varying, sim.time, sim.step);
   if ~isempty (o.times) && o.every ~= 1, error ('qn:input', '%s: give "every" or "times", one of them', who); end
   if isempty (o.times)
     o.every = qn.impl.count (who, 'every', o.every);

@@ -151,7 +151,8 @@ function rows = number_arguments ()
        'steps', 'empty', '"until" is then said to be missing'; 'elements\{1, 3', 'empty', optional}
     'qn.simulation', {'MODEL'}, {model, 'step', 1e-3, 'until', 7e-3, 'times', [1e-3 2e-3], 'q0', [1 2 3], 'dq0', [1 2 4], 'start', [], 'fresh', []}, ...
       {'q0|dq0|times', 'empty', optional; 'times', 'longer', any_length; 'until', 'empty', '"steps" is then said to be missing'}
-    'qn.simulation', {'MODEL'}, {rotor, 'step', 1e-3, 'steps', 7, 'speed', [0 1 2; 0 1 1]}, {'speed', 'empty', optional; 'speed', 'longer', any_length}
+    'qn.simulation', {'MODEL'}, {rotor, 'step', 1e-3, 'steps', 7, 'speed', [0 1 2; 0 1 1], 'varying', {'K', [1 2; 3 4], [0 1 2; 0 1 1]}}, ...
+      {'speed', 'empty', optional; 'speed|varying{1, 3', 'longer', any_length}
     'qn.slider', {}, {'slip', 2, 'stiffness', 3}, {}
     'qn.spectrogram', {'TIME', 'SIGNAL'}, {t, t, 'seconds', 0.4, 'overlap', 0.5, 'window', 'none', 'mean', 'keep'}, {'seconds', 'empty', optional}
     'qn.spectrogram', {'RES', 'C'}, {res, row}, {}

@@ -13,7 +13,7 @@ function s = balanced (sim, s, a0)
   [r, forces] = qn.impl.forces (sim, still, s.u, s.v);
   s.FNL = zeros (max (sim.slots, 1), 1);
   s.FNL(1:numel (forces)) = forces;
-  if qn.impl.runs_up (sim)
+  if qn.impl.varies (sim)
     r(1:m) = r(1:m) + qn.impl.turning_force (qn.impl.varying (sim), sim.time(1), s.u(1:m), s.v(1:m));
   end
   if ischar (a0)

@@ -3,6 +3,10 @@
 % At each speed over the time that the run spends about it, with the least and the greatest slope there. Of a finding that several
 % speeds have, the first is named, or the first that is an error.
 function found = check_speeds (sim, res)
+  if isfield (sim, 'varying') && ~isempty (sim.varying)
+    found = at_times (sim, res);
+    return
+  end
   if ~qn.impl.runs_up (sim)
     found = qn.impl.check_growth (sim, res);
     return
@@ -23,6 +27,21 @@ function found = check_speeds (sim, res)
         one.text = sprintf ('at %.4g rad/s %s', speeds(k), one.text);
         found = with_first (found, one);
       end
+    end
+  end
+end
+
+% The same for matrices that vary: at nine times, as if the set-up stayed so for a ninth of the run.
+function found = at_times (sim, res)
+  found = qn.impl.finding ();
+  for t = linspace (sim.time(1), sim.time(end), 9)
+    now = sim;
+    now.model = qn.impl.at_time (sim, t);
+    [now.speed, now.varying] = deal ([]);
+    now.time(end) = now.time(1) + (sim.time(end) - sim.time(1)) / 9;
+    for one = qn.impl.check_growth (now, res)
+      one.text = sprintf ('at %.4g s %s', t, one.text);
+      found = with_first (found, one);
     end
   end
 end

@@ -52,6 +52,15 @@ end
 % The model, in a run-up that at the highest speed: it whirls fastest there.
 function model = fastest (sim)
   model = sim.model;
+  if isfield (sim, 'varying') && ~isempty (sim.varying)
+    top = 0;
+    for t = linspace (sim.time(1), sim.time(end), 9)
+      now = qn.impl.at_time (sim, t);
+      w = max (qn.impl.frequencies (now));
+      if w > top, [top, model] = deal (w, now); end
+    end
+    return
+  end
   if ~qn.impl.runs_up (sim), return, end
   omega = qn.impl.speed_at (sim, sim.time);
   model = qn.impl.at_speed (model, max (abs (omega)), 0);
@@ -60,7 +69,7 @@ end
 % Whether anything moves mode K: an initial value, a load or an element. Where modes are coupled they move one another.
 function yes = reached (sim, k)
   m = numel (sim.model.w);
-  yes = size (sim.model.stiffness, 2) > 1 || size (sim.model.damping, 2) > 1 || qn.impl.runs_up (sim);
+  yes = size (sim.model.stiffness, 2) > 1 || size (sim.model.damping, 2) > 1 || qn.impl.varies (sim);
   pushes = sim.shapes;
   if ~isempty (pushes), pushes = pushes(:, any (sim.loads, 2)); end
   for e = sim.elements(:).', pushes = [pushes, e.command.']; end

@@ -47,10 +47,8 @@ function s = continued (sim, o)
   end
 end
 
-% What turns in a set-up at a column of its times; [] where the speed does not change.
+% What changes with time in a set-up, as it is at a column of its times.
 function t = turning (sim, column)
-  t = [];
-  if ~qn.impl.runs_up (sim), return, end
-  [omega, slope] = qn.impl.speed_at (sim, sim.time(column));
-  t = {sim.model.rotation, omega, slope};
+  t = {};
+  for p = qn.impl.varying (sim), t(end + 1, :) = {p.type, p.matrix, qn.impl.factor_at(p.factor, sim.time(column))}; end
 end

@@ -7,7 +7,7 @@
 function e = energy_limit (sim, s)
   e = Inf;
   m = numel (sim.model.w);
-  if numel (qn.impl.varying (sim)) > 1, return, end
+  if numel (qn.impl.varying (sim)) > qn.impl.runs_up (sim), return, end
   if ~passive (sim.model.damping, Inf) || ~passive (sim.model.stiffness, 0), return, end
   energy = qn.impl.motion (sim, s) ^ 2 / 2;
   for k = 1:numel (sim.elements)

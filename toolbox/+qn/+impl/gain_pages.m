@@ -19,6 +19,7 @@ function [gain, times] = gain_pages (sim, from, to)
   still = eye (m) / (b * h ^ 2) + sim.scheme.gamma / (b * h) * qn.impl.matrix (sim.model.damping) + qn.impl.matrix (sim.model.stiffness);
   factors = {parts.factor};
   knots = unique (cell2mat (cellfun (@(f) f(1, :), factors, 'UniformOutput', false)));
+  knots = knots(knots >= max (cellfun (@(f) f(1, 1), factors)) & knots <= min (cellfun (@(f) f(1, end), factors)));
   [first, last] = deal (sim.time(from + 1), sim.time(to));
   segments = find (knots(2:end) >= first & knots(1:end - 1) <= last);
   pages = cell (1, numel (segments));
@@ -53,7 +54,7 @@ function [gain, times] = gain_pages (sim, from, to)
   % Share of the matrix of the step that changes in a segment: against the inertia alone, or where that is coarse against all of it.
   function s = share (low, high)
     s = sum (abs (high - low).' .* large);
-    if s <= 0.01 || numel (parts) == 1, return, end
+    if s <= 0.01 || (numel (parts) == 1 && parts.type == 3), return, end
     change = reshape (changing * (high - low), m, m);
     s = min (s, max (norm (whole (low) \ change), norm (whole (high) \ change)));
   end

@@ -10,7 +10,7 @@ function v = integrator (sim, from, to)
   g = sim.scheme.gamma;
   n = m + sim.states;
   pages = [];
-  if qn.impl.runs_up (sim)
+  if qn.impl.varies (sim)
     [gain, pages] = qn.impl.gain_pages (sim, from, to);
   else
     gain = qn.impl.gain (sim.model, sim.scheme, h);

@@ -4,11 +4,11 @@
 %
 % The modes without elements, by the scheme and exactly for loads that are linear between the time points: mostly a phase that falls behind,
 % by (w h)^2/12 of what has passed. At up to ten places, those where each mode moves most, and as many steps as take half a second.
-% WORST is the mode with the greatest part. Run-ups are not looked at.
+% WORST is the mode with the greatest part. What changes with time is not looked at.
 function [off, worst, unlike] = linear_error (sim, more_k, more_c, res)
   [off, worst, unlike] = deal (0, 1, 0);
   m = numel (sim.model.w);
-  if qn.impl.runs_up (sim) || (nargin > 1 && m > 60), return, end
+  if qn.impl.varies (sim) || (nargin > 1 && m > 60), return, end
   [k, c, h] = deal (sim.model.stiffness, sim.model.damping, sim.step);
   last = min (numel (sim.time), max (1000, ceil (2e6 / m)));
   [u, v] = deal (sim.start.u(1:m), sim.start.v(1:m));

@@ -12,7 +12,7 @@ function [v, a] = rates (res, who)
   gamma = sim.scheme.gamma;
   c = sim.model.damping;
   start = sim.start;
-  if qn.impl.runs_up (sim)
+  if qn.impl.varies (sim)
     [v, a] = while_turning (sim, res.q, g);
   elseif size (c, 2) == 1
     g(:, 1) = start.a(1:m) + c .* start.v(1:m);

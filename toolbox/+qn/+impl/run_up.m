@@ -7,7 +7,7 @@ function [table, model] = run_up (who, model, table, time, h)
     error ('qn:input', '%s: "speed" needs a model with a gyroscopic matrix: give qn.modal "G" and "speed", 0', who);
   end
   table = qn.impl.numbers (who, 'speed', table, [2 NaN], 'each', '[times; speeds]');
-  table(1, :) = on_steps (table(1, :), h);
+  table(1, :) = qn.impl.on_steps (table(1, :), h);
   qn.impl.numbers (who, 'speed(1, :)', table(1, :), [], 'ascending');
   if table(1, 1) > time(1) || table(1, end) < time(end)
     error ('qn:input', '%s: "speed" covers %g to %g s of a run from %g to %g s; give it for all of the run', who, table(1, [1 end]), ...
@@ -24,19 +24,13 @@ function [table, model] = run_up (who, model, table, time, h)
   model.rotation.speed = 0;
 end
 
-function t = on_steps (t, h)
-  near = round (t / h);
-  at = abs (near * h - t) < 1e-6 * h;
-  t(at) = near(at) * h;
-end
-
 function table = with_knots (table, speeds, h)
   new = zeros (2, 0);
   for k = 1:size (table, 2) - 1
     [low, high] = deal (table(2, k), table(2, k + 1));
     w = speeds(speeds > min (low, high) & speeds < max (low, high));
     t = table(1, k) + (table(1, k + 1) - table(1, k)) * (w - low) / (high - low);
-    new = [new, [on_steps(t, h); w]];
+    new = [new, [qn.impl.on_steps(t, h); w]];
   end
   far = arrayfun (@(t) min (abs (table(1, :) - t)) > 1e-6 * h, new(1, :));
   table = sortrows ([table, new(:, far)].', 1).';

@@ -4,9 +4,14 @@
 % holds comes as few matrices: those of its singular values, each with a factor that goes through the speeds of the table.
 function parts = varying (sim)
   parts = struct ('type', {}, 'matrix', {}, 'factor', {});
-  if ~qn.impl.runs_up (sim), return, end
+  if qn.impl.runs_up (sim), parts = turning (sim); end
+  if isfield (sim, 'varying'), parts = [parts, sim.varying]; end
+end
+
+% Those of a run-up.
+function parts = turning (sim)
   r = sim.model.rotation;
-  parts(1) = struct ('type', 3, 'matrix', r.G, 'factor', sim.speed);
+  parts = struct ('type', 3, 'matrix', r.G, 'factor', sim.speed);
   if ~isempty (r.K)
     % The slope jumps at every knot between two segments.
     n = size (sim.speed, 2) - 1;

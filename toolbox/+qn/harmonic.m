@@ -12,7 +12,8 @@
 %
 % Input
 %   MODEL     from qn.modal, m modes
-%   LOAD      m x 1 modal force amplitude (qn.load_at times forces) [N], complex where phases differ: c - 1i * s is c cos + s sin
+%   LOAD      m x 1 modal force amplitude (qn.load_at times forces) [N], complex where phases differ: c - 1i * s is c cos + s sin, not
+%             zero
 %   ELEMENTS  {LAW, C; ...} as for qn.simulation; laws without memory
 %   HERTZ     [first last] frequency, in the direction to follow the curve [Hz]
 %   Names and values
@@ -34,10 +35,11 @@
 %                 amplitude  m x k, greatest value of each mode over a period
 %
 % Errors
-%   qn:input     sizes do not fit, a value is not finite, or a law has a memory; 'power' 2 without 'G' for a model with a gyroscopic
-%                or circulatory matrix at standstill; frequencies beyond the speeds of 'by_speed'
+%   qn:input     sizes do not fit, a value is not finite, LOAD is zero, or a law has a memory; 'power' 2 without 'G' for a model with a
+%                gyroscopic or circulatory matrix at standstill; frequencies beyond the speeds of 'by_speed'
 %   qn:diverged  no solution at the first frequency
-%   The warning qn:harmonic says that with 'power' 2 the gyroscopic matrix keeps one speed, which is not that of an unbalance
+%   The warning qn:harmonic says that the curve ends before the last frequency, and why; that it steps over a narrow resonance of a model
+%               without elements; and that with 'power' 2 the gyroscopic matrix keeps one speed, which is not that of an unbalance
 %
 % Example
 %   model = qn.modal (1, 1, 'damping', 0.05);
@@ -60,35 +62,87 @@ function r = harmonic (model, load, elements, hertz, varargin)
   [model, rotation] = turning (who, model, o.G, 2 * pi * hertz);
   b = qn.impl.periodic (who, model, load, elements, o.harmonics, o.samples, o.power, rotation);
   free = onCleanup (@() delete (b.handles));
+  if ~any (load(:)), error ('qn:input', '%s: "LOAD" is zero: there is no response to it. Of free motion see qn.backbone', who); end
   omega = 2 * pi * hertz;
   % First point: Newton at a fixed frequency, from the linear answer.
   z = b.linear (omega(1));
   [z, good] = qn.impl.newton (@(z) fixed (b, z, omega(1)), z);
   if ~good, error ('qn:diverged', '%s: no answer at %g Hz; begin farther from the resonances', who, hertz(1)); end
-  size_of = max (norm (z), realmin ());
-  % Both amplitude and frequency count along the curve, each in its own measure.
-  y = [z / size_of; omega(1) / abs(omega(2) - omega(1))];
-  unit = [size_of * ones(numel (z), 1); abs(omega(2) - omega(1))];
-  ahead = zeros (size (y));
-  ahead(end) = sign (omega(2) - omega(1));
-  curve = y;
+  span = omega(2) - omega(1);
+  curve = [z; omega(1)];
+  % Both amplitude and frequency count along the curve, each in its own measure: the amplitude there, and the range.
+  most = max (norm (z), realmin ());
+  unit = [most * ones(numel (z), 1); abs(span)];
+  [ahead, side] = tangent (b, curve, unit, [zeros(numel (z), 1); sign(span)], 0);
   step = o.step;
-  while size (curve, 2) < o.points
+  ended = '';
+  while isempty (ended) && (curve(end, end) - omega(2)) * sign (span) < 0
+    if size (curve, 2) >= o.points
+      ended = sprintf ('it has %d "points": allow more', o.points);
+      break
+    end
+    x = curve(:, end);
+    y = x ./ unit;
     guess = y + step * ahead;
-    [next, good, rounds] = qn.impl.newton (@(x) on_arc (b, x, guess, ahead, unit), guess);
-    if ~good || (next - y).' * ahead < 0
+    [next, good, rounds] = qn.impl.newton (@(y) on_arc (b, y, guess, ahead, unit), guess);
+    way = 0;
+    if good && next(end) > 0
+      there = tangent (b, next .* unit, unit, ahead, side);
+      way = min (ahead.' * [there, (next - y) / norm(next - y)]);
+    end
+    % A point far off the direction, or where the curve goes elsewhere, may be on another part of it: the far side of a resonance.
+    if way <= 0 || (way < 0.8 && step > 1e-5)
       step = step / 2;
-      if step < 1e-6, break, end
+      if step < 1e-6
+        ended = 'no point was found from there, as at the kinks of stiff stops: begin at the other end, give more "harmonics" and "samples"';
+      end
       continue
     end
-    ahead = (next - y) / norm (next - y);
-    y = next;
-    curve(:, end + 1) = y;
-    if rounds < 4, step = min (1.5 * step, 5 * o.step); end
-    f = y(end) * unit(end);
-    if (f - omega(2)) * sign (omega(2) - omega(1)) >= 0 || (omega(1) - f) * sign (omega(2) - omega(1)) > 1e-9 * omega(1), break, end
+    x = next .* unit;
+    curve(:, end + 1) = x;
+    if rounds < 4 && way > 0.95, step = min (1.5 * step, 5 * o.step); end
+    if (omega(1) - x(end)) * sign (span) > 1e-9 * omega(1), ended = 'it turned and came back to the first frequency'; end
+    ahead = there .* unit;
+    most = max (most, norm (x(1:end - 1)));
+    unit(1:end - 1) = max (norm (x(1:end - 1)), 1e-6 * most);
+    ahead = ahead ./ unit / norm (ahead ./ unit);
   end
-  r = b.result (bsxfun (@times, curve, unit));
+  if ~isempty (ended)
+    warning ('qn:harmonic', '%s: the curve ends at %.6g Hz, where %g Hz was wanted: %s', who, curve(end, end) / (2 * pi), hertz(2), ended);
+  end
+  if isempty (elements), passed_over (who, b, model, curve); end
+  r = b.result (curve);
+end
+
+% Direction of the curve at a point, near AHEAD. SIDE, a sign that stays the same along a curve, tells both ways apart; 0 at its beginning.
+function [t, side] = tangent (b, x, unit, ahead, side)
+  [g, j, slope] = b.equations (x(1:end - 1), x(end));
+  j = [bsxfun(@times, [j, slope], unit.'); ahead.'];
+  [lower, upper, order] = lu (j);
+  t = upper \ (lower \ (order * [zeros(numel (g), 1); 1]));
+  t = t / norm (t);
+  now = prod (sign (diag (upper))) * det (order);
+  if side == 0, side = now; end
+  if now ~= side, t = -t; end
+end
+
+% Narrow resonances of a model without elements between two neighbouring points of the curve, in any of its modes.
+function passed_over (who, b, model, curve)
+  p = (size (curve, 1) - 1) / numel (model.w);
+  each = @(z) sqrt (sum (reshape (z, p, []) .^ 2, 1));
+  greatest = max (sqrt (sum (curve(1:end - 1, :) .^ 2, 1)));
+  for w = sort (sqrt (max (real (eig (qn.impl.matrix (model.stiffness))), 0))).'
+    k = find ((curve(end, 1:end - 1) - w) .* (curve(end, 2:end) - w) < 0, 1);
+    if isempty (k), continue, end
+    there = each (b.linear (w * (1 + 1e-9)));
+    here = max (each (curve(1:end - 1, k)), each (curve(1:end - 1, k + 1)));
+    [more, mode] = max (there ./ max (here, 1e-6 * greatest));
+    if more > 1.5
+      warning ('qn:harmonic', ['%s: the curve steps over the resonance at %.6g Hz, from %.6g to %.6g Hz: mode %d answers there with %.3g ' ...
+                               'times as much as the curve has; follow it in a range around it'], who, w / (2 * pi), ...
+               curve(end, k:k + 1) / (2 * pi), mode, there(mode) / max (here(mode), realmin ()));
+    end
+  end
 end
 
 % What of the model turns with the load, [] for nothing, and the model without it.

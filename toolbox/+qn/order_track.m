@@ -17,7 +17,7 @@
 %   ORDERS     list of n orders, above 0
 %   Names and values
 %     'turns'    length of a window in turns of the shaft; orders are told apart that differ by more than 2 / turns. Let it times
-%                each order be whole (8)
+%                each order be whole, and at least 2 (8)
 %     'overlap'  share of a window that the next one has too, from 0 to below 1 (0.5)
 %
 % Output
@@ -28,7 +28,7 @@
 %
 % Errors
 %   qn:input  the lengths differ, a value is not finite, the times are not evenly spaced, the signal is shorter than a window, or
-%             an order has fewer than four samples a period
+%             an order has fewer than four samples a period or fewer than two periods in a window
 %
 % Example
 %   t = 0:1e-3:10;
@@ -53,6 +53,11 @@ function [amplitude, speed, middle] = order_track (time, signal, rotation, order
   if 4 * h * max (rotation) * max (orders) > 1
     error ('qn:input', '%s: order %g at %g Hz has %.2g samples a period; at least 4 are needed', who, max (orders), max (rotation), ...
            1 / (h * max (rotation) * max (orders)));
+  end
+  if min (orders) * o.turns < 2 * (1 - 1e-12)
+    error ('qn:input', ['%s: order %g turns %.3g times in a window of "turns" %g; at least 2 are needed, or what stands still and what turns ' ...
+                        'the other way counts as this order. Give "turns" of %g or more'], who, min (orders), min (orders) * o.turns, ...
+           o.turns, 2 / min (orders));
   end
   turns = [0, cumsum((rotation(1:end - 1) + rotation(2:end)) / 2 * h)];
   if turns(end) < o.turns

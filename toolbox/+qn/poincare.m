@@ -15,7 +15,7 @@
 %   C         p observation rows, or numbers of degrees of freedom
 %   PERIOD    of the load [s]
 %   Names and values
-%     'phase'   part of the period at which to look, from 0 to below 1 (0)
+%     'phase'   part of the period at which to look, from 0 to below 1, counted from the first of the times (0)
 %     'skip'    periods at the beginning to leave out, until the motion has settled (0)
 %
 % Output

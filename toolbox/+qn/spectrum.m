@@ -37,7 +37,11 @@ function [hertz, x] = spectrum (time, signal, varargin)
     case 'none', w = ones (1, n);
     otherwise, error ('qn:input', '%s: the window is ''hann'' or ''none'', not ''%s''', who, o.window);
   end
-  if strcmp (o.mean, 'remove'), signal = bsxfun (@minus, signal, mean (signal, 2)); end
+  switch o.mean
+    case 'remove', signal = bsxfun (@minus, signal, mean (signal, 2));
+    case 'keep'
+    otherwise, error ('qn:input', '%s: the mean is ''keep'' or ''remove'', not ''%s''', who, o.mean);
+  end
   x = fft (bsxfun (@times, signal, w), [], 2) / sum (w);
   half = floor (n / 2) + 1;
   x = x(:, 1:half);

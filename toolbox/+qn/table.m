@@ -25,7 +25,7 @@
 %            [m]), knots (of the law), text
 %
 % Errors
-%   qn:input  the lengths differ, a value is not finite, or an option has a value that makes no sense
+%   qn:input  the lengths differ, a value is not finite, 'merge' leaves one point of several, or an option has a value that makes no sense
 %
 % Example
 %   x = [0 1 2 2 3 4] * 1e-3;
@@ -50,6 +50,10 @@ function [law, report] = table (x, f, varargin)
   [xs, order] = sort (x);
   fs = f(order);
   group = cumsum ([1; diff(xs) > o.merge]);
+  if group(end) == 1 && xs(1) < xs(n)
+    error ('qn:input', '%s: "merge" of %g m takes all %d points, from %g to %g m, for one; give a shorter distance', who, o.merge, n, ...
+           xs(1), xs(n));
+  end
   weight = accumarray (group, 1);
   knots = accumarray (group, xs) ./ weight;
   % A mean of equal numbers is the number, to the last bit.

@@ -15,6 +15,11 @@ function found = check_law (sim, k, x, motion, state, f, record)
     say ('element_zero', 'warning', 'its rows are all zero: it does nothing; see qn.observe');
     return
   end
+  own = qn.impl.traits (e.law, 2);
+  if size (e.observe, 1) == 2 && own.rows == 2 && rank (e.observe) < 2
+    say ('element_one_way', 'warning', ['its two rows observe the same direction, each a multiple of the other: x and y of a shaft are ' ...
+                                        'meant. Numbers of degrees of freedom, or modes that move one way only?']);
+  end
   mobility = max (abs (diag (qn.impl.mobility (sim, e.observe, e.command))));
   can = max (abs (e.observe) * motion);
   kink = qn.impl.reach (e.law);

@@ -157,7 +157,11 @@ function test_the_own_errors_of_campbell ()
   ok = struct ('M', eye (2), 'K', eye (2));
   trials = {{}, 'a rotor and speeds expected'; {ok, 3}, 'two speeds or more'; {ok, [2 1]}, 'must ascend'
             {7, [1 2]}, '"R" must be a structure'; {struct('M', zeros (2), 'K', eye (2)), [1 2]}, 'M is not positive definite'
-            {ok, [1 2], 'places', [1 3]}, '"places"(2) is 3'};
+            {ok, [1 2], 'places', [1 3]}, '"places"(2) is 3'; {ok, [1 2], 'places', [1 2; 2 2]}, 'row 2 of "places" has degree of freedom 2 as x and as y'
+            {struct('M', eye (2), 'K', [2 -1; 0 2]), [1 2]}, 'K of "R" has entries on one side of its diagonal only, as half of a symmetric matrix has'
+            {struct('M', eye (2), 'K', sparse ([2 0; -1 2])), [1 2]}, 'give all of it, K + triu (K, 1).'' or K + tril (K, -1).'''
+            {struct('M', eye (2), 'K', eye (2), 'c', eye (2)), [1 2]}, '"R" has a field "c", which nothing reads: "C" is meant?'
+            {struct('M', eye (2), 'K', eye (2), 'g', eye (2)), [1 2]}, '"R" has a field "g", which nothing reads: "G" is meant?'};
   for k = 1:size (trials, 1)
     expect_error (@() qn.campbell (trials{k, 1}{:}), 'qn:input', ['~' regexptranslate('escape', trials{k, 2})]);
   end

@@ -127,6 +127,11 @@ function c = all_cases ()
        'motion_large', 'warning', {with(stiff (10), 'v0', 3e3), true}, {with(stiff (10)), true}
        'preload', 'note', {with(qn.gap ('gap', -1e-3, 'stiffness', 1e4))}, {with(stop (1e-3))}
        'table_left', 'note', {with(qn.law ('table', 'displacement', [-1e-3 0 1e-3], 'force', [-1 0 1])), true}, {with(straight), true}
+       'table_jump', 'warning', {with(qn.law ('table', 'displacement', [-1 -1 1], 'force', [-9 -2 2]))}, ...
+                                {with(qn.law ('table', 'displacement', [-2 -1 -1 1], 'force', [-9 -9 -2 2]))}
+       'table_jump', 'warning', {with(qn.law ('table', 'displacement', [-1 1 1], 'force', [-9 -2 2]))}, {with(straight)}
+       'element_one_way', 'warning', {ring_on([1 1])}, {ring_on([1 2])}
+       'preload', 'note', {ring_on([1 2], 'centre', [0 2e-3])}, {ring_on([1 2], 'centre', [0 1e-3])}
        'table_alternates', 'warning', {with(sawtooth)}, {with(straight)}
        'maxwell_unstable', 'error', {with(zener (4e-5))}, {with(zener (1e-3))}
        'maxwell_coarse', 'warning', {with(zener (4e-4))}, {with(zener (1e-3))}
@@ -179,6 +184,13 @@ end
 % Two masses with a stiff spring between them, on one of SUPPORT newtons a metre.
 function sim = pair_on (support)
   sim = qn.simulation (qn.modal (1e13 * [1 -1; -1 1] + diag ([support, 0]), eye (2)), 'step', 1e-8, 'until', 1e-4, 'v0', [1; 1]);
+end
+
+% A ring with a gap of 1 mm around the degrees of freedom AT.
+function sim = ring_on (at, varargin)
+  model = qn.modal (4e4 * eye (2), eye (2));
+  sim = qn.simulation (model, 'step', 1e-4, 'until', 0.2, 'v0', [1; 1], 'elements', ...
+                       {qn.radial('gap', 1e-3, 'stiffness', 1e5, varargin{:}), qn.observe(model, at)});
 end
 
 % A base that shakes for ten seconds as an earthquake of 0.3 g does, in m/s^2 times FACTOR.

@@ -66,6 +66,46 @@ function test_harmonic_balance_follows_the_curve_around_its_folds ()
   if r.hertz(end) < 0.35, error ('the curve ends at %g Hz', r.hertz(end)); end
 end
 
+% The first step from 0.05 towards 100 Hz would lead past the resonance, and over 0 Hz; a light damping makes the curve long.
+function test_harmonic_balance_neither_jumps_over_a_resonance_nor_turns_round ()
+  small = {'harmonics', 1, 'samples', 8};
+  for zeta = [0.05 1e-3]
+    model = qn.modal (1, 1, 'damping', zeta);
+    for range = [0.05 100; 0.3 0.05].'
+      [r, said] = followed (model, 1, {}, range.', small{:});
+      expect_equal (said, '');
+      w = 2 * pi * r.hertz;
+      a = sqrt (r.cosines(1, :, 2) .^ 2 + r.sines(1, :, 2) .^ 2);
+      expect_equal (a, 1 ./ sqrt ((1 - w .^ 2) .^ 2 + (2 * zeta * w) .^ 2), 1e-9 / zeta);
+      if max (a) < 0.98 / (2 * zeta), error ('the highest point is %g of %g', max (a), 0.5 / zeta); end
+      expect_equal (all (diff (r.hertz) * diff (range) > 0), true);
+      expect_equal ((r.hertz(end) - range(2)) * diff (range) >= 0, true);
+    end
+  end
+end
+
+function test_harmonic_balance_says_where_its_curve_ends_early_and_what_it_steps_over ()
+  small = {'harmonics', 1, 'samples', 8};
+  model = qn.modal (diag ([1 4 9]), eye (3), 'damping', 1e-3);
+  [r, said] = followed (model, [1; 1; 1], {}, [0.05 1], small{:}, 'points', 7);
+  expect_equal (numel (r.hertz), 7);
+  expect_in (said, sprintf ('the curve ends at %.6g Hz, where 1 Hz was wanted: it has 7 "points": allow more', r.hertz(7)));
+  [r, said] = followed (model, [1; 1e-4; 1], {}, [0.05 0.45], small{:});
+  expect_in (said, 'the curve steps over the resonance at 0.31831 Hz');
+  expect_in (said, ': mode 2 answers there with ');
+  [r, said] = followed (model, [0; 1e-4; 0], {}, [0.3 0.34], small{:});
+  expect_equal (said, '');
+  a = sqrt (r.cosines(2, :, 2) .^ 2 + r.sines(2, :, 2) .^ 2);
+  expect_equal (max (a), 1e-4 / (2 * 1e-3 * 4), 3e-4);
+  expect_error (@() qn.harmonic (model, zeros (3, 1), {}, [1 2]), 'qn:input', 'qn.harmonic: "LOAD" is zero: there is no response to it. Of free motion see qn.backbone');
+end
+
+% A curve of qn.harmonic and what was said of it.
+function [r, said] = followed (varargin)
+  r = [];
+  said = regexprep (evalc ('r = qn.harmonic (varargin{:});'), '\s+', ' ');
+end
+
 function test_harmonic_balance_agrees_with_the_steady_end_of_a_simulation ()
   model = qn.modal (1e4 * [2 -1; -1 1], eye (2), 'damping', 0.05);
   push = qn.load_at (model, 2) * 40;

@@ -160,3 +160,22 @@ function test_pictures_show_points_lines_and_colours ()
   expect_equal (reshape (get (lines(2), 'xdata'), 1, []), [0 1 0], 1e-12);
   expect_error (@() qn.plot.orbit ([0 1], [1 2 3]), 'qn:input', '~"Y" must be 2 values');
 end
+
+% What stands still has order 0, and a window of two turns does not tell it from order 1 if it is shorter.
+function test_a_window_too_short_for_an_order_is_refused ()
+  t = 0:1e-3:10;
+  text = ['qn.order_track: order 0.1 turns 0.8 times in a window of "turns" 8; at least 2 are needed, or what stands still and what turns the ' ...
+          'other way counts as this order. Give "turns" of 20 or more'];
+  expect_error (@() qn.order_track (t, 10 + 0 * t, 5 + 2 * t, [1 0.1]), 'qn:input', text);
+  expect_error (@() qn.order_track (t, 10 + 0 * t, 5 + 2 * t, 1, 'turns', 1.9), 'qn:input', '~turns 1.9 times in a window of "turns" 1.9;');
+  a = qn.order_track (t, 10 + 0 * t, 5 + 2 * t, [1 0.1], 'turns', 20);
+  expect_equal (max (abs (a(:))) < 1e-3, true);
+  expect_equal (max (abs (qn.order_track (t, 10 + 0 * t, 5 + 2 * t, 1, 'turns', 2))) < 1e-3, true);
+end
+
+function test_a_mean_that_is_neither_kept_nor_removed_is_refused ()
+  t = (0:99) * 1e-2;
+  for f = {@qn.spectrum, @qn.spectrogram}
+    expect_error (@() f{1} (t, 5 + t, 'mean', 'removed'), 'qn:input', 'qn.spectrum: the mean is ''keep'' or ''remove'', not ''removed''');
+  end
+end

@@ -79,4 +79,9 @@ function test_wrong_points_are_refused ()
   expect_error (@() qn.table (1), 'qn:input', '~displacements and forces expected');
   expect_error (@() qn.table ([1 2], [1 2], 'monotonic', 'up'), 'qn:input', '~"monotonic" is ''none'', ''rising'' or ''falling''');
   expect_error (@() qn.table ([1 2], [1 2], 'merge', -1), 'qn:input', '~"merge" must be at least 0');
+  % A distance in mm, taken for m.
+  expect_error (@() qn.table ([0 3 1] * 1e-3, [1 2 3], 'merge', 0.1), 'qn:input', ...
+                'qn.table: "merge" of 0.1 m takes all 3 points, from 0 to 0.003 m, for one; give a shorter distance');
+  law = qn.table ([2 2], [1 3], 'merge', 0.1);
+  expect_equal (law.parameters.force, 2);
 end

@@ -12,7 +12,7 @@ function l = radial_law ()
                 'y0', 0, 'number'};
   l = struct ('kind', 'radial', 'keyword', 'Radial', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
               'stiffest', @stiffest, 'viscous', @viscous, 'traits', @traits, 'stored', @stored, 'reserve', @reserve, ...
-              'reach', @reach);
+              'check', @check, 'reach', @reach);
 end
 
 function [opt, own] = pack (p, step)
@@ -41,11 +41,14 @@ end
 % Slope of the force along the radius, and force over radius across it, with friction at right angles to both.
 function k = stiffest (p, x, state)
   k = 0;
-  d = deepest (p, x);
-  if isempty (d) && p.exponent == 1
+  d = [];
+  if ~isempty (x), d = away (p, x) - p.gap; end
+  d = d(d > 0);
+  if isempty (x) && p.exponent == 1
     k = p.stiffness * sqrt (1 + p.friction ^ 2);
-  elseif any (d > 0)
-    k = max (p.exponent, 1) * p.stiffness * d ^ (p.exponent - 1) * sqrt (1 + p.friction ^ 2);
+  elseif ~isempty (d)
+    % With an exponent below 1 it is stiffest where it is least deep.
+    k = max (p.exponent, 1) * p.stiffness * max (d .^ (p.exponent - 1)) * sqrt (1 + p.friction ^ 2);
   end
 end
 
@@ -72,6 +75,18 @@ end
 function v = reserve (p, x, state)
   v = Inf;
   if p.friction == 0 || p.radius * p.speed == 0, v = stored (p, x, [], [], []); end
+end
+
+% At rest in the middle it should not press.
+function found = check (law, x, h, state)
+  found = cell (0, 3);
+  p = law.parameters;
+  if hypot (p.x0, p.y0) > p.gap && p.stiffness ~= 0
+    f = qn.force (law, [0; 0], [0; 0]);
+    found = {'preload', 'note', ...
+             sprintf(['it pushes with %g N at zero displacement: its centre is %g m away, beyond the gap of %g m. For a start at rest give ' ...
+                      '''q0'' from qn.static; lengths are in m'], hypot (f(1), f(2)), hypot (p.x0, p.y0), p.gap)};
+  end
 end
 
 function r = away (p, x)

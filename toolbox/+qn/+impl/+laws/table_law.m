@@ -73,6 +73,16 @@ function found = check (law, x, h, state)
                                   'that are not in their order? Smooth it; stiffness and stored energy are those of the noise'], ...
                                  numel (p.displacement), turns)};
   end
+  x = p.displacement;
+  n = numel (x);
+  if n > 1 && (x(1) == x(2) || x(n - 1) == x(n))
+    [at, side] = deal (x(n), 'above');
+    f = (p.force(n - 1) + p.force(n)) / 2;
+    if x(1) == x(2), [at, side, f] = deal (x(1), 'below', (p.force(1) + p.force(2)) / 2); end
+    found(end + 1, :) = {'table_jump', 'warning', ...
+                         sprintf(['its table of %d knots ends with a jump at %g m: %s it the force stays midway, at %g N. Give a knot ' ...
+                                  'beyond the jump'], n, at, side, f)};
+  end
   if strncmp (law.note, 'stop, preloaded', 15)
     text = sprintf (['it pushes with %g N at zero displacement: a negative gap is a preload. A run that starts at 0 starts with that ' ...
                      'force; for a start at rest give ''q0'' from qn.static'], qn.force (law, 0));

@@ -14,6 +14,10 @@ function s = eigenproblem (who, r, places, basis)
   if isstruct (r) && isfield (r, 'parts'), qn.impl.rotor.own_fields (who, r); end
   if isstruct (r) && isfield (r, 'places') && isempty (places), places = r.places(:, 1:2); end
   a = qn.impl.rotor.matrices (who, 'R', r);
+  if ~isdiag (a.K) && (istriu (a.K) || istril (a.K))
+    error ('qn:input', ['%s: K of "R" has entries on one side of its diagonal only, as half of a symmetric matrix has; give all of it, ' ...
+                        'K + triu (K, 1).'' or K + tril (K, -1).'''], who);
+  end
   n = size (a.M, 1);
   if isempty (basis.count)
     [factor, bad] = chol ((a.M + a.M.') / 2);
@@ -28,6 +32,10 @@ function s = eigenproblem (who, r, places, basis)
   s.circle = [];
   if isempty (places), return, end
   places = qn.impl.numbers (who, 'places', places, [NaN 2], 'from', 1, 'to', n, 'whole', 'each', 'x and y of a node in a row');
+  same = find (places(:, 1) == places(:, 2), 1);
+  if ~isempty (same)
+    error ('qn:input', '%s: row %d of "places" has degree of freedom %d as x and as y', who, same, places(same, 1));
+  end
   x = s.basis(places(:, 1), :);
   y = s.basis(places(:, 2), :);
   s.circle = 1i * (x.' * y - y.' * x);

@@ -5,6 +5,11 @@ function s = matrices (who, name, given)
   if ~isstruct (given) || numel (given) ~= 1 || ~isfield (given, 'M') || ~isfield (given, 'K')
     error ('qn:input', '%s: "%s" must be a structure with the matrices M and K, and C and G where there are any', who, name);
   end
+  for field = 'CG'
+    if isfield (given, lower (field)) && ~isfield (given, field)
+      error ('qn:input', '%s: "%s" has a field "%s", which nothing reads: "%s" is meant?', who, name, lower (field), field);
+    end
+  end
   n = size (given.M, 1);
   s = struct ('M', full (qn.impl.numbers (who, 'M', given.M, [n n])));
   for field = {'K', 'C', 'G', 'N'}

@@ -65,7 +65,7 @@ function found = check_law (sim, k, x, motion, state, f, record)
   end
 
   beside ();
-  if qn.impl.runs_up (sim) && turns (e.law.parameters)
+  if qn.impl.runs_up (sim) && spins (e.law.parameters)
     say ('law_speed', 'warning', ['its shaft turns at %g rad/s all the time, and the rotor runs from %g to %g rad/s: the law keeps the ' ...
                                   'speed that it was given. Run at steady speeds, or in parts that go on with ''start'', each with ' ...
                                   'the law of its speed'], e.law.parameters.speed, sim.speed(2, [1 end]));
@@ -86,7 +86,7 @@ function found = check_law (sim, k, x, motion, state, f, record)
   end
 
   % Whether its force depends on a speed of rotation.
-  function yes = turns (p)
+  function yes = spins (p)
     yes = isfield (p, 'speed') && p.speed ~= 0 && (~isfield (p, 'friction') || p.friction * p.radius ~= 0);
   end
 

@@ -29,7 +29,8 @@ function [curve, ended] = along_curve (equations, z, omega, first, points)
     if way <= 0 || (way < 0.8 && step > 1e-5)
       step = step / 2;
       if step < 1e-6
-        ended = 'no point was found from there, as at the kinks of stiff stops: begin at the other end, or give more "harmonics" and "samples"';
+        ended = ['no point was found from there, as at the kinks of stiff stops: begin at the other end, or give more "harmonics" ' ...
+                 'and "samples"'];
       end
       continue
     end

@@ -84,8 +84,8 @@ function found = check (law, x, h, state)
   if hypot (p.x0, p.y0) > p.gap && p.stiffness ~= 0
     f = qn.force (law, [0; 0], [0; 0]);
     found = {'preload', 'note', ...
-             sprintf(['it pushes with %g N at zero displacement: its centre is %g m away, beyond the gap of %g m. For a start at rest give ' ...
-                      '''q0'' from qn.static; lengths are in m'], hypot (f(1), f(2)), hypot (p.x0, p.y0), p.gap)};
+             sprintf(['it pushes with %g N at zero displacement: its centre is %g m away, beyond the gap of %g m. For a start at rest ' ...
+                      'give ''q0'' from qn.static; lengths are in m'], hypot (f(1), f(2)), hypot (p.x0, p.y0), p.gap)};
   end
 end
 

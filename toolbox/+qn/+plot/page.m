@@ -1,7 +1,8 @@
 % QN.PLOT.PAGE  a figure to draw on, hidden where there is no screen
 %
 % Purpose
-%   A white page that comes out the same on a screen, in a script without one, and in a file of qn.plot.picture.
+%   A white page that comes out the same on a screen, in a script without one, and in a file of qn.plot.picture. For several panels on it
+%   use qn.plot.panel, which leaves room for their titles; the host's subplot does not.
 %
 % Calls
 %   FIG = qn.plot.page ()

@@ -44,8 +44,7 @@ function a = acceleration (res, c, varargin)
   else
     rows = qn.impl.observation_rows (model, c, [who ': ']);
   end
-  [v, a] = qn.impl.rates (res, 'qn.acceleration');
-  a = rows * a;
+  [v, a] = qn.impl.rates (res, 'qn.acceleration', rows);
   if ~qn.impl.flag (who, 'absolute', o.absolute), return, end
   if ~isfield (sim, 'base') || isempty (sim.base)
     error ('qn:input', '%s: for absolute accelerations give the motion of the base by "base" of qn.simulation', who);

@@ -43,28 +43,12 @@ function e = energies (res)
   if nargin < 1, res = []; end
   qn.impl.expect_result_of ('qn.energies', res, 'qn.run');
   sim = res.sim;
-  v = qn.impl.rates (res, 'qn.energies');
-  q = res.q;
-  dq = diff (q, 1, 2);
-  between = @(f) [0, cumsum(sum ((f(:, 1:end - 1) + f(:, 2:end)) / 2 .* dq, 1))];
-  [c, gyroscopic] = parts (sim.model.damping);
-  [k, circulatory] = parts (sim.model.stiffness);
+  qn.impl.every_step ('qn.energies', res);
+  if ~res.complete, error ('qn:input', 'qn.energies: the run is not complete: go on with qn.resume first'); end
   none = zeros (size (res.time));
-  e = struct ('time', res.time, 'kinetic', sum (v .^ 2, 1) / 2, 'strain', sum (q .* (k * q), 1) / 2, 'stored', none, ...
-              'damped', between (c * v), 'dissipated', none, 'exchanged', none, 'circulatory', between (circulatory * q), ...
-              'gyroscopic', between (gyroscopic * v), 'work', between (sim.shapes * sim.loads));
-  if qn.impl.varies (sim)
-    for p = qn.impl.varying (sim)
-      if p.type == 1
-        e.circulatory = e.circulatory + between (qn.impl.turning_force (p, sim.time, q, v));
-        continue
-      end
-      [p.matrix, skew] = parts (p.matrix);
-      e.damped = e.damped + between (qn.impl.turning_force (p, sim.time, q, v));
-      p.matrix = skew;
-      e.gyroscopic = e.gyroscopic + between (qn.impl.turning_force (p, sim.time, q, v));
-    end
-  end
+  e = struct ('time', res.time, 'kinetic', none, 'strain', none, 'stored', none, 'damped', none, 'dissipated', none, ...
+              'exchanged', none, 'circulatory', none, 'gyroscopic', none, 'work', none);
+  e = of_structure (e, res);
   d = qn.dissipated (res);
   for k = 1:numel (d)
     members = sim.elements([sim.elements.item] == k);
@@ -77,9 +61,53 @@ function e = energies (res)
   e.residual = now - now(1) - e.work;
 end
 
-% Symmetric and skew part of a modal matrix, given by its diagonal or whole.
+% What does not belong to elements, a block of columns after another: works step by step, then their sums.
+function e = of_structure (e, res)
+  sim = res.sim;
+  [c, gyroscopic] = parts (sim.model.damping);
+  [k, circulatory] = parts (sim.model.stiffness);
+  [at, last, turning] = deal ([]);
+  if qn.impl.varies (sim), turning = qn.impl.varying (sim); end
+  for columns = qn.impl.blocks (size (res.q))
+    j = columns(1):columns(2);
+    [v, at] = qn.impl.next_rates (res, at, j);
+    e.kinetic(j) = weighed (ones (size (v, 1), 1), v, v) / 2;
+    e.strain(j) = weighed (k, res.q(:, columns(1):columns(2)), res.q(:, columns(1):columns(2))) / 2;
+    v = [last, v];
+    last = v(:, end);
+    j = max (j(1) - 1, 1):j(end);
+    to = j(2:end);
+    q = res.q(:, j(1):j(end));
+    moved = diff (q, 1, 2);
+    e.damped(to) = weighed (c, v(:, 1:end - 1) + v(:, 2:end), moved) / 2;
+    e.work(to) = weighed (ones (size (sim.shapes, 2), 1), sim.loads(:, j(1):j(end) - 1) + sim.loads(:, j(1) + 1:j(end)), ...
+                          sim.shapes.' * moved) / 2;
+    between = @(f) sum ((f(:, 1:end - 1) + f(:, 2:end)) / 2 .* moved, 1);
+    if any (circulatory(:)), e.circulatory(to) = between (circulatory * q); end
+    if any (gyroscopic(:)), e.gyroscopic(to) = between (gyroscopic * v); end
+    for p = turning
+      if p.type == 1
+        e.circulatory(to) = e.circulatory(to) + between (qn.impl.turning_force (p, sim.time(j), q, v));
+        continue
+      end
+      [p.matrix, skew] = parts (p.matrix);
+      e.damped(to) = e.damped(to) + between (qn.impl.turning_force (p, sim.time(j), q, v));
+      p.matrix = skew;
+      if any (skew(:)), e.gyroscopic(to) = e.gyroscopic(to) + between (qn.impl.turning_force (p, sim.time(j), q, v)); end
+    end
+  end
+  for name = {'damped', 'work', 'circulatory', 'gyroscopic'}, e.(name{1}) = cumsum (e.(name{1})); end
+end
+
+% Column by column y' C x, C by its diagonal or whole.
+function p = weighed (c, x, y)
+  if size (c, 2) == 1, p = c.' * (x .* y); else, p = sum ((c * x) .* y, 1); end
+end
+
+% Symmetric and skew part of a modal matrix; of a diagonal, given as a column, that and nothing.
 function [s, g] = parts (x)
-  if size (x, 2) == 1, x = spdiags (x, 0, numel (x), numel (x)); end
+  [s, g] = deal (x, []);
+  if size (x, 2) == 1, return, end
   s = (x + x.') / 2;
   g = (x - x.') / 2;
 end

@@ -35,12 +35,13 @@ function cases = grid (varargin)
     if ~iscell (values{k}), values{k} = num2cell (values{k}); end
     counts(k) = numel (values{k});
   end
-  cases = repmat (struct (), counts);
-  at = reshape (1:numel (cases), counts);
+  % Value j of the first parameter is that of the elements j, j + counts(1), ...; of the second that of counts(1) elements in succession, ...
+  each = cell (numel (names), prod (counts));
+  inner = 1;
   for k = 1:numel (names)
-    turned = reshape (permute (at, [k, 1:k - 1, k + 1:numel(counts)]), counts(k), []);
-    for j = 1:counts(k)
-      [cases(turned(j, :)).(names{k})] = deal (values{k}{j});
-    end
+    at = 1 + mod (floor ((0:size (each, 2) - 1) / inner), counts(k));
+    each(k, :) = reshape (values{k}(at), 1, []);
+    inner = inner * counts(k);
   end
+  cases = reshape (cell2struct (each, names(:), 1), counts);
 end

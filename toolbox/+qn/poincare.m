@@ -40,7 +40,7 @@ function [points, at] = poincare (time, signals, period, varargin)
     res = time;
     qn.impl.expect_result_of (who, res, 'qn.run');
     c = qn.impl.observation_rows (res.sim.model, signals, [who ': ']);
-    signals = [c * res.q; c * qn.impl.rates(res, who)];
+    signals = [c * res.q; qn.impl.rates(res, who, c)];
     time = res.time;
   end
   [h, time] = qn.impl.spacing (who, time);

@@ -28,7 +28,9 @@ function [v, a] = velocity (res, c)
   qn.impl.expect_result_of ('qn.velocity', res, 'qn.run');
   if nargin < 2, error ('qn:input', 'qn.velocity: observation rows or degrees of freedom expected; see help qn.velocity'); end
   c = qn.impl.observation_rows (res.sim.model, c, 'qn.velocity: ');
-  [v, a] = qn.impl.rates (res, 'qn.velocity');
-  v = c * v;
-  a = c * a;
+  if nargout < 2
+    v = qn.impl.rates (res, 'qn.velocity', c);
+  else
+    [v, a] = qn.impl.rates (res, 'qn.velocity', c);
+  end
 end

@@ -3,7 +3,6 @@ function res = advance (res, o)
   sim = res.sim;
   last = numel (sim.time);
   kept = sum (sim.saved <= res.final.column);
-  res = qn.impl.sized (res, numel (sim.saved));
   if ~isempty (o.save)
     qn.impl.savable ('qn.run', sim);
     o.save = can_write (o.save);
@@ -14,20 +13,20 @@ function res = advance (res, o)
   begun = tic ();
   before = res.seconds;
   from = res.final.column;
-  key = qn.impl.reached ();
-  qn.impl.reached (key, qn.impl.sized (res, kept));
+  key = qn.impl.reached (qn.impl.sized (res, numel (sim.saved)));
+  res = rmfield (res, {'q', 'state', 'force', 'time'});
+  qn.impl.reached (key, res, kept);
   watch = onCleanup (@() ended_early (key, from, o));
   told = 0;
   written = 0;
   noting = 0;
   chunk = 1000;
   if ~isempty (o.piece), chunk = o.piece; end
+  most = max (100, ceil (4e6 / numel (res.final.u) * last / numel (sim.saved)));  % 32 MB of results: they are in memory twice for a moment
   while res.final.column < last
     piece_begun = tic ();
     [next, part, wanted] = qn.impl.piece (sim, res.final, h, min (res.final.column + chunk, last));
-    res.q(:, wanted) = part.q;
-    res.state(:, wanted) = part.state;
-    res.force(:, wanted) = part.force;
+    qn.impl.reached (key, wanted, part);
     res.diverged = ~within_numbers ([next.u; next.v; next.a]);
     if res.diverged
       good = find (~within_numbers ([part.q; part.state; part.force]), 1) - 1;
@@ -44,7 +43,7 @@ function res = advance (res, o)
       res.time_end = sim.time(next.column);
     end
     if isempty (o.piece)
-      chunk = max (100, min (10 * chunk, round (chunk * 0.5 / max (toc (piece_begun), 1e-3))));
+      chunk = max (100, min ([10 * chunk, most, round(chunk * 0.5 / max (toc (piece_begun), 1e-3))]));
     end
     res.seconds = before + toc (begun);
     res.complete = res.final.column == last;
@@ -56,17 +55,17 @@ function res = advance (res, o)
       if exist ('OCTAVE_VERSION', 'builtin'), fflush (stdout ()); end
     end
     if ~res.diverged && ~res.complete && toc (begun) >= noting
-      % Until the copy that this is has cost a twentieth of the time.
+      % Until the copies of the elements that this takes have cost a twentieth of the time.
       noted = tic ();
       res.final.values = current (res.final.values, h);
-      qn.impl.reached (key, qn.impl.sized (res, kept));
+      qn.impl.reached (key, res, kept);
       noting = toc (begun) + 20 * toc (noted);
     end
-    stop = res.diverged || (~isempty (o.stop) && o.stop (res));
+    stop = res.diverged || (~isempty (o.stop) && o.stop (with_history (res, key, numel (sim.saved))));
     due = ~isempty (o.save) && toc (begun) - written >= o.interval;
     if stop || res.complete || due, res.final.values = current (res.final.values, h); end
     if ~isempty (o.save) && (stop || res.complete || due)
-      qn.impl.files.save_run (qn.impl.sized (res, kept), o.save, o.progress);
+      qn.impl.files.save_run (with_history (res, key, kept), o.save, o.progress);
       written = toc (begun);
     end
     if res.diverged
@@ -75,8 +74,15 @@ function res = advance (res, o)
     end
     if stop, break, end
   end
-  res = qn.impl.sized (res, kept);
+  res = with_history (res, key, kept);
   qn.impl.reached (key);
+end
+
+% The result with the first K columns of its histories, and its fields in their order.
+function res = with_history (res, key, k)
+  so_far = qn.impl.reached (key, 'so far');
+  for name = fieldnames (res).', so_far.(name{1}) = res.(name{1}); end
+  res = qn.impl.sized (so_far, k);
 end
 
 % What qn.run says about the motion S at a time, once: LIMIT is then infinite.

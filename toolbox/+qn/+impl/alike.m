@@ -9,13 +9,19 @@ function same = alike (a, b)
     if same && isfield (a, 'workspace'), same = qn.impl.alike (a.workspace, b.workspace); end
   elseif iscell (a)
     same = isequal (size (a), size (b));
+    if ~same || same_bits (a, b), return, end
     for k = 1:numel (a), same = same && qn.impl.alike (a{k}, b{k}); end
   elseif isstruct (a)
     same = isequal (size (a), size (b)) && isequal (sort (fieldnames (a)), sort (fieldnames (b)));
-    for name = fieldnames (a).'
-      for k = 1:numel (a), same = same && qn.impl.alike (a(k).(name{1}), b(k).(name{1})); end
-    end
+    for name = fieldnames (a).', same = same && qn.impl.alike ({a.(name{1})}, {b.(name{1})}); end
   else
     same = isequaln (a, b);
   end
+end
+
+% Cells without functions whose every bit is the same, many elements at once; others may be alike still.
+function same = same_bits (a, b)
+  [a, good] = qn.impl.files.flatten (a);
+  same = false;
+  if good, same = isequal (a, qn.impl.files.flatten (b)); end
 end

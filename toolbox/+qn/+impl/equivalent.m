@@ -6,16 +6,21 @@ function [k, c] = equivalent (res)
   sim = res.sim;
   m = numel (sim.model.w);
   [k, c] = deal (zeros (m));
-  good = find (all (isfinite (res.q), 1) & all (isfinite (res.force), 1));
-  if numel (good) < 3, return, end
-  good = good(1):good(end);
+  if ~isfinite (sum (res.q(:)) + sum (res.force(:)))
+    good = find (all (isfinite (res.q), 1) & all (isfinite (res.force), 1));
+    if numel (good) < 3, return, end
+    good = good(1):good(end);
+    [res.q, res.force] = deal (res.q(:, good), res.force(:, good));
+  end
+  n = size (res.q, 2);
+  if n < 3, return, end
   each = isequal (res.time, sim.time(1:numel (res.time)));
   for e = sim.elements(:).'
-    x = e.observe * res.q(:, good);
-    f = res.force(e.forces, good);
+    x = e.observe * res.q;
+    f = res.force(e.forces, :);
     if ~isequal (size (x), size (f)), continue, end
     for j = 1:size (x, 1)
-      moves = [x(j, :); zeros(1, numel (good))];
+      moves = [x(j, :); zeros(1, n)];
       if each
         bend = gradient (gradient (x(j, :)));
         bend(2:end - 1) = diff (x(j, :), 2);

@@ -35,7 +35,7 @@ function [off, worst, unlike] = linear_error (sim, more_k, more_c, res)
     can = max (abs (sim.model.shapes), [], 1).' .* qn.impl.motion_bound (sim);
     matter = find (can > 1e-4 * max (can));
     seen = places (sim.model.shapes(:, matter));
-    [x, y] = deal (zeros (size (seen, 1), last));
+    [x, y] = deal (zeros (last, numel (matter)));
     part = zeros (m, 1);
     for j = 1:numel (matter)
       at = matter(j);
@@ -46,9 +46,11 @@ function [off, worst, unlike] = linear_error (sim, more_k, more_c, res)
       [a, b0, b1] = exact_step (k(at), c(at), h);
       other = filtered (a, b0, b1, [u(at); v(at)], f);
       part(at) = max (abs (one - other));
-      x = x + seen(:, j) * (one - other);
-      y = y + seen(:, j) * other;
+      x(:, j) = one - other;
+      y(:, j) = other;
     end
+    x = seen * x.';
+    y = seen * y.';
   end
   top = max (abs (y(:)));
   if ~(top > 0) || ~isfinite (top) || ~all (isfinite (x(:))), return, end
@@ -88,14 +90,9 @@ end
 
 % The displacements are the first values of the state.
 function x = march (a, b0, b1, z, f)
-  n = size (f, 1);
-  p = b0 * f(:, 1:end - 1) + b1 * f(:, 2:end);
-  x = zeros (n, size (f, 2));
-  x(:, 1) = z(1:n);
-  for k = 1:size (p, 2)
-    z = a * z + p(:, k);
-    x(:, k + 1) = z(1:n);
-  end
+  p = b1 * f(:, 2:end);
+  if any (b0(:)), p = p + b0 * f(:, 1:end - 1); end
+  x = qn.impl.recurrence (a, p, z, size (f, 1));
 end
 
 % The displacements of one mode are a recurrence of second order.

@@ -2,9 +2,11 @@
 function res = sized (res, k)
   for name = {'q', 'force', 'state'}
     x = res.(name{1});
-    if size (x, 2) < k
-      res.(name{1}) = [x, NaN(size (x, 1), k - size (x, 2))];
-    else
+    n = size (x, 2);
+    if n < k
+      res.(name{1}) = NaN (size (x, 1), k);
+      res.(name{1})(:, 1:n) = x;
+    elseif n > k
       res.(name{1}) = x(:, 1:k);
     end
   end

@@ -30,7 +30,7 @@ function phase (res, c, period)
   c = qn.impl.observation_rows (res.sim.model, c, [who ': ']);
   if nargin > 2, period = qn.impl.scalar (who, 'PERIOD', period, realmin ()); end
   x = c * res.q;
-  v = c * qn.impl.rates (res, 'qn.plot.phase');
+  v = qn.impl.rates (res, 'qn.plot.phase', c);
   if size (x, 1) ~= 1, error ('qn:input', 'qn.plot.phase: one observation row expected, got %d', size (x, 1)); end
   [fx, ux] = qn.impl.prefixed (x, 'm');
   [fv, uv] = qn.impl.prefixed (v, 'm/s');

@@ -100,3 +100,57 @@ function test_gyroscopic_and_circulatory_works_are_named ()
   expect_equal (e.damped(end), between (dashpot * qn.velocity (res, qn.observe (model, [1 2]))), 1e-9);
   if abs (e.circulatory(end)) < 0.01 * scale, error ('the cross terms do no work'); end
 end
+
+% Long results are gone through in blocks, and matrices step in many places at once: against the formulas, a step at a time and for the whole.
+function test_velocities_and_energies_of_many_steps_are_those_of_the_formulas ()
+  rand ('twister', 61);
+  randn ('twister', 61);
+  n = 130;
+  K = 1e4 * (2 * eye (n) - diag (ones (n - 1, 1), 1) - diag (ones (n - 1, 1), -1));
+  g = randn (n);
+  for more = {{'damping', 0.02}, {'C', eye(n) + 0.1 * (g - g.'), 'K', 10 * (g - g.')}}
+    model = qn.modal (K, eye (n), more{1}{:});
+    [extents, steps] = deal (numel (model.w), 3300);
+    assert (size (qn.impl.blocks ([extents, steps + 1]), 2) == 3);
+    sim = qn.simulation (model, 'step', 2e-3, 'steps', steps, 'v0', randn (n, 1), 'load', {qn.load_at(model, 7), @(t) 30 * sin(40 * t)}, ...
+                         'elements', {qn.cubic('stiffness', 1e6), qn.observe(model, 3)});
+    res = qn.run (sim, 'check', false, 'progress', false);
+    [c, k] = deal (qn.impl.matrix (model.damping), qn.impl.matrix (model.stiffness));
+    p = sim.shapes * sim.loads;
+    forces = p - k * res.q - sim.elements.command.' * res.force;
+    implicit = inv (eye (n) + sim.step / 2 * c);
+    [v, a] = deal (zeros (size (res.q)));
+    [v(:, 1), a(:, 1)] = deal (sim.start.v, sim.start.a);
+    for j = 2:steps + 1
+      v(:, j) = implicit * (v(:, j - 1) + sim.step / 2 * (a(:, j - 1) + forces(:, j)));
+      a(:, j) = forces(:, j) - c * v(:, j);
+    end
+    rows = qn.observe (model, [2 50 130]);
+    [got_v, got_a] = qn.velocity (res, rows);
+    expect_equal (got_v, rows * v, 1e-11 * max (max (abs (rows * v))));
+    expect_equal (got_a, rows * a, 1e-11 * max (max (abs (rows * a))));
+    e = qn.energies (res);
+    between = @(f) [0, cumsum(sum ((f(:, 1:end - 1) + f(:, 2:end)) / 2 .* diff (res.q, 1, 2), 1))];
+    top = max (e.kinetic);
+    expect_equal (e.kinetic, sum (v .^ 2, 1) / 2, 1e-11 * top);
+    expect_equal (e.strain, sum (res.q .* (k * res.q), 1) / 2, 1e-11 * top);
+    expect_equal (e.damped, between ((c + c.') / 2 * v), 1e-11 * top);
+    expect_equal (e.gyroscopic, between ((c - c.') / 2 * v), 1e-11 * top);
+    expect_equal (e.circulatory, between ((k - k.') / 2 * res.q), 1e-11 * top);
+    expect_equal (e.work, between (p), 1e-11 * top);
+  end
+end
+
+function test_a_recurrence_in_blocks_is_that_of_one_step_after_another ()
+  randn ('twister', 62);
+  for steps = [0 1 2 3 15 16 17 300 1025]
+    n = 1 + mod (steps, 4);
+    a = randn (n);
+    a = a / max (abs (eig (a))) * (0.9 + 0.01 * n);
+    [p, z] = deal (randn (n, steps), randn (n, 1));
+    wanted = [z, zeros(n, steps)];
+    for k = 1:steps, wanted(:, k + 1) = a * wanted(:, k) + p(:, k); end
+    expect_equal (qn.impl.recurrence (a, p, z, n), wanted, 1e-11 * max (abs (wanted(:))));
+    expect_equal (qn.impl.recurrence (a, p, z, 1), wanted(1, :), 1e-11 * max (abs (wanted(:))));
+  end
+end

@@ -5,66 +5,66 @@
 %
 % Each case beyond a quarter of a second is a bundle of its own; shorter ones come together for half a second, or 20 MB. So that is what a
 % killed process loses. The bundles are a stack: a case may run a sweep itself.
-function out = bundle (what, n, varargin)
-  persistent open
+function out = bundle (what, n, k, result)
+  % Of the innermost sweep variables of their own, as Octave copies a list that is deep in another one when it grows.
+  persistent jobs outer ended bytes begun
   mlock
-  if isempty (open), open = {}; end
   switch what
     case 'open'
-      open{end + 1} = emptied (struct ('job', n));
-      out = numel (open);
+      outer{end + 1} = {ended, bytes, begun};
+      jobs{end + 1} = n;
+      [ended, bytes, begun] = deal ({}, 0, []);
+      out = numel (jobs);
     case 'add'
-      [open{n}, out] = added (open{n}, varargin{:});
+      if isempty (begun), begun = tic (); end
+      ended{end + 1} = {k, result};
+      bytes = bytes + bytes_of (result{1});
+      out = result{end} > 0.25 || toc (begun) > 0.5 || bytes > 2e7;
     case 'write'
-      b = open{n};
       try
-        written (b);
+        written (jobs{n}, ended);
       catch err
-        open{n} = emptied (b);                             % its cases run again
+        [ended, bytes, begun] = deal ({}, 0, []);          % its cases run again
         rethrow (err);
       end
-      open{n} = emptied (b);
+      [ended, bytes, begun] = deal ({}, 0, []);
     case 'close'
-      b = open{n};
-      open = open(1:n - 1);
-      written (b);
+      % Those of sweeps inside that were not closed are lost: their runs are over.
+      if n < numel (jobs), [ended, bytes, begun] = outer{n + 1}{:}; end
+      [job, list] = deal (jobs{n}, ended);
+      [ended, bytes, begun] = outer{n}{:};
+      jobs = jobs(1:n - 1);
+      outer = outer(1:n - 1);
+      written (job, list);
   end
 end
 
-function b = emptied (b)
-  b.done = struct ('cases', zeros (1, 0), 'results', {{}}, 'seconds', zeros (1, 0));
-  b.failed = struct ('cases', zeros (1, 0), 'identifiers', {{}}, 'messages', {{}});
-  b.bytes = 0;
-  b.begun = [];
-end
-
-function [b, due] = added (b, k, result)
-  seconds = result{end};
-  if isempty (b.begun), b.begun = tic (); end
-  if numel (result) == 2
-    value = result{1};
-    b.done.cases(end + 1) = k;
-    b.done.results{end + 1} = value;
-    b.done.seconds(end + 1) = seconds;
-    about = whos ('value');
-    b.bytes = b.bytes + about.bytes;
+function n = bytes_of (value)
+  if isnumeric (value) && numel (value) < 1000
+    n = 8 * numel (value);
   else
-    b.failed.cases(end + 1) = k;
-    b.failed.identifiers{end + 1} = result{1};
-    b.failed.messages{end + 1} = result{2};
+    about = whos ('value');
+    n = about.bytes;
   end
-  due = seconds > 0.25 || toc (b.begun) > 0.5 || b.bytes > 2e7;
 end
 
-function written (b)
+function written (job, ended)
+  numbers = cellfun (@(x) x{1}, ended);
+  all_of_them = cellfun (@(x) x{2}, ended, 'UniformOutput', false);
+  good = cellfun ('length', all_of_them) == 2;
+  results = all_of_them(good);
+  errors = all_of_them(~good);
+  part = @(list, k) cellfun (@(x) x{k}, list, 'UniformOutput', false);
+  lists.done = struct ('cases', numbers(good), 'results', {part(results, 1)}, 'seconds', cellfun (@(x) x{2}, results));
+  lists.failed = struct ('cases', numbers(~good), 'identifiers', {part(errors, 1)}, 'messages', {part(errors, 2)});
   for list = {'done', 'failed'}
-    s = b.(list{1});
+    s = lists.(list{1});
     while ~isempty (s.cases)
       % A name of a file has 255 characters at most.
       n = numel (s.cases);
       [~, order] = sort (s.cases);
       while n > 1 && numel (qn.impl.sweep.spelt (s.cases(order(1:n)))) > 200, n = ceil (n / 2); end
-      store (b.job, list{1}, part_of (s, order(1:n)));
+      store (job, list{1}, part_of (s, order(1:n)));
       s = part_of (s, order(n + 1:end));
     end
   end

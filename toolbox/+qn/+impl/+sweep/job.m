@@ -34,8 +34,9 @@ function job = job (f, cases, folder, o)
   end
 end
 
-function x = flat (x)
-  [x, good] = qn.impl.files.flatten (qn.impl.sweep.plain (x));
+function y = flat (x)
+  [y, good] = qn.impl.files.flatten (x);
+  if ~good, [y, good] = qn.impl.files.flatten (qn.impl.sweep.plain (x)); end
   if ~good, error ('qn:input', 'qn.sweep: function or cases hold values that are nested too deep to be stored'); end
 end
 

@@ -10,6 +10,8 @@ function x = plain (x)
   elseif iscell (x)
     x = each (x);
   elseif strcmp (class (x), 'struct')
+    [~, good] = qn.impl.files.flatten (x);
+    if good, return, end
     x = cell2struct (each (struct2cell (x)), fieldnames (x), 1);
   elseif ~any (strcmp (class (x), qn.impl.files.flat_classes ()))
     x = struct ('class', class (x), 'values', fields_of (x));

@@ -71,12 +71,25 @@ function f = at_once (law, x, v)
     f = column_by_column (law, x, v);
     return
   end
-  e = qn.element (law, eye (n));
-  h = chandle (quarn ('chandleset', 1003, e));
+  wide = min (n, 64);
+  whole = n - mod (n, wide);
+  f = reshape ([in_parts(law, wide, x(1:whole), v(1:whole)), in_parts(law, n - whole, x(whole + 1:n), v(whole + 1:n))], size (x));
+end
+
+% WIDE values at a time: the observation of an element is a full matrix.
+function f = in_parts (law, wide, x, v)
+  f = zeros (1, 0);
+  if isempty (x), return, end
+  h = chandle (quarn ('chandleset', 1003, qn.element (law, eye (wide))));
   free = onCleanup (@() delete (h));
-  f = zeros (n, 1);
-  quarn ('residual', f, h, qn.impl.fresh (x(:)), qn.impl.fresh (v(:)), zeros (n, 1));
-  f = reshape (f, size (x));
+  f = zeros (wide, numel (x) / wide);
+  for k = 1:size (f, 2)
+    at = (k - 1) * wide + (1:wide);
+    r = zeros (wide, 1);
+    quarn ('residual', r, h, qn.impl.fresh (reshape (x(at), [], 1)), qn.impl.fresh (reshape (v(at), [], 1)), zeros (wide, 1));
+    f(:, k) = r;
+  end
+  f = reshape (f, 1, []);
 end
 
 function f = column_by_column (law, x, v)

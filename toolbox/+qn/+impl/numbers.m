@@ -9,6 +9,7 @@
 %           'complex', 'infinite'                    may be so
 %           'each', TEXT   what the values are, for the message about their number, such as 'one a mode'
 function x = numbers (who, name, x, shape, varargin)
+  if plain (x, shape, varargin), return, end
   r = struct ('above', -Inf, 'from', -Inf, 'to', Inf, 'each', '', 'whole', false, 'ascending', false, 'list', false, 'empty', false, ...
               'complex', false, 'infinite', false);
   k = 1;
@@ -54,6 +55,30 @@ function x = numbers (who, name, x, shape, varargin)
     if ~isempty (k)
       error ('qn:input', '%s: "%s" must ascend: value %d is %.15g, value %d is %.15g', who, name, k, x(k), k + 1, x(k + 1));
     end
+  end
+end
+
+% Whether X is right beyond doubt, the most frequent case: the rest of this file then has nothing to say.
+function good = plain (x, shape, rules)
+  good = isa (x, 'double') && isreal (x) && ~isempty (x) && ndims (x) == 2 && isfinite (sum (x(:)));
+  if ~good, return, end
+  [rows, columns] = size (x);
+  if numel (shape) == 1
+    good = numel (x) == shape && (rows == 1 || columns == 1);
+  elseif numel (shape) == 2
+    good = (rows == shape(1) || isnan (shape(1))) && (columns == shape(2) || isnan (shape(2)));
+  end
+  k = 1;
+  while good && k <= numel (rules)
+    switch rules{k}
+      case 'above', good = all (x(:) > rules{k + 1});
+      case 'from', good = all (x(:) >= rules{k + 1});
+      case 'to', good = all (x(:) <= rules{k + 1});
+      case 'whole', good = all (x(:) == fix (x(:)));
+      case 'ascending', good = all (diff (x(:)) > 0);
+      case 'list', good = rows == 1 || columns == 1;
+    end
+    k = k + 1 + any (strcmp (rules{k}, {'above', 'from', 'to', 'each'}));
   end
 end
 

@@ -9,7 +9,7 @@ function o = options (who, defaults, args)
     error ('qn:input', '%s: names and values expected in pairs, got %d arguments', who, numel (args));
   end
   given = false (size (names));
-  args = cellfun (@qn.impl.chars, args, 'UniformOutput', false);
+  if any (cellfun ('isclass', args, 'string')), args = cellfun (@qn.impl.chars, args, 'UniformOutput', false); end
   for k = 1:2:numel (args)
     if ~ischar (args{k})
       error ('qn:input', '%s: the name of a parameter expected, got an array of class %s', who, class (args{k}));
@@ -22,9 +22,8 @@ function o = options (who, defaults, args)
     given(known) = true;
     o.(names{known}) = args{k + 1};
   end
-  for k = 1:numel (names)
-    if ischar (o.(names{k})) && strcmp (o.(names{k}), '<required>')
-      error ('qn:input', '%s: the parameter "%s" is missing; see help %s', who, names{k}, strtok (who, ','));
-    end
+  missing = find (strcmp (struct2cell (o), '<required>'), 1);
+  if ~isempty (missing)
+    error ('qn:input', '%s: the parameter "%s" is missing; see help %s', who, names{missing}, strtok (who, ','));
   end
 end

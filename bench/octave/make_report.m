@@ -12,7 +12,9 @@ fprintf (f, '# Benchmark report\n\n%s\n', regexprep (machine, '(?m)$', '  '));
 groups = {'product', 'host product', 'modes', 'newmark', 'demo', 'gain', 'handles', 'modal elements', 'laws', 'tables', 'projections', 'calls'};
 for g = 1:numel (groups), report_group (f, groups{g}, records); end
 report_equations (f, records);
-fprintf (f, '\n## guards\n\n%s\n## call parts\n\n%s', parts_table (records, 'guards'), parts_table (records, 'call parts'));
+for g = {'guards', 'call parts', 'toolbox parts', 'toolbox sweep', 'toolbox calls'}
+  fprintf (f, '\n## %s\n\n%s', g{1}, parts_table (records, g{1}));
+end
 fclose (f);
 graphics_toolkit ('gnuplot');
 plot_group (out, 'product', '27', 'lines', 'ns per byte', records);

@@ -7,12 +7,14 @@
 args = argv ();
 here = fileparts (mfilename ('fullpath'));
 addpath (here);
-addpath (args{2});
+addpath (fullfile (here, '..', '..', 'toolbox'));
+addpath (args{2});                                       % before the toolbox, which has the module's help
 addpath (fullfile (here, '..', '..', 'tests', 'octave', 'support'));
 quick = numel (args) > 3 && strcmp (args{4}, '--quick');
 reference = jsondecode (fileread (args{3}));
 if ~iscell (reference), reference = num2cell (reference); end
-notes = [newmark_bench(quick), demo_bench(quick), product_bench(quick), projection_bench(quick), call_bench(quick), call_parts(quick, reference)];
+notes = [newmark_bench(quick), demo_bench(quick), product_bench(quick), projection_bench(quick), call_bench(quick), ...
+         call_parts(quick, reference), toolbox_bench(quick)];
 solved = equation_bench (quick, reference);
 out = fopen (args{1}, 'w');
 lines = cellfun (@jsonencode, [num2cell(notes), num2cell(solved)], 'UniformOutput', false);

@@ -5,10 +5,12 @@
 % "toolbox parts": setting up, findings, run, saving and what is computed of a result, of the strip of the tutorial and of a chain of 60 modes
 % with five elements; "module" is the call of the module alone, for all steps. "toolbox sweep": a case of a sweep that does nothing.
 % "toolbox calls": one call of what a script calls most.
-function notes = toolbox_bench (quick)
+function notes = toolbox_bench (quick, only_cases)
   state = warning ('off', 'all');
   back = onCleanup (@() warning (state));
-  if quick
+  if nargin > 1
+    notes = sweep_of (only_cases, quick);
+  elseif quick
     notes = [parts('strip', 100, quick), parts('chain', 100, quick), sweep_of(20, quick), calls(quick)];
   else
     notes = [parts('strip', 4e4, quick), parts('chain', 1e4, quick), parts('chain', 1e5, quick), sweep_of(2e4, quick), calls(quick)];
@@ -122,7 +124,7 @@ function notes = calls (quick)
            'describe', @() described (law); ...
            'journal_coefficients', @() qn.journal_coefficients (film, [0 -525])};
   for k = 1:size (works, 1)
-    notes = [notes, note('toolbox calls', works{k, 1}, 1, 'quarn', best_time (works{k, 2}, quick), 1, 0, 0)];
+    notes = [notes, note('toolbox calls', works{k, 1}, 1, 'whole', best_time (works{k, 2}, quick), 1, 0, 0)];
   end
 end
 

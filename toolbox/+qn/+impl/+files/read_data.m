@@ -28,41 +28,67 @@ end
 % Type of an element, its bytes, and where the next one begins.
 function [type, n, next] = tag (id, last)
   here = ftell (id);
-  w = fread (id, 1, 'uint32');
-  if here + 8 > last || isempty (w), fail ('it ends early'); end
-  if w >= 65536
-    [type, n, next] = deal (mod (w, 65536), floor (w / 65536), here + 8);
+  w = fread (id, [1 2], 'uint32');
+  if here + 8 > last || numel (w) < 2, fail ('it ends early'); end
+  if w(1) >= 65536
+    type = mod (w(1), 65536);
+    n = floor (w(1) / 65536);
+    next = here + 8;
     if n > 4, fail ('it is damaged'); end
+    fseek (id, here + 4, 'bof');
   else
-    [type, n] = deal (w, fread (id, 1, 'uint32'));
+    type = w(1);
+    n = w(2);
     next = here + 8 + 8 * ceil (n / 8);
   end
   if next > last, fail ('it ends early: %d of %d bytes are there', last, next); end
 end
 
 function x = numbers (id, last, class_name)
-  widths = [1 1 2 2 4 4 4 0 8 0 0 8 8 0 0 1 2];
-  forms = {'int8', 'uint8', 'int16', 'uint16', 'int32', 'uint32', 'single', '', 'double', '', '', 'int64', 'uint64', '', '', 'uint8', ...
-           'uint16'};
+  persistent widths forms
+  if isempty (widths)
+    widths = [1 1 2 2 4 4 4 0 8 0 0 8 8 0 0 1 2];
+    forms = {'int8', 'uint8', 'int16', 'uint16', 'int32', 'uint32', 'single', '', 'double', '', '', 'int64', 'uint64', '', '', 'uint8', ...
+             'uint16'};
+  end
   [type, n, next] = tag (id, last);
   if type < 1 || type > numel (widths) || widths(type) == 0, fail ('it is damaged'); end
   x = fread (id, [1, n / widths(type)], [forms{type} '=>' class_name]);
   fseek (id, next, 'bof');
 end
 
+% What an array is, its bits, extents and name; of two dimensions and without a name, as most are, it is read at once.
+function [kind, bits, dims, name] = head_of (id, last)
+  here = ftell (id);
+  w = zeros (1, 0);
+  if here + 40 <= last, w = fread (id, [1 10], 'uint32'); end
+  if numel (w) == 10 && all (w([1 2 5 6 9 10]) == [6 8 5 8 1 0]) && all (w(7:8) < 2 ^ 31)
+    flags = w(3);
+    dims = w(7:8);
+    name = '';
+  else
+    fseek (id, here, 'bof');
+    flags = numbers (id, last, 'double');
+    dims = numbers (id, last, 'double');
+    name = word (numbers (id, last, 'double'));
+  end
+  kind = mod (flags(1), 256);
+  bits = floor (flags(1) / 256);
+end
+
 function [x, name] = matrix (id, last, depth)
-  kinds = {'cell', 'struct', 'object', 'char', 'sparse', 'double', 'single', 'int8', 'uint8', 'int16', 'uint16', 'int32', 'uint32', ...
-           'int64', 'uint64', 'function', 'object'};
+  persistent kinds
+  if isempty (kinds)
+    kinds = {'cell', 'struct', 'object', 'char', 'sparse', 'double', 'single', 'int8', 'uint8', 'int16', 'uint16', 'int32', 'uint32', ...
+             'int64', 'uint64', 'function', 'object'};
+  end
   [type, n, next] = tag (id, last);
-  [x, name] = deal ([], '');
+  x = [];
+  name = '';
   if type == 15, fail ('it is compressed, as files of version 0.1 are, and cannot be read as mere data'); end
   if type ~= 14 || depth > 20, fail ('it is damaged'); end
   if n == 0, return, end
-  flags = numbers (id, last, 'double');
-  kind = mod (flags(1), 256);
-  bits = floor (flags(1) / 256);
-  dims = numbers (id, last, 'double');
-  name = word (numbers (id, last, 'double'));
+  [kind, bits, dims, name] = head_of (id, last);
   if kind < 1 || kind > numel (kinds) || numel (dims) < 2 || any (dims < 0), fail ('it is damaged'); end
   kind = kinds{kind};
   count = prod (dims);
@@ -126,7 +152,7 @@ function x = sparse_matrix (id, last, dims, bits)
     fail ('a sparse matrix in it is damaged');
   end
   if any (ir(1:n) < 0) || any (ir(1:n) >= dims(1)), fail ('a sparse matrix in it is damaged'); end
-  column = zeros (1, n);
-  for k = 1:dims(2), column(jc(k) + 1:jc(k + 1)) = k; end
+  column = cumsum (accumarray (jc(:) + 1, 1, [n + 1, 1])).';
+  column = column(1:n);
   x = sparse (ir(1:n) + 1, column, v, dims(1), dims(2));
 end

@@ -22,14 +22,16 @@ function [k, c] = equivalent (res)
     for j = 1:size (x, 1)
       moves = [x(j, :); zeros(1, n)];
       if each
-        bend = gradient (gradient (x(j, :)));
-        bend(2:end - 1) = diff (x(j, :), 2);
-        moves = [x(j, :) - sim.scheme.beta * bend; (gradient (x(j, :)) - sim.scheme.gamma * bend) / sim.step];
+        slope = [x(j, 2) - x(j, 1), (x(j, 3:n) - x(j, 1:n - 2)) / 2, x(j, n) - x(j, n - 1)];
+        bend = [slope(2) - slope(1), diff(x(j, :), 2), slope(n) - slope(n - 1)];
+        moves = [x(j, :) - sim.scheme.beta * bend; (slope - sim.scheme.gamma * bend) / sim.step];
       end
       size_of = sqrt (sum (moves .^ 2, 2));
       if size_of(1) == 0, continue, end
       size_of(size_of == 0) = 1;
-      factors = pinv (bsxfun (@rdivide, moves, size_of).') * f(j, :).' ./ size_of;
+      % The triangle of a tall matrix has its singular values.
+      [q, r] = qr (bsxfun (@rdivide, moves, size_of).', 0);
+      factors = pinv (r, n * norm (r) * eps ()) * (q.' * f(j, :).') ./ size_of;
       k = k + e.command(j, :).' * factors(1) * e.observe(j, :);
       c = c + e.command(j, :).' * factors(2) * e.observe(j, :);
     end

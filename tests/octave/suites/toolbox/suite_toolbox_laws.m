@@ -318,3 +318,15 @@ function test_a_run_with_a_yielding_spring_goes_on_where_it_was ()
   expect_equal (second.q, whole.q(151:end));
   expect_equal (second.state, whole.state(:, 151:end));
 end
+
+% They go through an element of 64 rows, the rest through one of its own.
+function test_forces_of_many_displacements_are_those_of_each ()
+  x = linspace (-0.01, 0.02, 150);
+  for law = {qn.law('table', 'displacement', [-1 0 0.005 1], 'force', [-10 0 2 500]), qn.damper('damping', 3, 'exponent', 1.5)}
+    v = sin (1:150);
+    wanted = arrayfun (@(k) qn.force (law{1}, x(k), v(k)), 1:150);
+    expect_equal (qn.force (law{1}, x, v), wanted);
+    expect_equal (qn.force (law{1}, reshape (x, 50, 3), reshape (v, 50, 3)), reshape (wanted, 50, 3));
+    expect_equal (qn.force (law{1}, x(1:64), v(1:64)), wanted(1:64));
+  end
+end

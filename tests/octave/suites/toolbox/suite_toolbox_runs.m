@@ -213,3 +213,33 @@ function test_mistakes_in_simulations_are_explained ()
   refused ('~''average'', ''linear''', 'step', 1, 'steps', 1, 'scheme', 'euler');
   refused ('~"u0" must be 1 value, one a degree of freedom, got 1 x 2', 'step', 1, 'steps', 1, 'u0', [1 2]);
 end
+
+% The histories are written in place; what the function of 'stop' was given is not.
+function test_a_result_that_the_function_of_stop_keeps_stays_as_it_was ()
+  model = qn.modal ([2 -1; -1 2] * 100, eye (2));
+  for element = {{}, {qn.slider('slip', 1, 'stiffness', 50), qn.observe(model, 1)}}
+    sim = qn.simulation (model, 'step', 1e-2, 'steps', 50, 'v0', [1; 0], 'elements', element{1});
+    keeps ([]);
+    whole = qn.run (sim, 'piece', 10, 'stop', @keeps, 'progress', false);
+    seen = keeps ([]);
+    expect_equal (numel (seen), 5);
+    for k = 1:5
+      n = 10 * k + 1;
+      expect_equal (seen{k}.q, [whole.q(:, 1:n), NaN(2, 51 - n)]);
+      expect_equal (seen{k}.force, [whole.force(:, 1:n), NaN(size (whole.force, 1), 51 - n)]);
+      expect_equal (seen{k}.state, [whole.state(:, 1:n), NaN(size (whole.state, 1), 51 - n)]);
+      expect_equal (fieldnames (seen{k}), fieldnames (whole));
+    end
+  end
+end
+
+function stop = keeps (res)
+  persistent seen
+  stop = false;
+  if isempty (res)
+    stop = seen;
+    seen = {};
+  else
+    seen{end + 1} = res;
+  end
+end

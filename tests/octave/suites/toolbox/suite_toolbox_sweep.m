@@ -240,3 +240,29 @@ function test_of_two_sweeps_that_begin_together_one_says_what_the_folder_is_for 
   ran = numel (dir (fullfile (folder, 'ran_*')));
   if ran < 12 || ran > 14, error ('%d cases ran, 6 in the first folder and 6 shared in the second', ran); end
 end
+
+function test_cases_whose_fields_are_in_another_order_are_the_same ()
+  [folder, clean] = new_folder ();
+  cases = qn.grid ('a', [1 2 NaN], 'b', {'x', [], {3}});
+  f = @(p) numel (p.b);
+  o = {'folder', folder, 'engine', 'serial', 'progress', false};
+  first = qn.sweep (f, cases, o{:});
+  [second, report] = qn.sweep (f, orderfields (cases, {'b', 'a'}), o{:});
+  expect_equal (second, first);
+  expect_equal (report.ran, 0);
+  other = orderfields (cases, {'b', 'a'});
+  other(9).b = {4};
+  expect_error (@() qn.sweep (f, other, o{:}), 'qn:input', '~other cases');
+  a = struct ('f', {@(x) x + 1, @(x) x + 2}, 'x', {1, 2});
+  b = a;
+  assert (qn.impl.alike (a, orderfields (b, {'x', 'f'})));
+  b(2).f = @(x) x + 3;
+  assert (~qn.impl.alike (a, b));
+  assert (~qn.impl.alike (struct ('x', {1, 2}), struct ('x', {1, single(2)})) && qn.impl.alike ({0, NaN}, {-0, NaN}));
+end
+
+function test_a_case_may_run_a_sweep_itself ()
+  o = {'engine', 'serial', 'progress', false};
+  inner = @(p) sum (cell2mat (qn.sweep (@(x) x * p, 1:3, o{:})));
+  expect_equal (qn.sweep (inner, 1:4, o{:}), {6, 12, 18, 24});
+end

@@ -56,10 +56,10 @@ function res = advance (res, o)
     end
     if ~res.diverged && ~res.complete && toc (begun) >= noting
       % Until the copies of the elements that this takes have cost a twentieth of the time.
-      noted = tic ();
+      noted = cputime ();
       res.final.values = current (res.final.values, h);
       qn.impl.reached (key, res, kept);
-      noting = toc (begun) + 20 * toc (noted);
+      noting = toc (begun) + 20 * (cputime () - noted);
     end
     stop = res.diverged || (~isempty (o.stop) && o.stop (with_history (res, key, numel (sim.saved))));
     due = ~isempty (o.save) && toc (begun) - written >= o.interval;

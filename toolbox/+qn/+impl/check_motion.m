@@ -5,7 +5,10 @@ function found = check_motion (res, before)
   if ~isfinite (sum (res.q(:)))  % a sum that is a number has nothing in it that is none
     good = all (isfinite (res.q), 1);
     if ~any (good), return, end
-    for name = {'q', 'force', 'state'}, seen.(name{1}) = res.(name{1})(:, good); end
+    for name = {'q', 'force', 'state'}
+      x = res.(name{1});
+      seen.(name{1}) = x(:, good);
+    end
   end
   said = {before(~strcmp ({before.level}, 'note')).code};
   none = inf (numel (res.sim.model.w), 1);

@@ -4,8 +4,9 @@ function res = sized (res, k)
     x = res.(name{1});
     n = size (x, 2);
     if n < k
-      res.(name{1}) = NaN (size (x, 1), k);
-      res.(name{1})(:, 1:n) = x;
+      room = NaN (size (x, 1), k);
+      room(:, 1:n) = x;
+      res.(name{1}) = room;
     elseif n > k
       res.(name{1}) = x(:, 1:k);
     end

@@ -31,13 +31,17 @@ foreach(file ${suites})
     set_tests_properties(${name} PROPERTIES LABELS repeats)
   endif()
 endforeach()
-# Some forty suites and two demos in one test.
+# The tests of errors of some forty suites and two demos in one test; with QUARN_FULL=1 all of these suites.
 set_tests_properties(octave.demo_after_errors PROPERTIES TIMEOUT 1500)
 # The longest begin first, so that none is left alone at the end.
-set_tests_properties(octave.toolbox_examples octave.demo_after_errors PROPERTIES COST 50)
-set_tests_properties(octave.validation octave.toolbox_sweep octave.toolbox_run_up octave.toolbox_runs octave.toolbox_help
-                     octave.toolbox_arguments octave.toolbox_advice octave.toolbox_check_codes octave.hostile_arguments
-                     octave.laws_random PROPERTIES COST 20)
+set_tests_properties(octave.toolbox_examples PROPERTIES COST 50)
+set_tests_properties(octave.validation octave.demo_after_errors octave.toolbox_sweep octave.toolbox_sweep_files octave.toolbox_help
+                     octave.toolbox_announced octave.toolbox_check_codes octave.toolbox_report_host octave.toolbox_run_up octave.toolbox_runs
+                     PROPERTIES COST 30)
+set_tests_properties(octave.toolbox_arguments octave.toolbox_interrupted octave.toolbox_advice octave.toolbox_user_laws octave.toolbox_campbell
+                     octave.toolbox_saves octave.memory octave.recipes octave.laws_random PROPERTIES COST 20)
+set_tests_properties(octave.hostile_arguments octave.nl_hostile octave.law_user octave.gateway octave.newmark_factor octave.newmark_guards
+                     octave.newmark_model octave.full_rows octave.registry PROPERTIES COST 10)
 # The long mixed run of scripts/soak, for some seconds.
 add_test(NAME octave.soak COMMAND ${OCTAVE_CLI} --no-history -qf ${CMAKE_CURRENT_LIST_DIR}/soak/soak.m $<TARGET_FILE_DIR:quarn> 4)
 set_tests_properties(octave.soak PROPERTIES LABELS repeats TIMEOUT 600 ENVIRONMENT "${host_environment}")

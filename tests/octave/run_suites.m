@@ -12,6 +12,7 @@
 % OPTIONS  structure, every field may be left out:
 %          module   folder of the compiled module, put on the path (without it the module must be there)
 %          pattern  part of a test's name: only the tests that have it
+%          only     cell of names: only these tests
 %          suites   folder of the folders of suites
 %          junit    file for a report in the XML of JUnit
 %          quiet    true prints nothing
@@ -23,7 +24,7 @@ function counts = run_suites (names, options)
   if nargin < 1, names = {}; end
   if nargin < 2, options = struct (); end
   here = fileparts (mfilename ('fullpath'));
-  defaults = struct ('module', '', 'pattern', '', 'suites', fullfile (here, 'suites'), 'junit', '', 'quiet', false, 'stop', false);
+  defaults = struct ('module', '', 'pattern', '', 'only', {{}}, 'suites', fullfile (here, 'suites'), 'junit', '', 'quiet', false, 'stop', false);
   for field = fieldnames (defaults).'
     if ~isfield (options, field{1}), options.(field{1}) = defaults.(field{1}); end
   end
@@ -105,6 +106,7 @@ function done = run_one (suite, options)
     if isempty (regexp (name, '^test_', 'once')), continue, end
     found = found + 1;
     if ~isempty (options.pattern) && isempty (strfind (name, options.pattern)), continue, end
+    if ~isempty (options.only) && ~any (strcmp (name, options.only)), continue, end
     done(end + 1) = run_test (suite, name, functions{k}, options);
     if stops (done, options), break, end
   end

@@ -4,6 +4,6 @@ function res = sweep_oscillator (p)
   row = qn.observe (model, 1);
   sim = qn.simulation (model, 'step', 1e-3, 'steps', 400, 'load', {qn.load_at(model, 1), randn(1, 401) * 200}, ...
                        'elements', {qn.gap('gap', p.gap, 'stiffness', p.stiffness), row});
-  run = qn.run (sim, 'progress', false);
+  run = qn.run (sim, 'progress', false, 'check', false);
   res = struct ('q', run.q, 'force', run.force, 'peak', max (run.q), 'draw', rand (1, 3), 'name', sprintf ('gap %g', p.gap));
 end

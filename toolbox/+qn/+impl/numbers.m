@@ -84,7 +84,14 @@ end
 
 function fit (who, name, x, shape, one, r)
   got = size (x);
+  matches = @(s) all (isnan (shape) | s == shape);
   good = numel (got) == 2 && ~isempty (x) && (~r.list || any (got == 1));
+  if numel (shape) == 1
+    good = good && any (got == 1) && numel (x) == shape;
+  elseif numel (shape) == 2
+    good = good && matches (got);
+  end
+  if good, return, end
   wanted = 'numbers';
   if numel (shape) == 2, wanted = sprintf ('%s x %s numbers', letter (shape(1)), letter (shape(2))); end
   if numel (shape) == 1, wanted = regexprep (sprintf ('%d values', shape), '^1 values', '1 value'); end
@@ -92,16 +99,10 @@ function fit (who, name, x, shape, one, r)
   if one, wanted = kind_of (true); end
   if ~isempty (r.each), wanted = [wanted ', ' r.each]; end
   turned = '';
-  if numel (shape) == 1
-    good = good && any (got == 1) && numel (x) == shape;
-  elseif numel (shape) == 2
-    matches = @(s) all (isnan (shape) | s == shape);
-    good = good && matches (got);
-    if ~good && ~isempty (x) && numel (got) == 2 && matches (got([2 1])) && as_table (x, shape)
-      turned = '. It looks transposed: give X.'' instead of X';
-    end
+  if numel (shape) == 2 && ~isempty (x) && numel (got) == 2 && matches (got([2 1])) && as_table (x, shape)
+    turned = '. It looks transposed: give X.'' instead of X';
   end
-  if ~good, error ('qn:input', '%s: "%s" must be %s, got %s%s', who, name, wanted, sized (x), turned); end
+  error ('qn:input', '%s: "%s" must be %s, got %s%s', who, name, wanted, sized (x), turned);
 end
 
 % Whether the first of two columns ascends, as the times of a table do that was given in columns.

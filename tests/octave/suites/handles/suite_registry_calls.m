@@ -253,7 +253,8 @@ function test_a_clean_up_that_registers_a_handle_while_all_are_freed ()
   first = quarn ('chandleset', 1, struct ('a', onCleanup (@() quarn ('chandleset', 1, 55))));
   last = quarn ('chandleset', 1, 5);
   quarn ('chandleclear');
-  expect_equal (quarn ('chandleget')(end), last + 1);
+  keys = quarn ('chandleget');
+  expect_equal (keys(end), last + 1);
   expect_equal (quarn ('chandleget', last + 1), 55);
   expect_error (@() quarn ('chandleget', last), 'KORV:quarn:NonHandle', 'Handle does not exist');
   quarn ('chandleclear');

@@ -237,7 +237,7 @@ function test_a_run_up_in_one_call_is_the_scheme_with_the_matrix_of_every_step (
     got = run_up (s, steps, h, speed, slope, pages(j));
     off(j) = max (abs (got(:) - wanted(:))) / max (abs (wanted(:)));
   end
-  printf ('off by %.2g, %.2g, %.2g with %d, %d, %d pages\n', off, pages);
+  fprintf ('off by %.2g, %.2g, %.2g with %d, %d, %d pages\n', off, pages);
   assert (all (off < [5e-4 5e-5 1e-12]));
 end
 
@@ -262,7 +262,7 @@ function test_a_run_up_is_of_second_order_against_a_solution_to_small_tolerances
     got = got(:, 1:20 * cut:end);
     e(j) = max (abs (got(:) - wanted(:))) / max (abs (wanted(:)));
   end
-  printf ('errors %.2g %.2g %.2g\n', e);
+  fprintf ('errors %.2g %.2g %.2g\n', e);
   assert (all (abs (log2 (e(1:2) ./ e(2:3)) - 2) < 0.05));
 end
 

@@ -8,7 +8,7 @@ function put (root, name, text)
   file = fullfile (root, name);
   if ~exist (fileparts (file), 'dir'), mkdir (fileparts (file)); end
   id = fopen (file, 'w');
-  fputs (id, text);
+  fprintf (id, '%s', text);
   fclose (id);
 end
 

@@ -1,6 +1,6 @@
 % Runs that begin where another ended, with something changed.
 function tests = suite_toolbox_continued ()
-  use_toolbox ();
+  use_toolbox ('quiet');
   tests = localfunctions ();
 end
 

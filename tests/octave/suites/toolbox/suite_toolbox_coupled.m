@@ -1,7 +1,7 @@
 % Models whose modes are coupled by dashpots, gyroscopic matrices and bearings: integrated implicitly, of second order, without growth.
 % With the environment variable QUARN_FULL set, 1,000 random structures instead of 60.
 function tests = suite_toolbox_coupled ()
-  use_toolbox ();
+  use_toolbox ('quiet');
   tests = localfunctions ();
 end
 
@@ -43,7 +43,7 @@ function test_random_linear_structures_of_all_dampings_stay_within_five_percent 
     if e > 0.05, error ('structure %d (%s, %d degrees of freedom): off by %g', k, kinds{j}, numel (s.u0), e); end
   end
   text = sprintf (' %s %.2g', [kinds; num2cell(worst)]{:});
-  printf ('%d structures, greatest errors:%s\n', count, text);
+  fprintf ('%d structures, greatest errors:%s\n', count, text);
 end
 
 % Three masses in a row; the dampings are set by the tests.
@@ -62,7 +62,7 @@ function p = observed_order (s)
     e(j) = relative (u, exact (s, h, 400));
   end
   p = log2 (e(1:2) ./ e(2:3));
-  printf ('orders %.4f %.4f, errors %.2g %.2g %.2g\n', p, e);
+  fprintf ('orders %.4f %.4f, errors %.2g %.2g %.2g\n', p, e);
 end
 
 function test_dashpots_between_masses_are_of_second_order ()
@@ -97,7 +97,7 @@ function test_twelve_modes_and_one_strong_dashpot_come_out_right ()
   s.C(6, 6) = 3e7;
   s.model = qn.modal (s.K, s.M, 'C', s.C);
   e = [relative(computed (s, 1e-4, 4000), exact (s, 1e-4, 4000)), relative(computed (s, 2e-4, 2000), exact (s, 2e-4, 2000))];
-  printf ('errors %.2g and %.2g\n', e);
+  fprintf ('errors %.2g and %.2g\n', e);
   assert (e(1) < 0.012 && e(2) < 0.045 && abs (log2 (e(2) / e(1)) - 2) < 0.05);
 end
 
@@ -142,7 +142,7 @@ function test_the_small_damping_ratio_that_bearings_leave_is_kept ()
   pole_run = log (z(end) / z(1001)) / (4000 * h);
   decay = real (pole_run);
   got = -decay / abs (pole);
-  printf ('damping ratio %.6f, exact %.6f\n', got, zeta);
+  fprintf ('damping ratio %.6f, exact %.6f\n', got, zeta);
   assert (abs (got - zeta) < 2e-5);
 end
 
@@ -264,6 +264,6 @@ function test_steady_orbit_of_a_beam_rotor_is_its_complex_frequency_response ()
   row = @(x) x(moving);
   off_by = @(w) max (abs (row (orbit - answer (w)))) / max (abs (orbit(moving)));
   e = [off_by(speed), off_by(seen)];
-  printf ('orbit of %d degrees of freedom: off by %.2g, from what the scheme makes of it by %.2g\n', n, e);
+  fprintf ('orbit of %d degrees of freedom: off by %.2g, from what the scheme makes of it by %.2g\n', n, e);
   assert (e(1) < 1e-4 && e(2) < 1e-7);
 end

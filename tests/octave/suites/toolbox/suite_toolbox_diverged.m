@@ -1,6 +1,6 @@
 % Motions that grow beyond all numbers, and runs that end before their time.
 function tests = suite_toolbox_diverged ()
-  use_toolbox ();
+  use_toolbox ('quiet');
   tests = localfunctions ();
 end
 

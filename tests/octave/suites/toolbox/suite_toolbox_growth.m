@@ -1,6 +1,6 @@
 % Motion that gets energy from the time steps alone is said long before it overflows, and never where loads or springs give it.
 function tests = suite_toolbox_growth ()
-  use_toolbox ();
+  use_toolbox ('quiet');
   tests = localfunctions ();
 end
 

@@ -103,7 +103,7 @@ end
 function test_a_slow_part_beside_a_fast_one_keeps_its_frequency ()
   model = qn.modal (diag ([1 1e-13 1e13]), eye (3));
   expect_equal (model.w ./ sqrt ([1e-13; 1; 1e13]), ones (3, 1), 1e-9);
-  expect_equal (abs (model.shapes), eye (3)(:, [2 1 3]), 1e-9);
+  expect_equal (abs (model.shapes), [0 1 0; 1 0 0; 0 0 1], 1e-9);
   turned = [0.6 0.8 0; -0.8 0.6 0; 0 0 1];
   model = qn.modal (turned * diag ([3 2 1e15]) * turned.', eye (3));
   expect_equal (model.w(1:2), sqrt ([2; 3]), 1e-9);

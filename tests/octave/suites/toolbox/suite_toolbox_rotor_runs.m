@@ -38,7 +38,7 @@ function test_steady_orbit_of_a_rotor_of_24_elements_is_its_complex_frequency_re
   e = zeros (1, 3);
   for k = 1:3, e(k) = off_orbit (r, model, speed, 90 * 2 ^ (k - 1), 8); end
   order = log2 (e(1:2) ./ e(2:3));
-  printf ('off by %.3g %.3g %.3g, orders %.4f %.4f\n', e, order);
+  fprintf ('off by %.3g %.3g %.3g, orders %.4f %.4f\n', e, order);
   assert (e(3) < 1e-4);
   assert (all (abs (order - 2) < 0.05));
   expect_published (c, 'distance from the orbit by its radius, 360 steps a turn [1e-4]', 0, 1e4 * e(3), 1);

@@ -15,22 +15,22 @@ function s = disk_rotor (c, kg)
   s.model = qn.modal (k, m, 'C', s.C, 'G', g, 'speed', 0, 'KG', s.KG);
 end
 
-% Speed and slope of a table at a time; loads of an unbalance that turns by the angle of it, at the first degrees of freedom.
+% Speed and slope of a table at times in a row; loads of an unbalance that turns by the angle of it, at the first degrees of freedom.
 function [omega, slope, angle] = turned (table, t)
   slopes = diff (table(2, :)) ./ diff (table(1, :));
-  k = min (sum (table(1, 1:end - 1) <= t), numel (slopes));
-  omega = table(2, k) + slopes(k) * (t - table(1, k));
+  k = min (sum (table(1, 1:end - 1).' <= t, 1), numel (slopes));
+  since = t - table(1, k);
+  omega = table(2, k) + slopes(k) .* since;
   slope = slopes(k);
-  if k > 1 && t == table(1, k), slope = (slopes(k - 1) + slopes(k)) / 2; end
-  angle = sum ((table(2, 1:k - 1) + table(2, 2:k)) / 2 .* diff (table(1, 1:k))) + (table(2, k) + omega) / 2 * (t - table(1, k));
+  knot = k > 1 & since == 0;
+  slope(knot) = (slopes(k(knot) - 1) + slopes(k(knot))) / 2;
+  before = [0, cumsum((table(2, 1:end - 1) + table(2, 2:end)) / 2 .* diff (table(1, :)))];
+  angle = before(k) + (table(2, k) + omega) / 2 .* since;
 end
 
 function p = unbalance (table, time)
-  p = zeros (2, numel (time));
-  for j = 1:numel (time)
-    [w, s, angle] = turned (table, time(j));
-    p(:, j) = 3e-5 * [w ^ 2 * cos(angle) + s * sin(angle); w ^ 2 * sin(angle) - s * cos(angle)];
-  end
+  [w, s, angle] = turned (table, time);
+  p = 3e-5 * [w .^ 2 .* cos(angle) + s .* sin(angle); w .^ 2 .* sin(angle) - s .* cos(angle)];
 end
 
 function sim = set_up (s, table, h, steps, varargin)
@@ -65,7 +65,7 @@ function test_a_run_up_to_70_hz_is_the_scheme_with_the_matrix_of_every_step ()
     s = disk_rotor (1, kg);
     res = qn.run (set_up (s, to_seventy_hertz (), 1e-3, 1600), 'progress', false, 'check', false);
     e = relative (s.model.shapes * res.q, by_hand (s, to_seventy_hertz (), 1e-3, 1600));
-    printf ('off by %.2g\n', e);
+    fprintf ('off by %.2g\n', e);
     assert (e < 1e-5);
   end
 end
@@ -86,7 +86,7 @@ function test_a_run_up_is_of_second_order_against_a_solution_to_small_tolerances
     res = qn.run (set_up (s, table, 2.5e-4 / cut, 2000 * cut, 'every', 40 * cut), 'progress', false, 'check', false);
     e(j) = relative (s.model.shapes * res.q, y(:, 1:6).');
   end
-  printf ('errors %.2g %.2g %.2g\n', e);
+  fprintf ('errors %.2g %.2g %.2g\n', e);
   assert (all (abs (log2 (e(1:2) ./ e(2:3)) - 2) < 0.05));
 end
 
@@ -120,7 +120,7 @@ function test_a_rotor_without_damping_keeps_its_energy_while_it_runs_up_and_down
   down = at (10, held);
   first = sum ((s.model.shapes.' * s.M * [1; 0; 0; 5; 0; 0]) .^ 2) / 2;
   off = [energy(held) / energy(up), [energy(up), energy(down)] / first] - 1;
-  printf ('energy off by %.2g at constant speed, %.2g after the run-up, %.2g at the end\n', off);
+  fprintf ('energy off by %.2g at constant speed, %.2g after the run-up, %.2g at the end\n', off);
   % While the speed changes, the scheme itself keeps the energy to the order of the step squared.
   assert (all (abs (off) < [1e-10 0.03 0.01]));
 end

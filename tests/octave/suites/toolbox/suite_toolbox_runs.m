@@ -1,5 +1,5 @@
 function tests = suite_toolbox_runs ()
-  use_toolbox ();
+  use_toolbox ('quiet');
   tests = localfunctions ();
 end
 

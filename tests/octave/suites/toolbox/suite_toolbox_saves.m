@@ -1,6 +1,6 @@
 % Files of runs: what is in them, what they are called, and what happens when they cannot be written or are not what they seem.
 function tests = suite_toolbox_saves ()
-  use_toolbox ();
+  use_toolbox ('quiet');
   tests = localfunctions ();
 end
 

@@ -323,7 +323,8 @@ function test_a_stored_run_goes_on_with_the_law_that_it_had_or_not_at_all ()
   setenv ('XDG_CACHE_HOME', fullfile (folder, 'another'));
   expect_error (@() qn.resume (file), 'qn:input', '~has not been compiled by this user with this content, or .*: look at the file, then qn.law');
   expect_equal (numel (readdir (fullfile (folder, 'another', 'quarn', 'laws'))), 2);    % nothing was compiled
-  library = fullfile (folder, 'cache', 'quarn', 'laws', kept (folder){1});
+  names = kept (folder);
+  library = fullfile (folder, 'cache', 'quarn', 'laws', names{1});
   good = fileread (library);
   put_bytes_in (library, good(1:end - 1));
   setenv ('XDG_CACHE_HOME', fullfile (folder, 'cache'));

@@ -35,6 +35,7 @@ function test_a_pattern_that_any_text_matches_is_refused ()
     expect_error (@() expect_error (says, '', vague{1}), '', '~^the pattern ".*" matches any text; the text was "quarn sum');
   end
   expect_error (@() expect_error (@() error ('plain'), '', '~.*'), '', '~^the pattern ".\*" matches any text');
+  expect_error (@() expect_error (@() error ('a{1, 2}'), '', '~a{1, 2}'), '', '~^the braces in the pattern "~a\{1, 2\}" need backslashes');
 end
 
 function test_another_error_or_none_is_told ()

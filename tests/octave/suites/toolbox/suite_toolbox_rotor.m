@@ -148,7 +148,7 @@ function test_bearings_by_speed_are_formed_at_the_speed ()
   expect_error (@() qn.rotor (a, 'speed', 100), 'qn:input', '~C of the rotor was changed');
   expect_error (@() qn.campbell (a, [1 2]), 'qn:input', '~C of the rotor was changed');
   wrong = qn.rotor ('nodes', [0 1], 'outer', 0.05, 'bearings', {1, @(w) NaN, 3});
-  expect_error (@() qn.rotor (wrong, 'speed', 3), 'qn:input', '~"bearings{1, 2} at 3 rad/s"');
+  expect_error (@() qn.rotor (wrong, 'speed', 3), 'qn:input', '~"bearings\{1, 2\} at 3 rad/s"');
 end
 
 function test_a_function_may_give_stiffness_and_damping_at_once_and_is_called_once_for_equal_bearings ()
@@ -159,7 +159,7 @@ function test_a_function_may_give_stiffness_and_damping_at_once_and_is_called_on
   b = qn.rotor ('nodes', [0 1], 'outer', 0.05, 'bearings', {1, [5 3; -3 6], [1 0; 0 2]; 2, [5 3; -3 6], [8 0; 0 9]});
   for name = 'MKC', expect_equal (r.(name), b.(name)); end
   expect_error (@() qn.rotor ('nodes', [0 1], 'outer', 1, 'bearings', {1, 5, @(w) counted(w)}, 'speed', 1), 'qn:input', ...
-                '~"bearings{1, 3} at 1 rad/s" takes no structure');
+                '~"bearings\{1, 3\} at 1 rad/s" takes no structure');
 end
 
 function x = counted (w)
@@ -308,7 +308,7 @@ end
 
 function test_a_bearing_on_one_degree_of_freedom_of_the_stator_twice_is_refused ()
   expect_error (@() qn.rotor ('nodes', [0 1], 'outer', 0.1, 'stator', struct ('M', eye (2), 'K', eye (2)), 'bearings', {[2 1 1], 5}), ...
-                'qn:input', '~"bearings{1, 1}" stands on degree of freedom 1 of the stator with x and with y');
+                'qn:input', '~"bearings\{1, 1\}" stands on degree of freedom 1 of the stator with x and with y');
 end
 
 % The gyroscopic matrix would have taken the new speed, the bearings the old one.

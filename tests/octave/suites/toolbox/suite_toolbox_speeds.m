@@ -167,15 +167,15 @@ function test_tables_are_bearings_for_one_speed_and_for_whirl_speeds ()
   expect_equal (d.pole, getfield (qn.campbell (f, [100 500 850], 'modes', 4), 'pole'), 1e-9);
   expect_error (@() qn.campbell (r, [100 1000]), 'qn:input', ...
                 'qn.rotor: the table "bearings{1, 2}" has values from 0 to 900 rad/s, and is asked for at 1000 rad/s');
-  expect_error (@() qn.rotor (r, 'speed', -5), 'qn:input', '~the table "bearings{1, 2}" has values from 0 to 900 rad/s, and is asked for at -5 rad/s');
-  expect_error (@() make (k([1 3 2 4], :), c), 'qn:input', '~"bearings{1, 2}\(:, 1\)" must ascend: value 2 is 400, value 3 is 150');
-  expect_error (@() make ([0 NaN 1; 1 2 3], c), 'qn:input', '~"bearings{1, 2}"\(1, 2\) is NaN');
+  expect_error (@() qn.rotor (r, 'speed', -5), 'qn:input', '~the table "bearings\{1, 2\}" has values from 0 to 900 rad/s, and is asked for at -5 rad/s');
+  expect_error (@() make (k([1 3 2 4], :), c), 'qn:input', '~"bearings\{1, 2\}\(:, 1\)" must ascend: value 2 is 400, value 3 is 150');
+  expect_error (@() make ([0 NaN 1; 1 2 3], c), 'qn:input', '~"bearings\{1, 2\}"\(1, 2\) is NaN');
 end
 
 function test_speeds_beyond_the_tables_are_refused_with_numbers ()
   r = example_rotor ();
   expect_error (@() qn.modal (r, 'speeds', [0 1000]), 'qn:input', ...
-                '~the table "bearings{1, 2}" has values from 0 to 900 rad/s, and is asked for at 1000 rad/s');
+                '~the table "bearings\{1, 2\}" has values from 0 to 900 rad/s, and is asked for at 1000 rad/s');
   model = model_of (r);
   make = @(table) qn.simulation (model, 'step', 1e-3, 'steps', 1000, 'speed', table);
   expect_error (@() make ([0 1; 0 950]), 'qn:input', ...
@@ -209,7 +209,7 @@ function test_what_a_run_up_cannot_have_is_refused ()
   by = @(rows) qn.modal (eye (2), eye (2), 'speed', 0, 'by_speed', rows);
   expect_error (@() by ({0, eye(2), []}), 'qn:input', ...
                 'qn.modal: "by_speed" must be a cell {speed, K, C; ...} of two rows or more, got [1 3] of class cell');
-  expect_error (@() by ({0, eye(2), []; 1, eye(3), []}), 'qn:input', '~"by_speed{2, 2}" must be 2 x 2 numbers');
+  expect_error (@() by ({0, eye(2), []; 1, eye(3), []}), 'qn:input', '~"by_speed\{2, 2\}" must be 2 x 2 numbers');
   expect_error (@() by ({1, eye(2), []; 0, eye(2), []}), 'qn:input', '~"by_speed{:, 1}" must ascend');
   expect_error (@() qn.modal (eye (2), eye (2), 'speed', 3, 'by_speed', {0, eye(2), []; 1, eye(2), []}), 'qn:input', ...
                 '~known from 0 to 1 rad/s, and asked for at 3 rad/s');

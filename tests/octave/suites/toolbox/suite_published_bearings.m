@@ -81,11 +81,27 @@ function test_threshold_of_a_rigid_rotor_on_its_film ()
     expect_published (c, {sprintf('m c W^2/load at the eccentricity %g', e(k)), 'whirl over spin'}, [masses(k) whirls(k)], ...
                       [b.mass * 1e-4 * (50 * pi) ^ 2 / load, b.whirl], 1e-6);
   end
-  % From an eccentricity of 0.756030 on no mass whirls.
-  above = qn.journal_coefficients (bearing (), [0 -load_at_eccentricity(0.75604)]);
-  below = qn.journal_coefficients (bearing (), [0 -load_at_eccentricity(0.75602)]);
-  expect_equal ([above.mass, above.whirl], [Inf 0]);
-  expect_equal (isfinite (below.mass) && below.whirl < 0.01, true);
+  at = @(e) qn.journal_coefficients (bearing (), [0 -load_at_eccentricity(e)]);
+  [low, high] = deal (0.7, 0.8);
+  for round = 1:22
+    middle = at ((low + high) / 2);
+    if isfinite (middle.mass), low = (low + high) / 2; else, high = (low + high) / 2; end
+  end
+  expect_published (c, 'eccentricity above which no mass whirls', 0.756030, low, 1e-6);
+  expect_equal ([at(high).mass, at(high).whirl], [Inf 0]);
+  expect_equal (at(low).whirl < 0.01, true);
+end
+
+% Places in units of the clearance, velocities in c W; forces in mu W R L^3/(2 c^2).
+function test_forces_of_a_journal_that_moves ()
+  c = published ('Oil film of a journal that moves', 'quadrature of the pressure of the half film (F. W. Ocvirk, NACA TN 2808, 1952)', {'Journal'});
+  states = [.3 .2 .1 -.05; .6 -.4 -.2 .3; .7 .5 0 0];
+  forces = [-1.382398388 .492963610; .450832664 .280323874; -23.739668543 -4.431450416];
+  for k = 1:3
+    f = -qn.force (bearing (), 1e-4 * states(k, 1:2).', 1e-4 * 50 * pi * states(k, 3:4).') / unit ();
+    names = arrayfun (@(s) sprintf ('%s over mu W R L^3/(2 c^2), state %d', s, k), 'xy', 'uniformoutput', false);
+    expect_published (c, names, forces(k, :), f.', 1e-8);
+  end
 end
 
 % The same threshold in time: a run decays at 0.98 of the speed, and grows at 1.02 of it.

@@ -134,3 +134,23 @@ function test_overhung_disk_splits_into_forward_and_backward_whirl ()
                     [1 1 6 12] * 1e-3);
   expect_equal (d.direction(:, 2), [-1; 1; -1; 1], 1e-6);
 end
+
+% A point mass on a shaft with damping of its own, ci, and ce at rest: forward whirl grows above omega (1 + ce / ci).
+function test_onset_of_whirl_by_damping_of_the_shaft ()
+  c = published ('Onset of whirl by damping that turns with the shaft', 'closed form: G. Genta, Dynamics of Rotating Systems, 2005', ...
+                 {'whirl speeds', 'circulatory matrix'});
+  [m, k, ci] = deal (10, 4e5, 30);
+  for ce = [15 60]
+    s = struct ('M', m * eye (2), 'K', k * eye (2), 'C', (ce + ci) * eye (2), 'N', ci * [0 1; -1 0]);
+    d = qn.campbell (s, 20:70:860, 'places', [1 2]);
+    expect_published (c, {sprintf('onset at ce / ci = %g [rad/s]', ce / ci), 'whirl there [rad/s]', 'direction'}, [200 * (1 + ce / ci), 200, 1], ...
+                      [d.unstable.speed, d.unstable.whirl, d.unstable.direction], 1e-6);
+    speed = 1.1 * d.unstable.speed;
+    pole = roots ([m, ce + ci, k - 1i * speed * ci]);
+    model = qn.modal (s, 'speed', speed);
+    sim = qn.simulation (model, 'step', 2e-4, 'until', 6, 'v0', [1; 0]);
+    res = qn.run (sim, 'progress', false, 'check', false);
+    rate = log (norm (res.q(:, 30001)) / norm (res.q(:, 15001))) / 3;
+    expect_published (c, 'growth rate in a run at 1.1 of it [1/s]', max (real (pole)), rate, 0.01 * max (real (pole)));
+  end
+end

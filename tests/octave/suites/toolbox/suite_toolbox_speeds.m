@@ -214,3 +214,13 @@ function test_what_a_run_up_cannot_have_is_refused ()
   expect_error (@() qn.modal (eye (2), eye (2), 'speed', 3, 'by_speed', {0, eye(2), []; 1, eye(2), []}), 'qn:input', ...
                 '~known from 0 to 1 rad/s, and asked for at 3 rad/s');
 end
+
+% The response to an unbalance begins small: in steps of that size the curve could end before its range, without a word.
+function test_the_curve_of_an_unbalance_goes_through_its_peaks_to_the_end ()
+  model = qn.modal (diag ([1e4 9e4]), eye (2), 'damping', 5e-3);
+  load = [1; 0.3];
+  h = qn.harmonic (model, load, {}, [1 100], 'harmonics', 1, 'samples', 8, 'power', 2);
+  assert (h.hertz(end) >= 100 && numel (h.hertz) < 400);
+  peaks = max (h.amplitude, [], 2);
+  expect_equal (peaks.' ./ (load.' / (2 * 5e-3)), [1 1], 0.01);
+end

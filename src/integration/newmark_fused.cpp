@@ -71,8 +71,8 @@ template <With with>
     const double vp = x.vFromA * a0 + v0;
     u[i] = up;
     v[i] = vp;
-    const double load = 0.0 + column[i] * p;
-    f[i] = addForces<with>(load, up, vp, with == With::nothing ? 0.0 : k[i], beta, with == With::both ? c[i] : 0.0);
+    const double loaded = 0.0 + column[i] * p;
+    f[i] = addForces<with>(loaded, up, vp, with == With::nothing ? 0.0 : k[i], beta, with == With::both ? c[i] : 0.0);
   }
 }
 
@@ -151,12 +151,12 @@ void newmarkNext(const ModalState& x, double* f, const double* gain, const doubl
     variant(x, f, gain, r, loads[0], forces, k);
     return;
   }
-  double load[kBlock];
+  double loaded[kBlock];
   for (int first = 0; first < x.n; first += kBlock) {
     const int n = std::min(kBlock, x.n - first);
-    newmarkLoad(load, r + first, x.n, loads, n, nb);
+    newmarkLoad(loaded, r + first, x.n, loads, n, nb);
     const DiagonalForces part{forces.k ? forces.k + first : nullptr, forces.beta, forces.c ? forces.c + first : nullptr};
-    variant({x.u + first, x.v + first, nullptr, n}, f + first, gain + first, load, 1.0, part, k);
+    variant({x.u + first, x.v + first, nullptr, n}, f + first, gain + first, loaded, 1.0, part, k);
   }
 }
 

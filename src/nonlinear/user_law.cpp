@@ -9,7 +9,6 @@
 #include "host/errors.h"
 #include "nonlinear/state_laws.h"
 #include "nonlinear/user_library.h"
-#include "numbers/processor.h"
 #include "numbers/ranges.h"
 
 namespace quarn {
@@ -61,18 +60,8 @@ void refuseNumbers(const chandleNl_inout& h, int rows, int states, double t) {
                isForce ? "force" : "state", (isForce ? force : k) + 1, t, h.unl[0], h.vnl[0]);
 }
 
-/// An exponent of ones is that of NaN and the infinities: one more carries into the sign. Looks at all of them, several at a time.
-QUARN_PROCESSOR_VERSIONS
 bool allFinite(const double* x, int n) {
-  constexpr std::uint64_t exponent = 0x7ff0000000000000;
-  constexpr std::uint64_t one = 0x0010000000000000;
-  std::uint64_t carried = 0;
-  for (int i = 0; i < n; ++i) {
-    std::uint64_t bits;
-    std::memcpy(&bits, x + i, sizeof bits);
-    carried |= (bits & exponent) + one;
-  }
-  return carried >> 63 == 0;
+  return std::all_of(x, x + n, [](double value) { return std::isfinite(value); });
 }
 
 mxArray* columnOf(const double* x, int n) {

@@ -51,6 +51,8 @@ void newmark(Vector& all, int n) {
                         load.data(), 1, forces, k);
     x.appendTo(all);
     copy.appendTo(all);
+    quarn::newmarkNext({x.u.data(), x.v.data(), x.a.data(), n}, x.f.data(), gain.data(), r.data(), load.data(), 1, forces, k);
+    x.appendTo(all);
     quarn::newmarkSteps({x.u.data(), x.v.data(), x.a.data(), n}, r.data(), gain.data(), load.data(), 3, 3, 4, forces, k);
     x.appendTo(all);
   }

@@ -4,7 +4,7 @@ function html = energy_list (res)
     e = qn.energies (res);
     words = {'kinetic', 'kinetic, of the modes'; 'strain', 'strain, of the modes'; 'stored', 'stored in elements'
              'damped', 'taken by modal damping'; 'dissipated', 'dissipated in elements'
-             'exchanged', 'taken by elements that act elsewhere'; 'circulatory', 'taken by the skew stiffness'
+             'exchanged', 'taken by elements that act elsewhere'; 'circulatory', 'taken by stiffness that is skew or changes'
              'gyroscopic', 'taken by the gyroscopic matrix'; 'work', 'work of the loads'; 'residual', 'does not add up'};
     cells = cell (0, 3);
     for k = 1:size (words, 1)

@@ -24,10 +24,30 @@ function html = set_up (sim)
   v = norm (sim.start.v(1:n)) ^ 2 / 2;
   start = 'at rest';
   if any (sim.start.u(1:n)) || v > 0, start = sprintf ('in motion or displaced; kinetic energy %.4g J', v); end
-  facts = {'Model', model; 'Frequencies', range; 'Damping', zeta; 'Modes coupled', coupled; 'Scheme', scheme; 'Step', steps
+  facts = {'Model', model; 'Frequencies', range; 'Damping', zeta; 'Modes coupled', coupled; 'Rotation', rotation_of(sim)
+           'Changes with time', tables_of(sim); 'Scheme', scheme; 'Step', steps
            'Start', start};
   html = sprintf ('<h2>Set-up</h2>\n%s', qn.impl.page.facts (facts));
   html = sprintf ('%s\n<h3>Loads</h3>\n%s\n<h3>Elements</h3>\n%s', html, load_list (sim), element_list (sim));
+end
+
+% The speed of a rotor and what goes with it.
+function text = rotation_of (sim)
+  text = '';
+  if ~qn.impl.turns (sim.model), return, end
+  r = sim.model.rotation;
+  speed = r.speed;
+  if qn.impl.runs_up (sim), speed = qn.impl.speed_at (sim, sim.time); end
+  speed = [min(speed), max(speed)];
+  text = sprintf ('%s (%s)', span ('%.6g', speed(1), speed(2), 'rad/s'), span ('%.5g', speed(1) * 30 / pi, speed(2) * 30 / pi, 'rpm'));
+  names = {'gyroscopic matrix', 'circulatory matrix', 'stiffness and damping by speed'};
+  text = sprintf ('%s; %s', text, strjoin (names([any(r.G(:)), qn.impl.circulates(r), qn.impl.by_speed(r)]), ', '));
+end
+
+function text = tables_of (sim)
+  text = '';
+  if ~isfield (sim, 'varying') || isempty (sim.varying), return, end
+  text = sprintf ('%d matrices of stiffness and %d of damping, by tables', sum ([sim.varying.type] == 1), sum ([sim.varying.type] == 3));
 end
 
 function text = span (format, low, high, unit)

@@ -12,6 +12,10 @@ function x = recurrence (a, p, z, n)
   for k = 1:long, last = a * last + reshape (p(:, k, :), rows, blocks); end
   power = a;
   for k = 1:round (log2 (long)), power = power * power; end
+  if ~all (isfinite (power(:)))
+    x = step_by_step (a, reshape (p, rows, []), z, n, steps);
+    return
+  end
   begin = zeros (rows, blocks);
   first = z(1:n);
   for k = 1:blocks
@@ -24,4 +28,13 @@ function x = recurrence (a, p, z, n)
     x(:, k, :) = begin(1:n, :);
   end
   x = [first, reshape(x(:, 1:steps), n, steps)];
+end
+
+% Where the power is no number: what does not move may still be zero.
+function x = step_by_step (a, p, z, n, steps)
+  x = [z(1:n), zeros(n, steps)];
+  for k = 1:steps
+    z = a * z + p(:, k);
+    x(:, k + 1) = z(1:n);
+  end
 end

@@ -153,4 +153,7 @@ function test_a_recurrence_in_blocks_is_that_of_one_step_after_another ()
     expect_equal (qn.impl.recurrence (a, p, z, n), wanted, 1e-11 * max (abs (wanted(:))));
     expect_equal (qn.impl.recurrence (a, p, z, 1), wanted(1, :), 1e-11 * max (abs (wanted(:))));
   end
+  % What would grow beyond all numbers, and does not move.
+  still = qn.impl.recurrence (diag ([0.5, 1e30]), [ones(1, 1000); zeros(1, 1000)], [1; 0], 2);
+  expect_equal (still(:, end), [2; 0], 1e-12);
 end

@@ -53,11 +53,24 @@ function a = mmread (file)
     a = zeros (h.sizes);
     a(inside) = v;
   end
+  if strcmp (h.symmetry, 'hermitian'), real_diagonal (t, h, x, v, lines, a); end
   switch h.symmetry
     case 'symmetric',      a = a + tril (a, -1).';
     case 'skew-symmetric', a = a - tril (a, -1).';
     case 'hermitian',      a = a + tril (a, -1)';
   end
+end
+
+function real_diagonal (t, h, x, v, lines, a)
+  if ~any (imag (diag (a))), return, end
+  if h.sparse
+    on = x(1, :) == x(2, :);
+  else
+    [i, j] = find (tril (true (h.sizes)));
+    on = (i == j).';
+  end
+  k = find (on & imag (v) ~= 0, 1);
+  qn.impl.formats.refuse (t, lines(k), 'the value %s on the diagonal of a hermitian matrix', qn.impl.formats.spelt (v(k)));
 end
 
 function say_short (t, count)

@@ -2,11 +2,11 @@
 %
 % Purpose
 %   Condensed stiffness and mass matrices come as such entries, each term with the points and components that it joins. Small, large and
-%   free fields may be mixed; what else is in the file is passed over.
+%   free fields may be mixed; other entries of bulk data are passed over, and counted.
 %
 % Calls
-%   LIST = qn.read_dmig (FILE)
-%   [A, ROWS, COLUMNS] = qn.read_dmig (FILE, NAME)
+%   [LIST, SKIPPED] = qn.read_dmig (FILE)
+%   [A, ROWS, COLUMNS, SKIPPED] = qn.read_dmig (FILE, NAME)
 %
 % Input
 %   FILE   name of the file
@@ -17,6 +17,8 @@
 %             form ('square', 'rectangular' or 'symmetric'), rows and columns (what they are: one line [point component] each, in
 %             ascending order, component 0 for scalar points). What has no term in the file has no row and no column.
 %   A         the matrix of that name, with its ROWS and COLUMNS
+%   SKIPPED   cell, the names of the entries that were passed over, each as often as it was; lines that begin with no name are '?'
+%   The warning qn:file counts them; warning ('off', 'qn:file') silences it.
 %
 % Errors
 %   qn:input  the file cannot be opened, a field holds no number or one without its decimal point, a term comes twice or differs from
@@ -34,11 +36,12 @@
 %   delete (file);
 %
 % See also qn.read_op4, qn.read_coordinates, qn.modal
-function [list, rows, columns] = read_dmig (file, name)
+function [list, rows, columns, skipped] = read_dmig (file, name)
   who = 'qn.read_dmig';
   if nargin < 1, error ('qn:input', '%s: the name of a file expected; see help %s', who, who); end
   t = qn.impl.formats.open_text (who, file);
-  [heads, terms] = qn.impl.formats.dmig_terms (t, qn.impl.formats.bulk_entries (t));
+  [entries, skipped] = qn.impl.formats.bulk_entries (t);
+  [heads, terms] = qn.impl.formats.dmig_terms (t, entries);
   if isempty (heads) && isempty (terms.line), error ('qn:input', '%s: %s has no DMIG entries', who, file); end
   known = {heads.name};
   for k = 1:numel (heads)
@@ -51,7 +54,10 @@ function [list, rows, columns] = read_dmig (file, name)
     own = strcmp (terms.name, h.name);
     list(end + 1) = qn.impl.formats.dmig_matrix (t, h, terms.place(own, :), terms.x(own, :), terms.line(own));
   end
-  [rows, columns] = deal ([]);
+  if ~isempty (skipped)
+    warning ('qn:file', '%s: %s, passed over besides DMIG: %s', who, file, qn.impl.formats.counted (skipped));
+  end
+  [rows, columns] = deal (skipped, []);
   if nargin < 2, return, end
   name = qn.impl.chars (name);
   if ~ischar (name), error ('qn:input', '%s: "NAME" must be a text, got an array of class %s', who, class (name)); end

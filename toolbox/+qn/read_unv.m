@@ -25,6 +25,7 @@
 %                       and direction), even, step, z, x (1 x k), y (1 x k), and x_axis, y_axis, y_below_axis, z_axis (structs of
 %                       kind, label and unit). The times of even steps have the six digits of the step in the file.
 %            skipped    numbers of the datasets that were not read
+%   The warning qn:file counts what was not read, if it is more than the head of the file (151); warning ('off', 'qn:file') silences it.
 %
 % Errors
 %   qn:input  the file cannot be opened, a dataset is cut short, or a number is malformed or makes no sense; the message has file and line
@@ -60,12 +61,17 @@ function s = read_unv (file)
     found = found + 1;
   end
   if found == 0, error ('qn:input', '%s: %s has no datasets', who, file); end
+  if any (s.skipped ~= 151)
+    names = arrayfun (@(n) sprintf ('%d', n), s.skipped(s.skipped ~= 151), 'uniformoutput', false);
+    warning ('qn:file', '%s: %s, datasets that were not read: %s', who, file, qn.impl.formats.counted (names));
+  end
 end
 
 function [s, t, next] = dataset (t, k, marks, s)
   line = qn.impl.formats.line_of (t, k, 'the number of a dataset');
   number = str2double (regexp (line, '^[ 0-9]{6}', 'match', 'once'));
-  if isempty (number) || isnan (number)
+  further = line(7:end);
+  if isempty (number) || isnan (number) || (~isempty (strtrim (further)) && lower (further(1)) ~= 'b')
     qn.impl.formats.refuse (t, k, 'the number of a dataset expected in the first six columns, got "%s"', qn.impl.formats.shown (line));
   end
   to = marks(find (marks > k, 1)) - 1;
@@ -94,6 +100,19 @@ function [s, t, next] = dataset (t, k, marks, s)
     case 164
       s.units = [s.units, qn.impl.formats.unv_units(t, k + 1, to)];
     otherwise
+      not_hidden (t, k, to, number);
       s.skipped(end + 1) = number;
+  end
+end
+
+% Where the lines of -1 between two datasets are lost, the second one would be passed over with the first.
+function not_hidden (t, from, to, number)
+  for k = from + 1:to
+    if t.last(k) - t.first(k) > 80, continue, end
+    line = deblank (t.text(t.first(k):t.last(k)));
+    if ~isempty (regexp (line, '^ {2}(  55|  58| 151| 164| 781|2411|  15)$|^ {4}58[bB]', 'once'))
+      qn.impl.formats.refuse (t, k, ['"%s" within dataset %d, which begins on line %d, looks like the number of the next one: is a ' ...
+                                     'line of -1 lost?'], line, number, from - 1);
+    end
   end
 end

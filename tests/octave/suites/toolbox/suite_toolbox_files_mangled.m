@@ -86,3 +86,50 @@ function x = nonzeros_of (list)
   x = arrayfun (@(m) nonzeros (m.matrix), list(:), 'uniformoutput', false);
   x = cat (1, zeros (0, 1), x{:});
 end
+
+% A line that lost or got a character at its beginning: its numbers must be the same, or be refused, or doubted aloud.
+function test_numbers_do_not_change_their_place_with_a_line_that_is_shifted ()
+  s = format_samples ();
+  [tries, refused, want] = deal (0);
+  for k = 1:size (s, 1)
+    if any (strcmp (s{k, 1}, {'dofs', 'rows', 'sized', 'op4 little', 'op4 big', 'op4 long', 'unv binary'})), continue, end
+    s{k, 2} = strrep (s{k, 2}, 'GRID,12,,0.,0.,0.', '$');
+    evalc ('want = numbers_in (s{k, 3}, s{k, 2});');
+    lines = strsplit (s{k, 2}, sprintf ('\n'), 'CollapseDelimiters', false);
+    for j = find (~cellfun (@isempty, lines))
+      for shifted = {[' ' lines{j}], ['  ' lines{j}], lines{j}(2:end), lines{j}(min (3, end):end)}
+        if ~isempty (strtrim (lines{j}(1:min (2, end)))) && numel (shifted{1}) < numel (lines{j}), continue, end
+        bytes = strjoin ([lines(1:j - 1), shifted, lines(j + 1:end)], sprintf ('\n'));
+        got = [];
+        said = '';
+        try
+          said = evalc ('got = numbers_in (s{k, 3}, bytes);');
+        catch err
+          if ~strcmp (err.identifier, 'qn:input'), rethrow (err); end
+        end
+        tries = tries + 1;
+        refused = refused + isempty (got);
+        if ~isempty (got) && ~isequal (got, want) && isempty (said)
+          error ('%s, line %d is read without a word as "%s"', s{k, 1}, j, shifted{1});
+        end
+      end
+    end
+  end
+  if tries < 200 || refused < 50, error ('%d tries, %d refused', tries, refused); end
+end
+
+function x = numbers_in (reader, bytes)
+  [file, clean] = put_bytes (bytes);
+  x = reader (file);
+  if ~isstruct (x), return, end
+  if isfield (x, 'matrix')
+    x = {x.matrix};
+    return
+  end
+  f = x.functions;
+  if isempty (f) || isempty (x.shapes) || isempty (x.units)
+    x = 'less than there was';
+    return
+  end
+  x = {x.nodes, x.units.length, {x.shapes.node}, {x.shapes.values}, {x.shapes.parameters}, {f.x}, {f.y}, {f.node}, {f.direction}};
+end

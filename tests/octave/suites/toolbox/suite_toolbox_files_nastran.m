@@ -6,6 +6,7 @@ end
 
 function varargout = read (reader, bytes)
   [file, clean] = put_bytes (bytes);
+  warning ('off', 'qn:file', 'local');
   [varargout{1:nargout}] = reader (file);
 end
 
@@ -169,6 +170,8 @@ function test_bad_dmig_entries_are_refused_with_their_line ()
   bad = @(pattern, varargin) expect_bad_file (@qn.read_dmig, sample_of ('dmig', varargin{:}), pattern);
   bad ('line 4: terms of "KD", which has no head', 'DMIG    KD             0       6', 'DMIG    KE             0       6');
   bad ('line 9: a second head of the matrix "KD"', 'DMIG,KD,30,0,,30,0,5.0E3', 'DMIG,KD,0,6,2');
+  bad ('line 9: "1" in the fourth field of a column of "KD", which is blank: fields that have moved\?', '30,0,,30', '30,0,1,30');
+  bad ('line 9: the components 0 and 7 of a term; 0 to 6 expected', ',,30,0,5', ',,30,7,5');
   bad ('line 9: a value is "5"; a real number with a decimal point expected', '5.0E3', '5');
   bad ('line 9: a value is ""', '30,0,5.0E3', '30,0');
   bad ('line 9: a point or a component is "3O"', ',,30,0,5', ',,3O,0,5');
@@ -188,4 +191,25 @@ function test_bad_dmig_entries_are_refused_with_their_line ()
   expect_error (@() read (@qn.read_dmig, 'GRID,1'), 'qn:input', '~has no DMIG entries');
   expect_error (@() read (@(f) qn.read_dmig (f, 'M'), sample_of ('dmig')), 'qn:input', '~no matrix named "M"; it has KD');
   expect_error (@() read (@(f) qn.read_dmig (f, 3), sample_of ('dmig')), 'qn:input', '~"NAME" must be a text');
+end
+
+function test_entries_that_are_passed_over_are_counted_once ()
+  deck = sprintf ('%s\n', 'SOL 101', 'CEND', 'BEGIN BULK', 'GRID,12,,0.,0.,0.', '$ GRID', 'grid,13,,0.,0.,0.', 'DM1G,KD,30,0,,30,0,5.0E3', ...
+                  'PARAM*  POST', '*               0', '+ERR', '=', 'CBUSH   7', '        continued');
+  [file, clean] = put_bytes ([deck sample_of('dmig')]);
+  said = regexprep (evalc ('[list, skipped] = qn.read_dmig (file);'), '\s+', ' ');
+  expect_equal (skipped, {'GRID', 'GRID', 'DM1G', 'PARAM', '?', 'CBUSH', 'GRID'});
+  expect_in (said, 'passed over besides DMIG: ?, CBUSH, DM1G, GRID (3), PARAM');
+  expect_equal (numel (strfind (said, 'passed over')), 1);
+  [unused, unused2, unused3, again] = evalc_of (file);
+  expect_equal (again, skipped);
+  only = sample_of ('dmig', 'GRID,12,,0.,0.,0.', '$');
+  [file, clean] = put_bytes (only);
+  expect_equal (evalc ('qn.read_dmig (file);'), '');
+  [list, skipped] = qn.read_dmig (file);
+  expect_equal (skipped, cell (1, 0));
+end
+
+function varargout = evalc_of (file)
+  [said, varargout{1:4}] = evalc ('qn.read_dmig (file, ''kd'')');
 end

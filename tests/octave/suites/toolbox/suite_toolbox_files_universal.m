@@ -147,9 +147,9 @@ function test_bad_universal_files_are_refused_with_their_line ()
   bad ('a node comes twice', [char(10) '         2' char(10)], [char(10) '         1' char(10)]);
   bad ('line 34: 3 lines of data at nodes; a node takes 2', [char(10) '  0.00000E+00  0.00000E+00 -1.00000E+00'], '');
   bad ('line 44: the node makes no sense', '    2  -3', '    x  -3');
-  bad ('line 45: type of the values 3', '         4         5         1', '         3         5         1');
-  bad ('line 45: values in even steps, and a step of 0', '5.00000E-03', '0.00000E+00');
-  bad ('line 45: the count of values is 999999', '         4         5', '         4    999999');
+  bad ('line 46: type of the values 3', '         4         5         1', '         3         5         1');
+  bad ('line 46: values in even steps, and a step of 0', '5.00000E-03', '0.00000E+00');
+  bad ('line 46: the count of values is 999999', '         4         5', '         4    999999');
   bad ('line 50: number 2 of values of the function "accel at node 2, -Z"', '5.000000000000E-01', '5.0000x0000000E-01');
   bad ('line 51: -1 in columns 5 and 6 expected after the values, got "  2.0', '         4         5', '         4         4');
   text = sample_of ('unv');
@@ -162,4 +162,60 @@ function test_bad_universal_files_are_refused_with_their_line ()
   bad ('line 2: 12 lines of text', '  11 ', '  12 ');
   text = sample_of ('unv binary');
   expect_bad_file (@qn.read_unv, text(1:end - 20), 'the file ends early: 40 bytes expected from line 14 on');
+end
+
+% What the reader says of a file, on one line, and the result.
+function [said, s] = said_of (bytes)
+  [file, clean] = put_bytes (bytes);
+  s = [];
+  said = regexprep (evalc ('s = qn.read_unv (file);'), '\s+', ' ');
+end
+
+function test_datasets_that_are_not_read_are_counted_once ()
+  lines = @(varargin) sprintf ('%s\n', varargin{:});
+  other = lines ('    -1', '  2412', '         7        21         1         1         7         2', '         0         1         1', ...
+                 '         1         2', '    -1');
+  [said, s] = said_of ([other, sample_of('unv'), other, strrep(other, '2412', '  82')]);
+  expect_in (said, 'datasets that were not read: 2412 (2), 82');
+  expect_equal (s.skipped, [2412 151 2412 82]);
+  expect_equal (numel (strfind (said, 'were not read')), 1);
+  expect_equal (said_of (sample_of ('unv')), '');
+  warning ('off', 'qn:file', 'local');
+  expect_equal (said_of (other), '');
+end
+
+% Without both lines of -1 between two datasets the second one vanished with the first.
+function test_a_dataset_is_not_hidden_in_one_that_is_passed_over ()
+  ends = sprintf ('    -1\n    -1\n');
+  bytes = sample_of ('unv');
+  at = strfind (bytes, ends);
+  for new = {'', sprintf('    -2\n    -2\n'), sprintf('   -1 \n    -l\n')}
+    for k = at
+      text = [bytes(1:k - 1), new{1}, bytes(k + numel (ends):end)];
+      expect_bad_file (@qn.read_unv, text, 'line \d+: ');
+    end
+  end
+  lost = @(number) [strrep(bytes(1:at(1) - 1), '   151', '  2412'), sprintf('%s\n', number), bytes(at(1) + numel (ends):end)];
+  for number = {'    15', '    55', '    58', '    58b     1     2', '   151', '   164', '   781', '  2411'}
+    expect_bad_file (@qn.read_unv, lost (number{1}), ...
+                     ['line 5: "', number{1}, '" within dataset 2412, which begins on line 1, looks like the number of the next one']);
+  end
+  expect_bad_file (@qn.read_unv, [bytes(1:at(2) - 1), bytes(at(2) + numel (ends):end)], ...
+                   'more than the three lines of the units: is a line of -1 lost\?');
+end
+
+% The end of a number was left beyond the columns: -0.25 became -2.5.
+function test_lines_that_were_shifted_are_refused ()
+  bad = @(pattern, varargin) expect_bad_file (@qn.read_unv, sample_of ('unv', varargin{:}), pattern);
+  bad ('line 20: "1" right of column 75, where the numbers of a node end', '   1.5000000000000000D+00', '    1.5000000000000000D+00');
+  bad ('line 15: "01" right of column 79, where the numbers of a node end', '8  1.50000E+00  0.0', '8  1.50000E+00    0.0');
+  bad ('line 44: "2" in column 56, which is blank between two fields: a line that was shifted\?', '   2  -3 NONE', '   2    2NONE');
+  bad ('line 46: "T" in column 26, which is blank between two fields', '    0 Time', '    0Time');
+  bad ('line 46: "s" in column 47, which is blank', 'Time                 s', 'Time                s');
+  bad ('line 46: the kind of an axis makes no sense', '        17    0    0    0', '        17    0    x    0');
+  bad ('line 23: the number of a dataset expected in the first six columns', '    55', '     55');
+  uneven = sample_of ('unv', '         4         5         1', '         4         1         0', ...
+                      sprintf ('  0.000000000000E+00  5.000000000000E-01 -1.250000000000E+00  3.000000000000E-07\n  2.000000000000E+00'), ...
+                      '  0.00000E+00  1.000000000000E+00  1.00000E-01  2.000000000000E+00');
+  expect_bad_file (@qn.read_unv, uneven, 'line 50: number 2 of values of the function "accel at node 2, -Z" is "  1.00000E-01"');
 end

@@ -127,3 +127,11 @@ function test_a_v_handle_stands_for_its_matrix ()
   text = evalc ('display (v)');
   if isempty (strfind (text, 'matrix 2x2')), error ('got %s', text); end
 end
+
+function test_the_diagonal_of_a_hermitian_matrix_is_real ()
+  heads = {'coordinate complex hermitian', '2 2 3', '1 1 4 0', '2 1 0 3', '2 2 5 -1'; 'array complex hermitian', '2 2', '4 0', '0 3', '5 -1'}.';
+  for head = heads
+    [file, clean] = put_bytes (sprintf ('%s\n', ['%%MatrixMarket matrix ' head{1}], head{2:end}));
+    expect_error (@() qn.mmread (file), 'qn:input', '~line 5: the value 5-1i on the diagonal of a hermitian matrix');
+  end
+end

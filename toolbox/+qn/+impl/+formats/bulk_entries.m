@@ -1,9 +1,12 @@
-% LIST = BULK_ENTRIES (T)  the DMIG entries of bulk data: rows {line, data fields}, continuations joined
+% [LIST, SKIPPED] = BULK_ENTRIES (T)  the DMIG entries of bulk data: rows {line, data fields}, continuations joined
 %
 % Comments, other entries and what comes before and after are passed over; DMI, DMIAX and DMIJ are refused by name, and so is an entry whose
-% last field says that it goes on (+NAME) where it does not.
-function list = bulk_entries (t)
+% last field says that it goes on (+NAME) where it does not. SKIPPED are the names of the other entries between "BEGIN BULK", where there
+% is one, and ENDDATA, '?' for a line that begins with no name.
+function [list, skipped] = bulk_entries (t)
   list = cell (0, 2);
+  skipped = cell (1, numel (t.first));
+  passed = 0;
   open = false;
   key = '';
   t.text = upper (t.text);
@@ -21,7 +24,16 @@ function list = bulk_entries (t)
       open = strcmp (word, 'DMIG');
       if strcmp (word, 'ENDDATA'), break, end
       if any (strcmp (word, {'DMI', 'DMIAX', 'DMIJ'})), qn.impl.formats.refuse (t, k, 'an entry %s; only DMIG is read', word); end
-      if ~open, continue, end
+      if ~isempty (regexp (line, '^\s*BEGIN(\s|$)', 'once'))
+        passed = 0;
+        continue
+      end
+      if ~open
+        if isempty (regexp (word, '^[A-Z]\w{0,7}$', 'once')), word = '?'; end
+        passed = passed + 1;
+        skipped{passed} = word;
+        continue
+      end
     end
     [fields, next] = qn.impl.formats.bulk_fields (t, k, line);
     if follows
@@ -38,6 +50,7 @@ function list = bulk_entries (t)
     key = next;
   end
   if open, all_there (t, list, key); end
+  skipped = skipped(1:passed);
 end
 
 function all_there (t, list, key)

@@ -21,6 +21,10 @@ function [heads, terms] = dmig_terms (t, list)
       lines{k} = zeros (0, 1);
       continue
     end
+    if ~isempty (f{4})
+      qn.impl.formats.refuse (t, at(3), '"%s" in the fourth field of a column of "%s", which is blank: fields that have moved?', ...
+                              qn.impl.formats.shown (f{4}), f{1});
+    end
     rest = f(5:end);
     rest(end + 1:4 * ceil (numel (rest) / 4)) = {''};
     rest = reshape (rest, 4, []).';
@@ -43,6 +47,10 @@ function [heads, terms] = dmig_terms (t, list)
   terms.place = reshape (place, [], 4);
   k = find (terms.place(:, 1) < 1 | terms.place(:, 3) < 1, 1);
   if ~isempty (k), qn.impl.formats.refuse (t, line(k), 'a term without a point: numbers from 1 expected'); end
+  k = find (any (terms.place(:, [2 4]) > 6, 2), 1);
+  if ~isempty (k)
+    qn.impl.formats.refuse (t, line(k), 'the components %g and %g of a term; 0 to 6 expected', terms.place(k, [2 4]));
+  end
   values = fields(:, 5:6);
   [x, good, point, exponent, blank] = qn.impl.formats.parse (char (values(:)));
   given = [true(size (line)); false(size (line))];

@@ -35,6 +35,7 @@ function [f, t, next] = unv_function (t, from, binary)
 end
 
 function [kind, number, at, reference] = place (t, line, text)
+  apart (t, line, text, [31 56]);
   [x, good] = qn.impl.formats.parse (char (text(1:5), text(6:15), text(42:51), text(52:55), text(67:76), text(77:80)));
   names = {'type of function', 'number', 'node', 'direction', 'reference node', 'reference direction'};
   k = find (~good | x ~= fix (x), 1);
@@ -47,9 +48,21 @@ end
 
 function f = labelled (t, line, f, axis)
   text = [qn.impl.formats.line_of(t, line, 'what is on an axis'), repmat(' ', 1, 67)];
-  [x, good] = qn.impl.formats.parse (text(1:10));
-  if ~good || x ~= fix (x), qn.impl.formats.refuse (t, line, 'the kind of an axis makes no sense: "%s"', qn.impl.formats.shown (text)); end
-  f.([axis '_axis']) = struct ('kind', x, 'label', strtrim (text(27:46)), 'unit', strtrim (text(48:67)));
+  apart (t, line, text, [26 47]);
+  [x, good] = qn.impl.formats.parse (char (text(1:10), text(11:15), text(16:20), text(21:25)));
+  if ~all (good & x == fix (x))
+    qn.impl.formats.refuse (t, line, 'the kind of an axis makes no sense: "%s"', qn.impl.formats.shown (text));
+  end
+  f.([axis '_axis']) = struct ('kind', x(1), 'label', strtrim (text(27:46)), 'unit', strtrim (text(48:67)));
+end
+
+% Columns that are blank in every file: where one is not, a line was shifted.
+function apart (t, line, text, columns)
+  k = find (text(columns) ~= ' ', 1);
+  if ~isempty (k)
+    qn.impl.formats.refuse (t, line, '"%s" in column %d, which is blank between two fields: a line that was shifted?', ...
+                            qn.impl.formats.shown (text(columns(k))), columns(k));
+  end
 end
 
 % Values in columns: the abscissa of uneven ones, 13 wide, before each.
@@ -70,11 +83,11 @@ function [f, next] = text_values (t, from, f, x, per)
     c = qn.impl.formats.block (t, from, lines, pairs * (13 + 20 * parts), what);
     c = reshape (c.', 13 + 20 * parts, []).';
     y = zeros (each, size (c, 1));
-    filled = true (1, size (c, 1));
     for j = 1:each
       columns = 13 * (j > 1) + 20 * max (j - 2, 0) + (1:13 + 7 * (j > 1));
       [v, good, unused, unused2, blank] = qn.impl.formats.parse (c(:, columns));
-      good(1:x(2)) = good(1:x(2)) & ~blank(1:x(2));
+      within = (1:numel (v)).' <= x(2);
+      good = good & ((within & ~blank) | (~within & v == 0));
       k = find (~good, 1);
       if ~isempty (k)
         qn.impl.formats.refuse (t, from + floor ((k - 1) / pairs), 'number %d of %s is "%s", which is no finite number', k, what, ...

@@ -9,6 +9,17 @@ function n = unv_nodes (t, from, to, kind)
   c = qn.impl.formats.block (t, from, lines, 80, 'nodes');
   count = lines / each;
   first = 1:each:lines;
+  % What stands right of the columns may be the end of a number that was shifted there.
+  long = t.last(from:to) - t.first(from:to) + 1;
+  ends = 79 * ones (1, lines);
+  if each == 2, ends = repmat ([40 75], 1, count); end
+  for k = find (long(:).' > ends)
+    line = t.text(t.first(from + k - 1):t.last(from + k - 1));
+    if ~isempty (strtrim (line(ends(k) + 1:end)))
+      qn.impl.formats.refuse (t, from + k - 1, '"%s" right of column %d, where the numbers of a node end', ...
+                              qn.impl.formats.shown (strtrim (line(ends(k) + 1:end))), ends(k));
+    end
+  end
   x = numbers (t, from, first, c(first, 1:40), 10, 'label, systems and colour of a node');
   bad = find (any (x(:, 1:3) ~= fix (x(:, 1:3)) | x(:, 1:3) < 0, 2) | x(:, 1) < 1, 1);
   if ~isempty (bad), qn.impl.formats.refuse (t, from + first(bad) - 1, 'node %g in the systems %g and %g', x(bad, 1:3)); end

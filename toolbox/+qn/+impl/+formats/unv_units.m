@@ -4,6 +4,7 @@ function u = unv_units (t, from, to)
   [x, good] = qn.impl.formats.parse (text(1:10));
   if ~good || x ~= fix (x), qn.impl.formats.refuse (t, from, 'the code of the units is "%s"', qn.impl.formats.shown (text(1:10))); end
   count = 3 + (to >= from + 2);
+  if to > from + 2, qn.impl.formats.refuse (t, from + 3, 'more than the three lines of the units: is a line of -1 lost?'); end
   if to < from + 1, qn.impl.formats.refuse (t, from, 'the factors of the units expected after this line'); end
   f = qn.impl.formats.items (t, from + 1, count, qn.impl.formats.fortran ('3D25.17'), 'the factors of the units');
   k = find (f(1:3) <= 0, 1);

@@ -147,9 +147,9 @@ function test_bad_universal_files_are_refused_with_their_line ()
   bad ('a node comes twice', [char(10) '         2' char(10)], [char(10) '         1' char(10)]);
   bad ('line 34: 3 lines of data at nodes; a node takes 2', [char(10) '  0.00000E+00  0.00000E+00 -1.00000E+00'], '');
   bad ('line 44: the node makes no sense', '    2  -3', '    x  -3');
-  bad ('line 46: type of the values 3', '         4         5         1', '         3         5         1');
-  bad ('line 46: values in even steps, and a step of 0', '5.00000E-03', '0.00000E+00');
-  bad ('line 46: the count of values is 999999', '         4         5', '         4    999999');
+  bad ('line 45: type of the values 3', '         4         5         1', '         3         5         1');
+  bad ('line 45: values in even steps, and a step of 0', '5.00000E-03', '0.00000E+00');
+  bad ('line 45: the count of values is 999999', '         4         5', '         4    999999');
   bad ('line 50: number 2 of values of the function "accel at node 2, -Z"', '5.000000000000E-01', '5.0000x0000000E-01');
   bad ('line 51: -1 in columns 5 and 6 expected after the values, got "  2.0', '         4         5', '         4         4');
   text = sample_of ('unv');

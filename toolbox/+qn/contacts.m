@@ -8,7 +8,7 @@
 %   C = qn.contacts (TIME, FORCE)
 %
 % Input
-%   RES     from qn.run, with every step kept near the contacts
+%   RES     from qn.run, with every step kept
 %   ROW     row of RES.force (1)
 %   TIME    1 x k times, evenly spaced [s]
 %   FORCE   1 x k forces [N]; a force of the other sign is a contact on the other side, and is listed as one of its own
@@ -16,6 +16,7 @@
 % Output
 %   C       struct array, in order of time: start [s], duration [s], peak [N, with its sign], impulse [N s]. Without an
 %           output argument a table is printed.
+%   The warning qn:contacts says that the result keeps only some of the steps: contacts between them are missed.
 %
 % Errors
 %   qn:input  there is no such row, the lengths differ, the times do not ascend in equal steps, or a value is not finite
@@ -36,7 +37,11 @@ function c = contacts (what, force)
     if size (what.force, 1) == 0, error ('qn:input', 'qn.contacts: the result has no forces: the run had no elements'); end
     row = qn.impl.count ('qn.contacts', 'ROW', row, size (what.force, 1));
     force = what.force(row, :);
-    h = what.time(2) - what.time(1);
+    [h, time] = qn.impl.spacing ('qn.contacts', time);
+    if isstruct (what.sim) && numel (what.sim.saved) < numel (what.sim.time)
+      warning ('qn:contacts', ['qn.contacts: the result keeps %d of %d steps: contacts between them are missed, and what is found of the ' ...
+                               'others lasts whole parts of %g s'], numel (what.sim.saved), numel (what.sim.time), h);
+    end
   else
     [h, time] = qn.impl.spacing ('qn.contacts', what);
     force = qn.impl.numbers ('qn.contacts', 'FORCE', force, numel (time), 'each', 'one a time');

@@ -79,6 +79,16 @@ function test_contacts_are_listed_with_their_impulse ()
   expect_equal (numel (qn.contacts (t, zeros (size (t)))), 0);
   last = qn.contacts ([0 1 2], [0 0 3]);
   expect_equal (last.duration, 1);
+  sparsely = @(varargin) qn.run (qn.simulation (qn.modal (1e4, 1), 'step', 1e-3, 'steps', 200, 'v0', 1, 'elements', ...
+                                                {qn.stop('gap', 1e-3, 'stiffness', 1e4), 1}, varargin{:}), 'progress', false);
+  few = sparsely ('every', 4);
+  expect_in (regexprep (evalc ('c = qn.contacts (few);'), '\s+', ' '), ...
+             ['qn.contacts: the result keeps 51 of 201 steps: contacts between them are missed, and what is found of the others lasts ' ...
+              'whole parts of 0.004 s']);
+  whole = sparsely ();
+  expect_equal (evalc ('c = qn.contacts (whole);'), '');
+  uneven = sparsely ('times', [0 0.01 0.1]);
+  expect_error (@() qn.contacts (uneven), 'qn:input', '~qn.contacts: "TIME" must ascend in equal steps');
   expect_error (@() qn.contacts (t, 1), 'qn:input', '~"FORCE" must be 10001 values, one a time');
 end
 

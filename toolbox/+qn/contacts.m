@@ -39,8 +39,8 @@ function c = contacts (what, force)
     force = what.force(row, :);
     [h, time] = qn.impl.spacing ('qn.contacts', time);
     if isstruct (what.sim) && numel (what.sim.saved) < numel (what.sim.time)
-      warning ('qn:contacts', ['qn.contacts: the result keeps %d of %d steps: contacts between them are missed, and what is found of the ' ...
-                               'others lasts whole parts of %g s'], numel (what.sim.saved), numel (what.sim.time), h);
+      warning ('qn:contacts', ['qn.contacts: the result keeps %d of %d steps: contacts between them are missed, and what is found of ' ...
+                               'the others lasts whole parts of %g s'], numel (what.sim.saved), numel (what.sim.time), h);
     end
   else
     [h, time] = qn.impl.spacing ('qn.contacts', what);

@@ -1,9 +1,12 @@
 #include "sparse/worker_threads.h"
 
 #include <oneapi/tbb/global_control.h>
+#include <oneapi/tbb/task_scheduler_observer.h>
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include <atomic>
+#include <chrono>
 #include <mutex>
 #include <thread>
 
@@ -63,16 +66,47 @@ tbb::task_arena& arena() {
   return shared;
 }
 
+/// The scheduler's threads that are in the arena. A product ends when its last piece has told so, which is before the thread of that piece
+/// has come back out of the module's code.
+class Inside final : public tbb::task_scheduler_observer {
+ public:
+  explicit Inside(tbb::task_arena& where) : task_scheduler_observer(where) { observe(true); }
+  void on_scheduler_entry(bool isWorker) override { threads += isWorker ? 1 : 0; }
+  void on_scheduler_exit(bool isWorker) override { threads -= isWorker ? 1 : 0; }
+
+  /// Waits until all have left, and until none is in the functions above. They leave as soon as they find no work.
+  void awaitNone() {
+    for (int k = 0; k < mostWaits && threads > 0; ++k) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    observe(false);
+  }
+
+ private:
+  static constexpr int mostWaits = 10000;
+  std::atomic<int> threads{0};
+};
+
+/// Made with the workers. A child of the process has no threads to wait for and leaves it alone.
+Inside* inside = nullptr;
+
 }  // namespace
 
 tbb::task_arena* workers() {
-  if (owner == 0 && threadsAvailable()) owner = getpid();
+  if (owner == 0 && threadsAvailable()) {
+    // Who is to be told of the threads makes the arena: with all of them, as a product does.
+    const tbb::global_control control(tbb::global_control::max_allowed_parallelism, workerThreads);
+    inside = new Inside(arena());
+    owner = getpid();
+  }
   return owner == getpid() ? &arena() : nullptr;
 }
 
 void endSparseWorkers() noexcept {
   if (owner != getpid()) return;
   owner = 0;
+  // The scheduler's end waits for its threads, but where another module uses it too it does not end here.
+  inside->awaitNone();
+  delete inside;
+  inside = nullptr;
   // The handle keeps the scheduler alive until the arena is gone: another module of the process may have let go of it already, and the
   // arena would be the last to hold it, whose end does not wait for the threads.
   tbb::task_scheduler_handle handle{tbb::attach{}};

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "base/fixed_errors.h"
+#include "host_output.h"
 #include "random_matrix.h"
 #include "sparse/blas.h"
 #include "sparse/mt_kernels.h"
@@ -112,6 +114,17 @@ TEST(Distinct, FindsAPairAnywhereAndLeavesNoMarks) {
   EXPECT_FALSE(distinct(3, last, marks.data()));
   EXPECT_TRUE(distinct(3, apart, marks.data()));
   EXPECT_EQ(marks, std::vector<double>(8, 0.0));
+}
+
+// Who gives them plain pointers is told as who gives them arrays.
+TEST(MtUb, RefuseTheFormsThatTheyDoNotTake) {
+  const double u[] = {1, 10, 100};
+  double y[] = {7, 8, 9};
+  const int dims[] = {2, 3, 0};
+  EXPECT_EQ(hostOutput([&] { Add_Mt_ub(dims, nullptr, nullptr, pr, u, y); }).error, fixed::addsSparseOnly.text);
+  EXPECT_EQ(hostOutput([&] { Prod_Mt_ub(dims, ir, jc, pr, u, y); }).error, fixed::takesTransposedOnly.text);
+  EXPECT_EQ(y[0], 7.0);
+  EXPECT_EQ(y[1], 8.0);
 }
 
 TEST(ProdMtUb, DenseOverwritesTheResult) {

@@ -184,9 +184,11 @@ function test_lines_of_all_kinds_in_one_element ()
     u = randn (cols, 1);
     v = randn (cols, 1);
     r = randn (cols, 1);
-    [got, e] = residual_of (element_of (c, b, n, cols), u, v, r);
+    e = element_of (c, b, n, cols);
+    if mod (round, 2) == 0, e = rmfield (e, 'vnl'); end  % a law that needs no velocities
+    [got, e] = residual_of (e, u, v, r);
     expect_equal (e.unl, sums_of (c, u), 1e-14);
-    expect_equal (e.vnl, sums_of (c, v), 1e-14);
+    if isfield (e, 'vnl'), expect_equal (e.vnl, sums_of (c, v), 1e-14); end
     expect_equal (got, spread_of (b, e.unl, r), 1e-14);
   end
 end

@@ -32,9 +32,25 @@ int rows(const mxArray* a) { return narrow(rowCount(a)); }
 
 int cols(const mxArray* a) { return narrow(columnCount(a)); }
 
+const char* nameOfClass(mxClassID id) {
+  struct Row {
+    mxClassID id;
+    const char* name;
+  };
+  constexpr Row rows[] = {{mxCELL_CLASS, "cell"},     {mxSTRUCT_CLASS, "struct"}, {mxLOGICAL_CLASS, "logical"},
+                          {mxCHAR_CLASS, "char"},     {mxDOUBLE_CLASS, "double"}, {mxSINGLE_CLASS, "single"},
+                          {mxINT8_CLASS, "int8"},     {mxUINT8_CLASS, "uint8"},   {mxINT16_CLASS, "int16"},
+                          {mxUINT16_CLASS, "uint16"}, {mxINT32_CLASS, "int32"},   {mxUINT32_CLASS, "uint32"},
+                          {mxINT64_CLASS, "int64"},   {mxUINT64_CLASS, "uint64"}, {mxFUNCTION_CLASS, "function_handle"}};
+  for (const Row& row : rows) {
+    if (row.id == id) return row.name;
+  }
+  return "unknown";
+}
+
 const char* className(const mxArray* a) {
   const char* name = mxGetClassName(a);
-  return name ? name : mxIsStruct(a) ? "struct" : mxIsCell(a) ? "cell" : "unknown";
+  return name ? name : nameOfClass(mxGetClassID(a));
 }
 
 Description describe(const mxArray* a) {

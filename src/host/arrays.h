@@ -27,8 +27,10 @@ std::size_t columnCount(const mxArray* a);
 int rows(const mxArray* a);
 int cols(const mxArray* a);
 
-/// Name of the class of an array. Octave 11 tells none for some structs and cells.
+/// Name of the class of an array.
 const char* className(const mxArray* a);
+/// The same by the class's number, for Octave 11, which tells no name of some structs, cells and scalars.
+const char* nameOfClass(mxClassID id);
 /// What an array is, for error texts: "double 3x1", "sparse double 4x4", "nothing".
 struct Description {
   char text[96];

@@ -16,7 +16,8 @@ TEST(ClassNames, AreThoseOfTheHost) {
     EXPECT_STREQ(host::nameOfClass(id), mxGetClassName(a));
     mxDestroyArray(a);
   }
-  mxArray* others[] = {mxCreateCellMatrix(1, 1), mxCreateStructMatrix(1, 1, 0, nullptr), mxCreateLogicalScalar(true), mxCreateString("a")};
+  const mwSize one[] = {1, 1};
+  mxArray* others[] = {mxCreateCellMatrix(1, 1), mxCreateStructMatrix(1, 1, 0, nullptr), mxCreateLogicalArray(2, one), mxCreateString("a")};
   for (mxArray* a : others) {
     EXPECT_STREQ(host::nameOfClass(mxGetClassID(a)), mxGetClassName(a));
     mxDestroyArray(a);

@@ -130,7 +130,17 @@ function test_free_structures_are_relieved_of_their_inertia ()
     exact = phi(4, 3:end) .^ 2 * (1 ./ d(3:end));
     c = qn.observe (model, 4);
     expect_equal (c(3:4) .^ 2 * (1 ./ model.stiffness(3:4)), exact, 1e-6 * exact);
-    expect_error (@() qn.modal (k, m, 'modes', 1, 'attach', 4, 'method', method{1}), 'qn:input', '~all of its rigid motions among the modes');
+    try
+      qn.modal (k, m, 'modes', 1, 'attach', 4, 'method', method{1});
+      error ('one mode of two rigid motions was taken');
+    catch err
+      % Of two motions of 0 Hz eigs may find the one that rounding puts above the other, which is said then.
+      tied = strcmp (err.identifier, 'qn:eigs') && ~isempty (strfind (err.message, 'there is one more at or below'));
+      if ~tied
+        expect_equal (err.identifier, 'qn:input');
+        expect_in (err.message, 'all of its rigid motions among the modes');
+      end
+    end
   end
 end
 

@@ -149,12 +149,10 @@ function test_numbers_that_go_on_right_of_their_columns_are_refused ()
 end
 
 function test_numbers_outside_of_their_columns_are_read_and_said ()
-  lastwarn ('', '');
-  evalc ('a = read (@qn.read_hb, sample_of (''hb'', ''-1.0000000D+00  3.0000000D+00'', ''-1.0000000D+009 3.0000000D+00''));');
+  % Octave 11 keeps warnings that are turned off as the last one, so what is printed is looked at.
+  said = evalc ('a = read (@qn.read_hb, sample_of (''hb'', ''-1.0000000D+00  3.0000000D+00'', ''-1.0000000D+009 3.0000000D+00''));');
   expect_equal (full (a), [4 -1e9 0; -1e9 3 -2; 0 -2 5]);
-  [text, id] = lastwarn ();
-  expect_equal (id, 'qn:file');
-  expect_in (text, 'line 8: the values do not stand in the columns of their format; they are read as numbers with blanks between them');
+  expect_in (said, 'line 8: the values do not stand in the columns of their format; they are read as numbers with blanks between them');
 end
 
 function test_a_symmetric_matrix_in_parts_of_both_triangles_is_refused ()

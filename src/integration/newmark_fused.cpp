@@ -126,38 +126,40 @@ void blockSteps(const ModalState& s, const double* column, const double* gain, c
   (forces.c ? stepsDamped : forces.k ? stepsElastic : stepsFree)(s, column, gain, p, stride, count, forces, k);
 }
 
-}  // namespace
-
-void newmarkBegin(const ModalState& x, double* copyU, double* copyV, double* copyA, double* f, const double* r, const double* loads, int nb,
-                  const DiagonalForces& forces, const NewmarkCoefficients& k) {
-  const auto variant = forces.c ? beginDamped : forces.k ? beginElastic : beginFree;
+/// part (state, first mode, load column, its factor, forces) with all modes at once where there is one load; with several, with blocks of
+/// modes whose load is formed first.
+template <class Part>
+[[gnu::always_inline]] inline void forLoadedBlocks(const ModalState& x, const double* r, const double* loads, int nb,
+                                                   const DiagonalForces& forces, Part part) {
   if (nb == 1) {
-    variant(x, copyU, copyV, copyA, f, r, loads[0], forces, k);
+    part(x, 0, r, loads[0], forces);
     return;
   }
   double load[kBlock];
   for (int first = 0; first < x.n; first += kBlock) {
     const int n = std::min(kBlock, x.n - first);
     newmarkLoad(load, r + first, x.n, loads, n, nb);
-    const DiagonalForces part{forces.k ? forces.k + first : nullptr, forces.beta, forces.c ? forces.c + first : nullptr};
-    variant({x.u + first, x.v + first, x.a + first, n}, copyU + first, copyV + first, copyA + first, f + first, load, 1.0, part, k);
+    part({x.u + first, x.v + first, x.a + first, n}, first, load, 1.0,
+         {forces.k ? forces.k + first : nullptr, forces.beta, forces.c ? forces.c + first : nullptr});
   }
+}
+
+}  // namespace
+
+void newmarkBegin(const ModalState& x, double* copyU, double* copyV, double* copyA, double* f, const double* r, const double* loads, int nb,
+                  const DiagonalForces& forces, const NewmarkCoefficients& k) {
+  const auto variant = forces.c ? beginDamped : forces.k ? beginElastic : beginFree;
+  forLoadedBlocks(x, r, loads, nb, forces, [&](const ModalState& s, int at, const double* column, double p, const DiagonalForces& part) {
+    variant(s, copyU + at, copyV + at, copyA + at, f + at, column, p, part, k);
+  });
 }
 
 void newmarkNext(const ModalState& x, double* f, const double* gain, const double* r, const double* loads, int nb,
                  const DiagonalForces& forces, const NewmarkCoefficients& k) {
   const auto variant = forces.c ? nextDamped : forces.k ? nextElastic : nextFree;
-  if (nb == 1) {
-    variant(x, f, gain, r, loads[0], forces, k);
-    return;
-  }
-  double loaded[kBlock];
-  for (int first = 0; first < x.n; first += kBlock) {
-    const int n = std::min(kBlock, x.n - first);
-    newmarkLoad(loaded, r + first, x.n, loads, n, nb);
-    const DiagonalForces part{forces.k ? forces.k + first : nullptr, forces.beta, forces.c ? forces.c + first : nullptr};
-    variant({x.u + first, x.v + first, nullptr, n}, f + first, gain + first, loaded, 1.0, part, k);
-  }
+  forLoadedBlocks(x, r, loads, nb, forces, [&](const ModalState& s, int at, const double* column, double p, const DiagonalForces& part) {
+    variant(s, f + at, gain + at, column, p, part, k);
+  });
 }
 
 QUARN_PROCESSOR_VERSIONS

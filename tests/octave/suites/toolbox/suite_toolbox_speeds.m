@@ -70,19 +70,12 @@ function test_a_run_up_and_down_has_the_coefficients_of_every_step ()
   none = qn.rotor ('nodes', [0 0.2 0.5 0.8], 'outer', [0.03 0.04 0.03], 'disks', [2 5 0.02 0.04; 3 7 0.03 0.05], 'internal', 5e-5);
   p = model.shapes.' \ (sim.shapes * sim.loads);
   speed = interp1 (table(1, :), table(2, :), sim.time);
-  [u, v, a] = deal (zeros (16, 1), zeros (16, 1), none.M \ p(:, 1));
-  x = zeros (16, numel (sim.time));
-  for j = 2:numel (sim.time)
-    [k, c] = bearings_of (speed(j));
-    k = k + none.K + speed(j) * none.N;
-    c = c + none.C + speed(j) * none.G;
-    u = u + h * v + h ^ 2 / 4 * a;
-    v = v + h / 2 * a;
-    a = (none.M + h / 2 * c + h ^ 2 / 4 * k) \ (p(:, j) - c * v - k * u);
-    u = u + h ^ 2 / 4 * a;
-    v = v + h / 2 * a;
-    x(:, j) = u;
+  [k, c] = deal (zeros (16, 16, numel (speed)));
+  for j = 1:numel (speed)
+    [bearings, c(:, :, j)] = bearings_of (speed(j));
+    k(:, :, j) = bearings + speed(j) * none.N;
   end
+  x = newmark_of_speeds (none, p, h, speed, k, c);
   e = relative (model.shapes * res.q, x);
   frozen = sim;
   frozen.model.rotation.table.K = repmat (model.rotation.table.K(:, :, 3), 1, 1, size (model.rotation.table.K, 3));

@@ -3,12 +3,11 @@ function file = newer_source (src, module)
   file = '';
   built = dir (fullfile (module, 'quarn.mex*'));
   if isempty (built), return, end
-  files = find_files (src, '\.(cpp|h)$');
-  [newest, k] = max ([cellfun(@time_of, files), 0]);
-  if newest > max ([built.datenum]), file = files{k}; end
-end
-
-function t = time_of (file)
-  entry = dir (file);
-  t = entry.datenum;
+  [~, last] = max ([built.datenum]);
+  quoted = @(path) ['''' strrep(path, '''', '''\''''') ''''];
+  % One process: dir of these folders would cost every suite of the tests more than the start of the host.
+  [~, found] = system (sprintf ('find %s ''('' -name ''*.cpp'' -o -name ''*.h'' '')'' -newer %s -printf ''%%T@ %%p\\n'' | sort -n', quoted (src), ...
+                                quoted (fullfile (module, built(last).name))));
+  found = regexp (found, '[^\n]+', 'match');
+  if ~isempty (found), file = regexprep (found{end}, '^\S+ ', ''); end
 end

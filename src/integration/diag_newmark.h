@@ -61,8 +61,10 @@ class chandleDiagNewmark final : public chandle {
   void checkGain(const StepTimes& times) const;
   void checkGainTimes(const StepTimes& times) const;
   void correct(double t, const ROr& c);
+  int runUndisturbed(int j, const ROr& c);
   int runUnseen(chandle** list, int nh, int j, ROr c);
   void enterStep(int j, ROr& c);
+  void storeLoads(int j, const ROr& c);
   void beginModes(int j, const ROr& c);
   void finishCopies(const ROr& c);
   void finishForces(const ROr& c);

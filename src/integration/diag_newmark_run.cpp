@@ -4,6 +4,7 @@
 #include "base/handle_walk.h"
 #include "host/arrays.h"
 #include "integration/diag_newmark.h"
+#include "integration/newmark_steps.h"
 #include "numbers/ranges.h"
 
 namespace quarn {
@@ -91,9 +92,32 @@ void chandleDiagNewmark::plan(const ROr& c, chandle** list, int nh) {
     diagonals = {};
     folded = 0;
   }
-  undisturbed = onePass && !gainFull && folded == nh && c.N == N && !iopt;
+  undisturbed = onePass && !gainFull && folded == nh && c.N == N;
   unseen = onePass && !gainFull;
   forLive(list + folded, nh - folded, [&](const chandle& h, int) { unseen = unseen && h.keepsToItself(ranges, rangesOfRun); });
+}
+
+/// Steps from column j on to the last but one, many in one pass over the modes. What they copy into the work array nobody sees.
+int chandleDiagNewmark::runUndisturbed(int j, const ROr& c) {
+  constexpr int together = 256;
+  const int last = steps() - 1;
+  double* saves[together];
+  while (j < last) {
+    const int count = std::min(together, last - j);
+    for (int k = 0; k < count; ++k) {
+      const double t = time(j + k + 1);
+      saves[k] = saveDue(t) ? columnFor(t) : nullptr;
+      if (saves[k]) std::copy(c.u + N, c.u + Ndef, saves[k] + N);
+      if (storeSaveDue(t)) {
+        storeLoads(j + k, c);
+        saveStore(t);
+      }
+    }
+    newmarkSteps({c.u, c.v, c.a, N}, r.data + N, gain, {loadsAt(j), Nb + 1, Nb, count, saves}, diagonals, coefficients);
+    j += count;
+    storeLoads(j - 1, c);
+  }
+  return j;
 }
 
 /// Steps from column j on to the last but one. What they copy into the work array nobody sees, so that the correction of each and the
@@ -120,16 +144,7 @@ void chandleDiagNewmark::run(chandle** list, int nh, const ROr& c) {
   const int last = steps() - 1;
   int j = 0;
   // The last step is always a whole one: it leaves the work array as it has to be.
-  while (undisturbed && j < last) {
-    int next = j;
-    do ++next;
-    while (next < last && !saveDue(time(next)) && !storeSaveDue(time(next)));
-    newmarkSteps({c.u, c.v, c.a, N}, r.data + N, gain, loadsAt(j), Nb + 1, Nb, next - j, diagonals, coefficients);
-    data[5] = time(next);
-    save(time(next), c);
-    saveStore(time(next));
-    j = next;
-  }
+  if (undisturbed && j < last) j = runUndisturbed(j, c);
   if (unseen && j < last) j = runUnseen(list, nh, j, c);
   for (; j <= last; ++j) doStep(list, nh, j, c);
 }

@@ -47,6 +47,10 @@ void chandleDiagNewmark::enterStep(int j, ROr& c) {
     copyValues(uva.data + 2 * block, c.a, block);
   }
   if (NFNL > 0) copyValues(snapshot.data, store.data, static_cast<std::size_t>(NFNL));
+  storeLoads(j, c);
+}
+
+void chandleDiagNewmark::storeLoads(int j, const ROr& c) {
   if (iopt) storeClipped(c.FNL, c.fnlLen, iopt[0], loadsAt(j), Nb);
 }
 

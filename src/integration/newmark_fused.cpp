@@ -15,7 +15,7 @@ namespace quarn {
 
 namespace {
 
-/// Modes that take all steps together: their arrays stay in the first-level cache.
+/// Modes whose load is formed together: it stays in the first-level cache.
 constexpr int kBlock = 256;
 
 enum class With { nothing, stiffness, both };
@@ -76,30 +76,6 @@ template <With with>
   }
 }
 
-/// steps steps of up to kBlock modes with the loads p[0], p[stride], ...
-template <With with>
-[[gnu::always_inline]] inline void steps(double* __restrict u, double* __restrict v, double* __restrict a, const double* __restrict column,
-                                         const double* __restrict gain, int n, const double* p, int stride, int count,
-                                         const DiagonalForces& forces, const NewmarkCoefficients& in) {
-  const NewmarkCoefficients x = in;
-  const double beta = forces.beta;
-  const double* __restrict k = forces.k;
-  const double* __restrict c = forces.c;
-  for (int j = 0; j < count; ++j, p += stride) {
-    const double load = *p;
-    for (int i = 0; i < n; ++i) {
-      const double up = (x.uFromA * a[i] + x.dt * v[i]) + u[i];
-      const double vp = x.vFromA * a[i] + v[i];
-      const double first = 0.0 + column[i] * load;
-      const double f = addForces<with>(first, up, vp, with == With::nothing ? 0.0 : k[i], beta, with == With::both ? c[i] : 0.0);
-      const double d = f * gain[i];
-      u[i] = up - d;
-      v[i] = vp - x.vFromD * d;
-      a[i] = 0.0 - d * x.aFromD;
-    }
-  }
-}
-
 #define QUARN_NEWMARK_VARIANT(name, with)                                                                                           \
   QUARN_PROCESSOR_VERSIONS                                                                                                          \
   void begin##name(const ModalState& s, double* cu, double* cv, double* ca, double* f, const double* column, double p,              \
@@ -110,21 +86,11 @@ template <With with>
   void next##name(const ModalState& s, double* f, const double* gain, const double* column, double p, const DiagonalForces& forces, \
                   const NewmarkCoefficients& k) {                                                                                   \
     next<with>(s.u, s.v, f, gain, column, p, s.n, forces, k);                                                                       \
-  }                                                                                                                                 \
-  QUARN_PROCESSOR_VERSIONS                                                                                                          \
-  void steps##name(const ModalState& s, const double* column, const double* gain, const double* p, int stride, int count,           \
-                   const DiagonalForces& forces, const NewmarkCoefficients& k) {                                                    \
-    steps<with>(s.u, s.v, s.a, column, gain, s.n, p, stride, count, forces, k);                                                     \
   }
 QUARN_NEWMARK_VARIANT(Free, With::nothing)
 QUARN_NEWMARK_VARIANT(Elastic, With::stiffness)
 QUARN_NEWMARK_VARIANT(Damped, With::both)
 #undef QUARN_NEWMARK_VARIANT
-
-void blockSteps(const ModalState& s, const double* column, const double* gain, const double* p, int stride, int count,
-                const DiagonalForces& forces, const NewmarkCoefficients& k) {
-  (forces.c ? stepsDamped : forces.k ? stepsElastic : stepsFree)(s, column, gain, p, stride, count, forces, k);
-}
 
 /// part (state, first mode, load column, its factor, forces) with all modes at once where there is one load; with several, with blocks of
 /// modes whose load is formed first.
@@ -165,24 +131,6 @@ void newmarkNext(const ModalState& x, double* f, const double* gain, const doubl
 QUARN_PROCESSOR_VERSIONS
 void newmarkCorrected(double* __restrict to, const double* __restrict u, const double* __restrict f, const double* __restrict gain, int n) {
   for (int i = 0; i < n; ++i) to[i] = u[i] - f[i] * gain[i];
-}
-
-void newmarkSteps(const ModalState& x, const double* r, const double* gain, const double* loads, int stride, int nb, int steps,
-                  const DiagonalForces& forces, const NewmarkCoefficients& k) {
-  double load[kBlock];
-  for (int first = 0; first < x.n; first += kBlock) {
-    const ModalState s{x.u + first, x.v + first, x.a + first, std::min(kBlock, x.n - first)};
-    const DiagonalForces part{forces.k ? forces.k + first : nullptr, forces.beta, forces.c ? forces.c + first : nullptr};
-    if (nb == 1) {
-      blockSteps(s, r + first, gain + first, loads, stride, steps, part, k);
-      continue;
-    }
-    const double one = 1.0;
-    for (int j = 0; j < steps; ++j) {
-      newmarkLoad(load, r + first, x.n, loads + static_cast<std::ptrdiff_t>(stride) * j, s.n, nb);
-      blockSteps(s, load, gain + first, &one, 0, 1, part, k);
-    }
-  }
 }
 
 }  // namespace quarn

@@ -36,9 +36,4 @@ void newmarkNext(const ModalState& x, double* f, const double* gain, const doubl
 /// The displacements as newmarkCorrect would leave them: to = u - f*gain, n values.
 void newmarkCorrected(double* to, const double* u, const double* f, const double* gain, int n);
 
-/// Whole steps of a state on which only the loads and the diagonal forces act. loads: steps columns of nb values, stride values
-/// apart. A few hundred modes at a time go through all steps, since modes do not act on each other.
-void newmarkSteps(const ModalState& x, const double* r, const double* gain, const double* loads, int stride, int nb, int steps,
-                  const DiagonalForces& forces, const NewmarkCoefficients& k);
-
 }  // namespace quarn

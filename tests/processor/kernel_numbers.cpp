@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "integration/full_gain.h"
-#include "integration/newmark_fused.h"
+#include "integration/newmark_steps.h"
 #include "sparse/dense_lines.h"
 #include "sparse/largest.h"
 #include "sparse/projection_kernels.h"
@@ -53,8 +53,13 @@ void newmark(Vector& all, int n) {
     copy.appendTo(all);
     quarn::newmarkNext({x.u.data(), x.v.data(), x.a.data(), n}, x.f.data(), gain.data(), r.data(), load.data(), 1, forces, k);
     x.appendTo(all);
-    quarn::newmarkSteps({x.u.data(), x.v.data(), x.a.data(), n}, r.data(), gain.data(), load.data(), 3, 3, 4, forces, k);
-    x.appendTo(all);
+    for (int nb = 1; nb < 4; nb += 2) {
+      Vector saved(x.u.size());
+      double* const saves[4] = {nullptr, nullptr, saved.data(), nullptr};
+      quarn::newmarkSteps({x.u.data(), x.v.data(), x.a.data(), n}, r.data(), gain.data(), {load.data(), 3, nb, 4, saves}, forces, k);
+      x.appendTo(all);
+      append(all, saved);
+    }
   }
 }
 

@@ -1,7 +1,7 @@
 // The one-pass kernels against the separate ones, bit for bit, signed zeros included.
 #include <gtest/gtest.h>
 
-#include "integration/newmark_fused.h"
+#include "integration/newmark_steps.h"
 #include "newmark_coefficients.h"
 #include "random_matrix.h"
 #include "same_bits.h"
@@ -108,23 +108,31 @@ TEST(NewmarkFused, GoesToTheNextStepLikeTheSeparateLoops) {
   }
 }
 
-TEST(NewmarkFused, DoesWholeStepsLikeTheSeparateLoops) {
+TEST(NewmarkSteps, DoWholeStepsLikeTheSeparateLoopsAndSaveWhatIsDue) {
   for (const int n : sizes) {
     for (int nb = 0; nb < 4; ++nb) {
       for (int kind = 0; kind < 3; ++kind) {
         Problem wanted(n, nb);
         Problem got(n, nb);
-        const int steps = 9;
         const int stride = nb + 1;
-        for (int j = 0; j < steps; ++j) {
-          wanted.beginSeparately(wanted.p.data() + j * stride, kind);
+        // One value more in each place, which is not to be touched.
+        const Vector place(got.u.size() + 1, 7.0);
+        std::vector<Vector> saved(9, place);
+        std::vector<Vector> due(9, place);
+        std::vector<double*> saves(9, nullptr);
+        for (std::size_t j = 0; j < due.size(); ++j) {
+          wanted.beginSeparately(wanted.p.data() + j * static_cast<std::size_t>(stride), kind);
           newmarkCorrect(wanted.u.data(), wanted.v.data(), wanted.a.data(), wanted.f.data(), wanted.gain.data(), n, coefficients);
+          if (j % 3 == 1) continue;
+          saves[j] = saved[j].data();
+          std::copy(wanted.u.begin(), wanted.u.end(), due[j].begin());
         }
-        newmarkSteps({got.u.data(), got.v.data(), got.a.data(), n}, got.r.data(), got.gain.data(), got.p.data(), stride, nb, steps,
-                     got.forces(kind), coefficients);
+        newmarkSteps({got.u.data(), got.v.data(), got.a.data(), n}, got.r.data(), got.gain.data(),
+                     {got.p.data(), stride, nb, 9, saves.data()}, got.forces(kind), coefficients);
         EXPECT_TRUE(sameBits(got.u, wanted.u)) << n << ' ' << nb << ' ' << kind;
         EXPECT_TRUE(sameBits(got.v, wanted.v)) << n << ' ' << nb << ' ' << kind;
         EXPECT_TRUE(sameBits(got.a, wanted.a)) << n << ' ' << nb << ' ' << kind;
+        for (std::size_t j = 0; j < due.size(); ++j) EXPECT_TRUE(sameBits(saved[j], due[j])) << n << ' ' << nb << ' ' << kind << ' ' << j;
       }
     }
   }

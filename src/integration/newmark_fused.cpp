@@ -18,8 +18,6 @@ namespace {
 /// Modes whose load is formed together: it stays in the first-level cache.
 constexpr int kBlock = 256;
 
-enum class With { nothing, stiffness, both };
-
 /// Modal force of one mode after its load.
 template <With with>
 [[gnu::always_inline]] inline double addForces(double f, double u, double v, double k, double beta, double c) {

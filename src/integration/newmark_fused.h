@@ -15,6 +15,9 @@ struct DiagonalForces {
   const double* c = nullptr;
 };
 
+/// Which of them act: a kernel for each.
+enum class With { nothing, stiffness, both };
+
 /// u, v, a of n modes (in-out). Nothing else may overlap them.
 struct ModalState {
   double* u;

@@ -30,8 +30,6 @@ struct Modes {
   const double* c;
 };
 
-enum class With { nothing, stiffness, both };
-
 template <class Vector>
 [[gnu::always_inline]] inline void load(Vector& to, const double* from) {
   std::memcpy(&to, from, sizeof to);

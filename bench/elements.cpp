@@ -23,6 +23,8 @@ const std::vector<Recipe>& recipes() {
   // The tables: five knots from -2 to 2, one or two columns of values; the search record follows.
   static const std::vector<double> table{-2, -1, 0, 1, 2, -20, -8, 0, 8, 20, 0, 0, 0};
   static const std::vector<double> wide{-2, -1, 0, 1, 2, 9, 8, 7, 8, 9, 30, 20, 10, 20, 30, 0, 0, 0};
+  // Of five displacements and three velocities; the record is in front of it.
+  static const std::vector<double> grid{-2, -1, 0, 1, 2, -3, 0, 3, -25, -11, -3, 5, 15, -20, -8, 0, 8, 20, -15, -5, 3, 11, 25};
   const auto with = [](std::vector<double> head, const std::vector<double>& tail) {
     head.insert(head.end(), tail.begin(), tail.end());
     return head;
@@ -36,6 +38,7 @@ const std::vector<Recipe>& recipes() {
       {"sts", 2, 1, {0, 1e-3, 1.0, 100.0, 0.0, 1.0}, {-1, 0, 0, 0, 0}},
       {"Contact", 1, 1, {0.5, 1.5, 0.1, -1.0, 1.0}, {-1}},
       {"Damper", 1, 1, {0.5, 2.0}, {-1}},
+      {"Surface", 1, 1, with({0, 0}, grid), {-1, 0, 0, 0, 0, 5, 3}},
       // Gap, stiffness, exponent, damping, friction, onset, radius, speed, centre.
       {"Radial", 2, 2, {0.1, 100.0, 1.5, 0.2, 0.1, 0.01, 0.5, 3.0, 0.05, -0.05}, {-1}},
       // Viscosity, length, radius, clearance, spin, limit, centre, record.

@@ -103,6 +103,22 @@ void climaLoop(LawArrays& a) {
   }
 }
 
+/// Five displacements and three velocities.
+void surfaceLoop(LawArrays& a) {
+  const double* x = a.opt.data() + 3;
+  const double* v = x + 5;
+  const double* force = v + 3;
+  int along = 0;
+  int rate = 0;
+  for (std::size_t i = 0; i < a.n; ++i) {
+    while (rate < 1 && a.vnl[i] > v[rate + 1]) ++rate;
+    while (rate > 0 && v[rate] > a.vnl[i]) --rate;
+    const double g = (a.vnl[i] - v[rate]) / (v[rate + 1] - v[rate]);
+    const double* slow = force + 5 * static_cast<std::ptrdiff_t>(rate);
+    a.snl[i] = g * interpolate(x, slow + 5, 5, a.unl[i], along) + (1.0 - g) * interpolate(x, slow, 5, a.unl[i], along);
+  }
+}
+
 void stickSlipLoop(LawArrays& a) {
   const double* o = a.opt.data();
   for (std::size_t i = 0; i < a.n; i += 2) {
@@ -171,6 +187,8 @@ void lawLoop(const std::string& law, LawArrays& a) {
     boucWenLoop(a);
   } else if (law == "Contact") {
     impactLoop(a);
+  } else if (law == "Surface") {
+    surfaceLoop(a);
   } else if (law == "Table") {
     int segment = 0;
     for (std::size_t i = 0; i < n; ++i) a.snl[i] = interpolate(o + 1, o + 6, 5, a.unl[i], segment);

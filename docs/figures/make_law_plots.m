@@ -4,9 +4,9 @@
 %   make_law_plots                draws all of them
 %   make_law_plots ('Maxw')       draws one, by its keyword
 function make_law_plots (only)
-  laws = {'Power', @power; 'Expon', @exponential; 'Table', @table; 'Damper', @damper; 'Contact', @contact; 'Maxw', @maxwell; ...
-          'DahlC', @dahl; 'sts', @stick_slip; 'BoucWen', @bouc_wen; 'Clima2', @clima2; 'Radial', @radial; 'Journal', @film; ...
-          'User', @user};
+  laws = {'Power', @power; 'Expon', @exponential; 'Table', @table; 'Damper', @damper; 'Contact', @contact; 'Surface', @surface; ...
+          'Maxw', @maxwell; 'DahlC', @dahl; 'sts', @stick_slip; 'BoucWen', @bouc_wen; 'Clima2', @clima2; 'Radial', @radial; ...
+          'Journal', @film; 'User', @user};
   if nargin > 0
     known = strjoin (laws(:, 1).', ', ');
     laws = laws(strcmp (laws(:, 1), only), :);
@@ -172,6 +172,24 @@ function contact ()
     names{k} = sprintf ('%g m/s, %.2g m/s back', speeds(k), -v);
   end
   draw ('law_contact', 1e3 * at, f, names, 'Contact: k = 1e6 N/m^{1.5}, chi = 0.5 s/m, gap 1 mm, on 1 kg', 'displacement [mm]');
+end
+
+% Loops at three speeds of a mount with bump stops and a damper that gives way above 0.1 m/s, weaker in rebound.
+function surface ()
+  at = (-12:3:12) * 1e-3;
+  speeds = [-0.5 -0.25 -0.1 0 0.1 0.25 0.5];
+  stops = [-190 -105 -60 -30 0 30 60 105 190];
+  damper = [-65 -50 -35 0 60 85 110];
+  grid = bsxfun (@plus, stops.', damper);
+  e = element ('Surface', [0 0 at speeds grid(:).'], 1, [-1 0 0 0 0 9 7]);
+  frequencies = [0.2 1.5 6];
+  f = zeros (3, 401);
+  for k = 1:3
+    [x, v] = harmonic (0.011, frequencies(k), 400, 1);
+    f(k, :) = drive (e, x, v);
+  end
+  draw ('law_surface', 1e3 * x, f, {'0.2 Hz', '1.5 Hz', '6 Hz'}, 'Surface: a mount measured at 9 displacements and 7 velocities', ...
+        'displacement [mm]');
 end
 
 % A function: a slider beside a spring, which slips to the right at 40 N and to the left at 80 N.

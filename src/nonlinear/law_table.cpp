@@ -29,6 +29,7 @@ constexpr LawRow laws[] = {
     row("Table", FuTable, checkTable),
     row("Damper", FuDamper, checkDamper),
     row("Contact", FuContact, checkContact),
+    row("Surface", FuSurface, checkSurface),
     // with states
     row("Maxw", Maxw, checkMaxw),
     row("DahlC", FuDahlC, checkDahlC, true),

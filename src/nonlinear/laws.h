@@ -32,11 +32,18 @@ void FuDamper(chandleNl_inout* h, ROr ro);
 /// Hunt and F. R. E. Crossley, Coefficient of restitution interpreted as damping in vibroimpact, J. Applied Mechanics 42 (1975).
 void FuContact(chandleNl_inout* h, ROr ro);
 
+/// snl = a force that was measured over a grid of nx = iopt[5] displacements and nv = iopt[6] velocities, bilinear between them; beyond the
+/// grid its outer cells go on. opt[3] on: the displacements, the velocities, the forces, nx for each velocity. opt[1] and opt[2] are raised
+/// to the greatest distances [m, m/s] from the grid that are met. Source: S. F. Masri and T. K. Caughey, A nonparametric identification
+/// technique for nonlinear dynamic problems, J. Applied Mechanics 46 (1979).
+void FuSurface(chandleNl_inout* h, ROr ro);
+
 void checkPower(const chandleNl_inout& h, const ROr& ro);
 void checkExpon(const chandleNl_inout& h, const ROr& ro);
 void checkTable(const chandleNl_inout& h, const ROr& ro);
 void checkDamper(const chandleNl_inout& h, const ROr& ro);
 void checkContact(const chandleNl_inout& h, const ROr& ro);
+void checkSurface(const chandleNl_inout& h, const ROr& ro);
 
 /// Refuses a law that works on the velocities of a page without a place for them, or with one array for both observations.
 void requireRates(const chandleNl_inout& h, const char* law);

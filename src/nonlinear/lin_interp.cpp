@@ -35,28 +35,6 @@ int walk(const double* X, int nx, int i, double xq) {
 /// Segments that are walked before the rest is searched by halves.
 constexpr int kNear = 8;
 
-/// Where the walk ends, for knots that ascend: from below at the first knot that is not below the query, from above at the last that is
-/// not above it.
-int searchAscending(const double* X, int nx, int i, double xq) {
-  i = std::max(i, 0);
-  if (i >= nx - 1) {
-    if (nx < 2 || !(X[nx - 2] > xq)) return nx - 1;
-    i = nx - 2;
-  }
-  if (xq > X[i + 1]) {
-    for (int k = 0; k < kNear; ++k) {
-      ++i;
-      if (i == nx - 1 || !(xq > X[i + 1])) return i;
-    }
-    return static_cast<int>(std::lower_bound(X + i + 2, X + nx, xq) - X) - 1;
-  }
-  for (int k = 0; k < kNear; ++k) {
-    if (i < 1 || !(X[i] > xq)) return i;
-    --i;
-  }
-  return static_cast<int>(std::upper_bound(X + 1, X + i + 1, xq) - X) - 1;
-}
-
 /// Segment that a record asks to start from; what is beyond all integers is beyond the last knot.
 int start(double record) { return record >= 2147483648.0 ? INT_MAX : toInt(record); }
 
@@ -105,6 +83,26 @@ struct Segment {
 };
 
 }  // namespace
+
+int searchAscending(const double* X, int nx, int i, double xq) {
+  i = std::max(i, 0);
+  if (i >= nx - 1) {
+    if (nx < 2 || !(X[nx - 2] > xq)) return nx - 1;
+    i = nx - 2;
+  }
+  if (xq > X[i + 1]) {
+    for (int k = 0; k < kNear; ++k) {
+      ++i;
+      if (i == nx - 1 || !(xq > X[i + 1])) return i;
+    }
+    return static_cast<int>(std::lower_bound(X + i + 2, X + nx, xq) - X) - 1;
+  }
+  for (int k = 0; k < kNear; ++k) {
+    if (i < 1 || !(X[i] > xq)) return i;
+    --i;
+  }
+  return static_cast<int>(std::upper_bound(X + 1, X + i + 1, xq) - X) - 1;
+}
 
 void interpolateApart(const double* X, const double* x, double* rec, double* out, int nx, int n, bool ascending) {
   if (n <= 0) return;

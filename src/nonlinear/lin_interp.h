@@ -23,4 +23,9 @@ void vorel_LinInterp(const double* X, const double* x, double* rec, double* out,
 /// anything: what a segment needs is kept from query to query.
 void interpolateApart(const double* X, const double* x, double* rec, double* out, int nx, int n, bool ascending);
 
+/// Where the walk from segment i ends, for nx knots that ascend: from below at the first knot that is not below the query, from above at
+/// the last that is not above it. Beyond the last knot, and for a start there in the last segment as well, it is nx - 1. For knots that do
+/// not ascend it is one of 0 to nx - 1.
+int searchAscending(const double* X, int nx, int i, double xq);
+
 }  // namespace quarn

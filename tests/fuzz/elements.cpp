@@ -11,8 +11,8 @@ namespace fuzz {
 namespace {
 
 /// Inputs of the corpus pick by place: new ones go to the end.
-constexpr const char* lawWords[] = {"Power",  "Maxw",   "Table",   "Expon",   "DahlC", "Clima2", "sts",
-                                    "Damper", "Radial", "Journal", "Contact", "User",  "BoucWen"};
+constexpr const char* lawWords[] = {"Power",  "Maxw",   "Table",   "Expon",   "DahlC", "Clima2",  "sts",
+                                    "Damper", "Radial", "Journal", "Contact", "User",  "BoucWen", "Surface"};
 
 double lawCode(const char* word) {
   double code = 0.0;
@@ -42,6 +42,20 @@ void addTable(Bytes& in, Law& law, int nx, int ny) {
   law.iopt.insert(law.iopt.end(), {table, record, nx, ny});
 }
 
+/// The grid of a surface: its counts in iopt, ascending knots and forces in opt.
+void addSurface(Bytes& in, Law& law) {
+  law.opt.resize(3);
+  std::size_t forces = 1;
+  for (int axis = 0; axis < 2; ++axis) {
+    const std::size_t knots = 2 + in.below(4);
+    double x = in.number();
+    for (std::size_t k = 0; k < knots; ++k, x += 0.25 + static_cast<double>(in.below(4)) * 0.25) law.opt.push_back(x);
+    law.iopt.push_back(in.rarely(8) ? in.index(9) : static_cast<int>(knots));
+    forces *= knots;
+  }
+  for (std::size_t k = 0; k < forces; ++k) law.opt.push_back(in.number());
+}
+
 /// -1 ... usual-2, now and then far outside.
 int offset(Bytes& in, std::size_t usual) {
   const int i = in.index(usual);
@@ -62,6 +76,7 @@ Law makeLaw(Bytes& in, const std::string& word) {
     while (law.opt.size() < 40) law.opt.push_back(in.number());
   }
   if (word == "Table") addTable(in, law, static_cast<int>(in.below(6)), static_cast<int>(in.below(3)));
+  if (word == "Surface") addSurface(in, law);
   if (word == "User") {
     const int states = law.iopt[3];
     if (states >= 0) law.iopt[2] = static_cast<int>(law.page) - states;

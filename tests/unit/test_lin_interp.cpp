@@ -259,5 +259,37 @@ TEST(LinInterp, NoQueriesOfOneColumnLeaveTheRecordAlone) {
   EXPECT_EQ(rec[2], 9.0);
 }
 
+// The segment of the query, or one of the two at the knot that is met; the last one goes on.
+TEST(LinInterp, ASearchEndsInOneSegmentWhereverItStartsUnlessAKnotIsMet) {
+  std::mt19937 random(29);
+  for (int round = 0; round < 300; ++round) {
+    const int nx = 1 + static_cast<int>(random() % (round % 2 ? 6 : 90));
+    std::vector<double> knots(1, -3.0);
+    while (static_cast<int>(knots.size()) < nx) knots.push_back(knots.back() + 0.5 * static_cast<double>(1 + random() % 3));
+    const double x = -4.0 + 0.25 * static_cast<double>(random() % static_cast<unsigned>(8 * nx + 8));
+    const int below = static_cast<int>(std::lower_bound(knots.begin(), knots.end(), x) - knots.begin()) - 1;
+    const bool met = std::binary_search(knots.begin(), knots.end(), x);
+    const int last = std::max(nx - 2, 0);
+    const int wanted = std::min(std::max(below, 0), last);
+    for (int start = -2; start < nx + 3; ++start) {
+      const int s = std::min(searchAscending(knots.data(), nx, start, x), last);
+      EXPECT_TRUE(s == wanted || (met && s == std::min(below + 1, last))) << x << " from " << start;
+    }
+  }
+}
+
+TEST(LinInterp, ASearchInWhatDoesNotAscendStaysWithinIt) {
+  std::mt19937 random(31);
+  for (int round = 0; round < 3000; ++round) {
+    const int nx = 1 + static_cast<int>(random() % 40);
+    std::vector<double> knots;
+    for (int i = 0; i < nx; ++i) knots.push_back(random() % 9 ? static_cast<double>(random() % 20) : std::nan(""));
+    const double x = random() % 9 ? static_cast<double>(random() % 24) - 2.0 : std::nan("");
+    const int s = searchAscending(knots.data(), nx, static_cast<int>(random() % 50) - 5, x);
+    EXPECT_GE(s, 0);
+    EXPECT_LE(s, nx - 1);
+  }
+}
+
 }  // namespace
 }  // namespace quarn

@@ -17,6 +17,9 @@
 %   'contact'      stiffness [N/m^p], exponent* p (1.5),     one-sided stop: stiffness * d^p (1 + damping * d') and never below 0, where
 %                  damping* [s/m] (0), gap* [m] (0),         side * x is beyond the gap by d > 0; side is 1 or -1 (Hunt and Crossley
 %                  side* (1)                                 1975). See qn.contact.
+%   'surface'      displacement [m], velocity [m/s],         bilinear between the knots of a grid, both ascending; a row of forces for
+%                  force [N]                                 each displacement, a column for each velocity (restoring force surface,
+%                                                            Masri and Caughey 1979). Beyond the grid its outer cells continue
 %   'maxwell'      springs [N/m], dampers [N s/m],           spring-and-damper branches in parallel, and a spring beside them; the
 %                  stiffness* [N/m] (0)                      states advance by the explicit Euler rule
 %   'dahl'         stiffness [N/m], slip [N], exponent* (1)  dF/dx = stiffness * (1 - F/slip * sign (v))^exponent. Exponent 0: an elastic
@@ -76,11 +79,7 @@ function law = law (kind, varargin)
       error ('qn:input', '%s: "%s" must ascend, but value %d is %g and value %d is %g; sort the table by it', who, name{1}, k, x(k), ...
              k + 1, x(k + 1));
     end
-    k = find (isinf (diff (x)), 1);
-    if ~isempty (k)
-      error ('qn:input', '%s: "%s" goes from %g to %g between value %d and value %d: the distance is beyond all numbers', who, name{1}, ...
-             x(k), x(k + 1), k, k + 1);
-    end
+    finite_distances (who, name{1}, x);
   end
   for name = of_sort (l, 'sign')
     if ~any (p.(name{1}) == [1 -1]), error ('qn:input', '%s: "%s" must be 1 or -1, got %g', who, name{1}, p.(name{1})); end
@@ -98,6 +97,14 @@ function law = law (kind, varargin)
   law = struct ('kind', kind, 'parameters', p, 'note', '');
 end
 
+function finite_distances (who, name, x)
+  k = find (isinf (diff (x)), 1);
+  if ~isempty (k)
+    error ('qn:input', '%s: "%s" goes from %g to %g between value %d and value %d: the distance is beyond all numbers', who, name, x(k), ...
+           x(k + 1), k, k + 1);
+  end
+end
+
 function x = checked (who, name, x, sort_of)
   switch sort_of
     case {'file', 'text'}
@@ -109,6 +116,12 @@ function x = checked (who, name, x, sort_of)
       if ~isa (x, 'function_handle')
         error ('qn:input', '%s: "%s" must be a function handle, such as @(x, v, s, t) 1e9 * x ^ 3, got class %s', who, name, class (x));
       end
+    case 'knots'
+      x = reshape (qn.impl.numbers (who, name, x, [], 'list', 'ascending'), [], 1);
+      if numel (x) < 2, error ('qn:input', '%s: "%s" must be 2 values or more, got 1', who, name); end
+      finite_distances (who, name, x);
+    case 'grid'
+      x = qn.impl.numbers (who, name, x, [NaN NaN]);
     case 'whole'
       x = qn.impl.numbers (who, name, x, [1 1], 'from', 0, 'to', 2000, 'whole');  % the observation of an element is a full matrix
     case 'count'

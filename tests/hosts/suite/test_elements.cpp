@@ -72,6 +72,26 @@ TEST_P(Elements, TableLawInterpolatesAndKeepsItsRecord) {
   keptValues = 1;
 }
 
+TEST_P(Elements, SurfacesInterpolateTwiceAndGoOnBeyondTheirGrid) {
+  // opt: code, record (2), displacements 0 1 3, velocities -2 2, forces 0 10 30 at -2 m/s, 4 18 22 at 2 m/s
+  mxArray* value = element("Surface", 1, {0, 0, 0, 1, 3, -2, 2, 0, 10, 30, 4, 18, 22},
+                           {{"unl", zeros(1)}, {"vnl", zeros(1)}, {"snl", zeros(1)}, {"iopt", int32s({-1, 0, 0, 0, 0, 3, 2})}});
+  const double surface = set(1003, value);
+  const auto force = [&](double u, double v) {
+    mxArray* r = zeros(1);
+    run("residual", {r, handles({surface}), scalar(u), scalar(v), zeros(0)}, 0);
+    return values(r)[0];
+  };
+  const auto record = [&] { return values(field(run("chandleget", {scalar(surface)}), "opt")); };
+  EXPECT_EQ(force(0.5, -2), 5.0);
+  EXPECT_EQ(force(2, 1), 20.0);
+  EXPECT_EQ(record()[1], 0.0);
+  EXPECT_EQ(force(5, 4), 14.0);  // from 50 N at -2 m/s and 26 N at 2 m/s
+  EXPECT_EQ(record()[1], 2.0);
+  EXPECT_EQ(record()[2], 2.0);
+  keptValues = 1;
+}
+
 TEST_P(Elements, LawsWithStatesStoreForcesInTheModel) {
   struct Case {
     const char* law;

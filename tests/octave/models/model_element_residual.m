@@ -45,7 +45,7 @@ end
 % The characters of a law code, first character in the lowest byte. A double rounds those of seven: their words are compared.
 function word = keyword (code)
   code = fix (code);
-  for long = {'Contact', 'BoucWen', 'Journal'}
+  for long = {'Contact', 'Surface', 'BoucWen', 'Journal'}
     word = long{1};
     if code == sum (word .* 256 .^ (0:6)), return, end
   end

@@ -122,6 +122,15 @@ function law = random_contact (law, n)
   law.parameters = [randn; exponents(randi (4)); 2 * rand - 0.3; 0.5 * randn; randn];
 end
 
+% Now and then a value of the grid itself is met, as knots and motions are rounded.
+function law = random_surface (law, n)
+  law.rates = true;
+  counts = 1 + randi (5, 1, 2);
+  knots = @(n) cumsum ([-ceil(n / 2); 0.25 * randi(6, n - 1, 1)]) / 2;
+  law.parameters = [rand(2, 1) .* (rand (2, 1) < 0.5); knots(counts(1)); knots(counts(2)); randn(prod (counts), 1)];
+  law.places = [0 0 0 0, counts];
+end
+
 % Now and then without a limit, and with a state beyond it.
 function law = random_boucwen (law, n)
   law.pages = max (law.pages, ceil (3 * ceil (law.page / 3) / law.page));

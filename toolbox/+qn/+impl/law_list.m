@@ -4,7 +4,8 @@
 %   keyword     word by which the module knows it
 %   parameters  rows {name, default, sort}; a default of '<required>' has to be given. Sort is 'number', 'positive' (a number above 0),
 %               'not negative' (from 0), 'fraction' (between 0 and 1), 'sign' (1 or -1), 'list', 'ascending list' or 'positive list'; the
-%               lists of a law have one length. For laws of the user's also 'free list' (of any length), 'count' (from 1),
+%               lists of a law have one length. 'knots' (two or more that ascend without doubles, any number of them) span a 'grid' (a
+%               matrix). For laws of the user's also 'free list' (of any length), 'count' (from 1),
 %               'whole' (from 0), 'text', and, in front, 'file' or 'function', whose name may be left out
 %   pack        [OPT, OWN] = pack (P, STEP): "opt" with the keyword's code in front, and what follows the five common values of "iopt"
 %   unpack      P = unpack (OPT, IOPT): the parameters again; [] where qn.law cannot give such an element
@@ -35,9 +36,9 @@ function list = law_list ()
   persistent made
   if isempty (made)
     each = {qn.impl.laws.power_law(), qn.impl.laws.exponential_law(), qn.impl.laws.table_law(), qn.impl.laws.damper_law(), ...
-            qn.impl.laws.contact_law(), qn.impl.laws.maxwell_law(), qn.impl.laws.dahl_law(), qn.impl.laws.stickslip_law(), ...
-            qn.impl.laws.boucwen_law(), qn.impl.laws.clima2_law(), qn.impl.laws.radial_law(), qn.impl.laws.journal_law(), ...
-            qn.impl.laws.compiled_law(), qn.impl.laws.function_law()};
+            qn.impl.laws.contact_law(), qn.impl.laws.surface_law(), qn.impl.laws.maxwell_law(), qn.impl.laws.dahl_law(), ...
+            qn.impl.laws.stickslip_law(), qn.impl.laws.boucwen_law(), qn.impl.laws.clima2_law(), qn.impl.laws.radial_law(), ...
+            qn.impl.laws.journal_law(), qn.impl.laws.compiled_law(), qn.impl.laws.function_law()};
     each = cellfun (@whole, each, 'UniformOutput', false);
     made = [each{:}];
   end

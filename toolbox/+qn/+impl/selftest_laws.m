@@ -1,8 +1,9 @@
 % CHECKS = SELFTEST_LAWS ()  the checks of qn.selftest that compare runs and force laws with their formulas
 function checks = selftest_laws ()
   checks = {'linear run', @qn.impl.selftest_linear; 'law Power', @power; 'law Expon', @expon; 'law Table', @table; ...
-            'law Damper', @damper; 'law Contact', @impact; 'law Maxw', @maxw; 'law DahlC', @dahl; 'law sts', @stick_slip; ...
-            'law BoucWen', @bouc_wen; 'law Clima2', @clima; 'law Radial', @radial; 'law Journal', @film; 'law User', @user};
+            'law Damper', @damper; 'law Contact', @impact; 'law Surface', @surface; 'law Maxw', @maxw; ...
+            'law DahlC', @dahl; 'law sts', @stick_slip; 'law BoucWen', @bouc_wen; 'law Clima2', @clima; ...
+            'law Radial', @radial; 'law Journal', @film; 'law User', @user};
 end
 
 function [good, text] = power ()
@@ -87,6 +88,17 @@ function [good, text] = impact ()
   speed = [0; 0; -2; 1; 9];
   wanted = [0; 0; -7 * (1 + 0.25 * 2); -7 * 2 ^ 1.5 * (1 - 0.25); 0];
   [good, text] = judged (evaluated (with_rates (element (5, 'Contact', [7; 1.5; 0.25; 0.5; -1])), x, speed, 1), wanted);
+end
+
+% What is bilinear is met everywhere, beyond the grid as well.
+function [good, text] = surface ()
+  formula = @(x, v) 2 + 3 * x - 5 * v + 7 * x .* v;
+  [at, speeds] = ndgrid ([-1; 0; 2], [-1; 3]);
+  e = with_rates (element (5, 'Surface', [0; 0; -1; 0; 2; -1; 3; reshape(formula (at, speeds), [], 1)]));
+  e.iopt = int32 ([-1 0 0 0 0 3 2]);
+  x = [-2; -0.5; 0.3; 1; 6];
+  v = [4; -0.5; 2; -3; 7];
+  [good, text] = judged (evaluated (e, x, v, 1), formula (x, v));
 end
 
 % A law that is a function: two rows and a state that counts the steps.

@@ -7,7 +7,7 @@
 %   inner   values that it keeps in its own arrays
 %   pages   states of motion that its arrays hold: the one now, the one at the start of the step, the one at the last correction
 %   rates   its force depends on the velocity, and that is all that it needs to know of it
-%   record  place in "opt" where the module notes the most that the law has met, 0: none
+%   record  place or places in "opt" where the module notes the most that the law has met, 0: none
 %   group   rows of one evaluation, of a law of the user's that is evaluated for groups of rows; else 0
 %   memory  its force depends on the past
 function t = traits (law, rows)

@@ -25,6 +25,8 @@ function test_oil_film_in_residual (), residual_like_model ('Journal', 33); end
 function test_oil_film_in_the_integrator (), newmark_like_model ('Journal', 34); end
 function test_impact_in_residual (), residual_like_model ('Contact', 17); end
 function test_impact_in_the_integrator (), newmark_like_model ('Contact', 18); end
+function test_surface_in_residual (), residual_like_model ('Surface', 35); end
+function test_surface_in_the_integrator (), newmark_like_model ('Surface', 36); end
 function test_user_in_residual (), residual_like_model ('User', 115); end
 function test_user_in_the_integrator (), newmark_like_model ('User', 116); end
 function test_bouc_wen_in_residual (), residual_like_model ('BoucWen', 19); end

@@ -68,6 +68,25 @@ function test_impact_with_losses_after_hunt_and_crossley ()
   end
 end
 
+% x'' + x - (1 - x^2) x' = 0, its forces sampled over x: along x' they are straight.
+function test_a_force_surface_has_the_limit_cycle_of_van_der_pol ()
+  c = published ('Limit cycle of van der Pol on a sampled force surface', ...
+                 ['B. van der Pol, Philosophical Magazine 2, 1926: equation, with a damping of 1; greatest displacement and period by ' ...
+                  'numerical integration'], {'Surface', 'initial state'});
+  x = linspace (-2.2, 2.2, 441);
+  v = [-3 0 3];
+  [u, w] = ndgrid (x, v);
+  law = qn.law ('surface', 'displacement', x, 'velocity', v, 'force', u - (1 - u .^ 2) .* w);
+  model = qn.modal (0, 1);
+  h = 2e-5;
+  sim = qn.simulation (model, 'step', h, 'until', 14, 'u0', 2, 'elements', {law, qn.observe(model, 1)});
+  q = getfield (qn.run (sim, 'progress', false, 'check', false), 'q');
+  up = find (q(1:end - 1) < 0 & q(2:end) >= 0);
+  t = h * (up - q(up) ./ (q(up + 1) - q(up)));
+  expect_published (c, {'greatest displacement [m]', 'period [s]'}, [2.00861986 6.66328686], [max(q(up(end - 1):end)), diff(t(end - 1:end))], ...
+                    [1e-4 1e-4]);
+end
+
 % Between yield and the lower line the loop is a parallelogram on each side: 2 (drop Fy) (X - Fy/k) a cycle, and nothing is left at rest.
 function test_a_self_centring_brace_dissipates_its_flags ()
   c = published ('Cycle of a self-centring brace', ...

@@ -127,6 +127,13 @@ function c = all_cases ()
        'motion_large', 'warning', {with(stiff (10), 'v0', 3e3), true}, {with(stiff (10)), true}
        'preload', 'note', {with(qn.gap ('gap', -1e-3, 'stiffness', 1e4))}, {with(stop (1e-3))}
        'table_left', 'note', {with(qn.law ('table', 'displacement', [-1e-3 0 1e-3], 'force', [-1 0 1])), true}, {with(straight), true}
+       'table_left', 'note', {with(plane (4.6e-3, 2)), true}, {with(plane (5.1e-3, 2)), true}
+       'table_left', 'warning', {with(plane (4e-3, 2)), true}, {with(plane (5.1e-3, 2)), true}
+       'table_left', 'note', {with(plane (1, 0.9)), true}, {with(plane (1, 1.1)), true}
+       'table_left', 'warning', {with(plane (1, 0.5), 'every', 50), true}, {with(plane (1, 1.1), 'every', 50), true}
+       'surface_one_way', 'warning', {with(surface ([0 2], [0 1; 1 2]))}, {with(surface ([-1e-3 2], [0 1; 1 2]))}
+       'surface_one_way', 'warning', {with(surface ([-2 0], [0 1; 1 2]))}, {with(surface ([-2 1e-3], [0 1; 1 2]))}
+       'damper_feeds', 'warning', {with(surface ([-1 2], [0 -1; 1 0]))}, {with(surface ([-1 2], [0 1; 1 2]))}
        'table_jump', 'warning', {with(qn.law ('table', 'displacement', [-1 -1 1], 'force', [-9 -2 2]))}, ...
                                 {with(qn.law ('table', 'displacement', [-2 -1 -1 1], 'force', [-9 -9 -2 2]))}
        'table_jump', 'warning', {with(qn.law ('table', 'displacement', [-1 1 1], 'force', [-9 -2 2]))}, {with(straight)}
@@ -216,6 +223,15 @@ end
 
 function law = hit (stiffness, damping)
   law = qn.contact ('stiffness', stiffness, 'damping', damping, 'gap', 1e-3);
+end
+
+% A spring of 10 N/m and a dashpot of 1 N s/m, measured up to X metres and V metres a second.
+function law = plane (x, v)
+  law = qn.law ('surface', 'displacement', [-x x], 'velocity', [-v v], 'force', 10 * [-x -x; x x] + [-v v; -v v]);
+end
+
+function law = surface (velocity, force)
+  law = qn.law ('surface', 'displacement', [-1 1], 'velocity', velocity, 'force', force);
 end
 
 function law = bouc_wen (beta, gamma)

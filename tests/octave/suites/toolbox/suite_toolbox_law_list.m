@@ -15,8 +15,10 @@ function law = drawn (l)
       continue
     elseif any (strcmp (sort_of, {'file', 'function', 'whole', 'count'}))
       x = user_law_value (sort_of);
-    elseif strcmp (sort_of, 'ascending list')
+    elseif any (strcmp (sort_of, {'ascending list', 'knots'}))
       x = cumsum (0.1 + rand (n, 1));
+    elseif strcmp (sort_of, 'grid')
+      x = rand (n);
     elseif ~isempty (strfind (sort_of, 'list'))
       x = 0.5 + rand (n, 1);
     elseif strcmp (sort_of, 'fraction')

@@ -1,0 +1,118 @@
+% L = SURFACE_LAW ()  force bilinear in a grid of displacements and velocities; the fields are those of qn.impl.law_list
+%
+% At rest it is a table over the displacements; what it adds in motion dissipates or feeds.
+function l = surface_law ()
+  parameters = {'displacement', '<required>', 'knots'
+                'velocity', '<required>', 'knots'
+                'force', '<required>', 'grid'};
+  l = struct ('kind', 'surface', 'keyword', 'Surface', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
+              'stiffest', @stiffest, 'softest', @softest, 'viscous', @viscous, 'traits', @traits, 'stored', @stored, ...
+              'reserve', @reserve, 'check', @check, 'reach', @reach, 'prepare', @prepare);
+end
+
+function p = prepare (who, p)
+  p.force = qn.impl.numbers (who, 'force', p.force, [numel(p.displacement), numel(p.velocity)], 'each', ...
+                             'a row for each displacement and a column for each velocity');
+end
+
+% After the code, the module's record of the greatest distances from the grid.
+function [opt, own] = pack (p, step)
+  opt = [qn.impl.keyword('Surface'); 0; 0; p.displacement; p.velocity; p.force(:)];
+  own = [numel(p.displacement); numel(p.velocity)];
+end
+
+function p = unpack (opt, iopt)
+  [nx, nv] = deal (iopt(6), iopt(7));
+  p = struct ('displacement', opt(3 + (1:nx)), 'velocity', opt(3 + nx + (1:nv)), 'force', reshape (opt(3 + nx + nv + (1:nx * nv)), nx, nv));
+end
+
+function text = words (p)
+  text = sprintf (['surface of %d displacements from %g to %g m and %d velocities from %g to %g m/s, forces from %g to %g N; its outer ' ...
+                   'cells go on'], numel (p.displacement), p.displacement([1 end]), numel (p.velocity), p.velocity([1 end]), ...
+                  min (p.force(:)), max (p.force(:)));
+end
+
+function t = traits (p)
+  t = struct ('rates', true, 'record', [2 3]);
+end
+
+% The table over the displacements at each of the velocities V, one struct a velocity.
+function tables = at_velocities (p, v)
+  force = interp1 (p.velocity, p.force.', v(:), 'linear', 'extrap').';
+  tables = struct ('displacement', p.displacement, 'force', num2cell (force, 1));
+end
+
+function l = of_table ()
+  l = qn.impl.law_of ('table');
+end
+
+% Between two velocities the stiffness is between theirs; rest may be beyond them.
+function k = stiffest (p, x, state)
+  l = of_table ();
+  k = max (arrayfun (@(t) l.stiffest (t, x, state), at_velocities (p, [p.velocity; 0])));
+end
+
+function k = softest (p)
+  slope = bsxfun (@rdivide, diff (p.force, 1, 1), diff (p.displacement));
+  k = min (abs (slope(:)));
+  if any (slope(:) < 0) && any (slope(:) > 0), k = 0; end
+end
+
+% The slopes over the velocity at knots and ends of the displacements.
+function c = viscous (p, x, f)
+  at = p.displacement;
+  if ~isempty (x), at = [min(x(:)); at(at > min (x(:)) & at < max (x(:))); max(x(:))]; end
+  slope = bsxfun (@rdivide, diff (p.force, 1, 2), diff (p.velocity).');
+  slope = interp1 (p.displacement, slope, at, 'linear', 'extrap');
+  c = max ([0; abs(slope(:))]);
+end
+
+function v = stored (p, x, f, state, h)
+  l = of_table ();
+  v = l.stored (at_velocities (p, 0), x, f, state, h);
+end
+
+% It only dissipates where the force grows with the velocity, beyond the grid as well.
+function v = reserve (p, x, state)
+  v = Inf;
+  grows = diff (p.force, 1, 2);
+  falls = any (grows(1, :) < grows(2, :)) || any (grows(end, :) < grows(end - 1, :));
+  if falls || any (grows(:) < 0), return, end
+  l = of_table ();
+  v = l.reserve (at_velocities (p, 0), x, state);
+end
+
+function r = reach (p)
+  l = of_table ();
+  r = l.reach (at_velocities (p, 0));
+end
+
+% STATE is the greatest distance from the grid that the module has met, at any step: in displacement and in velocity.
+function found = check (law, x, h, state)
+  found = cell (0, 3);
+  p = law.parameters;
+  ends = [p.displacement([1 end]), p.velocity([1 end])];
+  if any (state > 0)
+    level = 'note';
+    if any (state(:) > 0.1 * diff (ends).'), level = 'warning'; end
+    found = {'table_left', level, ...
+             sprintf(['the motion leaves its grid, from %g to %g m and from %g to %g m/s, by up to %g m and %g m/s; beyond it the ' ...
+                      'outer cells go on, with forces that nobody measured: add knots there'], ends, state)};
+  end
+  if ends(1, 2) >= 0 || ends(2, 2) <= 0
+    found(end + 1, :) = {'surface_one_way', 'warning', ...
+                         sprintf(['its velocities go from %g to %g m/s, one way only: the forces of the way back are those of the ' ...
+                                  'outer cells, which go on. Add the velocities of the other sign'], ends(:, 2))};
+    return
+  end
+  rest = at_velocities (p, 0);
+  added = bsxfun (@minus, p.force, rest.force);
+  [least, k] = min (added(:) .* reshape (sign (ones (numel (p.displacement), 1) * p.velocity.'), [], 1));
+  if least < -0.01 * max (abs (added(:)))
+    [i, j] = ind2sub (size (added), k);
+    found(end + 1, :) = {'damper_feeds', 'warning', ...
+                         sprintf(['its force of %g N at %g m and %g m/s pushes along the motion, as it is %g N at rest there: it feeds ' ...
+                                  'the motion. A sign of velocities or forces, or forces that are transposed?'], ...
+                                 p.force(i, j), p.displacement(i), p.velocity(j), rest.force(i))};
+  end
+end

@@ -1,7 +1,11 @@
 #include "grid_matrix.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <numeric>
+#include <random>
+#include <utility>
 
 namespace quarn::bench {
 
@@ -47,6 +51,35 @@ GridMatrix gridMatrix(int entries, int lines) {
     g.jc.push_back(static_cast<int>(g.pr.size()));
   }
   return g;
+}
+
+GridMatrix irregular(const GridMatrix& g, int unknowns) {
+  constexpr int run = 64;
+  const int nodes = g.n / unknowns;
+  std::vector<int> old(static_cast<std::size_t>(nodes));
+  std::iota(old.begin(), old.end(), 0);
+  std::mt19937 random(1);
+  for (int first = 0; first < nodes; first += run) std::shuffle(old.begin() + first, old.begin() + std::min(nodes, first + run), random);
+  std::vector<int> now(old.size());
+  for (int node = 0; node < nodes; ++node) now[static_cast<std::size_t>(old[static_cast<std::size_t>(node)])] = node;
+  GridMatrix m;
+  m.n = g.n;
+  m.jc.push_back(0);
+  std::vector<std::pair<int, double>> entries;
+  for (int line = 0; line < g.n; ++line) {
+    const auto from = static_cast<std::size_t>(old[static_cast<std::size_t>(line / unknowns)] * unknowns + line % unknowns);
+    entries.clear();
+    for (auto k = static_cast<std::size_t>(g.jc[from]); k < static_cast<std::size_t>(g.jc[from + 1]); ++k) {
+      entries.emplace_back(now[static_cast<std::size_t>(g.ir[k] / unknowns)] * unknowns + g.ir[k] % unknowns, g.pr[k]);
+    }
+    std::sort(entries.begin(), entries.end());
+    for (const auto& [column, value] : entries) {
+      m.ir.push_back(column);
+      m.pr.push_back(value);
+    }
+    m.jc.push_back(static_cast<int>(m.ir.size()));
+  }
+  return m;
 }
 
 std::vector<double> wave(std::size_t n, double first) {

@@ -46,11 +46,10 @@ void add(Case& c, const std::string& name, std::vector<double>& y, const std::fu
                         threaded, release});
 }
 
-void oneMatrix(int entries, int lines) {
-  const GridMatrix g = gridMatrix(entries, lines);
+void oneMatrix(const std::string& variant, const GridMatrix& g) {
   const std::vector<double> x = wave(static_cast<std::size_t>(g.n), 1.0);
   std::vector<double> y(x.size());
-  Case c{"product", std::to_string(entries), g.n, g.bytes(), "byte", 1e-13, {}};
+  Case c{"product", variant, g.n, g.bytes(), "byte", 1e-13, {}};
   add(
       c, "quarn", y, [&](double* out) { SparseMatVec(out, x.data(), g.pr.data(), g.ir.data(), g.jc.data(), g.n); }, g.n > 1000);
   add(
@@ -97,7 +96,11 @@ void benchProduct() {
   for (const int e : entries) {
     for (const int lines : {100, 300, 1'000, 3'000, 10'000, 30'000, 100'000, 300'000, 1'000'000, 3'000'000}) {
       if (quick() && lines > 3000) break;
-      if (fits(e, lines)) oneMatrix(e, lines);
+      if (fits(e, lines)) oneMatrix(std::to_string(e), gridMatrix(e, lines));
+    }
+    for (const int lines : {3'000, 10'000, 100'000, 1'000'000}) {
+      if (quick() && lines > 3000) break;
+      oneMatrix(std::to_string(e) + ", irregular", irregular(gridMatrix(e, lines), e == 81 ? 3 : 1));
     }
   }
 }

@@ -80,7 +80,6 @@ class chandleDiagNewmark final : public chandle {
   double time(int column) const { return tft[static_cast<std::ptrdiff_t>(Nb + 1) * column]; }
   double* columnFor(double t);
   void save(double t, const ROr& c);
-  void saveBefore(const ROr& c);
   void saveStore(double t);
 
   std::int32_t N = 0;         ///< modes: rows of "r"

@@ -121,23 +121,27 @@ int chandleDiagNewmark::runUndisturbed(int j, const ROr& c) {
 }
 
 /// Steps from column j on to the last but one. What they copy into the work array nobody sees, so that the correction of each and the
-/// beginning of the next are one pass; a state that is to be saved between them is formed for that alone.
+/// beginning of the next are one pass.
 int chandleDiagNewmark::runUnseen(chandle** list, int nh, int j, ROr c) {
   const int last = steps() - 1;
+  const ModalState modes{c.u, c.v, c.a, N};
   enterStep(j, c);
   beginModes(j, c);
   for (;;) {
     addForces(list, nh, c);
     endHandles();
-    saveBefore(c);
+    double* column = columnFor(c.t);
+    if (column) std::copy(c.u + N, c.u + Ndef, column + N);
     saveStore(c.t);
-    if (++j == last) break;
+    if (++j == last) {
+      newmarkCorrect(c.u, c.v, c.a, fmod, gain, N, coefficients);
+      if (column) std::copy(c.u, c.u + N, column);
+      return j;
+    }
     enterStep(j, c);
-    newmarkNext({c.u, c.v, c.a, N}, fmod, gain, r.data + N, loadsAt(j), Nb, diagonals, coefficients);
+    newmarkNext(modes, fmod, gain, r.data + N, loadsAt(j), Nb, diagonals, coefficients, column);
     finishForces(c);
   }
-  newmarkCorrect(c.u, c.v, c.a, fmod, gain, N, coefficients);
-  return j;
 }
 
 void chandleDiagNewmark::run(chandle** list, int nh, const ROr& c) {

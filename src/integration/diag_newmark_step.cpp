@@ -96,14 +96,6 @@ double* chandleDiagNewmark::columnFor(double t) {
 
 void chandleDiagNewmark::save(double t, const ROr& c) { copyValues(columnFor(t), c.u, static_cast<std::size_t>(Ndef)); }
 
-/// The same before the correction.
-void chandleDiagNewmark::saveBefore(const ROr& c) {
-  double* to = columnFor(c.t);
-  if (!to) return;
-  newmarkCorrected(to, c.u, fmod, gain, N);
-  copyValues(to + N, c.u + N, static_cast<std::size_t>(Ndef - N));
-}
-
 void chandleDiagNewmark::saveStore(double t) {
   while (jFNLSave < NFNLSave && t > storeTimes.data[jFNLSave]) ++jFNLSave;
   if (jFNLSave >= NFNLSave) return;

@@ -52,10 +52,10 @@ template <With with>
   }
 }
 
-template <With with>
+template <With with, bool saving>
 [[gnu::always_inline]] inline void next(double* __restrict u, double* __restrict v, double* __restrict f, const double* __restrict gain,
                                         const double* __restrict column, double p, int n, const DiagonalForces& forces,
-                                        const NewmarkCoefficients& in) {
+                                        const NewmarkCoefficients& in, double* __restrict save) {
   const NewmarkCoefficients x = in;
   const double beta = forces.beta;
   const double* __restrict k = forces.k;
@@ -63,6 +63,7 @@ template <With with>
   for (int i = 0; i < n; ++i) {
     const double d = f[i] * gain[i];
     const double u0 = u[i] - d;
+    if constexpr (saving) save[i] = u0;
     const double v0 = v[i] - x.vFromD * d;
     const double a0 = 0.0 - d * x.aFromD;
     const double up = (x.uFromA * a0 + x.dt * v0) + u0;
@@ -82,8 +83,9 @@ template <With with>
   }                                                                                                                                 \
   QUARN_PROCESSOR_VERSIONS                                                                                                          \
   void next##name(const ModalState& s, double* f, const double* gain, const double* column, double p, const DiagonalForces& forces, \
-                  const NewmarkCoefficients& k) {                                                                                   \
-    next<with>(s.u, s.v, f, gain, column, p, s.n, forces, k);                                                                       \
+                  const NewmarkCoefficients& k, double* save) {                                                                     \
+    if (save) return next<with, true>(s.u, s.v, f, gain, column, p, s.n, forces, k, save);                                          \
+    next<with, false>(s.u, s.v, f, gain, column, p, s.n, forces, k, nullptr);                                                       \
   }
 QUARN_NEWMARK_VARIANT(Free, With::nothing)
 QUARN_NEWMARK_VARIANT(Elastic, With::stiffness)
@@ -119,16 +121,11 @@ void newmarkBegin(const ModalState& x, double* copyU, double* copyV, double* cop
 }
 
 void newmarkNext(const ModalState& x, double* f, const double* gain, const double* r, const double* loads, int nb,
-                 const DiagonalForces& forces, const NewmarkCoefficients& k) {
+                 const DiagonalForces& forces, const NewmarkCoefficients& k, double* save) {
   const auto variant = forces.c ? nextDamped : forces.k ? nextElastic : nextFree;
   forLoadedBlocks(x, r, loads, nb, forces, [&](const ModalState& s, int at, const double* column, double p, const DiagonalForces& part) {
-    variant(s, f + at, gain + at, column, p, part, k);
+    variant(s, f + at, gain + at, column, p, part, k, save ? save + at : nullptr);
   });
-}
-
-QUARN_PROCESSOR_VERSIONS
-void newmarkCorrected(double* __restrict to, const double* __restrict u, const double* __restrict f, const double* __restrict gain, int n) {
-  for (int i = 0; i < n; ++i) to[i] = u[i] - f[i] * gain[i];
 }
 
 }  // namespace quarn

@@ -32,11 +32,9 @@ void newmarkBegin(const ModalState& x, double* copyU, double* copyV, double* cop
                   const DiagonalForces& forces, const NewmarkCoefficients& k);
 
 /// The correction of a step and the beginning of the next one: newmarkCorrect, then newmarkBegin without its copies. The acceleration in
-/// between is not written: x.a is 0 before and after, and not touched. f (in-out): forces of the step that ends, then of the next.
+/// between is not written: x.a is 0 before and after, and not touched. f (in-out): forces of the step that ends, then of the next. The
+/// displacements in between go to save where it is not null.
 void newmarkNext(const ModalState& x, double* f, const double* gain, const double* r, const double* loads, int nb,
-                 const DiagonalForces& forces, const NewmarkCoefficients& k);
-
-/// The displacements as newmarkCorrect would leave them: to = u - f*gain, n values.
-void newmarkCorrected(double* to, const double* u, const double* f, const double* gain, int n);
+                 const DiagonalForces& forces, const NewmarkCoefficients& k, double* save);
 
 }  // namespace quarn

@@ -51,8 +51,10 @@ void newmark(Vector& all, int n) {
                         load.data(), 1, forces, k);
     x.appendTo(all);
     copy.appendTo(all);
-    quarn::newmarkNext({x.u.data(), x.v.data(), x.a.data(), n}, x.f.data(), gain.data(), r.data(), load.data(), 1, forces, k);
+    quarn::newmarkNext({x.u.data(), x.v.data(), x.a.data(), n}, x.f.data(), gain.data(), r.data(), load.data(), 1, forces, k,
+                       copy.u.data());
     x.appendTo(all);
+    copy.appendTo(all);
     for (int nb = 1; nb < 4; nb += 2) {
       Vector saved(x.u.size());
       double* const saves[4] = {nullptr, nullptr, saved.data(), nullptr};

@@ -94,13 +94,17 @@ TEST(NewmarkFused, GoesToTheNextStepLikeTheSeparateLoops) {
         wanted.f = Problem::withZeros(randomVector(n, 9));
         Problem got = wanted;
         const Vector untouched(got.u.size(), 0.0);
+        Problem unsaved = wanted;
         Vector saved(got.u.size(), 7.0);
-        newmarkCorrected(saved.data(), got.u.data(), got.f.data(), got.gain.data(), n);
         newmarkCorrect(wanted.u.data(), wanted.v.data(), wanted.a.data(), wanted.f.data(), wanted.gain.data(), n, coefficients);
-        EXPECT_TRUE(sameBits(saved, wanted.u)) << n;
+        const Vector corrected = wanted.u;
         wanted.beginSeparately(wanted.p.data(), kind);
         newmarkNext({got.u.data(), got.v.data(), got.a.data(), n}, got.f.data(), got.gain.data(), got.r.data(), got.p.data(), nb,
-                    got.forces(kind), coefficients);
+                    got.forces(kind), coefficients, saved.data());
+        EXPECT_TRUE(sameBits(saved, corrected)) << n << ' ' << nb;
+        newmarkNext({unsaved.u.data(), unsaved.v.data(), unsaved.a.data(), n}, unsaved.f.data(), unsaved.gain.data(), unsaved.r.data(),
+                    unsaved.p.data(), nb, unsaved.forces(kind), coefficients, nullptr);
+        EXPECT_TRUE(sameBits(got.u, unsaved.u) && sameBits(got.v, unsaved.v) && sameBits(got.f, unsaved.f)) << n << ' ' << nb;
         EXPECT_TRUE(sameBits(got.u, wanted.u) && sameBits(got.v, wanted.v) && sameBits(got.a, untouched)) << n << ' ' << nb;
         EXPECT_TRUE(sameBits(got.f, wanted.f)) << n << ' ' << nb << ' ' << kind;
       }

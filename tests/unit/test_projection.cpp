@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "random_matrix.h"
+#include "rounds.h"
 #include "same_bits.h"
 #include "sparse/phi1tmphi2.h"
 #include "sparse/projection_kernels.h"
@@ -66,7 +67,7 @@ void pairByPair(Values& outR, Values& outI, const DenseBase& a, const DenseBase&
 }
 
 TEST_F(Projection, AllPairsTogetherHaveTheBitsOfEachPairAlone) {
-  for (int round = 0; round < 400; ++round) {
+  for (int round = 0; round < test::rounds(400); ++round) {
     const int n = round % 20 == 0 ? 0 : whole(1, 200);
     const auto rows = static_cast<std::size_t>(n + 1);
     const Matrix m = matrix(n, n + 1, 40);
@@ -90,7 +91,7 @@ TEST_F(Projection, AllPairsTogetherHaveTheBitsOfEachPairAlone) {
 }
 
 TEST_F(Projection, LineProductsHaveTheBitsOfOneSumEach) {
-  for (int round = 0; round < 200; ++round) {
+  for (int round = 0; round < test::rounds(200); ++round) {
     const int lines = whole(0, 300);
     const std::size_t rows = 50;
     const auto cols = static_cast<std::size_t>(whole(1, 20));

@@ -102,8 +102,8 @@ TEST(SparseMatVecTested, WithoutLinesLeavesTheResultUntouched) {
 }
 
 TEST(SparseMatVecTested, NamesALineWithAnIndexOutsideAndLeavesItOut) {
+  Lines m = randomLines(5000, 5000, 250, 9);
   for (const int outside : {-1, 5000, 1 << 30}) {
-    Lines m = randomLines(5000, 5000, 250, 9);
     const int line = 3210;
     std::size_t k = static_cast<std::size_t>(m.jc[line]);
     ASSERT_LT(m.jc[line], m.jc[line + 1]);

@@ -13,7 +13,7 @@ ON_MATLAB(Reload);
 // Each round starts 14 threads and ends them, which sanitizers make slow.
 int rounds() {
   if (std::getenv("QUARN_FULL") && *std::getenv("QUARN_FULL")) return 300;
-  return std::getenv("QUARN_SANITIZED") ? 30 : 100;
+  return std::getenv("QUARN_SANITIZED") ? 15 : 40;
 }
 
 TEST_P(Reload, SurvivesManyRoundsWithParallelProducts) {

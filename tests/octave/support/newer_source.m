@@ -4,10 +4,9 @@ function file = newer_source (src, module)
   built = dir (fullfile (module, 'quarn.mex*'));
   if isempty (built), return, end
   [~, last] = max ([built.datenum]);
-  quoted = @(path) ['''' strrep(path, '''', '''\''''') ''''];
   % One process: dir of these folders would cost every suite of the tests more than the start of the host.
-  [~, found] = system (sprintf ('find %s ''('' -name ''*.cpp'' -o -name ''*.h'' '')'' -newer %s -printf ''%%T@ %%p\\n'' | sort -n', quoted (src), ...
-                                quoted (fullfile (module, built(last).name))));
+  [~, found] = system (sprintf ('find %s ''('' -name ''*.cpp'' -o -name ''*.h'' '')'' -newer %s -printf ''%%T@ %%p\\n'' | sort -n', in_quotes (src), ...
+                                in_quotes (fullfile (module, built(last).name))));
   found = regexp (found, '[^\n]+', 'match');
   if ~isempty (found), file = regexprep (found{end}, '^\S+ ', ''); end
 end

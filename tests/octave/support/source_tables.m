@@ -11,8 +11,10 @@ function tables = source_tables (root)
   code = cellfun (@fileread, files, 'uniformoutput', false);
   code = [code{:}];
   tables = struct ('commands', {words(code, '{"([^"]+)", command\w')}, 'laws', {words(code, '\srow\("([^"]+)"')}, 'types', {{}});
-  made = regexp (code, '[^\n]*\n[^\n]*make<', 'match');
-  for name = words ([made{:}], '([\w:]+)\s*[:,{]\s*(?:h\s*=\s*|return\s+|&)?make<')
+  lines = strsplit (code, sprintf ('\n'));
+  made = find (~cellfun ('isempty', strfind (lines, 'make<')));
+  made = strjoin (lines(union (made - 1, made)), sprintf ('\n'));
+  for name = words (made, '([\w:]+)\s*[:,{]\s*(?:h\s*=\s*|return\s+|&)?make<')
     last = regexprep (name{1}, '^.*:', '');
     if isempty (regexp (last, '^\d+$', 'once'))
       value = words (code, ['\<' last '\s*=\s*(\d+)']);

@@ -1,12 +1,12 @@
 % Memory stays flat over many calls. The full counts (a million calls, 100,000 rounds) run when the environment variable QUARN_FULL is
-% set, no more than 20,000 else, where 16 bytes a call still show; under sanitizers no loop runs. Each loop is compared with an equal one that does everything but call the module, because the host
-% itself may grow.
+% set, no more than 10,000 else, where 32 bytes a call still show, the least that an allocation takes; under sanitizers no loop runs. Each loop is
+% compared with an equal one that does everything but call the module, because the host itself may grow.
 function tests = suite_memory ()
   tests = localfunctions ();
 end
 
 function n = scaled (n)
-  if isempty (getenv ('QUARN_FULL')), n = min (ceil (n * 0.06), 20000); end
+  if isempty (getenv ('QUARN_FULL')), n = min (ceil (n * 0.06), 10000); end
 end
 
 % Growth in KiB of COUNT rounds of FN after a warm-up.
@@ -159,14 +159,14 @@ function test_complex_operands ()
 end
 
 function parallel_products (count)
-  [s, n] = long_lines ();
+  [s, n] = long_lines (4100);
   x = ones (n, 1);
   y = zeros (n, 1);
   for k = 1:count, quarn ('tbbp', s, x, y); end
 end
 
 function parallel_idle (count)
-  [s, n] = long_lines ();
+  [s, n] = long_lines (4100);
   x = ones (n, 1);
   y = zeros (n, 1);
   for k = 1:count, y = y + x * max (k, 1); end

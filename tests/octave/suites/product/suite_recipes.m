@@ -50,20 +50,21 @@ function test_a_place_that_the_guide_does_not_name_is_reported ()
   expect_equal (new_problems (root), {'CONTRIBUTING.md does not name tests/octave/support/random_law.m under "Add a force law"'});
 end
 
+% Each of the lists has two laws the other way round, all at the same time.
 function test_a_list_of_laws_in_another_order_than_the_table_is_reported ()
   [root, away] = copy_of_places ();
   orders = recipe_places ();
+  wanted = {};
   for list = orders.orders.'
     file = fullfile (root, list{1});
     text = fileread (file);
     [first, last, laws] = regexp (text, list{2}, 'start', 'end', 'tokens', 'lineanchors');
     if numel (laws) < 13, error ('only %d laws found in %s by %s', numel (laws), list{:}); end
     put_file (file, [text(1:first(2)-1), text(first(3):last(3)), text(last(2)+1:first(3)-1), text(first(2):last(2)), text(last(3)+1:end)]);
-    problems = new_problems (root);
-    put_file (file, text);
-    wanted = sprintf ('the laws of %s are not in the order of the table in src: "%s" is before "%s"', list{1}, laws{3}{1}, laws{2}{1});
-    expect_equal (problems, {wanted});
+    wanted{end + 1} = sprintf ('the laws of %s are not in the order of the table in src: "%s" is before "%s"', list{1}, laws{3}{1}, laws{2}{1});
   end
+  expect_equal (new_problems (root), unique (wanted));
+  expect_equal (numel (wanted), size (orders.orders, 1));
 end
 
 function test_a_plot_of_an_unknown_law_says_which_are_drawn ()

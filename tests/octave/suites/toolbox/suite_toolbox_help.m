@@ -114,19 +114,22 @@ function test_the_code_keeps_to_syntax_that_both_hosts_share ()
            dir_of(fullfile ('+qn', '+impl', '+files')); dir_of(fullfile ('+qn', '+impl', '+user')); dir_of('@chandle'); dir_of('@v_handle'); ...
            dir_of(''); dir_of('examples'); dir_of(fullfile ('examples', 'private'))];
   if numel (files) < 85, error ('only %d files found', numel (files)); end
-  patterns = {'^\s*end(if|for|while|function|switch|_try_catch)\>', '(^|[^%''])!=?\s*[\w(]', '[+*/-]=[^=]', '\<printf\>', '"[^"]*"\s*[,);]', ...
-              'unwind_protect', '^\s*#', '\+\+', '\)\s*\(', '\<strjust\>|\<columns \(|\<rows \('};
+  patterns = {'^\s*end(if|for|while|function|switch|_try_catch)\>', '(^|[^%''])!=?\s*[\w(]', '[+*/-]=[^=]', '\<printf\>', ...
+              '"[^"\n]*"[ \t]*[,);]', 'unwind_protect', '^\s*#', '\+\+', '\)[ \t]*\(', '\<strjust\>|\<columns \(|\<rows \('};
   for k = 1:numel (files)
-    lines = strsplit (fileread (files{k}), sprintf ('\n'));
+    text = fileread (files{k});
+    lines = strsplit (text, sprintf ('\n'));
     if numel (lines) > 150, error ('%s has %d lines', files{k}, numel (lines)); end
-    for j = 1:numel (lines)
-      if ~isempty (regexp (lines{j}, '^\s*%', 'once')), continue, end
-      if numel (lines{j}) > 140, error ('%s:%d has %d columns', files{k}, j, numel (lines{j})); end
-      code = regexprep (lines{j}, '''[^'']*''', '''''');
-      code = regexprep (code, '%.*$', '');
-      for p = patterns
-        if ~isempty (regexp (code, p{1}, 'once')), error ('%s:%d: "%s" matches %s', files{k}, j, lines{j}, p{1}); end
-      end
+    lines = strsplit (text, sprintf ('\n'), 'CollapseDelimiters', false);
+    % All lines in one text, each at its number: without comments, and texts as ''.
+    code = regexprep (text, '^[ \t]*%[^\n]*', '', 'lineanchors');
+    if any (cellfun ('length', strsplit (code, sprintf ('\n'))) > 140), error ('%s has lines of more than 140 columns', files{k}); end
+    code = regexprep (regexprep (code, '''[^''\n]*''', ''''''), '%[^\n]*', '');
+    for p = patterns
+      at = regexp (code, p{1}, 'start', 'once', 'lineanchors');
+      if isempty (at), continue, end
+      j = 1 + sum (code(1:at) == 10);
+      error ('%s:%d: "%s" matches %s', files{k}, j, lines{j}, p{1});
     end
   end
 end

@@ -87,10 +87,12 @@ function x = nonzeros_of (list)
   x = cat (1, zeros (0, 1), x{:});
 end
 
-% A line that lost or got a character at its beginning: its numbers must be the same, or be refused, or doubted aloud.
+% A line that lost or got a character at its beginning: its numbers must be the same, or be refused, or doubted aloud. By default every
+% third of these files, with QUARN_FULL=1 all.
 function test_numbers_do_not_change_their_place_with_a_line_that_is_shifted ()
   s = format_samples ();
-  [tries, refused, want] = deal (0);
+  [seen, tries, refused, want] = deal (0);
+  apart = 3 - 2 * ~isempty (getenv ('QUARN_FULL'));
   for k = 1:size (s, 1)
     if any (strcmp (s{k, 1}, {'dofs', 'rows', 'sized', 'op4 little', 'op4 big', 'op4 long', 'unv binary'})), continue, end
     s{k, 2} = strrep (s{k, 2}, 'GRID,12,,0.,0.,0.', '$');
@@ -99,6 +101,8 @@ function test_numbers_do_not_change_their_place_with_a_line_that_is_shifted ()
     for j = find (~cellfun (@isempty, lines))
       for shifted = {[' ' lines{j}], ['  ' lines{j}], lines{j}(2:end), lines{j}(min (3, end):end)}
         if ~isempty (strtrim (lines{j}(1:min (2, end)))) && numel (shifted{1}) < numel (lines{j}), continue, end
+        seen = seen + 1;
+        if mod (seen, apart), continue, end
         bytes = strjoin ([lines(1:j - 1), shifted, lines(j + 1:end)], sprintf ('\n'));
         got = [];
         said = '';
@@ -115,7 +119,7 @@ function test_numbers_do_not_change_their_place_with_a_line_that_is_shifted ()
       end
     end
   end
-  if tries < 200 || refused < 50, error ('%d tries, %d refused', tries, refused); end
+  if seen < 200 || refused < 50 / apart, error ('%d tries of %d, %d refused', tries, seen, refused); end
 end
 
 function x = numbers_in (reader, bytes)

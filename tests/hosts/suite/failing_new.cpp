@@ -36,7 +36,12 @@ long newCalls() { return counted; }
 
 void* operator new(std::size_t n) { return allocate(n); }
 void* operator new[](std::size_t n) { return allocate(n); }
+// Who asks without an exception: test programs, not the module.
+void* operator new(std::size_t n, const std::nothrow_t& /*without*/) noexcept { return std::malloc(n > 0 ? n : 1); }
+void* operator new[](std::size_t n, const std::nothrow_t& /*without*/) noexcept { return std::malloc(n > 0 ? n : 1); }
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete[](void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete(void* memory, const std::nothrow_t& /*without*/) noexcept { std::free(memory); }
+void operator delete[](void* memory, const std::nothrow_t& /*without*/) noexcept { std::free(memory); }

@@ -192,19 +192,22 @@ function test_force_outputs_of_linear_runs_at_times_in_any_order ()
   end
 end
 
-function test_rows_of_a_linear_run_behind_its_modes_are_saved_as_they_are ()
-  % Where u has further columns the output may have rows for them, which no step changes.
-  run = small_run ();
-  run.u = [run.u, [4; 5; 6]];
-  run.v = [run.v, zeros(3, 1)];
-  run.a = [run.a, zeros(3, 1)];
-  run.mem.uva.uva = zeros (24, 1);
-  run.out.def = -ones (6, 6);
-  run = fresh (run);
-  call (run);
-  expect_equal (run.out.def(4:6, 2:6), [4; 5; 6] * ones (1, 5));
-  expect_equal (run.u(:, 2), [4; 5; 6]);
-  expect_equal (any (run.out.def(1:3, 2:6) == -1), false (1, 5));
+function test_rows_behind_the_modes_are_saved_as_they_are ()
+  % Where u has further columns the output may have rows for them, which no step changes: with forces of handles, and with none but the loads.
+  for handles = [2 0]
+    run = small_run ();
+    run.list = run.list(1:1 + handles);
+    run.u = [run.u, [4; 5; 6]];
+    run.v = [run.v, zeros(3, 1)];
+    run.a = [run.a, zeros(3, 1)];
+    run.mem.uva.uva = zeros (24, 1);
+    run.out.def = -ones (6, 6);
+    run = fresh (run);
+    call (run);
+    expect_equal (run.out.def(4:6, 2:6), [4; 5; 6] * ones (1, 5));
+    expect_equal (run.u(:, 2), [4; 5; 6]);
+    expect_equal (any (run.out.def(1:3, 2:6) == -1), false (1, 5));
+  end
 end
 
 function test_diagonal_forces_on_rows_behind_the_modes ()

@@ -34,7 +34,7 @@
 % Force laws
 %   law            - force law of a nonlinear element, by named parameters
 %   table          - table law from measured points: sorted, repeated ones averaged, smoothed on request
-%   describe       - a law, a handle or its value in words, with its numbers
+%   describe       - a law, a handle, a model, a set-up or a result in words, with its numbers
 %   element        - value of a nonlinear element handle (type 1003) from a law and observation rows
 %   force          - force of a law along a history of displacements, computed by the module
 %

@@ -1,13 +1,9 @@
 % HTML = OUTCOME (RES, O)  how the run ended, and how far each of the rows went
 function html = outcome (res, o)
-  last = res.sim.time(end);
-  if res.diverged
-    state = sprintf ('<p class="error">The motion grew beyond all numbers: the run ended at %.6g s of %.6g s.</p>', res.time_end, last);
-  elseif ~res.complete
-    state = sprintf ('<p class="error">Not complete: the run came to %.6g s of %.6g s.</p>', res.time_end, last);
-  else
-    state = sprintf ('<p>The run is complete: %.6g s in %.2g s of computing.</p>', last - res.sim.time(1), res.seconds);
-  end
+  [state, good] = qn.impl.words.outcome (res);
+  kind = '';
+  if ~good, kind = ' class="error"'; end
+  state = sprintf ('<p%s>%s</p>', kind, state);
   cells = cell (0, 5);
   x = o.rows * res.q;
   for k = 1:size (x, 1)

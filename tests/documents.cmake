@@ -8,7 +8,7 @@ foreach(file ${documents})
   add_test(NAME document.${name} COMMAND ${octave_document} ${CMAKE_SOURCE_DIR}/${file} $<TARGET_FILE_DIR:quarn>)
   set_tests_properties(document.${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${host_environment}" LABELS once)
 endforeach()
-set_tests_properties(document.tutorial PROPERTIES COST 20)
+set_tests_properties(document.tutorial document.rotors document.theory PROPERTIES COST 20)
 # What the README says its example prints is what it prints.
 set_tests_properties(document.README PROPERTIES
   PASS_REGULAR_EXPRESSION "The mass moves from -10.00 mm to 3.32 mm\n.*The mass moves from -10.00 mm to 3.32 mm\n.*2 examples, 0 failed")

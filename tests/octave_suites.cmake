@@ -39,7 +39,8 @@ set_tests_properties(octave.validation octave.demo_after_errors octave.toolbox_s
                      octave.toolbox_announced octave.toolbox_check_codes octave.toolbox_report_host octave.toolbox_run_up octave.toolbox_runs
                      PROPERTIES COST 30)
 set_tests_properties(octave.toolbox_arguments octave.toolbox_interrupted octave.toolbox_advice octave.toolbox_user_laws octave.toolbox_campbell
-                     octave.toolbox_saves octave.memory octave.recipes octave.laws_random PROPERTIES COST 20)
+                     octave.toolbox_saves octave.toolbox_laws octave.toolbox_physics octave.toolbox_report octave.toolbox_files_mangled
+                     octave.memory octave.recipes octave.leaving octave.laws_random PROPERTIES COST 20)
 set_tests_properties(octave.hostile_arguments octave.nl_hostile octave.law_user octave.gateway octave.newmark_factor octave.newmark_guards
                      octave.newmark_model octave.full_rows octave.registry PROPERTIES COST 10)
 # The long mixed run of scripts/soak, for some seconds.

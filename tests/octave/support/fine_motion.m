@@ -11,7 +11,8 @@ function x = fine_motion (cases, parts)
   act = zeros (n * many, 0);
   rows = zeros (0, n * many);
   blank = struct ('power', 0, 'exponent', 1, 'scale', 0, 'base', 1, 'maxwell', 0, 'rate', 0, 'dahl', 0, 'slip', 1, 'slides', 0, ...
-                  'contact', 0, 'ground', 0, 'hold', 0, 'part', 0, 'kind', 0, 'own', zeros (1, 7), 'step', 0, 'knots', [], 'forces', [], 'growth', []);
+                  'contact', 0, 'ground', 0, 'hold', 0, 'part', 0, 'kind', 0, 'own', zeros (1, 7), 'step', 0, 'knots', [], 'forces', [], 'growth', [], ...
+                  'grid', []);
   for k = 1:many
     s = cases(k);
     at = n * (k - 1) + (1:n);
@@ -38,6 +39,7 @@ function x = fine_motion (cases, parts)
             e.knots = l.displacement; e.forces = l.normal; e.growth = l.growth; e.slip = l.friction; e.hold = l.offset;
           case 'damper', e.kind = 1; e.own(1:2) = [l.damping, l.exponent];
           case 'contact', e.kind = 2; e.own(1:5) = [l.stiffness, l.exponent, l.damping, l.gap, l.side];
+          case 'surface', e.kind = 6; e.grid = l;
           case 'boucwen'
             e.kind = 3; e.power = l.ratio * l.stiffness; e.own(1:5) = [(1 - l.ratio) * l.stiffness, l.A, l.beta, l.gamma, l.exponent];
           case 'radial'
@@ -59,7 +61,7 @@ function x = fine_motion (cases, parts)
     c.(name{1}) = [elements.(name{1})].';
   end
   given_to = cat (1, elements.own);
-  of_rates = any (c.kind > 0);
+  of_rates = any (c.kind > 0 & c.kind < 6);
   tables = find (~cellfun (@isempty, {elements.knots})).';
   most = max ([2, cellfun(@numel, {elements(tables).knots})]);
   [knots, forces, growth] = deal (Inf (most, numel (tables)), zeros (most, numel (tables)), zeros (most, numel (tables)));
@@ -71,6 +73,9 @@ function x = fine_motion (cases, parts)
   end
   last = sum (isfinite (knots), 1);
   first = most * (0:numel (tables) - 1);
+  surfaces = find (c.kind == 6);
+  grids = [];
+  if ~isempty (surfaces), grids = together ([elements(surfaces).grid]); end
   sliders = find (c.slides > 0 & c.dahl > 0);
   sticks = find (c.contact > 0);
   % Of the three rows of a pad two rub; its third one presses.
@@ -149,6 +154,29 @@ function x = fine_motion (cases, parts)
       f = f + force;
       dz = dz + moved;
     end
+    if ~isempty (surfaces), f(surfaces) = of_grids (grids, [s(surfaces).', ds(surfaces).']); end
     a = push .* sin (about .* t) - stiff * u - damp * v - act * f;
   end
+end
+
+% Force surfaces with grids of N displacements and as many velocities side by side: knots of the displacements, then of the velocities.
+function g = together (grids)
+  knots = [grids.displacement, grids.velocity];
+  n = size (knots, 1);
+  columns = 0:size (knots, 2) - 1;
+  g = struct ('inner', knots(2:n - 1, :), 'knots', knots, 'lengths', [diff(knots); ones(1, numel (columns))], 'first', n * columns, 'n', n, ...
+              'pages', n ^ 2 * columns(1:numel (grids)), 'force', cat (3, grids.force));
+end
+
+% Their forces at Q, the displacements and then the velocities; the outer cells go on.
+function f = of_grids (g, q)
+  cell_of = 1 + sum (bsxfun (@le, g.inner, q), 1);
+  k = cell_of + g.first;
+  share = (q - g.knots(k)) ./ g.lengths(k);
+  many = numel (q) / 2;
+  [x, v] = deal (1:many, many + (1:many));
+  at = cell_of(x) + g.n * (cell_of(v) - 1) + g.pages;
+  slow = g.force(at) + share(x) .* (g.force(at + 1) - g.force(at));
+  fast = g.force(at + g.n) + share(x) .* (g.force(at + g.n + 1) - g.force(at + g.n));
+  f = (slow + share(v) .* (fast - slow)).';
 end

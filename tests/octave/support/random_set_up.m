@@ -3,8 +3,8 @@
 % CASE has M, K, C (4 x 4), laws (cell), rows (cell, a matrix each), push, force and about (a sine of that frequency), v0, step, steps. The
 % step keeps the phase of the highest mode to 2 % over the run, the elements may be too stiff for it or not. Laws: power, exponential, table
 % (gap, stop, bearing), Maxwell, Dahl and two Dahl branches under a normal force with exponents 0 and 1, stick-slip; with the KINDS 'rates'
-% those that look at velocities instead: damper, contact with losses, Bouc-Wen, ring with friction, oil film. Damping: none, modal,
-% Rayleigh, or dashpots and gyroscopic coupling. Draws from rand and randn.
+% those that look at velocities instead: damper, contact with losses, Bouc-Wen, ring with friction, oil film; with 'surfaces' force surfaces.
+% Damping: none, modal, Rayleigh, or dashpots and gyroscopic coupling. Draws from rand and randn.
 function [sim, case_of] = random_set_up (kinds)
   if nargin < 1, kinds = ''; end
   n = 4;
@@ -45,7 +45,8 @@ function [sim, case_of] = random_set_up (kinds)
   for j = 1:size (list, 1)
     kind = floor (10 * rand ());
     if strcmp (kinds, 'rates'), kind = 10 + floor (5 * rand ()); end
-    rows{j} = zeros (1 + 2 * (kind == 9) + (kind > 12), n);
+    if strcmp (kinds, 'surfaces'), kind = 15; end
+    rows{j} = zeros (1 + 2 * (kind == 9) + (kind == 13 || kind == 14), n);
     for i = 1:size (rows{j}, 1)
       rows{j}(i, 1 + floor (n * rand ())) = 1;
       if rand () < 0.3, rows{j}(i, 1 + floor (n * rand ())) = -1; end
@@ -133,5 +134,18 @@ function law = law_of_rates (kind, reach, fast, mass, step, w)
       radius = 500 * clearance;
       law = qn.journal ('viscosity', damping / (radius * 250 ^ 3), 'length', radius / 2, 'radius', radius, 'clearance', clearance, ...
                         'speed', 3 * w * randn () * (rand () < 0.7), 'limit', 0.9);
+    case 15
+      law = a_surface (reach, fast, stiff, damping);
   end
+end
+
+% A spring that gets stiffer and a damper that gives way at speed and is stronger on one side, known at 6 displacements and 6 velocities, which
+% the motion may leave.
+function law = a_surface (reach, fast, stiff, damping)
+  x = reach * [-1.5; -1; -0.4; 0.3; 0.8; 1.4] .* (0.9 + 0.2 * rand (6, 1));
+  v = fast * [-1; -0.5; -0.1; 0.1; 0.6; 1.1] .* (0.9 + 0.2 * rand (6, 1));
+  [at, rate] = ndgrid (x, v);
+  spring = stiff * at .* (1 + rand () * (at / reach) .^ 2) / (1 + rand ());
+  dashpot = damping * rate ./ (1 + rand () * abs (rate) / fast) .* (1 + 0.5 * rand () * tanh (at / reach));
+  law = qn.law ('surface', 'displacement', x, 'velocity', v, 'force', spring + dashpot);
 end

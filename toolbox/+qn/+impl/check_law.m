@@ -46,7 +46,8 @@ function found = check_law (sim, k, x, motion, state, f, record)
   share = h * viscous * mobility / 2;
   if ratio < 2 && (ratio / 2) ^ 2 + share >= 1
     [level, what] = deal ('error', 'the motion grows without bound');
-    if h * qn.impl.viscous (e.law, [], []) * mobility < 2
+    [~, least] = qn.impl.at_least (e.law, [], []);
+    if h * least * mobility < 2
       [level, what] = deal ('warning', 'a step takes away the whole velocity or throws it back');
     end
     say ('damper_unstable', level, 'its damping is too strong for the step of %g s: with %g N s/m on %g kg %s; take at most %.2g s', h, ...

@@ -15,6 +15,8 @@
 %   softest     K = softest (P): least size of the stiffness, wherever it is and whatever was before [N/m]
 %   viscous     C = viscous (P, X, F): greatest slope of its force over the velocity, among the displacements X and forces F of a result
 %               where they are known ([]: not); its stability is that of a damper with this constant [N s/m]
+%   at_least    [K, C] = at_least (P, X): of a law whose stiffness depends on the velocity, the least sizes of it and of the slope of the
+%               force over the velocity, at the displacement X or anywhere ([]), whatever the velocity
 %   traits      T = traits (P): what it needs otherwise than a law without memory, fields of qn.impl.traits
 %   stored      V = stored (P, X, F, STATE, H): energy in it along a history, up to a constant (qn.impl.stored) [J]
 %   reserve     V = reserve (P, X, STATE): energy that it can give back from the displacements X and its memory STATE, at most; Inf
@@ -29,9 +31,9 @@
 %   again       again (P): refuses parameters from a file that no longer mean the same law
 %   unsaved     why no file can hold the law, a text with what to do instead
 %
-% Those from "softest" on may be [], or be left out: no stiffness everywhere, no force of the velocity, no needs of its own, nothing stored,
-% no bound, nothing to check, no bend, no such displacement, no force at rest without its past, nothing to prepare, always the same law, a law
-% that a file can hold. The list is made once a session: "clear all" after a change to a law.
+% Those from "softest" on may be [], or be left out: no stiffness everywhere, no force of the velocity, no stiffness that depends on it, no
+% needs of its own, nothing stored, no bound, nothing to check, no bend, no such displacement, no force at rest without its past, nothing to
+% prepare, always the same law, a law that a file can hold. The list is made once a session: "clear all" after a change to a law.
 function list = law_list ()
   persistent made
   if isempty (made)
@@ -47,8 +49,8 @@ end
 
 % All fields, in one order.
 function l = whole (given)
-  names = {'kind', 'keyword', 'parameters', 'pack', 'unpack', 'words', 'stiffest', 'softest', 'viscous', 'traits', 'stored', 'reserve', ...
-           'check', 'reach', 'at_force', 'at_rest', 'extra', 'prepare', 'again', 'unsaved'};
+  names = {'kind', 'keyword', 'parameters', 'pack', 'unpack', 'words', 'stiffest', 'softest', 'viscous', 'at_least', 'traits', 'stored', ...
+           'reserve', 'check', 'reach', 'at_force', 'at_rest', 'extra', 'prepare', 'again', 'unsaved'};
   l = cell2struct (cell (numel (names), 1), names.', 1);
   for name = fieldnames (given).', l.(name{1}) = given.(name{1}); end
 end

@@ -11,5 +11,5 @@ function yes = stiff_for_long (law, x, state, k)
           qn.impl.stiff_for_long (law, x(:, half:n), state(:, half:n), k);
     return
   end
-  for j = 1:3, yes = yes && qn.impl.stiffest (law, x(:, j), state(:, j)) >= k; end
+  for j = 1:3, yes = yes && qn.impl.at_least (law, x(:, j), state(:, j)) >= k; end
 end

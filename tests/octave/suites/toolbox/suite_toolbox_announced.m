@@ -1,6 +1,7 @@
 % Random structures with elements of all laws but those of users against a fine integration of the same equations in plain Octave: no wrong
 % result without a word, and no error announced where the result is right. Short by default; QUARN_FULL=1 tries 300 set-ups, 100 with laws
-% that look at velocities (and 1,000 linear structures), QUARN_RANGE=101:200 those set-ups alone: each is drawn from a seed of its own.
+% that look at velocities, 100 with force surfaces (and 1,000 linear structures), QUARN_RANGE=101:200 those set-ups alone: each is drawn
+% from a seed of its own.
 function tests = suite_toolbox_announced ()
   use_toolbox ();
   tests = localfunctions ();
@@ -32,13 +33,16 @@ function [off, announced, errors] = outcome (sim, exact)
   if res.complete, off = max (max (abs (sim.model.shapes * res.q - exact))) / max (max (abs (exact))); end
 end
 
-% Set-ups of all laws, and of those that look at velocities; the plain integration takes all of them side by side.
+% Set-ups of all laws, of those that look at velocities, and of surfaces; the plain integration takes all of them side by side.
 function test_no_error_above_5_percent_goes_unannounced ()
   before = warning ('off', 'qn:diverged');
   back = onCleanup (@() warning (before));
-  which = [chosen(24, 300), chosen(24, 100)];
+  which = chosen (24, 300);
   kinds = repmat ({''}, size (which));
-  kinds(numel (chosen (24, 300)) + 1:end) = {'rates'};
+  for kind = {'rates', 'surfaces'}
+    which = [which, chosen(24, 100)];
+    kinds(end + 1:numel (which)) = kind;
+  end
   for k = 1:numel (which)
     rand ('twister', which(k));
     randn ('twister', which(k));

@@ -142,6 +142,27 @@ function test_the_limit_of_the_step_is_that_of_its_greatest_slopes ()
   expect_equal (any (strncmp ({found.code}, 'element_unstable', 16)), true);
 end
 
+% An error says that the motion grows: that is sure where no velocity is calmer.
+function test_an_error_is_announced_only_where_every_slope_is_too_great ()
+  steep = @(least) qn.law ('surface', 'displacement', [-1 1], 'velocity', [-2 0 2], 'force', [-2*least 0 5e4; -2*least 0 5e4]);
+  expect_equal (level_of (qn.check (swing ({steep(2.1e4)})), 'damper_unstable'), 'error');
+  expect_equal (level_of (qn.check (swing ({steep(1.9e4)})), 'damper_unstable'), 'warning');
+  % Stiff at all velocities or at one of them: 2.1e-3 s bear 9e5 N/m on 1 kg.
+  law = @(k) qn.law ('surface', 'displacement', [-1 1], 'velocity', [-2 0 2], 'force', [-k -1e6 -1e6; k 1e6 1e6]);
+  expect_equal (level_of (qn.check (swing ({law(9.5e5)}, 'step', 2.1e-3)), 'element_unstable'), 'error');
+  sim = swing ({law(8.5e5)}, 'step', 2.1e-3);
+  expect_equal (level_of (qn.check (sim), 'element_unstable'), 'warning');
+  expect_equal (qn.impl.at_least (law (8.5e5), [0.5; -3], []), 8.5e5, 1e-9);
+  bent = sampled (@(x, v) 10 * max (x, 0) + 3 * x .* v, [-1 0 1], [-2 2]);
+  expect_equal (qn.impl.at_least (bent, [], []), 0);
+  expect_equal (qn.impl.at_least (bent, 0.5, []), 4, 1e-12);
+  expect_equal (qn.impl.at_least (bent, [0.5; -3], []), 4, 1e-12);
+end
+
+function level = level_of (found, code)
+  level = found(strcmp ({found.code}, code)).level;
+end
+
 % The module notes it at every step, kept or not.
 function test_a_run_says_by_how_much_it_left_the_grid ()
   law = sampled (@(x, v) 10 * x + v, [-1 1], [-0.5 0.5]);

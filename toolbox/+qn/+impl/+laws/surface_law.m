@@ -6,8 +6,8 @@ function l = surface_law ()
                 'velocity', '<required>', 'knots'
                 'force', '<required>', 'grid'};
   l = struct ('kind', 'surface', 'keyword', 'Surface', 'parameters', {parameters}, 'pack', @pack, 'unpack', @unpack, 'words', @words, ...
-              'stiffest', @stiffest, 'softest', @softest, 'viscous', @viscous, 'traits', @traits, 'stored', @stored, ...
-              'reserve', @reserve, 'check', @check, 'reach', @reach, 'prepare', @prepare);
+              'stiffest', @stiffest, 'softest', @(p) at_least (p, []), 'viscous', @viscous, 'at_least', @at_least, ...
+              'traits', @traits, 'stored', @stored, 'reserve', @reserve, 'check', @check, 'reach', @reach, 'prepare', @prepare);
 end
 
 function p = prepare (who, p)
@@ -52,10 +52,20 @@ function k = stiffest (p, x, state)
   k = max (arrayfun (@(t) l.stiffest (t, x, state), at_velocities (p, [p.velocity; 0])));
 end
 
-function k = softest (p)
+% In the cells of the grid, at the one of the displacements X where it is stiffest.
+function [k, c] = at_least (p, x)
   slope = bsxfun (@rdivide, diff (p.force, 1, 1), diff (p.displacement));
-  k = min (abs (slope(:)));
-  if any (slope(:) < 0) && any (slope(:) > 0), k = 0; end
+  if isempty (x)
+    k = least_size (slope);
+  else
+    k = max (arrayfun (@(x) least_size (slope(max (1, sum (p.displacement(1:end - 1) <= x)), :)), x(:)));
+  end
+  c = least_size (bsxfun (@rdivide, diff (p.force, 1, 2), diff (p.velocity).'));
+end
+
+function least = least_size (x)
+  least = min (abs (x(:)));
+  if any (x(:) < 0) && any (x(:) > 0), least = 0; end
 end
 
 % The slopes over the velocity at knots and ends of the displacements.

@@ -3,7 +3,8 @@
 % Purpose
 %   A dashpot, F = C |v|^A against the motion. A = 1 is the linear one, A = 2 drag and flow through an orifice, A from 0.2 to 1 that of
 %   fluid dampers in buildings. A model's own linear damping ('damping', 'C' of qn.modal) is integrated implicitly, this one is not: the
-%   step must keep h C / m small (qn.check says so; docs/theory.md).
+%   step must keep h C / m small (qn.check says so; docs/theory.md). With A below 1 its force changes its sign in each step near rest, below
+%   (h C / (2 m)) ^ (1/(1-A)) with the mass m that it meets: qn.check names that speed (damper_chatter in docs/checks.md).
 %
 % Calls
 %   LAW = qn.damper ('damping', C, ...)

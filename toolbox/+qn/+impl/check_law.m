@@ -20,7 +20,8 @@ function found = check_law (sim, k, x, motion, state, f, record)
     say ('element_one_way', 'warning', ['its two rows observe the same direction, each a multiple of the other: x and y of a shaft are ' ...
                                         'meant. Numbers of degrees of freedom, or modes that move one way only?']);
   end
-  mobility = max (abs (diag (qn.impl.mobility (sim, e.observe, e.command))));
+  mobilities = diag (qn.impl.mobility (sim, e.observe, e.command));
+  mobility = max (abs (mobilities));
   can = max (abs (e.observe) * motion);
   kink = qn.impl.reach (e.law);
   within = x;
@@ -57,6 +58,8 @@ function found = check_law (sim, k, x, motion, state, f, record)
                                       'strong; take %.2g s or less, or give linear damping to the model'], 1 / mobility, ...
                                      0.5 / share, viscous, 100 * share, h * 0.05 / share);
   end
+  [level, text] = qn.impl.chatter (sim, e, max (mobilities), motion, x);
+  if ~isempty (level), say ('damper_chatter', level, '%s', text); end
   l = qn.impl.law_of (e.law.kind);
   if ~isempty (l.check)
     t = qn.impl.traits (e.law, size (e.observe, 1));

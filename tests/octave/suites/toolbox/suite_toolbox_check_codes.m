@@ -151,6 +151,10 @@ function c = all_cases ()
        'damper_unstable', 'warning', {with(qn.damper ('damping', 2.1e4, 'exponent', 2), 'v0', 1), true}, ...
                                      {with(qn.damper ('damping', 0.9e4, 'exponent', 2), 'v0', 1), true}
        'damper_coarse', 'warning', {with(qn.damper ('damping', 2.1e3))}, {with(qn.damper ('damping', 1.9e3))}
+       'damper_chatter', 'note', {with(qn.damper ('damping', 1e3, 'exponent', 0.5))}, {with(qn.damper ('damping', 1e3))}
+       'damper_chatter', 'warning', {with(qn.damper ('damping', 2.1e4, 'exponent', 0.5))}, {with(qn.damper ('damping', 2.1e4, 'exponent', 1.5))}
+       'damper_chatter', 'warning', {with(qn.damper ('damping', 3e3, 'exponent', 0.5)), true}, ...
+                                    {with(qn.damper ('damping', 3e3, 'exponent', 1.5)), true}
        'damper_feeds', 'warning', {with(qn.law ('damper', 'damping', -1))}, {with(qn.law ('damper', 'damping', 1))}
        'film_left', 'error', {on_film(5000), true}, {on_film(300), true}
        'film_left', 'warning', {on_film(790, 'every', 10), true}, {on_film(700, 'every', 10), true}

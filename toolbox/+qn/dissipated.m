@@ -19,7 +19,9 @@
 %                       force^2 / (2 stiffness); of Maxwell elements that of their springs; of 'radial' that of the contact
 %                       without its damping; of 'journal' 0, of 'clima2' not known, 0
 %           exchanged   1 x k work taken by forces that act elsewhere than the element observes: rows "B" that are not a multiple of "C".
-%                       They have no potential: this depends on the path, and negative is energy that they put in [J]
+%                       They have no potential: this depends on the path, and negative is energy that they put in [J]. Of a law whose rows
+%                       belong together ('radial', 'journal', 'clima2', several rows of a law of your own) all its work, unless "B" as a
+%                       whole is one multiple of "C"
 %           dissipated  1 x k, absorbed less stored and exchanged [J]
 %
 % Errors
@@ -48,11 +50,12 @@ function d = dissipated (res)
     absorbed = [zeros(size (f, 1), 1), cumsum((f(:, 1:end - 1) + f(:, 2:end)) / 2 .* diff (y, 1, 2), 2)];
     state = [];
     if e.state > 0, state = res.state(e.state - m, :); end
-    share = along (e.observe, e.command);
+    t = qn.impl.traits (e.law, size (x, 1));
+    whole = t.memory || t.rows > 1;
+    share = along (e.observe, e.command, whole);
     exchanged = sum (absorbed(isnan (share), :), 1);
     stored = zeros (size (res.time));
-    t = qn.impl.traits (e.law, size (x, 1));
-    if t.memory || t.rows > 1
+    if whole
       if ~isnan (share(1)), stored = share(1) * qn.impl.stored (e.law, x, f, state, sim.step); end
     else
       for k = find (~isnan (share))
@@ -86,12 +89,17 @@ function d = dissipated (res)
   clear d
 end
 
-% Row by row: B = SHARE C, NaN where B points elsewhere. Such a row's force has the potential of its law times SHARE.
-function share = along (c, b)
+% Row by row: B = SHARE C, NaN where B points elsewhere. Such a row's force has the potential of its law times SHARE. The forces of rows that
+% belong together (WHOLE) have one potential: one share for all, or none.
+function share = along (c, b, whole)
   share = nan (1, size (c, 1));
   for k = 1:size (c, 1)
     square = c(k, :) * c(k, :).';
     s = (b(k, :) * c(k, :).') / max (square, realmin ());
     if norm (b(k, :) - s * c(k, :)) <= 1e-9 * norm (b(k, :)), share(k) = s; end
   end
+  used = share(any ([c, b], 2));
+  if ~whole || isempty (used), return, end
+  share(:) = used(1);
+  if ~all (abs (used - used(1)) <= 1e-9 * abs (used(1))), share(:) = NaN; end
 end

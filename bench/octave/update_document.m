@@ -1,7 +1,7 @@
 % Puts the tables of a run into a document: octave-cli -qf update_document.m OUT_DIR DOCUMENT.md
 %
-% The document says where: a line <!-- bench: GROUP / VARIANT -->, the table, a line <!-- end -->. A group alone is a table of parts;
-% "machine" says what machine it was.
+% The document says where: a line <!-- bench: GROUP / VARIANT -->, the table, a line <!-- end -->. A * has a row for each variant, a group alone
+% is a table of parts; "machine" says what machine it was.
 args = argv ();
 addpath (fileparts (mfilename ('fullpath')));
 run_of = jsondecode (fileread (fullfile (args{1}, 'results.json')));

@@ -1,6 +1,6 @@
-% SLOWER = COMPARE_VERSIONS (FOLDER)  prints the times of quarn's kernels in FOLDER/now.*.json and FOLDER/before.*.json side by side: the shortest of
+% SLOWER = COMPARE_COMMITS (FOLDER)  prints the times of quarn's kernels in FOLDER/now.*.json and FOLDER/before.*.json side by side: the shortest of
 % all rounds, and what the one is of the other. SLOWER kernels take more than 1.15 times as long as before. What only one of them has is left out.
-function slower = compare_versions (folder)
+function slower = compare_commits (folder)
   now = shortest (fullfile (folder, 'now.'));
   before = shortest (fullfile (folder, 'before.'));
   names = intersect (keys (now), keys (before));

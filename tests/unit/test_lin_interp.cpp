@@ -29,6 +29,14 @@ TEST(LinInterp, QueryOnAJumpGetsTheMeanWhateverTheStart) {
   }
 }
 
+TEST(LinInterp, QueryOnAJumpAtTheFirstKnotsGetsTheMeanWhateverTheStart) {
+  const double first[] = {1, 1, 2, 20, 30, 40};
+  for (int start = -2; start < 8; ++start) {
+    double rec[3] = {static_cast<double>(start), 0, 0};
+    EXPECT_EQ(value(first, 3, 1.0, rec), 25.0) << start;
+  }
+}
+
 TEST(LinInterp, QueryAboveTheLastKnotExtrapolatesAndLeavesTheRecordBehindTheLastSegment) {
   double rec[3] = {};
   EXPECT_EQ(value(jump, 4, 3.0, rec), 50.0);

@@ -2,7 +2,8 @@
 %
 % A vector of distinct whole numbers from 1 to n is a list of degrees of freedom. Where it could as well be a row of modal values,
 % and one a different one, it is refused: a wrong guess would give a wrong curve without a word. What is sparse is never a list.
-% With a single degree of freedom 1 is its number.
+% With a single degree of freedom 1 is its number. With one mode any number could be a row: one that no degree of freedom has is taken
+% for a row where it is a whole multiple of what one has, as qn.observe gives them.
 % WHERE begins the texts of errors ('qn.displacement: '), NAME is the argument ('C').
 function rows = observation_rows (model, c, where, name)
   if nargin < 4, name = 'C'; end
@@ -17,10 +18,11 @@ function rows = observation_rows (model, c, where, name)
       error ('qn:input', ['%sthese look like numbers of degrees of freedom; write qn.observe (model, %s). If they are modal values, ' ...
                           'give sparse (%s)'], where, mat2str (c), mat2str (c));
     end
-  elseif size (c, 2) ~= m
+  elseif size (c, 2) ~= m || (listed && m == 1 && no_multiple (c, model.shapes))
     bad = find (c < 1 | c > n, 1);
     if listed && ~isempty (bad)
-      error ('qn:input', '%s"%s"(%d) is %g; degrees of freedom are numbered from 1 to %d', where, name, bad, c(bad), n);
+      error ('qn:input', '%s"%s"(%d) is %g; degrees of freedom are numbered from 1 to %d%s', where, name, bad, c(bad), n, ...
+             repmat ('. If it is a modal value, give it sparse', 1, m == 1));
     elseif listed
       error ('qn:input', '%s"%s" names a degree of freedom twice: %s; write qn.observe (model, %s) where that is meant', where, name, ...
              mat2str (c), mat2str (c));
@@ -30,4 +32,10 @@ function rows = observation_rows (model, c, where, name)
     error ('qn:input', ['%s"%s" must be observation rows of %d modal values, or the numbers of degrees of freedom, got %d x %d; see ' ...
                         'qn.observe%s'], where, name, m, size (c), turned);
   end
+end
+
+% Whether one of the numbers is no whole multiple of any value of a single mode.
+function yes = no_multiple (c, shapes)
+  times = bsxfun (@rdivide, c(:), shapes(shapes ~= 0).');
+  yes = any (c(:) ~= 0 & all (abs (times - round (times)) > 1e-9 * abs (times), 2));
 end

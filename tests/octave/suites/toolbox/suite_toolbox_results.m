@@ -68,6 +68,21 @@ function test_displacements_come_from_rows_or_from_one_number ()
   expect_error (@() qn.displacement (res, [1 2 3]), 'qn:input', '~"C"\(3\) is 3; degrees of freedom are numbered from 1 to 2');
 end
 
+function test_a_degree_of_freedom_that_a_model_of_one_mode_has_not_is_no_row ()
+  % With one mode any number could be a row: 2.8 times the displacement was observed without a word.
+  model = qn.modal (5e3, 2);
+  expect_error (@() qn.impl.observation_rows (model, 2, 'here: '), 'qn:input', ...
+                'here: "C"(1) is 2; degrees of freedom are numbered from 1 to 1. If it is a modal value, give it sparse');
+  expect_error (@() qn.impl.observation_rows (model, -1, 'here: '), 'qn:input', '~"C"\(1\) is -1');
+  expect_equal (qn.impl.observation_rows (model, sparse (2), 'here: '), 2);
+  expect_equal (qn.impl.observation_rows (model, 1, 'here: '), qn.observe (model, 1));
+  heavy = qn.modal (5e3, 0.25);
+  expect_equal (qn.impl.observation_rows (heavy, qn.observe (heavy, 1, 3), 'here: '), 6);
+  expect_equal (qn.impl.observation_rows (heavy, 0, 'here: '), 0);
+  two = qn.modal (5e3 * [2 -1; -1 1], 2 * eye (2), 'modes', 1);
+  expect_error (@() qn.impl.observation_rows (two, 3, 'here: '), 'qn:input', '~"C"\(1\) is 3; degrees of freedom are numbered from 1 to 2');
+end
+
 function test_contacts_are_listed_with_their_impulse ()
   t = 0:1e-4:1;
   c = qn.contacts (t, 50 * sin (20 * t));

@@ -16,7 +16,7 @@ using Four [[gnu::vector_size(4 * sizeof(double))]] = double;
 using Two [[gnu::vector_size(2 * sizeof(double))]] = double;
 
 template <class Vector>
-constexpr int lanes = sizeof(Vector) / sizeof(double);
+constexpr std::ptrdiff_t lanes = sizeof(Vector) / sizeof(double);
 
 /// The arrays of some modes. Load columns are ld values apart; k and c are null where no such force acts.
 struct Modes {
@@ -32,6 +32,8 @@ struct Modes {
 
 template <class Vector>
 [[gnu::always_inline]] inline void load(Vector& to, const double* from) {
+  // The analyser takes the arrays of forces that a kernel has for null.
+  // NOLINTNEXTLINE(clang-analyzer-core.NonNullParamChecker)
   std::memcpy(&to, from, sizeof to);
 }
 
@@ -40,7 +42,7 @@ template <class Vector>
 template <class Vector, int Vectors, With with>
 [[gnu::always_inline]] inline void stepTogether(const Modes& m, const StepsOfModes& steps, double beta, const NewmarkCoefficients& in,
                                                 std::ptrdiff_t first, int rows) {
-  constexpr int wide = lanes<Vector>;
+  constexpr std::ptrdiff_t wide = lanes<Vector>;
   const NewmarkCoefficients x = in;
   Vector u[Vectors];
   Vector v[Vectors];
@@ -104,7 +106,7 @@ template <class Vector, int Vectors, With with>
 template <class Vector, With with>
 [[gnu::always_inline]] inline void stepFew(const Modes& m, int n, const StepsOfModes& steps, double beta, const NewmarkCoefficients& in,
                                            std::ptrdiff_t first) {
-  constexpr int wide = lanes<Vector>;
+  constexpr std::ptrdiff_t wide = lanes<Vector>;
   double part[7][wide] = {};
   const double* const from[] = {m.u, m.v, m.a, m.gain, m.k, m.c};
   for (int i = 0; i < 6; ++i) {
@@ -131,7 +133,7 @@ template <class Vector, With with>
 template <class Vector, With with>
 [[gnu::always_inline]] inline void allModes(const Modes& m, int n, const StepsOfModes& steps, double beta, const NewmarkCoefficients& in) {
   constexpr int together = 4;
-  constexpr int wide = lanes<Vector>;
+  constexpr std::ptrdiff_t wide = lanes<Vector>;
   const auto from = [&m](int i) {
     return Modes{m.u + i, m.v + i, m.a + i, m.r + i, m.ld, m.gain + i, m.k ? m.k + i : nullptr, m.c ? m.c + i : nullptr};
   };

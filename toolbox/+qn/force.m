@@ -10,12 +10,13 @@
 %
 % Input
 %   LAW   from qn.law or a recipe; the forces of a bank add up
-%   X     row of displacements [m]; for 'radial' and 'journal' two rows, for 'clima2' three
+%   X     displacements [m], in a row; for 'radial' and 'journal' two rows, for 'clima2' three. Laws of one displacement without memory
+%         take a matrix, such as one from ndgrid, value by value
 %   V     velocities, size of X [m/s]; laws that depend on them and laws with memory need them, and the latter also
 %   H     the time step between two columns [s]
 %
 % Output
-%   F     forces [N], as many rows as X. Laws with memory start without force or displacement.
+%   F     forces [N], size of X. Laws with memory start without force or displacement.
 %
 % Errors
 %   qn:input  V or H is missing or has another size, or a value is not finite

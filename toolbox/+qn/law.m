@@ -117,11 +117,11 @@ function x = checked (who, name, x, sort_of)
         error ('qn:input', '%s: "%s" must be a function handle, such as @(x, v, s, t) 1e9 * x ^ 3, got class %s', who, name, class (x));
       end
     case 'knots'
-      x = reshape (qn.impl.numbers (who, name, x, [], 'list', 'ascending'), [], 1);
+      x = reshape (qn.impl.numbers (who, name, x, [], 'list'), [], 1);
       if numel (x) < 2, error ('qn:input', '%s: "%s" must be 2 values or more, got 1', who, name); end
       finite_distances (who, name, x);
     case 'grid'
-      x = qn.impl.numbers (who, name, x, [NaN NaN]);
+      % Looked at by "prepare" of the law, which knows its size.
     case 'whole'
       x = qn.impl.numbers (who, name, x, [1 1], 'from', 0, 'to', 2000, 'whole');  % the observation of an element is a full matrix
     case 'count'

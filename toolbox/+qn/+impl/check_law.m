@@ -68,6 +68,8 @@ function found = check_law (sim, k, x, motion, state, f, record)
     for j = 1:size (own, 1), say (own{j, 1}, own{j, 2}, '%s', own{j, 3}); end
   end
 
+  use = qn.impl.grid_use (sim, e, x, record);
+  for j = 1:size (use, 1), say (use{j, 1}, use{j, 2}, '%s', use{j, 3}); end
   beside ();
   if qn.impl.runs_up (sim) && spins (e.law.parameters)
     say ('law_speed', 'warning', ['its shaft turns at %g rad/s all the time, and the rotor runs from %g to %g rad/s: the law keeps the ' ...

@@ -4,8 +4,8 @@
 %   keyword     word by which the module knows it
 %   parameters  rows {name, default, sort}; a default of '<required>' has to be given. Sort is 'number', 'positive' (a number above 0),
 %               'not negative' (from 0), 'fraction' (between 0 and 1), 'sign' (1 or -1), 'list', 'ascending list' or 'positive list'; the
-%               lists of a law have one length. 'knots' (two or more that ascend without doubles, any number of them) span a 'grid' (a
-%               matrix). For laws of the user's also 'free list' (of any length), 'count' (from 1),
+%               lists of a law have one length. 'knots' (two or more, any number of them) span a 'grid' (a matrix); "prepare"
+%               looks at both. For laws of the user's also 'free list' (of any length), 'count' (from 1),
 %               'whole' (from 0), 'text', and, in front, 'file' or 'function', whose name may be left out
 %   pack        [OPT, OWN] = pack (P, STEP): "opt" with the keyword's code in front, and what follows the five common values of "iopt"
 %   unpack      P = unpack (OPT, IOPT): the parameters again; [] where qn.law cannot give such an element

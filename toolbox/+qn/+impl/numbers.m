@@ -100,7 +100,9 @@ function fit (who, name, x, shape, one, r)
   if ~isempty (r.each), wanted = [wanted ', ' r.each]; end
   turned = '';
   if numel (shape) == 2 && ~isempty (x) && numel (got) == 2 && matches (got([2 1])) && as_table (x, shape)
-    turned = '. It looks transposed: give X.'' instead of X';
+    what = 'X';
+    if isvarname (name), what = name; end
+    turned = sprintf ('. It looks transposed: give %s.'' instead of %s', what, what);
   end
   error ('qn:input', '%s: "%s" must be %s, got %s%s', who, name, wanted, sized (x), turned);
 end

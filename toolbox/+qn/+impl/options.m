@@ -6,13 +6,15 @@ function o = options (who, defaults, args)
   o = defaults;
   names = fieldnames (defaults);
   if mod (numel (args), 2) ~= 0
-    error ('qn:input', '%s: names and values expected in pairs, got %d arguments', who, numel (args));
+    error ('qn:input', '%s: names and values expected in pairs, got %d arguments; the names are %s', who, numel (args), ...
+           strjoin (names.', ', '));
   end
   given = false (size (names));
   if any (cellfun ('isclass', args, 'string')), args = cellfun (@qn.impl.chars, args, 'UniformOutput', false); end
   for k = 1:2:numel (args)
     if ~ischar (args{k})
-      error ('qn:input', '%s: the name of a parameter expected, got an array of class %s', who, class (args{k}));
+      error ('qn:input', '%s: the name of a parameter expected, got an array of class %s; there are %s', who, class (args{k}), ...
+             strjoin (names.', ', '));
     end
     known = strcmpi (args{k}, names);
     if ~any (known)

@@ -132,6 +132,9 @@ function c = all_cases ()
        'table_left', 'note', {with(plane (1, 0.9)), true}, {with(plane (1, 1.1)), true}
        'table_left', 'warning', {with(plane (1, 0.5), 'every', 50), true}, {with(plane (1, 1.1), 'every', 50), true}
        'surface_unused', 'warning', {with(plane (0.51, 2)), true}, {with(plane (0.49, 2)), true}
+       'surface_unused', 'warning', {with(plane (5e-3, 104)), true}, {with(plane (5e-3, 96)), true}
+       'surface_unused', 'note', {with(plane (0.51, 102)), true}, {with(plane (0.49, 98)), true}
+       'table_left', 'warning', {with(plane (1, 0.8))}, {with(plane (1, 1.1))}
        'surface_one_way', 'warning', {with(surface ([0 2], [0 1; 1 2]))}, {with(surface ([-1e-3 2], [0 1; 1 2]))}
        'surface_one_way', 'warning', {with(surface ([-2 0], [0 1; 1 2]))}, {with(surface ([-2 1e-3], [0 1; 1 2]))}
        'damper_feeds', 'warning', {with(surface ([-1 2], [0 -1; 1 0]))}, {with(surface ([-1 2], [0 1; 1 2]))}

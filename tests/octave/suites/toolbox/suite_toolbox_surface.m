@@ -58,19 +58,31 @@ end
 function test_surfaces_that_are_none_are_refused_in_words ()
   made = @(x, v, f) qn.law ('surface', 'displacement', x, 'velocity', v, 'force', f);
   who = 'qn.law, ''surface'': ';
-  expect_error (@() made ([0 1 1], [0 1], zeros (3, 2)), 'qn:input', [who '"displacement" must ascend: value 2 is 1, value 3 is 1']);
-  expect_error (@() made ([0 1], [3 2], zeros (2)), 'qn:input', [who '"velocity" must ascend: value 1 is 3, value 2 is 2']);
+  expect_error (@() made ([0 1 1], [0 1], zeros (3, 2)), 'qn:input', ...
+                [who '"displacement" must ascend: value 2 is 1, value 3 is 1; sort it, and the rows of "force" with it, and merge equal values']);
+  expect_error (@() made ([0 1], [3 2], zeros (2)), 'qn:input', ...
+                [who '"velocity" must ascend: value 1 is 3, value 2 is 2; sort it, and the columns of "force" with it, and merge equal values']);
   expect_error (@() made (1, [0 1], [1 2]), 'qn:input', [who '"displacement" must be 2 values or more, got 1']);
   expect_error (@() made ([0 1], 5, [1; 2]), 'qn:input', [who '"velocity" must be 2 values or more, got 1']);
-  text = [who '"force" must be 3 x 2 numbers, a row for each displacement and a column for each velocity, got %s'];
+  text = [who '"force" must be 3 x 2 numbers, numel (displacement) x numel (velocity), a row for each displacement and a column for each ' ...
+          'velocity, got %s'];
   expect_error (@() made ([0 1 2], [0 1], zeros (3)), 'qn:input', sprintf (text, '3 x 3'));
-  expect_error (@() made ([0 1 2], [0 1], zeros (2, 3)), 'qn:input', sprintf (text, '2 x 3. It looks transposed: give X.'' instead of X'));
+  expect_error (@() made ([0 1 2], [0 1], zeros (2, 3)), 'qn:input', sprintf (text, '2 x 3. It looks transposed: give force.'' instead of force'));
   expect_error (@() made ([0 1 2], [0 1], zeros (6, 1)), 'qn:input', sprintf (text, '6 x 1'));
-  expect_error (@() made ([0 1], [0 1], [1 2; NaN 4]), 'qn:input', [who '"force"(2, 1) is NaN; finite numbers expected']);
+  expect_error (@() made ([0 1 2], [0 1], zeros (3, 2, 2)), 'qn:input', sprintf (text, '3 x 2 x 2'));
+  expect_error (@() made ([0 1 2], [0 1], true (3, 2)), 'qn:input', '~"force" must be numbers, got 3 x 2 of class logical');
+  expect_error (@() made ([0 1], [0 1], [1 2; Inf 4]), 'qn:input', [who '"force"(2, 1) is Inf; finite numbers expected']);
+  expect_error (@() made ([0 0.5], [-3 1], [1 2; NaN NaN]), 'qn:input', ...
+                [who '"force" has 2 NaN among its 4 values, the first at (2, 1), 0.5 m and -3 m/s. griddata leaves points empty that lie ' ...
+                 'outside of the measured ones: cut the grid to what was measured, or fill them']);
   expect_error (@() made ([0 Inf], [0 1], zeros (2)), 'qn:input', [who '"displacement"(2) is Inf; finite numbers expected']);
   expect_error (@() made ([0 1], [-1e308 1e308], zeros (2)), 'qn:input', ...
                 [who '"velocity" goes from -1e+308 to 1e+308 between value 1 and value 2: the distance is beyond all numbers']);
   expect_error (@() qn.law ('surface', 'displacement', [0 1], 'force', [0 1]), 'qn:input', '~parameter "velocity" is missing');
+  expect_error (@() qn.law ('surface', [0 1], [0 1], zeros (2)), 'qn:input', ...
+                [who 'names and values expected in pairs, got 3 arguments; the names are displacement, velocity, force']);
+  expect_error (@() qn.law ('surface', 'displacement', [0 1], [0 1], zeros (2)), 'qn:input', ...
+                [who 'the name of a parameter expected, got an array of class double; there are displacement, velocity, force']);
   expect_error (@() qn.force (made ([0 1], [0 1], zeros (2)), 0.5), 'qn:input', '~depends on the velocity');
 end
 
@@ -78,7 +90,8 @@ end
 function test_a_surface_that_was_changed_is_looked_at_again ()
   law = sampled (@(x, v) x + v, [0 1 2], [0 1]);
   law.parameters.force(2, 1) = NaN;
-  expect_error (@() swing ({law}), 'qn:input', 'qn.simulation: element 1: qn.law, ''surface'': "force"(2, 1) is NaN; finite numbers expected');
+  expect_error (@() swing ({law}), 'qn:input', ...
+                '~^qn.simulation: element 1: qn.law, ''surface'': "force" has 1 NaN among its 6 values, .* 1 m and 0 m/s');
 end
 
 % At rest it is a table, and stores what that stores; the rest is lost.
@@ -163,16 +176,93 @@ function level = level_of (found, code)
   level = found(strcmp ({found.code}, code)).level;
 end
 
-% The module notes it at every step, kept or not.
+% The module notes it at every step, kept or not. The motion goes to 0.01 m.
 function test_a_run_says_by_how_much_it_left_the_grid ()
-  law = sampled (@(x, v) 10 * x + v, [-0.1 0.1], [-0.5 0.5]);
+  law = sampled (@(x, v) 10 * x + v, [-0.008 0.008], [-1.1 1.1]);
   sim = swing ({law}, 'every', 1000);
   found = qn.check (sim, qn.run (sim, 'progress', false, 'check', false));
   text = found(strcmp ({found.code}, 'table_left')).text;
-  expect_in (text, 'from -0.1 to 0.1 m and from -0.5 to 0.5 m/s, by up to 0 m and 0.49');
+  expect_in (text, 'from -0.008 to 0.008 m and from -1.1 to 1.1 m/s, by up to 0.0019');
+  expect_equal (isempty (strfind (text, ' and 0 m/s')), true);
+  expect_in (text, ' m; beyond it');
   lastwarn ('');
   evalc ('qn.run (sim, ''progress'', false)');
   expect_in (lastwarn (), 'the motion leaves its grid');
+  found = qn.check (sim);
+  expect_equal (any (strcmp ({found.code}, 'table_left')), false);
+end
+
+function test_a_start_outside_of_the_grid_is_said_before_the_run ()
+  law = @(x, v) sampled (@(x, v) 10 * x + v, x, v);
+  found = qn.check (swing ({law([-0.1 0.1], [-0.4 0.4])}, 'v0', 3));
+  expect_in (text_of (found, 'table_left', 'warning'), ...
+             'it starts at 0 m and 3 m/s, outside of its grid, from -0.1 to 0.1 m and from -0.4 to 0.4 m/s');
+  found = qn.check (swing ({law([-0.1 0.1], [-0.4 0.4])}, 'v0', 0, 'u0', -0.101));
+  expect_in (text_of (found, 'table_left', 'note'), 'it starts at -0.101 m and 0 m/s');
+  found = qn.check (swing ({law([5e-3 20e-3], [-4 4])}));
+  expect_in (text_of (found, 'table_left', 'warning'), 'it starts at 0 m and 1 m/s, outside of its grid, from 0.005 to 0.02 m');
+  found = qn.check (swing ({law([0 20e-3], [-4 1])}));
+  expect_equal (any (strcmp ({found.code}, 'table_left')), false);
+end
+
+% Which axis it is, in words, and what every tenth or thousandth step still says of it.
+function test_an_axis_in_the_wrong_unit_is_told_from_a_small_motion ()
+  model = qn.modal (5e3, 2, 'damping', 0.01);
+  [x, v] = deal (linspace (-7e-3, 7e-3, 5), [-0.4 0 0.4]);
+  [u, w] = ndgrid (x, v);
+  made = @(a, b) qn.law ('surface', 'displacement', a * x, 'velocity', b * v, 'force', 2e4 * u + 500 * w);
+  sim = @(law, v0, varargin) qn.simulation (model, 'step', 1e-4, 'until', 0.1, 'v0', v0, 'elements', {law, 1}, varargin{:});
+  after = @(s) qn.check (s, qn.run (s, 'progress', false, 'check', false));
+  unused = @(found) {found(strcmp ({found.code}, 'surface_unused')).level};
+  for every = [1 10]
+    found = after (sim (made (1, 1e3), 0.3, 'every', every));
+    expect_in (text_of (found, 'surface_unused', 'warning'), ' % of its velocities, from -400 to 400 m/s, and ');
+    expect_in (text_of (found, 'surface_unused', 'warning'), 'are the velocities in m/s? 200 mm/s are 0.2');
+    found = after (sim (made (1e3, 1), 0.3, 'every', every));
+    expect_in (text_of (found, 'surface_unused', 'warning'), 'are the displacements in m? 20 mm are 0.02');
+    expect_equal (unused (after (sim (made (1, 1), 0.3, 'every', every))), {});
+  end
+  found = after (sim (made (1e3, 1e3), 0.3));
+  expect_in (text_of (found, 'surface_unused', 'note'), 'from -7 to 7 m and from -400 to 400 m/s: a small motion, or a grid that is in mm and mm/s?');
+  found = after (sim (made (1, 1), 1e-3));
+  expect_in (text_of (found, 'surface_unused', 'note'), 'covers only 0.0');
+  % Between two of these steps it may have been as fast as it likes.
+  expect_equal (unused (after (sim (made (1, 1e3), 0.3, 'every', 500))), {});
+  % An axis that is not used much beside one that is used by not even 30 times as much.
+  expect_equal (unused (after (sim (made (1, 80), 0.3))), {'warning'});
+  expect_equal (unused (after (sim (made (4, 80), 0.3))), {});
+end
+
+% A run that goes on when its motion has gone.
+function test_a_good_surface_is_not_suspected_when_the_motion_has_decayed ()
+  law = sampled (@(x, v) 3000 * x + 150 * v, [-0.02 0.001 0.02], [-2 0 2]);
+  first = qn.run (swing ({law}, 'until', 0.15), 'progress', false);
+  sim = swing ({law}, 'v0', [], 'start', first, 'until', 0.3);
+  res = qn.run (sim, 'progress', false);
+  assert (max (abs (res.q)) < 4e-5);
+  found = qn.check (sim, res);
+  expect_equal ({found(~strcmp ({found.level}, 'note')).code}, {});
+  expect_in (text_of (found, 'surface_unused', 'note'), 'a small motion');
+end
+
+% Its damping falls below zero outside: no limit of a step for 1e71 m, and no such distance, but what the law does out there.
+function test_a_motion_without_bound_is_said_to_have_left_the_grid_without_numbers_of_its_own ()
+  law = sampled (@(x, v) 3000 * x + (10 - 1e4 * abs (x)) .* v, [-0.007 0 0.007], [-0.4 0 0.4]);
+  sim = swing ({law}, 'v0', 3);
+  before = warning ('off', 'qn:diverged');
+  back = onCleanup (@() warning (before));
+  res = qn.run (sim, 'progress', false, 'check', false);
+  expect_equal (res.diverged, true);
+  found = qn.check (sim, res);
+  expect_in (text_of (found, 'table_left', 'warning'), ...
+             'grew without bound beyond its grid, from -0.007 to 0.007 m and from -0.4 to 0.4 m/s. There the outer cells go on');
+  expect_equal (any (strcmp ({found.code}, 'damper_unstable')), false);
+end
+
+function text = text_of (found, code, level)
+  one = found(strcmp ({found.code}, code));
+  expect_equal ({one.level}, {level});
+  text = one.text;
 end
 
 function test_a_run_with_a_surface_goes_on_where_it_was_and_comes_back_from_a_file ()

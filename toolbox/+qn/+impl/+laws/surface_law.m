@@ -11,8 +11,27 @@ function l = surface_law ()
 end
 
 function p = prepare (who, p)
-  p.force = qn.impl.numbers (who, 'force', p.force, [numel(p.displacement), numel(p.velocity)], 'each', ...
-                             'a row for each displacement and a column for each velocity');
+  of = {'displacement', 'rows'; 'velocity', 'columns'};
+  for k = 1:2
+    x = p.(of{k, 1});
+    j = find (diff (x) <= 0, 1);
+    if ~isempty (j)
+      error ('qn:input', ['%s: "%s" must ascend: value %d is %.15g, value %d is %.15g; sort it, and the %s of "force" with it, and merge ' ...
+                          'equal values'], who, of{k, 1}, j, x(j), j + 1, x(j + 1), of{k, 2});
+    end
+  end
+  shape = [numel(p.displacement), numel(p.velocity)];
+  if isnumeric (p.force) && isequal (size (p.force), shape), no_gaps (who, p); end
+  p.force = qn.impl.numbers (who, 'force', p.force, shape, 'each', ...
+                             'numel (displacement) x numel (velocity), a row for each displacement and a column for each velocity');
+end
+
+function no_gaps (who, p)
+  [i, j] = find (isnan (p.force));
+  if isempty (i), return, end
+  error ('qn:input', ['%s: "force" has %d NaN among its %d values, the first at (%d, %d), %g m and %g m/s. griddata leaves points empty ' ...
+                      'that lie outside of the measured ones: cut the grid to what was measured, or fill them'], who, numel (i), ...
+         numel (p.force), i(1), j(1), p.displacement(i(1)), p.velocity(j(1)));
 end
 
 % After the code, the module's record of the greatest distances from the grid.
@@ -68,9 +87,10 @@ function least = least_size (x)
   if any (x(:) < 0) && any (x(:) > 0), least = 0; end
 end
 
-% The slopes over the velocity at knots and ends of the displacements.
+% The slopes over the velocity at knots and ends of the displacements; those of a motion that has grown without bound say nothing.
 function c = viscous (p, x, f)
   at = p.displacement;
+  if any (abs (x(:)) > 1e6 * max (abs (at))), x = []; end
   if ~isempty (x), at = [min(x(:)); at(at > min (x(:)) & at < max (x(:))); max(x(:))]; end
   slope = bsxfun (@rdivide, diff (p.force, 1, 2), diff (p.velocity).');
   slope = interp1 (p.displacement, slope, at, 'linear', 'extrap');
@@ -97,28 +117,15 @@ function r = reach (p)
   r = l.reach (at_velocities (p, 0));
 end
 
-% STATE is the greatest distance from the grid that the module has met, at any step: in displacement and in velocity.
+% What the motion has to do with the grid: qn.impl.grid_use.
 function found = check (law, x, h, state)
   found = cell (0, 3);
   p = law.parameters;
-  ends = [p.displacement([1 end]), p.velocity([1 end])];
-  if any (state > 0)
-    level = 'note';
-    if any (state(:) > 0.1 * diff (ends).'), level = 'warning'; end
-    found = {'table_left', level, ...
-             sprintf(['the motion leaves its grid, from %g to %g m and from %g to %g m/s, by up to %g m and %g m/s; beyond it the ' ...
-                      'outer cells go on, with forces that nobody measured: add knots there'], ends, state)};
-  end
-  met = max (x(:)) - min (x(:));
-  if any (met > 0 & met < 0.01 * diff (ends(:, 1)))
-    found(end + 1, :) = {'surface_unused', 'warning', ...
-                         sprintf(['the motion covers %.2g m of its displacements from %g to %g m, less than 1 %%: are they in m? 20 mm ' ...
-                                  'are 0.02'], met, ends(:, 1))};
-  end
-  if ends(1, 2) >= 0 || ends(2, 2) <= 0
+  ends = p.velocity([1 end]);
+  if ends(1) >= 0 || ends(2) <= 0
     found(end + 1, :) = {'surface_one_way', 'warning', ...
                          sprintf(['its velocities go from %g to %g m/s, one way only: the forces of the way back are those of the ' ...
-                                  'outer cells, which go on. Add the velocities of the other sign'], ends(:, 2))};
+                                  'outer cells, which go on. Add the velocities of the other sign'], ends)};
     return
   end
   rest = at_velocities (p, 0);

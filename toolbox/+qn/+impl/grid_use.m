@@ -14,15 +14,16 @@ function found = grid_use (sim, e, x, beyond)
     out = bsxfun (@max, bsxfun (@minus, ends(1, :), at), bsxfun (@minus, at, ends(2, :)));
     [most, row] = max (max (bsxfun (@rdivide, out, range), [], 2));
     if most > 1e-9
-      found = {'table_left', level_of(most), sprintf(['it starts at %g m and %g m/s, outside of its grid, %s; there the outer cells go ' ...
-                                                      'on, with forces that nobody measured: add knots, or is a unit wrong?'], at(row, :), grid)};
+      found = {'table_left', level_of(most), ...
+               sprintf(['it starts at %g m and %g m/s, outside of its grid, %s; there the outer cells go on, with forces that nobody ' ...
+                        'measured: add knots, or is a unit wrong?'], at(row, :), grid)};
     end
     return
   end
   if any (beyond(:).' > 1e6 * range)
-    found = {'table_left', 'warning', sprintf(['the motion grew without bound beyond its grid, %s. There the outer cells go on with their ' ...
-                                               'stiffness and damping, which may grow or turn negative: add knots as far as the motion ' ...
-                                               'may go, or take a shorter step'], grid)};
+    found = {'table_left', 'warning', ...
+             sprintf(['the motion grew without bound beyond its grid, %s. There the outer cells go on with their stiffness and damping, ' ...
+                      'which may grow or turn negative: add knots as far as the motion may go, or take a shorter step'], grid)};
   elseif any (beyond > 0)
     found = {'table_left', level_of(max (beyond(:).' ./ range)), ...
              sprintf(['the motion leaves its grid, %s, by up to %s; beyond it the outer cells go on, with forces that nobody measured: ' ...
@@ -41,7 +42,8 @@ function text = distances (beyond)
   text = strjoin (each(beyond(:).' > 0), ' and ');
 end
 
-% The parts of both axes. Where so few steps are kept that the structure turns between them, a small part of the velocities is not known: NaN.
+% The parts of both axes. Where so few steps are kept that the structure turns between them, a small part of the velocities is not known:
+% NaN.
 function part = parts (sim, x, range)
   k = min (size (x, 2), numel (sim.saved));
   at = sim.saved(1:k);

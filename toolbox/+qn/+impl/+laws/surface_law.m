@@ -16,8 +16,8 @@ function p = prepare (who, p)
     x = p.(of{k, 1});
     j = find (diff (x) <= 0, 1);
     if ~isempty (j)
-      error ('qn:input', ['%s: "%s" must ascend: value %d is %.15g, value %d is %.15g; sort it, and the %s of "force" with it, and merge ' ...
-                          'equal values'], who, of{k, 1}, j, x(j), j + 1, x(j + 1), of{k, 2});
+      error ('qn:input', ['%s: "%s" must ascend: value %d is %.15g, value %d is %.15g; sort it, and the %s of "force" with it, ' ...
+                          'and merge equal values'], who, of{k, 1}, j, x(j), j + 1, x(j + 1), of{k, 2});
     end
   end
   shape = [numel(p.displacement), numel(p.velocity)];
@@ -29,8 +29,8 @@ end
 function no_gaps (who, p)
   [i, j] = find (isnan (p.force));
   if isempty (i), return, end
-  error ('qn:input', ['%s: "force" has %d NaN among its %d values, the first at (%d, %d), %g m and %g m/s. griddata leaves points empty ' ...
-                      'that lie outside of the measured ones: cut the grid to what was measured, or fill them'], who, numel (i), ...
+  error ('qn:input', ['%s: "force" has %d NaN among its %d values, the first at (%d, %d), %g m and %g m/s. griddata leaves points ' ...
+                      'empty that lie outside of the measured ones: cut the grid to what was measured, or fill them'], who, numel (i), ...
          numel (p.force), i(1), j(1), p.displacement(i(1)), p.velocity(j(1)));
 end
 

@@ -209,7 +209,7 @@ function test_a_stop_that_is_touched_once_is_a_warning_and_no_error ()
   x = [0, 1, 1, 0, 1, 1, 1, 0] * 6e-3;
   found = qn.impl.check_law (sim, 1, x, 1, [], [], []);
   expect_equal ({found.code, found.level}, {'element_unstable', 'error'});
-  found = qn.impl.check_law (sim, 1, x(1:6), 1, [], []);
+  found = qn.impl.check_law (sim, 1, x(1:6), 1, [], [], []);
   expect_equal ({found.code, found.level}, {'element_unstable', 'warning'});
 end
 

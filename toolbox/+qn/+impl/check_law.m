@@ -67,7 +67,6 @@ function found = check_law (sim, k, x, motion, state, f, record)
     own = l.check (e.law, x, h, state);
     for j = 1:size (own, 1), say (own{j, 1}, own{j, 2}, '%s', own{j, 3}); end
   end
-
   use = qn.impl.grid_use (sim, e, x, record);
   for j = 1:size (use, 1), say (use{j, 1}, use{j, 2}, '%s', use{j, 3}); end
   beside ();

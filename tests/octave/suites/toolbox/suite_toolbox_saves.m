@@ -207,6 +207,19 @@ function test_nothing_in_a_file_is_executed ()
   expect_error (@() qn.resume (file), 'qn:input', '~it holds a function or an object, which could run code');
 end
 
+function test_what_could_not_be_read_as_data_is_not_taken_for_saved ()
+  folder = scratch ();
+  clean = onCleanup (@() gone (folder));
+  file = fullfile (folder, 'x.mat');
+  write = @(x) qn.impl.files.write_data (file, struct ('x', {{1, x}}));
+  if isempty (regexp (write (1i), 'the file came out wrong.*or is complex', 'once')), error ('a complex number was taken'); end
+  expect_equal (exist (file, 'file'), 0);
+  for x = {'Brücke', '', zeros(0, 3), single(pi), int8([1 -2]), true, {[], 'a'}, sparse([0 2; 0 0]), [NaN -Inf 0], struct('a', {1, 2})}
+    expect_equal (write (x{1}), '');
+    expect_equal (qn.impl.files.read_data (file), struct ('x', {{1, x{1}}}));
+  end
+end
+
 function test_a_file_of_version_01_goes_on_when_its_user_loads_it ()
   folder = scratch ();
   clean = onCleanup (@() gone (folder));

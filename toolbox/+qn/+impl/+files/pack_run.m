@@ -6,10 +6,11 @@ function f = pack_run (res)
   sim = res.sim;
   f = rmfield (res, {'sim', 'final'});
   f.format = qn.impl.files.run_format ();
-  f.final = packed_state (sim, res.final);
+  fresh = qn.impl.values (sim, sim.step);
+  f.final = packed_state (sim, res.final, fresh);
   f.sim = rmfield (sim, {'time', 'loads', 'start', 'options'});
   f.sim.steps = numel (sim.time) - 1;
-  f.sim.start = packed_state (sim, sim.start);
+  f.sim.start = packed_state (sim, sim.start, fresh);
   columns = 1:numel (sim.time);
   if numel (sim.loads) > max (1e5, numel (res.q)), columns = unique ([sim.saved, res.final.column:numel(sim.time)]); end
   f.sim.load_values = sim.loads(:, columns);
@@ -18,8 +19,7 @@ function f = pack_run (res)
 end
 
 % What the elements remember: their arrays, and the places of "opt" that are not as they were made.
-function s = packed_state (sim, s)
-  fresh = qn.impl.values (sim, sim.step);
+function s = packed_state (sim, s, fresh)
   memory = cell (1, numel (sim.elements));
   for k = 1:numel (memory)
     e = s.values{2 + k, 2};

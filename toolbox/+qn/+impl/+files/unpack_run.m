@@ -20,7 +20,8 @@ function res = unpack_run (f)
   s.loads = zeros (size (s.load_values, 1), numel (s.time));
   s.loads(:, columns) = s.load_values;
   elements_fit (s);
-  s.start = state (s, s.start, 1);
+  fresh = qn.impl.values (s, s.step);
+  s.start = state (s, s.start, 1, fresh);
   found = qn.impl.check_arrays (s);
   bad = find (strcmp ({found.level}, 'error'), 1);
   if ~isempty (bad), fail ('%s', found(bad).text); end
@@ -34,7 +35,7 @@ function res = unpack_run (f)
   res.sim = s;
   need (f.final, {'column'});
   expect (whole (f.final.column, 1, numel (s.time)), 'the column that it came to is not among the %d times', numel (s.time));
-  res.final = state (s, f.final, f.final.column);
+  res.final = state (s, f.final, f.final.column, fresh);
   k = size (f.q, 2);
   expect (islogical (f.complete) && numel (f.complete) == 1 && islogical (f.diverged) && numel (f.diverged) == 1 && ...
           f.complete == (f.final.column == numel (s.time)), '"complete" does not fit the time that it came to');
@@ -85,7 +86,7 @@ function elements_fit (s)
           'the places of the elements do not fit together');
 end
 
-function s = state (sim, f, column)
+function s = state (sim, f, column, fresh)
   need (f, {'u', 'v', 'a', 'FNL', 'memory'});
   n = numel (sim.model.w) + sim.states;
   for name = {'u', 'v', 'a'}
@@ -96,7 +97,7 @@ function s = state (sim, f, column)
           numel (f.memory) == numel (sim.elements), 'what the elements remember does not fit them');
   s = rmfield (f, 'memory');
   s.column = column;
-  s.values = qn.impl.values (sim, sim.step);
+  s.values = fresh;
   for k = 1:numel (sim.elements)
     m = f.memory{k};
     need (m, {'unl', 'vnl', 'snl', 'at', 'opt'});

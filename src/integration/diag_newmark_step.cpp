@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cstring>
 
 #include "base/handle_walk.h"
 #include "integration/diag_newmark.h"
@@ -11,7 +10,7 @@ namespace quarn {
 namespace {
 
 void copyValues(double* to, const double* from, std::size_t n) {
-  if (to && from && n > 0) std::memmove(to, from, n * sizeof(double));  // a caller's arrays may share memory
+  if (to && from && n > 0) moveValues(to, from, n);  // a caller's arrays may share memory
 }
 
 }  // namespace

@@ -68,8 +68,13 @@ void checkTable(const chandleNl_inout& h, const ROr& /*ro*/) {
   checkLength(h.snlTotal, columns * h.unlLen, "snl", "the table's columns for each observed value");
 }
 
-void FuTable(chandleNl_inout* h, ROr ro) {
+void FuTable(chandleNl_inout* h, const ROr& ro) {
   const TablePlace t = tablePlace(*h);
+  if (h->tableAscends && h->unlLen == 1 && t.ny == 1) {
+    h->snl[0] = interpolateOne(t.table, h->unl[0], t.record, t.nx);
+    storeForces(*h, ro);
+    return;
+  }
   const auto queries = static_cast<std::size_t>(h->unlLen);
   const std::size_t results = queries * static_cast<std::size_t>(resultColumns(t.ny));
   const std::size_t size = static_cast<std::size_t>(t.nx) * (1 + static_cast<std::size_t>(std::max(t.ny, 0)));

@@ -124,6 +124,17 @@ void interpolateApart(const double* X, const double* x, double* rec, double* out
   rec[2] = f;
 }
 
+double interpolateOne(const double* X, double xq, double* rec, int nx) {
+  const int found = searchAscending(X, nx, start(rec[0]), xq);
+  const int s = resolveJump(X, nx, std::min(found, nx - 2), xq);
+  const double f = fraction(X, s, xq);
+  rec[0] = found;
+  rec[1] = xq;
+  rec[2] = f;
+  const double* y = X + nx + s;
+  return f * y[1] + (1.0 - f) * y[0];
+}
+
 void vorel_LinInterp(const double* X, const double* x, double* rec, double* out, int nx, int ny, int n, int mode, const double* X2,
                      double* out2, bool ascending) {
   for (int j = 0; j < n; ++j) {

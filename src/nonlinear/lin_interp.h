@@ -23,6 +23,9 @@ void vorel_LinInterp(const double* X, const double* x, double* rec, double* out,
 /// anything: what a segment needs is kept from query to query.
 void interpolateApart(const double* X, const double* x, double* rec, double* out, int nx, int n, bool ascending);
 
+/// The same for one query and knots that ascend, where rec shares no memory with X: the value, which the caller stores.
+double interpolateOne(const double* X, double xq, double* rec, int nx);
+
 /// Where the walk from segment i ends, for nx knots that ascend: from below at the first knot that is not below the query, from above at
 /// the last that is not above it. Beyond the last knot, and for a start there in the last segment as well, it is nx - 1. For knots that do
 /// not ascend it is one of 0 to nx - 1.

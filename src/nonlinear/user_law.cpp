@@ -135,7 +135,7 @@ void checkUser(const chandleNl_inout& h, const ROr& /*ro*/) {
   }
 }
 
-void FuUser(chandleNl_inout* h, ROr ro) {
+void FuUser(chandleNl_inout* h, const ROr& ro) {
   const int states = statesOf(*h);
   const int rows = h->unlLen - states;
   const int group = groupOf(*h);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <climits>
-#include <cstring>
 #include <functional>
 
 namespace quarn {
@@ -23,7 +22,7 @@ void storeClipped(double* dst, std::size_t dstCount, long long offset, const dou
   if (!dst || !src) return;
   const Inside in(dstCount, offset, n);
   if (in.first >= in.last) return;
-  std::memmove(dst + offset + in.first, src + in.first, static_cast<std::size_t>(in.last - in.first) * sizeof(double));
+  moveValues(dst + offset + in.first, src + in.first, static_cast<std::size_t>(in.last - in.first));
 }
 
 void storeAscending(double* dst, std::size_t dstCount, long long offset, const double* src, long long n) {

@@ -2,8 +2,18 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 
 namespace quarn {
+
+/// Copies n values, which may share memory with those they replace. In a step most copies are of few values: those need no call.
+inline void moveValues(double* to, const double* from, std::size_t n) {
+  if (n == 1) {
+    *to = *from;
+  } else {
+    std::memmove(to, from, n * sizeof(double));
+  }
+}
 
 /// Copies the values of src that fall inside a destination of dstCount values when they are stored from offset on; what lies
 /// outside is left out. Returns nothing. offset may be negative or beyond the end.

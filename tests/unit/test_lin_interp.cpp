@@ -260,6 +260,34 @@ TEST(LinInterp, ManyQueriesOfOneColumnGetTheValuesAndTheRecordOfOneAfterTheOther
   }
 }
 
+// A query after the other, from records that point anywhere.
+TEST(LinInterp, OneQueryOfOneColumnGetsTheValueAndTheRecordOfTheWholeTable) {
+  std::mt19937 random(29);
+  const double inf = std::numeric_limits<double>::infinity();
+  for (int round = 0; round < 2000; ++round) {
+    const auto nx = static_cast<unsigned>(2 + random() % (round % 2 ? 5 : 60));
+    std::vector<double> table;
+    for (unsigned i = 0; i < nx; ++i) table.push_back(static_cast<double>(random() % (2 * nx)));
+    if (random() % 4 == 0) table[0] = -inf;
+    if (random() % 4 == 0) table[nx - 1] = inf;
+    std::sort(table.begin(), table.end());
+    for (unsigned i = 0; i < nx; ++i) table.push_back(std::sin(i));
+    double wanted[3] = {static_cast<double>(random() % (nx + 6)) - 3.0, 0.0, 0.0};
+    if (random() % 20 == 0) wanted[0] = random() % 2 ? 1e300 : std::nan("");
+    double got[3] = {wanted[0], 5.0, 6.0};
+    for (int q = 0; q < 20; ++q) {
+      const double choices[] = {table[random() % nx], static_cast<double>(random() % (2 * nx + 4)) - 1.5, q % 7 ? -0.0 : std::nan(""),
+                                q % 2 ? inf : -inf};
+      const double x = choices[random() % 4];
+      double one;
+      vorel_LinInterp(table.data(), &x, wanted, &one, static_cast<int>(nx), 1, 1, 1, nullptr, nullptr, true);
+      const double other = interpolateOne(table.data(), x, got, static_cast<int>(nx));
+      EXPECT_EQ(std::memcmp(&one, &other, sizeof one), 0) << round;
+      EXPECT_EQ(std::memcmp(wanted, got, sizeof wanted), 0) << round;
+    }
+  }
+}
+
 TEST(LinInterp, NoQueriesOfOneColumnLeaveTheRecordAlone) {
   double rec[3] = {7, 8, 9};
   interpolateApart(jump, nullptr, rec, nullptr, 4, 0, true);

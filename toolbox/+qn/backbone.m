@@ -36,6 +36,7 @@ function [hertz, r] = backbone (model, elements, amplitude, varargin)
   if nargin < 1, model = []; end
   qn.impl.expect_result_of ('qn.backbone', model, 'qn.modal');
   who = 'qn.backbone';
+  if nargin < 3, error ('qn:input', '%s: elements and amplitudes expected; see help %s', who, who); end
   o = qn.impl.options (who, struct ('mode', 1, 'row', [], 'harmonics', 7, 'samples', 256), varargin);
   m = numel (model.w);
   o.mode = qn.impl.count (who, 'mode', o.mode, m);

@@ -31,6 +31,7 @@
 %
 % See also qn.law, qn.element, qn.modal, qn.rotor, qn.simulation, qn.run, qn.report, chandle
 function text = describe (x)
+  if nargin < 1, error ('qn:input', 'qn.describe: something to describe expected; see help qn.describe'); end
   if isa (x, 'chandle')
     lines = cell (1, numel (x));
     for k = 1:numel (x), lines{k} = one_handle (remi (x, k)); end

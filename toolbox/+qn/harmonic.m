@@ -51,6 +51,7 @@ function r = harmonic (model, load, elements, hertz, varargin)
   if nargin < 1, model = []; end
   qn.impl.expect_result_of ('qn.harmonic', model, 'qn.modal');
   who = 'qn.harmonic';
+  if nargin < 4, error ('qn:input', '%s: a load, elements and two frequencies expected; see help %s', who, who); end
   o = qn.impl.options (who, struct ('harmonics', 5, 'samples', 128, 'points', 400, 'step', 0.02, 'power', 0, 'G', []), ...
                        varargin);
   hertz = qn.impl.numbers (who, 'HERTZ', hertz, 2, 'above', 0, 'each', '[first last] frequency');

@@ -26,7 +26,8 @@
 %
 % See also qn.simulation, qn.check
 function s = scheme (name, rho)
-  if nargin > 0, name = qn.impl.chars (name); end
+  if nargin < 1, error ('qn:input', 'qn.scheme: the name of a scheme expected; see help qn.scheme'); end
+  name = qn.impl.chars (name);
   if isstruct (name)
     s = name;
     return
@@ -42,6 +43,7 @@ function s = scheme (name, rho)
     end
     s = struct ('beta', name(1), 'gamma', name(2), 'name', sprintf ('beta %g, gamma %g', name(1), name(2)));
   else
+    if ~ischar (name), error ('qn:input', 'qn.scheme: the name of a scheme or [beta gamma] expected, got class %s', class (name)); end
     switch name
       case 'average'
         s = struct ('beta', 1 / 4, 'gamma', 1 / 2, 'name', 'average acceleration');

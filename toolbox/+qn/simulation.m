@@ -31,7 +31,8 @@
 %     'every'     results are kept at every k-th step (1), or
 %     'times'     at the steps next to these times [s]; those outside the run give its first or last step
 %     'u0', 'v0'  initial displacement and velocity of the structure [m, m/s] (0); what the modes do not hold of them is left out, and
-%                 qn.check and qn.run warn where that is a tenth by mass; or
+%                 qn.check and qn.run warn where that is a tenth by mass. Friction of qn.slider, 'dahl' and 'clima2' is 0 there;
+%                 'maxwell', 'boucwen' and 'stickslip' begin as if moved there from 0 at once; or
 %     'q0', 'dq0' initial modal state
 %     'a0'        'consistent': initial acceleration from the equation of motion, or m modal values ('consistent')
 %     'start'     result of an earlier run: its last state, its laws' memory and its time are where this one begins. Model, laws, step,

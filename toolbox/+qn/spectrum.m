@@ -28,6 +28,7 @@
 % See also qn.srs, qn.plot.waterfall
 function [hertz, x] = spectrum (time, signal, varargin)
   who = 'qn.spectrum';
+  if nargin < 2, error ('qn:input', '%s: times and signals expected; see help %s', who, who); end
   o = qn.impl.options (who, struct ('window', 'hann', 'mean', 'remove'), varargin);
   [h, time] = qn.impl.spacing (who, time);
   n = numel (time);

@@ -33,6 +33,7 @@ function [q, info] = static (model, load, elements, q)
   if nargin < 1, model = []; end
   qn.impl.expect_result_of ('qn.static', model, 'qn.modal');
   who = 'qn.static';
+  if nargin < 3, error ('qn:input', '%s: a load and elements ({} for none) expected; see help %s', who, who); end
   m = numel (model.w);
   if nargin < 4, q = zeros (m, 1); end
   load = qn.impl.numbers (who, 'LOAD', load, m, 'each', 'one a mode (qn.load_at times forces)');
@@ -45,7 +46,11 @@ function [q, info] = static (model, load, elements, q)
   h = qn.impl.register (qn.impl.values (sim, 1));
   free = onCleanup (@() delete (h));
   scale = max (norm (load), realmin ());
-  r = residual (h, q, load);
+  try
+    r = residual (h, q, load);
+  catch err
+    qn.impl.named_element (who, err, sim.elements);
+  end
   for n = 0:100
     if norm (r) <= 1e-12 * scale || norm (r) <= 1e-14 * norm (qn.impl.product (model.stiffness, q)), break, end
     if n == 100, error ('qn:diverged', '%s: no equilibrium found; residual %g of the load. Start nearer to it, or load in steps', who, ...

@@ -57,6 +57,7 @@
 function [results, report] = sweep (f, cases, varargin)
   who = 'qn.sweep';
   begun = tic ();
+  if nargin < 2, error ('qn:input', '%s: a function and its cases expected; see help %s', who, who); end
   o = struct ('folder', '', 'engine', 'auto', 'workers', [], 'again', false, 'progress', true, 'sbatch', '', 'trust', false, ...
               'wait', true);
   o = qn.impl.options (who, o, varargin);

@@ -23,6 +23,7 @@
 %
 % See also qn.pack, qn.describe
 function a = unpack (s)
+  if nargin < 1, error ('qn:input', 'qn.unpack: a matrix structure expected; see help qn.unpack'); end
   if isa (s, 'v_handle'), s = get (s, 'file'); end
   if isnumeric (s)
     a = sparse (qn.impl.numbers ('qn.unpack', 'S', s, [NaN NaN], 'complex', 'empty'));

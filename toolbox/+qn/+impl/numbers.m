@@ -94,6 +94,7 @@ function fit (who, name, x, shape, one, r)
   if good, return, end
   wanted = 'numbers';
   if numel (shape) == 2, wanted = sprintf ('%s x %s numbers', letter (shape(1)), letter (shape(2))); end
+  if isequaln (shape, [NaN NaN]), wanted = 'a matrix of numbers'; end
   if numel (shape) == 1, wanted = regexprep (sprintf ('%d values', shape), '^1 values', '1 value'); end
   if r.list && isempty (shape) || numel (shape) == 1 && numel (x) == shape, wanted = [wanted ' in a row or a column']; end
   if one, wanted = kind_of (true); end

@@ -23,7 +23,10 @@
 %
 % See also qn.plot.page
 function picture (fig, file)
-  file = qn.impl.chars (file);
+  if nargin > 1, file = qn.impl.chars (file); end
+  if nargin < 2 || ~ischar (file)
+    error ('qn:input', 'qn.plot.picture: a figure and the name of a file expected; see help qn.plot.picture');
+  end
   [unused, unused2, ending] = fileparts (file);
   devices = {'.png', '-dpng'; '.pdf', '-dpdf'; '.svg', '-dsvg'; '.eps', '-depsc'};
   k = find (strcmpi (ending, devices(:, 1)));

@@ -66,6 +66,26 @@ function test_an_iwan_bank_loads_along_a_parabola ()
   expect_equal (f(1201:end), f(1201) - 2 * (1e6 * back / 2 - (1e6 * back / 2) .^ 2 / 400), 3e-2);
 end
 
+% As docs/laws.md says: some laws follow the velocity and begin without a force, others look at the displacement.
+function test_what_an_initial_displacement_means_to_laws_with_memory ()
+  for law = {qn.slider('slip', 20, 'stiffness', 5e4), qn.law('dahl', 'stiffness', 5e4, 'slip', 20)}
+    expect_equal (force_at_the_start (law{1}), 0);
+  end
+  clima2 = qn.law ('clima2', 'displacement', [-1 1], 'normal', [5 5], 'growth', [1e4 1e4], 'friction', 0.3);
+  expect_equal (force_at_the_start (clima2), [0; 0; 5]);
+  expect_equal (force_at_the_start (qn.zener ('stiffness', 3e3, 'spring', 2e4, 'damper', 100)), 23, 1e-9);
+  expect_equal (force_at_the_start (qn.law ('stickslip', 'contact', 5e4, 'slip', 200)), 50, 1e-9);
+  expect_equal (force_at_the_start (qn.boucwen ('stiffness', 2e4, 'yield', 1, 'ratio', 0.1)), 20, 1e-4);
+end
+
+% Forces with which a run starts at the displacement 1 mm, on as many rows as the law has.
+function f = force_at_the_start (law)
+  model = qn.modal (1, 1);
+  rows = repmat (qn.observe (model, 1), 1 + 2 * strcmp (law.kind, 'clima2'), 1);
+  res = qn.run (qn.simulation (model, 'step', 1e-6, 'steps', 1, 'u0', 1e-3, 'elements', {law, rows}), 'progress', false, 'check', false);
+  f = res.force(:, 1);
+end
+
 function test_a_bank_may_mix_laws_with_and_without_memory ()
   x = 1e-3 * sin (0:0.1:3);
   v = [0, diff(x)];

@@ -61,6 +61,26 @@ function test_texts_in_double_quotes_are_taken_like_those_in_single_ones ()
   expect_error (@() quarn (string ('ismex')), '', 'quarn : a command word is a character vector, got string');
 end
 
+function test_too_few_arguments_are_refused_in_words ()
+  model = chain (2);
+  none = {@() qn.describe(), @() qn.scheme(), @() qn.unpack(), @() qn.sweep(), @() qn.plot.picture(), @() qn.spectrum()};
+  for f = [none, {@() qn.sweep(@(p) p), @() qn.plot.picture(1), @() qn.spectrum(1), @() qn.static(model), @() qn.static(model, [0; 0]), ...
+                  @() qn.backbone(model), @() qn.backbone(model, {}), @() qn.harmonic(model), @() qn.harmonic(model, [1; 0], {})}]
+    refused (f{1}, '^qn\.[a-z.]+: .* expected; see help qn');
+  end
+end
+
+function test_what_is_no_name_of_a_file_or_scheme_is_refused_in_words ()
+  refused (@() qn.mmwrite (5, [1 2]), '^qn.mmwrite: "FILE" must be the name of a file, got an array of class double');
+  refused (@() qn.plot.picture ('a.png', 1), 'a figure and the name of a file expected');
+  refused (@() qn.scheme (@sin), 'got class function_handle');
+end
+
+function test_a_matrix_of_any_size_is_not_called_square ()
+  refused (@() qn.mmwrite ('none.mtx', zeros (0, 3)), '"A" must be a matrix of numbers, got nothing \(0 x 3\)');
+  refused (@() qn.mmwrite ('none.mtx', ones (2, 2, 2)), '"A" must be a matrix of numbers, got 2 x 2 x 2');
+end
+
 function test_options_that_contradict_each_other_are_refused ()
   [model, res, sim] = chain (3);
   refused (@() qn.simulation (model, 'step', 1, 'until', 5, 'steps', 3), '"until" or "steps", one of them');

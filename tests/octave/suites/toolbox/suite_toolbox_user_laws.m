@@ -97,6 +97,13 @@ function test_a_law_of_two_rows ()
   expect_error (@() oscillator ({qn.law('compiled', file, 'rows', 2), [1 2]}), '', '~takes 1 parameters, the element has 0');
   expect_error (@() oscillator ({qn.law('compiled', file, 'parameters', 3, 'rows', 2, 'states', 1), [1 2]}), '', ...
                 '~takes 0 states, the element has 1');
+  % The row of "elements", not the place in the module's list of handles.
+  bank = {qn.iwan('slip', 1, 'stiffness', 2, 'sliders', 3), 1; qn.law('compiled', file, 'rows', 2), [1 2]};
+  expect_error (@() oscillator (bank), '', 'qn.simulation: element 2: the law in the library takes 1 parameters, the element has 0');
+  still = source (folder, 'still.c', 'force[0] = now->p[0] * now->x[0];', '1, 1, 0');
+  model = qn.modal (4, 1);
+  pair = {qn.cubic('stiffness', 1), 1; qn.law('compiled', still), 1};
+  expect_error (@() qn.static (model, 1, pair), '', 'qn.static: element 2: the law in the library takes 1 parameters, the element has 0');
 end
 
 function test_energy_that_such_laws_take_up_is_accounted_for ()

@@ -2,6 +2,7 @@
 %
 % Errors (qn:input) name the function WHO.
 function write_text (who, file, text)
+  if ~ischar (file), error ('qn:input', '%s: "FILE" must be the name of a file, got an array of class %s', who, class (file)); end
   [id, why] = fopen (file, 'w', 'n', 'UTF-8');
   if id < 0, error ('qn:input', '%s: cannot write %s: %s', who, file, why); end
   fwrite (id, text, 'char');

@@ -66,7 +66,7 @@ function test_an_iwan_bank_loads_along_a_parabola ()
   expect_equal (f(1201:end), f(1201) - 2 * (1e6 * back / 2 - (1e6 * back / 2) .^ 2 / 400), 3e-2);
 end
 
-% As docs/laws.md says: some laws follow the velocity and begin without a force, others look at the displacement.
+% As docs/laws.md says: some laws follow the velocity and begin without a force, others follow the displacement.
 function test_what_an_initial_displacement_means_to_laws_with_memory ()
   for law = {qn.slider('slip', 20, 'stiffness', 5e4), qn.law('dahl', 'stiffness', 5e4, 'slip', 20)}
     expect_equal (force_at_the_start (law{1}), 0);

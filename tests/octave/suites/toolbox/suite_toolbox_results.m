@@ -117,6 +117,11 @@ function test_a_spectrum_shows_amplitudes ()
     expect_equal (a(2, 121), 3, 1e-10);
     expect_equal (abs (a(:, 1)), [0; 0], 1e-10);
   end
+  % As the help says: halfway between two frequencies (closed forms 8 / (3 pi) and 2 / pi).
+  [f, a] = qn.spectrum (t, sin (2 * pi * 50.5 * t), 'window', 'hann');
+  expect_equal (max (abs (a)), 8 / (3 * pi), 1e-3);
+  [f, a] = qn.spectrum (t, sin (2 * pi * 50.5 * t), 'window', 'none');
+  expect_equal (max (abs (a)), 2 / pi, 5e-3);
   [f, a] = qn.spectrum (t, x(1, :), 'window', 'none', 'mean', 'keep');
   expect_equal (real (a(1)), 7, 1e-10);
   % Parseval: the mean square is half the sum of squared amplitudes.

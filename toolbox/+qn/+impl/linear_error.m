@@ -16,12 +16,13 @@ function [off, worst, unlike] = linear_error (sim, more_k, more_c, res)
     if nargin < 2, [more_k, more_c] = deal (zeros (m)); end
     last = min (last, 1e4);
     seen = places (sim.model.shapes);
-    f = zeros (m, last);
-    if ~isempty (sim.loads), f = sim.shapes * sim.loads(:, 1:last); end
+    [push, f] = deal (sim.shapes, sim.loads(:, 1:last * (numel (sim.loads) > 0)));
+    if isempty (f), [push, f] = deal (zeros (m, 1), zeros (1, last)); end
+    if size (push, 2) > m, [push, f] = deal (eye (m), push * f); end
     [a, b1] = qn.impl.step_matrix (sim, more_k, more_c);
-    x = march (a, 0 * b1, b1, [u; h * v; h ^ 2 * sim.start.a(1:m)], f);
+    x = march (a, 0 * b1 * push, b1 * push, [u; h * v; h ^ 2 * sim.start.a(1:m)], f, m);
     [a, b0, b1] = exact_step (qn.impl.matrix (k) + more_k, qn.impl.matrix (c) + more_c, h);
-    y = march (a, b0, b1, [u; v], f);
+    y = march (a, b0 * push, b1 * push, [u; v], f, m);
     part = max (abs (x - y), [], 2);
     if nargin > 3
       kept = sim.saved(sim.saved <= last);
@@ -88,11 +89,10 @@ function [a, b0, b1] = exact_step (k, c, h)
   b0 = e(1:2 * n, 2 * n + 1:3 * n) - b1;
 end
 
-% The displacements are the first values of the state.
-function x = march (a, b0, b1, z, f)
-  p = b1 * f(:, 2:end);
-  if any (b0(:)), p = p + b0 * f(:, 1:end - 1); end
-  x = qn.impl.recurrence (a, p, z, size (f, 1));
+% The displacements are the first M values of the state x' = A x + B0 f + B1 f'. Of x - B1 f the next one needs f only, not f'.
+function x = march (a, b0, b1, x, f, m)
+  s = qn.impl.block_form (a, a * b1 + b0, eye (m, size (a, 1)), b1(1:m, :), size (f, 2));
+  x = qn.impl.in_blocks (s, f, x - b1 * f(:, 1));
 end
 
 % The displacements of one mode are a recurrence of second order.

@@ -175,6 +175,26 @@ function test_velocities_and_energies_of_many_steps_are_those_of_the_formulas ()
   end
 end
 
+function test_linear_steps_in_blocks_are_those_of_one_step_after_another ()
+  randn ('twister', 63);
+  for steps = [1 2 3 200 901]
+    n = 1 + mod (steps, 4);
+    out = 1 + mod (steps, 3);
+    a = randn (n);
+    a = a / max (abs (eig (a))) * (0.9 + 0.02 * n);
+    [b, c, d, w, z] = deal (randn (n, 5), randn (out, n), randn (out, 5), randn (5, steps), randn (n, 1));
+    s = qn.impl.block_form (a, b, c, d, 400);
+    [y, after] = qn.impl.in_blocks (s, w, z);
+    wanted = zeros (out, steps);
+    for k = 1:steps
+      wanted(:, k) = c * z + d * w(:, k);
+      z = a * z + b * w(:, k);
+    end
+    expect_equal (y, wanted, 1e-12 * max (abs (wanted(:))));
+    expect_equal (after, z, 1e-12 * max (abs (wanted(:))));
+  end
+end
+
 function test_a_recurrence_in_blocks_is_that_of_one_step_after_another ()
   randn ('twister', 62);
   for steps = [0 1 2 3 15 16 17 300 1025]

@@ -1,0 +1,22 @@
+% S = BLOCK_FORM (A, B, C, D, N)  the linear steps z(k+1) = A z(k) + B w(k), y(k) = C z(k) + D w(k) as products of whole matrices, see in_blocks
+%
+% The steps of a block are one product: its Y are SEEN * z at its begin + FELT * its W, z at its end is POWER * z at its begin + GAINED * its W.
+% A block has as many steps as cost least for N steps in all: the longer it is, the more numbers FELT has, and the fewer blocks there are.
+function s = block_form (a, b, c, d, n)
+  [rows, in] = size (b);
+  out = size (c, 1);
+  a_block = 1e5 + 5 * rows ^ 2;  % in products of two numbers: what the host does between two of them, and one matrix times a vector
+  long = round (sqrt (a_block / (out * in + (out + in) * rows ^ 2 / max (n, 1))));
+  long = max (1, min (long, n));
+  seen = zeros (out, rows, long);
+  gained = zeros (rows, in, long);
+  [seen(:, :, 1), gained(:, :, long)] = deal (c, b);
+  for k = 2:long
+    seen(:, :, k) = seen(:, :, k - 1) * a;
+    gained(:, :, long - k + 1) = a * gained(:, :, long - k + 2);
+  end
+  s = struct ('a', a, 'b', b, 'c', c, 'd', d, 'long', long, 'seen', reshape (permute (seen, [1 3 2]), out * long, rows), ...
+              'felt', zeros (out * long, in * long), 'gained', reshape (gained, rows, in * long), 'power', a ^ long);
+  answer = [d; s.seen * b];
+  for k = 1:long, s.felt((k - 1) * out + 1:end, (k - 1) * in + 1:k * in) = answer(1:(long - k + 1) * out, :); end
+end

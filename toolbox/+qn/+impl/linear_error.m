@@ -92,7 +92,7 @@ end
 % The displacements are the first M values of the state x' = A x + B0 f + B1 f'. Of x - B1 f the next one needs f only, not f'.
 function x = march (a, b0, b1, x, f, m)
   s = qn.impl.block_form (a, a * b1 + b0, eye (m, size (a, 1)), b1(1:m, :), size (f, 2));
-  x = qn.impl.in_blocks (s, f, x - b1 * f(:, 1));
+  x = qn.impl.in_blocks (s, {f}, x - b1 * f(:, 1));
 end
 
 % The displacements of one mode are a recurrence of second order.

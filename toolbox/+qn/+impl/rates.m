@@ -2,6 +2,10 @@
 function [v, a] = rates (res, who, c)
   qn.impl.every_step (who, res);
   if ~res.complete, error ('qn:input', '%s: the run is not complete: go on with qn.resume first', who); end
+  if nargin > 2 && size (c, 1) * max (nargout, 1) <= 8 && ~qn.impl.varies (res.sim)
+    if nargout > 1, [v, a] = qn.impl.seen_rates (res, c); else, v = qn.impl.seen_rates (res, c); end
+    return
+  end
   [m, n] = size (res.q);
   rows = m;
   if nargin > 2, rows = size (c, 1); end

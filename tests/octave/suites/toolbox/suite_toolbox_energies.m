@@ -183,8 +183,8 @@ function test_linear_steps_in_blocks_are_those_of_one_step_after_another ()
     a = randn (n);
     a = a / max (abs (eig (a))) * (0.9 + 0.02 * n);
     [b, c, d, w, z] = deal (randn (n, 5), randn (out, n), randn (out, 5), randn (5, steps), randn (n, 1));
-    s = qn.impl.block_form (a, b, c, d, 400);
-    [y, after] = qn.impl.in_blocks (s, w, z);
+    s = qn.impl.block_form (a, b, c, d, 400, [2 3]);
+    [y, after] = qn.impl.in_blocks (s, {w(1:2, :), w(3:5, :)}, z);
     wanted = zeros (out, steps);
     for k = 1:steps
       wanted(:, k) = c * z + d * w(:, k);

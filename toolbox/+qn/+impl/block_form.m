@@ -21,8 +21,7 @@ function s = block_form (a, b, c, d, n, parts)
   answer = [d; seen * b];
   felt = zeros (out * long, in, long);
   for k = 1:long, felt((k - 1) * out + 1:end, :, k) = answer(1:(long - k + 1) * out, :); end
-  s = struct ('a', a, 'b', b, 'c', c, 'd', d, 'long', long, 'seen', seen, 'felt', {cell(size (parts))}, 'gained', {cell(size (parts))}, ...
-              'power', a ^ long);
+  s = struct ('long', long, 'seen', seen, 'felt', {cell(size (parts))}, 'gained', {cell(size (parts))}, 'power', a ^ long);
   last = cumsum (parts);
   for i = 1:numel (parts)
     j = last(i) - parts(i) + 1:last(i);

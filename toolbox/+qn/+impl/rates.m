@@ -2,7 +2,8 @@
 function [v, a] = rates (res, who, c)
   qn.impl.every_step (who, res);
   if ~res.complete, error ('qn:input', '%s: the run is not complete: go on with qn.resume first', who); end
-  if nargin > 2 && size (c, 1) * max (nargout, 1) <= 8 && ~qn.impl.varies (res.sim)
+  few = nargin > 2 && size (c, 1) * max (nargout, 1) <= min (8, size (res.q, 1) / 4);
+  if few && numel (res.q) > 1e6 && ~qn.impl.varies (res.sim)
     if nargout > 1, [v, a] = qn.impl.seen_rates (res, c); else, v = qn.impl.seen_rates (res, c); end
     return
   end

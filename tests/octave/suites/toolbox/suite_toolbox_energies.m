@@ -183,15 +183,41 @@ function test_linear_steps_in_blocks_are_those_of_one_step_after_another ()
     a = randn (n);
     a = a / max (abs (eig (a))) * (0.9 + 0.02 * n);
     [b, c, d, w, z] = deal (randn (n, 5), randn (out, n), randn (out, 5), randn (5, steps), randn (n, 1));
-    s = qn.impl.block_form (a, b, c, d, 400, [2 3]);
-    [y, after] = qn.impl.in_blocks (s, {w(1:2, :), w(3:5, :)}, z);
+    s = qn.impl.block_form (a, b, c, d, steps, [2 3]);
+    start = z;
+    y = qn.impl.in_blocks (s, {w(1:2, :), w(3:5, :)}, z);
+    whole = s.long * floor (steps / s.long);
     wanted = zeros (out, steps);
     for k = 1:steps
       wanted(:, k) = c * z + d * w(:, k);
       z = a * z + b * w(:, k);
+      if k == whole, [y_whole, after] = qn.impl.in_blocks (s, {w(1:2, 1:k), w(3:5, 1:k)}, start); wanted_after = z; end
     end
     expect_equal (y, wanted, 1e-12 * max (abs (wanted(:))));
-    expect_equal (after, z, 1e-12 * max (abs (wanted(:))));
+    expect_equal (y_whole, y(:, 1:whole), 1e-12 * max (abs (wanted(:))));
+    expect_equal (after, wanted_after, 1e-12 * max (abs (wanted(:))));
+  end
+end
+
+% A long result's velocities at few places are computed without those of all modes, by sums in another order.
+function test_velocities_of_a_few_places_are_those_among_many ()
+  n = 20;
+  K = 1e4 * (2 * eye (n) - diag (ones (n - 1, 1), 1) - diag (ones (n - 1, 1), -1));
+  g = zeros (n);
+  g(2, 5) = 8;
+  for more = {{'damping', 0.02}, {'C', 2 * eye(n) + g - g.'}}
+    model = qn.modal (K, eye (n), more{1}{:});
+    list = {qn.cubic('stiffness', 1e6), qn.observe(model, 3); qn.slider('slip', 5, 'stiffness', 1e4), qn.observe(model, 9)};
+    for drive = {{'load', {qn.load_at(model, 7), @(t) 50 * sin(30 * t)}}, {}}
+      sim = qn.simulation (model, 'step', 1e-3, 'steps', 51000, 'v0', ones (n, 1), 'elements', list, drive{1}{:});
+      res = qn.run (sim, 'progress', false, 'check', false);
+      [v, a] = qn.velocity (res, (1:n - 1).');
+      [few, fast] = qn.velocity (res, [4; 7]);
+      expect_equal (few, v([4 7], :), 1e-12 * max (abs (v(:))));
+      expect_equal (fast, a([4 7], :), 1e-12 * max (abs (a(:))));
+      expect_equal (qn.velocity (res, 4), few(1, :), 1e-13 * max (abs (v(:))));
+      expect_equal (few(:, end), qn.observe (model, [4 7]) * res.final.v(1:n), 1e-12 * max (abs (v(:))));
+    end
   end
 end
 

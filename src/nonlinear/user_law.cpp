@@ -64,10 +64,18 @@ bool allFinite(const double* x, int n) {
   return std::all_of(x, x + n, [](double value) { return std::isfinite(value); });
 }
 
+/// A column that a function of the host may keep or give back. Where arguments are lent, what the host computes is its own: x times 1 has the
+/// bits of x. A scalar is copied by every host.
 mxArray* columnOf(const double* x, int n) {
   mxArray* a = mxCreateDoubleMatrix(static_cast<mwSize>(n), n > 0 ? 1 : 0, mxREAL);
   if (n > 0) std::copy_n(x, n, mxGetPr(a));
-  return a;
+  if (n < 2 || !host::lendsArguments()) return a;
+  mxArray* factors[2] = {a, mxCreateDoubleScalar(1.0)};
+  mxArray* own = nullptr;
+  host::callHost(1, &own, 2, factors, "times");
+  mxDestroyArray(factors[0]);
+  mxDestroyArray(factors[1]);
+  return own;
 }
 
 /// Takes the n values of what the function returned.
@@ -88,9 +96,9 @@ void callFunction(chandleNl_inout* h, int first, int rows, int states, double t)
   if (disturbedUses != before) {  // h may be gone
     host::refuse("the law's function freed, or used in a call of its own, a handle of the call that waits for it, at t = %.9g s", t);
   }
-  for (int k = 1; k < 5; ++k) mxDestroyArray(in[k]);
   take(out[0], rows, "forces", t, h->snl + first);
   if (states > 0) take(out[1], states, "states", t, h->unl + rows);
+  for (int k = 1; k < 5; ++k) mxDestroyArray(in[k]);  // last: a result may be one of them
 }
 
 }  // namespace

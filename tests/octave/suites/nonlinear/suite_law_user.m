@@ -353,6 +353,31 @@ function test_what_a_function_must_return ()
   refused (e, 'the law''s function must return 1 states, full and real, got nothing', ones (3, 1));
 end
 
+% Octave 11 lends a function the memory of what a module hands it, and takes it back.
+function test_a_function_may_keep_what_it_is_given_and_give_it_back ()
+  e = two_rows ([], 1, 3);
+  e.call = @keeping;
+  keeping ();
+  r = zeros (3, 1);
+  for k = 1:3
+    r = r + residual_of (e, [k; -0.1; 4]);
+    rand (2, 1);  % the memory is used again
+  end
+  expect_close (r, [6; -0.3; 0], 1e-15);
+  expect_equal (keeping (), {[1; -0.1], [2; -0.1], [3; -0.1]});
+end
+
+% Gives back the x of each call; called without arguments, those of all calls, which it then forgets.
+function [x, s] = keeping (x, v, s, t)
+  persistent all
+  if nargin == 0
+    x = all;
+    all = {};
+  else
+    all{end + 1} = x;
+  end
+end
+
 function test_errors_of_a_function_arrive_with_identifier_and_text ()
   e = one_row ();
   e.call = @(x, v, s, t) error ('bearing:dry', 'no oil at %g', x);

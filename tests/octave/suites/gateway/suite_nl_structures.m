@@ -204,6 +204,17 @@ function test_mocirc2_adds_and_stores_nothing ()
   expect_equal (model.FNL, [9; 9; 9]);
 end
 
+% A sum for each of two billion rows, seen by nobody, took a minute.
+function test_mocirc2_of_two_billion_rows_holds_no_call ()
+  e = struct ('type', 'mocirc2', 'cta', matrix_lines (sparse ([1 2 3 4], 1, [1 2 3 4], 4, 1)));
+  e.cta.dims = [2^31 - 1, 1];
+  r = zeros (4, 1) + 2;
+  start = cputime ();
+  for k = 1:10, add_model (r, nl_model (e), [1; 2; 3; 4], zeros (4, 1)); end
+  expect_equal (r, 2 * ones (4, 1));
+  if cputime () - start > 60, error ('ten calls took %g s of the processor', cputime () - start); end
+end
+
 function test_elements_add_in_the_order_of_the_rows ()
   e = two_dof_element ();
   e.Fu = @(e, varargin) [1e16; 0];

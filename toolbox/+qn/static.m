@@ -42,6 +42,7 @@ function [q, info] = static (model, load, elements, q)
   q = q(:);
   model.damping = zeros (m, 1);
   sim = struct ('model', model);
+  qn.impl.elements (model, elements, who);
   [sim.elements, sim.states, sim.slots] = qn.impl.elements (model, qn.impl.without_memory (who, elements), who);
   h = qn.impl.register (qn.impl.values (sim, 1));
   free = onCleanup (@() delete (h));

@@ -70,6 +70,14 @@ function test_too_few_arguments_are_refused_in_words ()
   end
 end
 
+function test_elements_of_the_wrong_form_are_refused_by_static_as_by_simulation ()
+  model = chain (2);
+  for list = {5, 'a', struct(), {qn.cubic('stiffness', 1)}}
+    refused (@() qn.static (model, [0; 0], list{1}), '^qn.static: "elements" is a cell \{law, rows; ...\}, got');
+  end
+  refused (@() qn.static (model, [0; 0], {1, qn.cubic('stiffness', 1)}), '^qn.static: element 1 has its law and its rows in the wrong order');
+end
+
 function test_what_is_no_name_of_a_file_or_scheme_is_refused_in_words ()
   refused (@() qn.mmwrite (5, [1 2]), '^qn.mmwrite: "FILE" must be the name of a file, got an array of class double');
   refused (@() qn.plot.picture ('a.png', 1), 'a figure and the name of a file expected');

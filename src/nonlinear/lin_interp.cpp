@@ -125,10 +125,10 @@ void interpolateApart(const double* X, const double* x, double* rec, double* out
 }
 
 double interpolateOne(const double* X, double xq, double* rec, int nx) {
-  const int found = searchAscending(X, nx, start(rec[0]), xq);
-  const int s = resolveJump(X, nx, std::min(found, nx - 2), xq);
+  const int reached = searchAscending(X, nx, start(rec[0]), xq);
+  const int s = resolveJump(X, nx, std::min(reached, nx - 2), xq);
   const double f = fraction(X, s, xq);
-  rec[0] = found;
+  rec[0] = reached;
   rec[1] = xq;
   rec[2] = f;
   const double* y = X + nx + s;

@@ -83,6 +83,7 @@ void chandleNl_inout::readOptions() {
   law = row->law;
   check = row->check;
   tableAscends = false;
+  subStepsChecked = false;
   if (law == FuUser) bindUserLaw(this);
 }
 

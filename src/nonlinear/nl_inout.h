@@ -56,6 +56,8 @@ class chandleNl_inout final : public chandle {
   mxArray* call = nullptr;          ///< its function
   bool tableAscends = false;        ///< the abscissae of the law's table ascend, and nothing that a run writes lies on them
 
+  bool subStepsChecked = false;  ///< of law "Maxw": an evaluation of this call had sub-steps, and the arrays hold what they need
+
   // Values that the arrays hold in all.
   std::size_t unlTotal = 0;
   std::size_t vnlTotal = 0;

@@ -13,7 +13,9 @@ function c = observed (who, model, dofs, weights)
   dofs = qn.impl.numbers (who, 'DOFS', dofs, [], 'whole', 'list');
   bad = find (dofs < 1 | dofs > n, 1);
   if ~isempty (bad)
-    error ('qn:input', '%s: "DOFS"(%d) is %g; degrees of freedom are numbered from 1 to %d', who, bad, dofs(bad), n);
+    hint = '';
+    if size (dofs, 2) == n && n > 1 && any (dofs < 1), hint = sprintf ('. A row of %d weights is given as sparse ([...])', n); end
+    error ('qn:input', '%s: "DOFS"(%d) is %g; degrees of freedom are numbered from 1 to %d%s', who, bad, dofs(bad), n, hint);
   end
   c = model.shapes(dofs, :);
   if nargin > 3

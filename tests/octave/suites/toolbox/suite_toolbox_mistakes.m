@@ -42,6 +42,14 @@ function test_numbers_of_degrees_of_freedom_are_never_weights_of_modes ()
   expect_equal (qn.displacement (res, [1 1]), sum (res.q, 1));
 end
 
+function test_a_row_of_weights_that_is_taken_for_numbers_is_told_how_to_be_given ()
+  model = chain (2);
+  refused (@() qn.observe (model, [1 -1 0]), '"DOFS"\(2\) is -1; .* from 1 to 3\. A row of 3 weights is given as sparse \(\[\.\.\.\]\)$');
+  refused (@() qn.load_at (model, [0 0 1]), '"DOFS"\(1\) is 0; .* A row of 3 weights');
+  refused (@() qn.observe (model, [1 0]), '"DOFS"\(2\) is 0; degrees of freedom are numbered from 1 to 3$');
+  expect_equal (qn.observe (model, sparse ([1 -1 0])), qn.observe (model, [1 2], [1 -1]), 1e-15);
+end
+
 % In MATLAB a text in double quotes is a string object; a class of that name is in its place here.
 function test_texts_in_double_quotes_are_taken_like_those_in_single_ones ()
   place = fullfile (fileparts (which ('fresh')), 'string_objects');

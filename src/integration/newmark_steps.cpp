@@ -5,15 +5,11 @@
 #include <cstring>
 
 #include "numbers/processor.h"
+#include "numbers/vectors.h"
 
 namespace quarn {
 
 namespace {
-
-// As many modes side by side as fill a register of the processor: longer vectors would be worked on in memory.
-using Eight [[gnu::vector_size(8 * sizeof(double))]] = double;
-using Four [[gnu::vector_size(4 * sizeof(double))]] = double;
-using Two [[gnu::vector_size(2 * sizeof(double))]] = double;
 
 template <class Vector>
 constexpr std::ptrdiff_t lanes = sizeof(Vector) / sizeof(double);
@@ -29,13 +25,6 @@ struct Modes {
   const double* k;
   const double* c;
 };
-
-template <class Vector>
-[[gnu::always_inline]] inline void load(Vector& to, const double* from) {
-  // The analyser takes the arrays of forces that a kernel has for null.
-  // NOLINTNEXTLINE(clang-analyzer-core.NonNullParamChecker)
-  std::memcpy(&to, from, sizeof to);
-}
 
 /// Vectors vectors of modes through all steps; they are independent, and keep the processor busy together. rows: how many values of each
 /// are saved, from row first of the place on.
@@ -152,15 +141,15 @@ template <class Vector, With with>
   }
 // NOLINTEND(bugprone-macro-parentheses)
 #ifdef QUARN_VERSION_BASE
-QUARN_STEPS(QUARN_VERSION_BASE, Two)
-QUARN_STEPS(QUARN_VERSION_V3, Four)
-QUARN_STEPS(QUARN_VERSION_V4, Eight)
+QUARN_STEPS(QUARN_VERSION_BASE, Doubles2)
+QUARN_STEPS(QUARN_VERSION_V3, Doubles4)
+QUARN_STEPS(QUARN_VERSION_V4, Doubles8)
 #elif defined(__AVX512F__)
-QUARN_STEPS(, Eight)
+QUARN_STEPS(, Doubles8)
 #elif defined(__AVX__)
-QUARN_STEPS(, Four)
+QUARN_STEPS(, Doubles4)
 #else
-QUARN_STEPS(, Two)
+QUARN_STEPS(, Doubles2)
 #endif
 #undef QUARN_STEPS
 

@@ -3,33 +3,26 @@
 #include <cstddef>
 #include <cstring>
 
+#include "numbers/vectors.h"
+
 namespace quarn {
 
 namespace {
 
+/// Partial sums of a line, side by side in vectors.
 constexpr int kSums = 8;
 
-// The partial sums of a line are side by side in vectors that fill a register of the processor: longer ones would be worked on in memory.
-using Eight [[gnu::vector_size(kSums * sizeof(double))]] = double;
-using Half [[gnu::vector_size(kSums / 2 * sizeof(double))]] = double;
-using Pair [[gnu::vector_size(2 * sizeof(double))]] = double;
-
-template <class Vector>
-[[gnu::always_inline]] inline void load(Vector& to, const double* from) {
-  std::memcpy(&to, from, sizeof to);
-}
-
 /// Adds the first n products, n < 4, and zeros: a partial sum is never a negative zero, so that they leave it as it is.
-[[gnu::always_inline]] inline void addFew(Half& sums, int n, const double* a, const double* b) {
+[[gnu::always_inline]] inline void addFew(Doubles4& sums, int n, const double* a, const double* b) {
   switch (n) {
     case 1:
-      sums += Half{a[0] * b[0], 0.0, 0.0, 0.0};
+      sums += Doubles4{a[0] * b[0], 0.0, 0.0, 0.0};
       break;
     case 2:
-      sums += Half{a[0] * b[0], a[1] * b[1], 0.0, 0.0};
+      sums += Doubles4{a[0] * b[0], a[1] * b[1], 0.0, 0.0};
       break;
     case 3:
-      sums += Half{a[0] * b[0], a[1] * b[1], a[2] * b[2], 0.0};
+      sums += Doubles4{a[0] * b[0], a[1] * b[1], a[2] * b[2], 0.0};
       break;
     default:
       break;
@@ -51,28 +44,28 @@ template <int first, class Part, class Vector>
 }
 
 /// Partial sums 0 to 3, and 4 to 7.
-[[gnu::always_inline]] inline void halves(const Eight* sums, Half& low, Half& high) {
+[[gnu::always_inline]] inline void halves(const Doubles8* sums, Doubles4& low, Doubles4& high) {
   take<0>(low, sums[0]);
   take<4>(high, sums[0]);
 }
-[[gnu::always_inline]] inline void halves(const Half* sums, Half& low, Half& high) {
+[[gnu::always_inline]] inline void halves(const Doubles4* sums, Doubles4& low, Doubles4& high) {
   low = sums[0];
   high = sums[1];
 }
-[[gnu::always_inline]] inline void halves(const Pair* sums, Half& low, Half& high) {
-  low = Half{sums[0][0], sums[0][1], sums[1][0], sums[1][1]};
-  high = Half{sums[2][0], sums[2][1], sums[3][0], sums[3][1]};
+[[gnu::always_inline]] inline void halves(const Doubles2* sums, Doubles4& low, Doubles4& high) {
+  low = Doubles4{sums[0][0], sums[0][1], sums[1][0], sums[1][1]};
+  high = Doubles4{sums[2][0], sums[2][1], sums[3][0], sums[3][1]};
 }
 
 /// The sum of a line from its partial sums and its last n entries, n < 8.
 template <class Vector>
 [[gnu::always_inline]] inline double total(const Vector* sums, int n, const double* row, const double* x) {
-  Half low;
-  Half high;
+  Doubles4 low;
+  Doubles4 high;
   halves(sums, low, high);
   if (n >= 4) {
-    Half a;
-    Half b;
+    Doubles4 a;
+    Doubles4 b;
     load(a, row);
     load(b, x);
     low += a * b;
@@ -80,12 +73,12 @@ template <class Vector>
   } else {
     addFew(low, n, row, x);
   }
-  const Half t = low + high;
-  Pair first;
-  Pair second;
+  const Doubles4 t = low + high;
+  Doubles2 first;
+  Doubles2 second;
   take<0>(first, t);
   take<2>(second, t);
-  const Pair two = first + second;
+  const Doubles2 two = first + second;
   return two[0] + two[1];
 }
 
@@ -140,15 +133,15 @@ template <class Vector>
   }
 // NOLINTEND(bugprone-macro-parentheses)
 #ifdef QUARN_VERSION_BASE
-QUARN_SUMS(QUARN_VERSION_BASE, Pair)
-QUARN_SUMS(QUARN_VERSION_V3, Half)
-QUARN_SUMS(QUARN_VERSION_V4, Eight)
+QUARN_SUMS(QUARN_VERSION_BASE, Doubles2)
+QUARN_SUMS(QUARN_VERSION_V3, Doubles4)
+QUARN_SUMS(QUARN_VERSION_V4, Doubles8)
 #elif defined(__AVX512F__)
-QUARN_SUMS(, Eight)
+QUARN_SUMS(, Doubles8)
 #elif defined(__AVX__)
-QUARN_SUMS(, Half)
+QUARN_SUMS(, Doubles4)
 #else
-QUARN_SUMS(, Pair)
+QUARN_SUMS(, Doubles2)
 #endif
 #undef QUARN_SUMS
 

@@ -7,10 +7,11 @@
 #include <cstdint>
 #include <cstring>
 
+#include "numbers/vectors.h"
+
 namespace quarn {
 
-/// Two products side by side.
-using TwoProducts [[gnu::vector_size(2 * sizeof(double))]] = double;
+using TwoProducts = Doubles2;
 
 /// pr[0] * x[ir[0]] and pr[1] * x[ir[1]]. Both indices are read at once: the loads are what a short line takes its time for.
 [[gnu::always_inline]] inline TwoProducts twoProducts(const double* pr, const int* ir, const double* x) {

@@ -42,9 +42,12 @@ function d = dissipated (res)
   qn.impl.every_step ('qn.dissipated', res);
   d = struct ('law', {}, 'absorbed', {}, 'stored', {}, 'exchanged', {}, 'dissipated', {});
   m = numel (sim.model.w);
+  met = cat (1, zeros (0, m), sim.elements.observe) * res.q;  % one pass for all elements
+  last = 0;
   for e = sim.elements
     f = res.force(e.forces, :);
-    x = e.observe * res.q;
+    x = met(last + (1:size (e.observe, 1)), :);
+    last = last + size (x, 1);
     y = x;
     if ~isequal (e.command, e.observe), y = e.command * res.q; end
     absorbed = [zeros(size (f, 1), 1), cumsum((f(:, 1:end - 1) + f(:, 2:end)) / 2 .* diff (y, 1, 2), 2)];

@@ -71,17 +71,19 @@ function e = of_structure (e, res)
   for columns = qn.impl.blocks (size (res.q))
     j = columns(1):columns(2);
     [v, at] = qn.impl.next_rates (res, at, j);
-    e.kinetic(j) = weighed (ones (size (v, 1), 1), v, v) / 2;
-    e.strain(j) = weighed (k, res.q(:, columns(1):columns(2)), res.q(:, columns(1):columns(2))) / 2;
-    v = [last, v];
-    last = v(:, end);
-    j = max (j(1) - 1, 1):j(end);
-    to = j(2:end);
     q = res.q(:, j(1):j(end));
-    moved = diff (q, 1, 2);
+    e.kinetic(j) = dot (v, v, 1) / 2;
+    e.strain(j) = weighed (k, q, q) / 2;
+    if ~isempty (last)
+      v = [last, v];
+      j = j(1) - 1:j(end);
+      q = res.q(:, j(1):j(end));
+    end
+    last = v(:, end);
+    to = j(2:end);
+    moved = q(:, 2:end) - q(:, 1:end - 1);
     e.damped(to) = weighed (c, v(:, 1:end - 1) + v(:, 2:end), moved) / 2;
-    e.work(to) = weighed (ones (size (sim.shapes, 2), 1), sim.loads(:, j(1):j(end) - 1) + sim.loads(:, j(1) + 1:j(end)), ...
-                          sim.shapes.' * moved) / 2;
+    e.work(to) = dot (sim.loads(:, j(1):j(end) - 1) + sim.loads(:, j(1) + 1:j(end)), sim.shapes.' * moved, 1) / 2;
     between = @(f) sum ((f(:, 1:end - 1) + f(:, 2:end)) / 2 .* moved, 1);
     if any (circulatory(:)), e.circulatory(to) = between (circulatory * q); end
     if any (gyroscopic(:)), e.gyroscopic(to) = between (gyroscopic * v); end
@@ -101,7 +103,7 @@ end
 
 % Column by column y' C x, C by its diagonal or whole.
 function p = weighed (c, x, y)
-  if size (c, 2) == 1, p = c.' * (x .* y); else, p = sum ((c * x) .* y, 1); end
+  if size (c, 2) == 1, p = c.' * (x .* y); else, p = dot (c * x, y, 1); end
 end
 
 % Symmetric and skew part of a modal matrix; of a diagonal, given as a column, that and nothing.

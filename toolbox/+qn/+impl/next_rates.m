@@ -11,16 +11,14 @@ function [v, at, a] = next_rates (res, at, j)
     [v, at, a] = while_turning (sim, at, res.q(:, j), g, j);
     return
   end
-  first = isempty (at.g);
-  if first
+  if isempty (at.g)
     at.v = sim.start.v(1:m);
     at.g = sim.start.a(1:m) + qn.impl.product (at.damping, at.v);
     g(:, 1) = at.g;
+    v = [at.v, along(at, g(:, 2:end))];
   else
-    g = [at.g, g];
+    v = along (at, g);
   end
-  v = along (at, g);
-  if first, v = [at.v, v]; else, g = g(:, 2:end); end
   [at.v, at.g] = deal (v(:, end), g(:, end));
   if nargout > 2, a = g - qn.impl.product (at.damping, v); end
 end
@@ -44,15 +42,15 @@ function at = start_of (sim, m)
   at.parts = qn.impl.varying (sim);
 end
 
-% The velocities at the columns of G but the first, where they are AT.v. A row that is turned lies in one piece of memory.
+% The velocities at the columns of G, which follow AT.v and AT.g. A row that is turned lies in one piece of memory.
 function v = along (at, g)
   if size (at.keeps, 2) > 1
-    v = qn.impl.recurrence (at.keeps, at.early * g(:, 1:end - 1) + at.late * g(:, 2:end), at.v, size (g, 1));
+    v = qn.impl.recurrence (at.keeps, at.early * [at.g, g(:, 1:end - 1)] + at.late * g, at.v, size (g, 1));
     v = v(:, 2:end);
     return
   end
-  carried = at.early .* g(:, 1) + at.keeps .* at.v;
-  g = g(:, 2:end).';
+  carried = at.early .* at.g + at.keeps .* at.v;
+  g = g.';
   v = zeros (size (g));
   for i = 1:size (g, 2), v(:, i) = filter ([at.late(i), at.early(i)], [1, -at.keeps(i)], g(:, i), carried(i)); end
   v = v.';

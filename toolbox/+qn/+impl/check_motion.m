@@ -22,6 +22,11 @@ function found = check_motion (res, before)
     f = seen.force(e.forces, :);
     at = row + (1:size (e.observe, 1));
     row = at(end);
+    most = max (abs (met(at, end)));
+    if most > 1e6  % no structure: what feeds a motion has its greatest value at the end
+      found(end + 1) = qn.impl.finding ('motion_large', 'warning', ['element %d moves by %.3g m at the end: a force of the wrong sign ' ...
+        'feeds the motion (the force of a spring has the sign of its displacement here), or the units are wrong'], e.item, most);
+    end
     x = qn.impl.met (e.law, met(at, :), f);
     one = qn.impl.check_law (res.sim, k, x, none, qn.impl.memory_of (res.sim, k, seen.state), f, qn.impl.record_of (res, k));
     for j = 1:numel (one)

@@ -506,6 +506,17 @@ function test_flexibility_of_a_free_structure_is_that_of_its_shape ()
 end
 
 % The newtons of "boucwen_kink" against ways through z = 0 in one step, compared with the same way in 500 parts.
+% What grows by e in some hundredths of a second is far beyond any structure before it is beyond all numbers.
+function test_a_force_of_the_wrong_sign_does_not_grow_without_a_word ()
+  for law = {qn.law('table', 'displacement', [-1 1], 'force', [1e5 -1e5]), qn.law('power', 'stiffness', -1e5, 'exponent', 1)}
+    sim = good ('elements', {law{1}, 1}, 'until', 0.5);
+    said = evalc ('res = qn.run (sim, ''progress'', false);');
+    assert (abs (res.q(end)) > 1e6 && res.complete);
+    words = sprintf ('element 1 moves by %.3g m at the end: a force of the wrong sign', abs (res.q(end)));
+    if isempty (strfind (said, words)), error ('said: %s', said); end
+  end
+end
+
 function test_the_error_at_a_kink_of_bouc_wen_is_bounded_by_what_is_said ()
   for exponent = [0.2 0.35 0.5 0.7]
     law = qn.law ('boucwen', 'stiffness', 1e4, 'ratio', 0, 'beta', 1, 'gamma', 0, 'exponent', exponent);

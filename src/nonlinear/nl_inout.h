@@ -55,8 +55,7 @@ class chandleNl_inout final : public chandle {
   const quarn_law* user = nullptr;  ///< of law "User": its library's law, or
   mxArray* call = nullptr;          ///< its function
   bool tableAscends = false;        ///< the abscissae of the law's table ascend, and nothing that a run writes lies on them
-
-  bool subStepsChecked = false;  ///< of law "Maxw": an evaluation of this call had sub-steps, and the arrays hold what they need
+  bool subStepsChecked = false;     ///< of law "Maxw": an evaluation of this call had sub-steps, and the arrays hold what they need
 
   // Values that the arrays hold in all.
   std::size_t unlTotal = 0;

@@ -220,6 +220,14 @@ function test_what_could_not_be_read_as_data_is_not_taken_for_saved ()
   end
 end
 
+% MATLAB's save adds ".mat" to a name without an end, and what it had written was not found again.
+function test_what_is_written_has_a_name_that_every_host_keeps ()
+  folder = scratch ();
+  clean = onCleanup (@() gone (folder));
+  why = qn.impl.files.replace_file (fullfile (folder, 'x'), @(part) ['it is ' part]);
+  if isempty (regexp (why, '^it is .*\.mat$', 'once')), error ('it said "%s"', why); end
+end
+
 function test_a_file_of_version_01_goes_on_when_its_user_loads_it ()
   folder = scratch ();
   clean = onCleanup (@() gone (folder));

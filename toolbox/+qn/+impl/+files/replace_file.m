@@ -6,7 +6,7 @@ function [why, done] = replace_file (file, make, replace)
   done = false;
   [folder, file, why] = qn.impl.files.beside (file);
   if isempty (folder), return, end
-  part = fullfile (folder, 'part');
+  part = fullfile (folder, 'part.mat');  % MATLAB's save would add the end of the name
   tidy = onCleanup (@() clean (folder, part));
   why = make (part);
   if ~isempty (why), return, end

@@ -11,7 +11,7 @@ function why = made (part, s)
   why = '';
   try
     save (part, '-struct', 's', '-v6');
-    if (plain (s) && isequaln (load ('-mat', part), s)) || isequaln (qn.impl.files.read_data (part), s), return, end
+    if (plain (s) && isequaln (load (part, '-mat'), s)) || isequaln (qn.impl.files.read_data (part), s), return, end
     wrong = 'what was read again is not what was written';
   catch err
     wrong = err.message;

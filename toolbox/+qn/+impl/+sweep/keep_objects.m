@@ -3,7 +3,7 @@
 % It is made and read again in a private folder, since reading it runs what it holds, and then copied byte by byte.
 function keep_objects (file, s)
   private = qn.impl.files.private_folder ();
-  made = fullfile (private, 'made');
+  made = fullfile (private, 'made.mat');  % MATLAB's save would add the end of the name
   tidy = onCleanup (@() qn.impl.sweep.remove (private));
   try
     if exist ('OCTAVE_VERSION', 'builtin')

@@ -28,7 +28,7 @@ class chandle {
   /// Whether EndStep has something to do in a run that begins now.
   virtual bool endsSteps() const { return true; }
   /// Adds this handle's contribution to r (in-out, ctx.N values). Trusts what checkSizes has established.
-  virtual void Residual(const ROr& /*ctx*/, double* /*r*/) {}
+  virtual void Residual(ROr /*ctx*/, double* /*r*/) {}
 
   /// The times of the steps of a run that begins now, before checkSizes. Only the integrator has them.
   virtual void takeTimes(const StepTimes& /*times*/) {}

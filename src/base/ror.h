@@ -8,8 +8,7 @@
 
 namespace quarn {
 
-/// Handed on as a reference, to be read: as a copy, one for each element and one for its law, it took a tenth of an element's time.
-/// Owns nothing, all pointers borrow arrays of the current call.
+/// Passed by value; owns nothing, all pointers borrow arrays of the current call.
 struct ROr {
   std::int32_t N = 0;     ///< degrees of freedom: rows of the displacement argument
   double alpha = 0.0;     ///< Rayleigh coefficient of the mass matrix [1/s]

@@ -113,7 +113,7 @@ void chandleSparseStiffness::checkTerms(const ROr& ctx, std::size_t rLen) {
   if (diagonal() || ctx.beta != 0.0) checkTerm(ctx.N, ctx.vLen, rLen, "v");
 }
 
-void chandleSparseStiffness::Residual(const ROr& c, double* r) {
+void chandleSparseStiffness::Residual(ROr c, double* r) {
   if (!m.ir || !m.pr) return;
   if (factor) {
     addChanging(c, factor.value(c.t), r);
@@ -155,7 +155,7 @@ void chandleSparseMass::checkTerms(const ROr& ctx, std::size_t rLen) {
   if (diagonal() || ctx.alpha != 0.0) checkTerm(ctx.N, ctx.vLen, rLen, "v");
 }
 
-void chandleSparseMass::Residual(const ROr& c, double* r) {
+void chandleSparseMass::Residual(ROr c, double* r) {
   if (!c.a || !m.ir) return;
   if (diagonal()) {
     for (int i = 0; i < c.N; ++i) r[i] += m.pr[i] * (c.a[i] + c.alpha * c.v[i]);
@@ -186,7 +186,7 @@ void chandleSparseDamping::checkTerms(const ROr& ctx, std::size_t rLen) {
   operand = {ctx.v, ctx.vLen};
 }
 
-void chandleSparseDamping::Residual(const ROr& c, double* r) {
+void chandleSparseDamping::Residual(ROr c, double* r) {
   if (!m.ir || !m.pr) return;
   if (factor) {
     addChanging(c, factor.value(c.t), r);

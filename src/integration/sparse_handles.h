@@ -55,7 +55,7 @@ class chandleSparse : public chandle {
 class chandleSparseStiffness final : public chandleSparse {
  public:
   void initCpt() override;
-  void Residual(const ROr& c, double* r) override;
+  void Residual(ROr c, double* r) override;
 
  private:
   void checkTerms(const ROr& ctx, std::size_t rLen) override;
@@ -68,7 +68,7 @@ class chandleSparseStiffness final : public chandleSparse {
 class chandleSparseMass final : public chandleSparse {
  public:
   void initCpt() override;
-  void Residual(const ROr& c, double* r) override;
+  void Residual(ROr c, double* r) override;
 
  private:
   void checkTerms(const ROr& ctx, std::size_t rLen) override;
@@ -79,7 +79,7 @@ class chandleSparseMass final : public chandleSparse {
 class chandleSparseDamping final : public chandleSparse {
  public:
   void initCpt() override;
-  void Residual(const ROr& c, double* r) override;
+  void Residual(ROr c, double* r) override;
 
  private:
   void checkTerms(const ROr& ctx, std::size_t rLen) override;

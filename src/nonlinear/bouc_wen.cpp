@@ -61,7 +61,7 @@ void checkBoucWen(const chandleNl_inout& h, const ROr& /*ro*/) {
   requireValues("BoucWen", "snl", h.snlTotal, last + 1);
 }
 
-void FuBoucWen(chandleNl_inout* h, const ROr& ro) {
+void FuBoucWen(chandleNl_inout* h, ROr ro) {
   const double stiffness = h->opt[3];
   const double share = h->opt[4];
   const Hysteresis law(h->opt);

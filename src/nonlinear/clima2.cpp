@@ -16,7 +16,7 @@ void checkClima2(const chandleNl_inout& h, const ROr& /*ro*/) {
   requireValues("Clima2", "snl", h.snlTotal, 3);
 }
 
-void Clima2(chandleNl_inout* h, const ROr& ro) {
+void Clima2(chandleNl_inout* h, ROr ro) {
   const double dt = timeIncrement(h, ro);
   if (h->unlLen > 0) {
     const double stiffness = h->opt[3];

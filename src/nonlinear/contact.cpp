@@ -6,7 +6,7 @@
 
 namespace quarn {
 
-void FuContact(chandleNl_inout* h, const ROr& ro) {
+void FuContact(chandleNl_inout* h, ROr ro) {
   const double stiffness = h->opt[1];
   const double exponent = h->opt[2];
   const double damping = h->opt[3];

@@ -11,7 +11,7 @@ void checkDahlC(const chandleNl_inout& h, const ROr& /*ro*/) {
   requireValues("DahlC", "snl", h.snlTotal, last + 1);
 }
 
-void FuDahlC(chandleNl_inout* h, const ROr& ro) {
+void FuDahlC(chandleNl_inout* h, ROr ro) {
   const double dt = timeIncrement(h, ro);
   const double stiffness = h->opt[3];
   const double exponent = h->opt[4];

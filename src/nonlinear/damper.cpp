@@ -6,7 +6,7 @@
 
 namespace quarn {
 
-void FuDamper(chandleNl_inout* h, const ROr& ro) {
+void FuDamper(chandleNl_inout* h, ROr ro) {
   const double coefficient = h->opt[1];
   const double exponent = h->opt[2];
   for (int i = 0; i < h->unlLen; ++i) {

@@ -68,7 +68,7 @@ void checkTable(const chandleNl_inout& h, const ROr& /*ro*/) {
   checkLength(h.snlTotal, columns * h.unlLen, "snl", "the table's columns for each observed value");
 }
 
-void FuTable(chandleNl_inout* h, const ROr& ro) {
+void FuTable(chandleNl_inout* h, ROr ro) {
   const TablePlace t = tablePlace(*h);
   if (h->tableAscends && h->unlLen == 1 && t.ny == 1) {
     h->snl[0] = interpolateOne(t.table, h->unl[0], t.record, t.nx);

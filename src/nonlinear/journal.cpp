@@ -45,7 +45,7 @@ void checkJournal(const chandleNl_inout& h, const ROr& /*ro*/) {
   }
 }
 
-void FuJournal(chandleNl_inout* h, const ROr& ro) {
+void FuJournal(chandleNl_inout* h, ROr ro) {
   const double length = h->opt[2];
   const double clearance = h->opt[4];
   const double spin = h->opt[5];

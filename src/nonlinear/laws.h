@@ -19,24 +19,24 @@ struct LawRow {
 const LawRow* findLaw(double opt0);
 
 // Laws without states.
-void FuPower(chandleNl_inout* h, const ROr& ro);  ///< snl = opt[1] * pow(unl, opt[2])
-void FuExpon(chandleNl_inout* h, const ROr& ro);  ///< snl = opt[1] * pow(opt[2], unl)
-void FuTable(chandleNl_inout* h, const ROr& ro);  ///< snl interpolated in the table at opt[iopt[5]]
+void FuPower(chandleNl_inout* h, ROr ro);  ///< snl = opt[1] * pow(unl, opt[2])
+void FuExpon(chandleNl_inout* h, ROr ro);  ///< snl = opt[1] * pow(opt[2], unl)
+void FuTable(chandleNl_inout* h, ROr ro);  ///< snl interpolated in the table at opt[iopt[5]]
 
 /// snl = opt[1] * |vnl|^opt[2] with the sign of vnl, 0 at rest: a dashpot that is linear (opt[2] = 1), quadratic (2: drag, an orifice) or
 /// between them.
-void FuDamper(chandleNl_inout* h, const ROr& ro);
+void FuDamper(chandleNl_inout* h, ROr ro);
 
 /// snl = side * max(0, opt[1] * d^opt[2] * (1 + opt[3] * d')) for a depth d = side*unl - opt[4] above 0, else 0: a stop that is reached at
 /// the gap opt[4], on the side of positive values, or where opt[5] is negative of negative ones. It pushes and never pulls. Source: K. H.
 /// Hunt and F. R. E. Crossley, Coefficient of restitution interpreted as damping in vibroimpact, J. Applied Mechanics 42 (1975).
-void FuContact(chandleNl_inout* h, const ROr& ro);
+void FuContact(chandleNl_inout* h, ROr ro);
 
 /// snl = a force that was measured over a grid of nx = iopt[5] displacements and nv = iopt[6] velocities, bilinear between them; beyond the
 /// grid its outer cells go on. opt[3] on: the displacements, the velocities, the forces, nx for each velocity. opt[1] and opt[2] are raised
 /// to the greatest distances [m, m/s] from the grid that are met. Source: S. F. Masri and T. K. Caughey, A nonparametric identification
 /// technique for nonlinear dynamic problems, J. Applied Mechanics 46 (1979).
-void FuSurface(chandleNl_inout* h, const ROr& ro);
+void FuSurface(chandleNl_inout* h, ROr ro);
 
 void checkPower(const chandleNl_inout& h, const ROr& ro);
 void checkExpon(const chandleNl_inout& h, const ROr& ro);

@@ -91,7 +91,7 @@ void checkMaxw(const chandleNl_inout& h, const ROr& /*ro*/) {
   requireBlocks(h, at);
 }
 
-void Maxw(chandleNl_inout* h, const ROr& ro) {
+void Maxw(chandleNl_inout* h, ROr ro) {
   const double dt = timeIncrement(h, ro);
   const int steps = toInt(h->opt[3]);
   const int elements = steps >= 1 ? h->iopt[4] : 0;

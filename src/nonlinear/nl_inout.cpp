@@ -151,7 +151,7 @@ void chandleNl_inout::addForces(const ROr& ro, double* r) {
   Add_Mt_ub(dims, b.ir, b.jc, b.pr, snl, r, bWork);
 }
 
-void chandleNl_inout::Residual(const ROr& ro, double* r) {
+void chandleNl_inout::Residual(ROr ro, double* r) {
   if (cLength > 0) {
     observeBlock(ro);
   } else {

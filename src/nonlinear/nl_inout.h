@@ -14,7 +14,7 @@ namespace quarn {
 class chandleNl_inout;
 
 /// A force law: reads the observed values and states in unl (and rates in vnl), writes the forces to snl and new states to unl.
-using NlForceLaw = void (*)(chandleNl_inout* h, const ROr& ro);
+using NlForceLaw = void (*)(chandleNl_inout* h, ROr ro);
 /// Refuses what the law would read or write outside the handle's arrays.
 using NlLawCheck = void (*)(const chandleNl_inout& h, const ROr& ro);
 
@@ -33,7 +33,7 @@ class chandleNl_inout final : public chandle {
   void EndStep() override;
   bool endsSteps() const override { return unlSlices > 1; }
   /// Observes ro.u and ro.v in the first pages of unl and vnl, evaluates the law, adds the forces to r (in-out, ro.N values).
-  void Residual(const ROr& ro, double* r) override;
+  void Residual(ROr ro, double* r) override;
   void checkSizes(const ROr& ro, std::size_t rLen) override;
   void takeWork(host::Doubles r) override;
   bool keepsToItself(const Range* ranges, int count) const override;
@@ -102,7 +102,7 @@ class chandleNl_inout final : public chandle {
 /// Copies forces to ro.FNL (from iopt[0] on, if not negative) and state blocks to ro.u (from iopt[1] on, if positive): for each of
 /// iopt[4] blocks the source cursor in unl passes iopt[2] values, then iopt[3] values are copied. Every block goes to the same
 /// place, so the last one remains. Called at the end of the laws with states. What falls outside an array is left out.
-void StoreState(chandleNl_inout* h, const ROr& ro);
+void StoreState(chandleNl_inout* h, ROr ro);
 
 /// The first half of it alone, for laws without states; works without "iopt".
 void storeForces(const chandleNl_inout& h, const ROr& ro);

@@ -6,14 +6,14 @@
 
 namespace quarn {
 
-void FuPower(chandleNl_inout* h, const ROr& ro) {
+void FuPower(chandleNl_inout* h, ROr ro) {
   const double coefficient = h->opt[1];
   const double exponent = h->opt[2];
   for (int i = 0; i < h->unlLen; ++i) h->snl[i] = coefficient * std::pow(h->unl[i], exponent);
   storeForces(*h, ro);
 }
 
-void FuExpon(chandleNl_inout* h, const ROr& ro) {
+void FuExpon(chandleNl_inout* h, ROr ro) {
   if (h->unlLen <= 0) return;  // its parameters may be missing as well
   const double coefficient = h->opt[1];
   const double base = h->opt[2];

@@ -20,7 +20,7 @@ void checkRadial(const chandleNl_inout& h, const ROr& /*ro*/) {
   if (!(h.opt[1] >= 0.0)) host::refuse("the clearance of law \"Radial\", opt(2), must be 0 or more, got %g", h.opt[1]);
 }
 
-void FuRadial(chandleNl_inout* h, const ROr& ro) {
+void FuRadial(chandleNl_inout* h, ROr ro) {
   const double gap = h->opt[1];
   const double stiffness = h->opt[2];
   const double exponent = h->opt[3];

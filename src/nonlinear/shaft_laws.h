@@ -13,7 +13,7 @@ namespace quarn {
 ///   N = max (0, k d^p (1 + chi d'))        K. H. Hunt and F. R. E. Crossley, J. Applied Mechanics 42, 1975; clipped: it never pulls
 ///   T = mu N s / sqrt (s^2 + s0^2)         s = t . v + R W, the speed at which the shaft's surface slides past the housing
 /// opt: gap [m], k [N/m^p], p, chi [s/m], mu, s0 [m/s], R [m], W [rad/s], x and y of the housing's centre [m], from opt[1] on.
-void FuRadial(chandleNl_inout* h, const ROr& ro);
+void FuRadial(chandleNl_inout* h, ROr ro);
 
 /// Oil film of a plain bearing that is short compared with its diameter, full of oil where the film is squeezed and empty where it
 /// widens (half film: negative pressures are left out). In units of the clearance c, x, y the position, x', y' its rate [1/s]:
@@ -29,7 +29,7 @@ void FuRadial(chandleNl_inout* h, const ROr& ro);
 /// L, radius R, c [m], W [rad/s], e1, x and y of the bearing's centre [m], from opt[1] on; opt[9] is raised to the greatest
 /// sqrt (x^2 + y^2) that is met, in units of c. Sources: F. W. Ocvirk, NACA TN 2808, 1952; G. B. DuBois and F. W. Ocvirk, NACA Report 1157,
 /// 1953; the integrals from the second derivatives of that of 1/h for X and Y.
-void FuJournal(chandleNl_inout* h, const ROr& ro);
+void FuJournal(chandleNl_inout* h, ROr ro);
 
 // Refuse fewer values than the law reads or writes, a page of unl that holds no pairs, a gap below 0, a clearance that is not above 0, and
 // an e1 that is not between 0 and 1.

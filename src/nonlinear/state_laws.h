@@ -19,22 +19,22 @@ namespace quarn {
 ///   x = x_committed + h*rate_committed,  rate = B*u + A*x + E*v,  snl[o] = sum over i = 0..q of Cu[i]*unl[o+i] + Dv[i]*vnl[o+i]
 /// with u and v interpolated from the committed to the current observation, and commits rate and x at once.
 /// Sources: J. C. Maxwell, On the dynamical theory of gases (1867); C. Zener, Elasticity and Anelasticity of Metals (1948).
-void Maxw(chandleNl_inout* h, const ROr& ro);
+void Maxw(chandleNl_inout* h, ROr ro);
 
 /// Dahl friction in pairs (observed displacement, force state): dF = v*h*k*(1 - sign(v)*F/Fmax)^e, clamped to +-Fmax, with
 /// k = opt[3] [N/m], e = opt[4], Fmax = opt[5]*opt[6] [N]. A velocity of 0 counts as negative.
 /// Source: P. R. Dahl, A solid friction model, Aerospace Corporation TOR-0158(3107-18)-1 (1968).
-void FuDahlC(chandleNl_inout* h, const ROr& ro);
+void FuDahlC(chandleNl_inout* h, ROr ro);
 
 /// Stick-slip in pairs (observed displacement x, slider position y): the slider moves when |trunc((y - x)*k + y*kg)| reaches Fs,
 /// with k = opt[4], Fs = opt[5], kg = opt[6]. The first pair that sticks ends the walk; one force is written,
 /// snl[0] = (unl[0] - unl[1])*k + opt[3]*unl[0].
-void STS(chandleNl_inout* h, const ROr& ro);
+void STS(chandleNl_inout* h, ROr ro);
 
 /// Two Dahl branches whose limit mu*g0 and stiffness g1 are tabulated over a third observed value, and a third force that follows
 /// g0. Groups of five in unl: three observed displacements, two force states; k = opt[3], e = opt[4], mu = opt[5],
 /// offset = opt[6], the table as for FuTable at iopt[5..8]. Every group writes snl[0..2] and uses unl[0..2] for the terms in k.
-void Clima2(chandleNl_inout* h, const ROr& ro);
+void Clima2(chandleNl_inout* h, ROr ro);
 
 /// Smooth hysteresis in groups of three (observed displacement x, state z, the displacement at the last evaluation):
 ///   snl = k*(alpha*x + (1 - alpha)*z),  dz/dx = A - |z|^n*(gamma + beta*sign(z*dx))
@@ -42,7 +42,7 @@ void Clima2(chandleNl_inout* h, const ROr& ro);
 /// evaluation with the Runge-Kutta rule of fourth order, in at most 32 equal parts, and held at its limit (A/(beta + gamma))^(1/n): no
 /// increment is too large, and an evaluation at the same place changes nothing. opt[2] is not used. Sources: R. Bouc, Forced vibration of
 /// mechanical systems with hysteresis (1967); Y.-K. Wen, J. Engineering Mechanics Division ASCE 102 (1976).
-void FuBoucWen(chandleNl_inout* h, const ROr& ro);
+void FuBoucWen(chandleNl_inout* h, ROr ro);
 
 // Refuse what the law of that name would read or write outside the arrays of the handle. checkMaxw also raises
 // "Need unlj1 as last dim" where unl has fewer than two pages or ends before a committed value that the law reads.

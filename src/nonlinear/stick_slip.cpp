@@ -12,7 +12,7 @@ void checkSts(const chandleNl_inout& h, const ROr& /*ro*/) {
   requireValues("sts", "snl", h.snlTotal, 1);
 }
 
-void STS(chandleNl_inout* h, const ROr& ro) {
+void STS(chandleNl_inout* h, ROr ro) {
   const double dt = timeIncrement(h, ro);
   const double parallel = h->opt[3];
   const double contact = h->opt[4];

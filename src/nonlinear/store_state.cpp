@@ -61,7 +61,7 @@ void copyLast(const Blocks& b, const double* unl, double* u) {
 
 }  // namespace
 
-void StoreState(chandleNl_inout* h, const ROr& ro) {
+void StoreState(chandleNl_inout* h, ROr ro) {
   storeForces(*h, ro);
   if (h->ioptLen < 5 || h->iopt[1] <= 0 || !ro.u || !h->unl) return;
   const Blocks b(*h, ro);

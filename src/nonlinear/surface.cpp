@@ -39,7 +39,7 @@ void checkKnots(const double* knots, int n, const char* what) {
 
 }  // namespace
 
-void FuSurface(chandleNl_inout* h, const ROr& ro) {
+void FuSurface(chandleNl_inout* h, ROr ro) {
   const int nx = h->iopt[5];
   const int nv = h->iopt[6];
   const double* x = h->opt + 3;

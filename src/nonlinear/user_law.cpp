@@ -64,8 +64,8 @@ bool allFinite(const double* x, int n) {
   return std::all_of(x, x + n, [](double value) { return std::isfinite(value); });
 }
 
-/// A column that a function of the host may keep or give back. Where arguments are lent, what the host computes is its own: x times 1 has the
-/// bits of x. A scalar is copied by every host.
+/// A column that a function of the host may keep or give back. Where arguments are lent, what the host computes is its own: x times 1 has
+/// the bits of x. A scalar is copied by every host.
 mxArray* columnOf(const double* x, int n) {
   mxArray* a = mxCreateDoubleMatrix(static_cast<mwSize>(n), n > 0 ? 1 : 0, mxREAL);
   if (n > 0) std::copy_n(x, n, mxGetPr(a));
@@ -143,7 +143,7 @@ void checkUser(const chandleNl_inout& h, const ROr& /*ro*/) {
   }
 }
 
-void FuUser(chandleNl_inout* h, const ROr& ro) {
+void FuUser(chandleNl_inout* h, ROr ro) {
   const int states = statesOf(*h);
   const int rows = h->unlLen - states;
   const int group = groupOf(*h);

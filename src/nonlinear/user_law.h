@@ -21,7 +21,7 @@ void bindUserLaw(chandleNl_inout* h);
 /// displacements and velocities are below 1e30: beyond it the motion has grown out of hand, and what is computed of it may overflow.
 /// Errors of a function leave the command as they are. A function that frees handles of the call that waits for it, or uses them in a
 /// call of its own, ends the waiting one.
-void FuUser(chandleNl_inout* h, const ROr& ro);
+void FuUser(chandleNl_inout* h, ROr ro);
 
 /// Refuses arrays that do not fit the counts of the law or share memory where the law would see its own results.
 void checkUser(const chandleNl_inout& h, const ROr& ro);

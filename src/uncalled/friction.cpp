@@ -11,7 +11,7 @@ void checkFric(const chandleNl_inout& h, const ROr& /*ro*/) {
   requireValues("FuFric", "snl", h.snlTotal, last + 1);
 }
 
-void FuFric(chandleNl_inout* h, const ROr& ro) {
+void FuFric(chandleNl_inout* h, ROr ro) {
   timeIncrement(h, ro);
   for (std::ptrdiff_t i = 0; i < h->unlLen; i += 2) h->snl[i] = h->unl[i + 1];
   StoreState(h, ro);

@@ -25,7 +25,7 @@ double* pmatGetPr(const mxArray* a);
 void KorvResidual(int code, ROr c, const mxArray* K, host::Doubles r);
 
 /// A law without a code in the table of laws: passes the stored state of each pair (observed value, state) on as its force.
-void FuFric(chandleNl_inout* h, const ROr& ro);
+void FuFric(chandleNl_inout* h, ROr ro);
 /// Refuses what the law would read or write outside the arrays of the handle.
 void checkFric(const chandleNl_inout& h, const ROr& ro);
 

@@ -9,7 +9,7 @@ namespace {
 class Digit final : public chandle {
  public:
   explicit Digit(int value) : digit(value) { type = 1; }
-  void Residual(const ROr& /*ctx*/, double* r) override { r[0] = 10 * r[0] + digit; }
+  void Residual(ROr /*ctx*/, double* r) override { r[0] = 10 * r[0] + digit; }
   void checkSizes(const ROr& /*ctx*/, std::size_t rLen) override {
     seen = rLen;
     ++checked;

@@ -162,6 +162,15 @@ function test_a_run_taken_up_from_its_file_goes_on_saving_there ()
   delete ([file '.part']);
 end
 
+function test_a_result_whose_times_were_lengthened_by_hand_does_not_go_on ()
+  res = qn.run (qn.simulation (qn.modal (1e4, 1), 'step', 1e-3, 'steps', 20, 'q0', 1), 'check', false, 'progress', false);
+  res.complete = false;
+  res.sim.time = (0:40) * 1e-3;
+  res.sim.saved = 1:41;
+  refused (@() qn.resume (res), ['qn.resume: there must be one row of 41 loads for each of the 0 shapes of 1 modal values. A set-up that was changed ' ...
+                                 'by hand does not fit together: make one with qn.simulation, and go on with its option "start"']);
+end
+
 function test_tables_are_printed_without_an_output_argument ()
   res = struct ('sim', 1, 'q', 1, 'time_end', 1, 'time', 0:4, 'force', [0 2 4 0 0]);
   lines = strsplit (strtrim (evalc ('qn.contacts (res, 1)')), sprintf ('\n'));

@@ -44,8 +44,8 @@ function res = resume (what, varargin)
   % Loads of times that are past need not be there any more.
   bad = find (strcmp ({found.level}, 'error') & ~strcmp ({found.code}, 'load_values'), 1);
   if ~isempty (bad)
-    error ('qn:input', ['qn.resume: %s. A set-up that was changed by hand does not fit together: make one with qn.simulation, and go on with ' ...
-                        'its option "start"'], found(bad).text);
+    error ('qn:input', ['qn.resume: %s. A set-up that was changed by hand does not fit together: make one with qn.simulation, ' ...
+                        'and go on with its option "start"'], found(bad).text);
   end
   res = qn.impl.advance (res, qn.impl.run_options ('qn.resume', varargin, file));
 end

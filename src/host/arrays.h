@@ -107,4 +107,8 @@ mxArray* duplicate(const mxArray* a);
 /// have kept or returned them: Octave 11 lends it the memory.
 bool lendsArguments();
 
+/// n values in a column of their own (0 x 0 for none) that a function of the host may keep or return, whatever the host does with
+/// arguments.
+mxArray* columnToGive(const double* x, int n);
+
 }  // namespace quarn::host

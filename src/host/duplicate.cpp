@@ -2,6 +2,7 @@
 //
 // MATLAB's mxDuplicateArray copies deep. Octave's shares the data and counts references, so that a write into the copy shows
 // in the original; there the arrays are built anew, level by level.
+#include <algorithm>
 #include <cstring>
 #include <vector>
 
@@ -49,6 +50,19 @@ static mxArray* held(mxArray* property) { return property; }
 bool lendsArguments() { return false; }
 
 #endif
+
+// Where arguments are lent, what the host computes is its own: x times 1 has the bits of x. A scalar is copied by every host.
+mxArray* columnToGive(const double* x, int n) {
+  mxArray* a = mxCreateDoubleMatrix(static_cast<mwSize>(n), n > 0 ? 1 : 0, mxREAL);
+  if (n > 0) std::copy_n(x, n, mxGetPr(a));
+  if (n < 2 || !lendsArguments()) return a;
+  mxArray* factors[2] = {a, mxCreateDoubleScalar(1.0)};
+  mxArray* own = nullptr;
+  callHost(1, &own, 2, factors, "times");
+  mxDestroyArray(factors[0]);
+  mxDestroyArray(factors[1]);
+  return own;
+}
 
 mxArray* objectField(const mxArray* object, const char* name) {
   if (count(object) == 0) return nullptr;

@@ -25,6 +25,11 @@ struct Element {
   std::ptrdiff_t keepStates;
 };
 
+/// The part of a step that sub-step s of all ends at.
+[[gnu::always_inline]] inline double partAt(std::ptrdiff_t s, std::ptrdiff_t steps) {
+  return s == steps ? 1.0 : static_cast<double>(s) / static_cast<double>(steps);
+}
+
 /// q and m: those of the layout, known to the compiler where elements of that size have code of their own.
 [[gnu::always_inline]] inline void subStep(const Element& x, const MaxwellWeights& w, std::ptrdiff_t q, std::ptrdiff_t m, double dt,
                                            double theta) {
@@ -60,7 +65,7 @@ struct Element {
                     room(h->unlTotal, committed + o + 1, q)};
     double* force = h->snl + o;
     for (std::ptrdiff_t s = 1; s <= steps; ++s) {
-      subStep(x, w, q, m, dt, s == steps ? 1.0 : static_cast<double>(s) / static_cast<double>(steps));
+      subStep(x, w, q, m, dt, partAt(s, steps));
       *force = output(x, w, q);
     }
   }
@@ -106,7 +111,7 @@ bool apart(const chandleNl_inout& h, std::ptrdiff_t elements) {
     double rate = cv[o + 1];
     double beyond = 0.0;
     for (std::ptrdiff_t s = 1; s <= steps; ++s) {
-      const double theta = s == steps ? 1.0 : static_cast<double>(s) / static_cast<double>(steps);
+      const double theta = partAt(s, steps);
       x = x + dt * rate;
       const double ui = (1.0 - theta) * cu0 + theta * u0;
       const double vi = (1.0 - theta) * cv0 + theta * v0;

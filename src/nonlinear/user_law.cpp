@@ -64,20 +64,6 @@ bool allFinite(const double* x, int n) {
   return std::all_of(x, x + n, [](double value) { return std::isfinite(value); });
 }
 
-/// A column that a function of the host may keep or give back. Where arguments are lent, what the host computes is its own: x times 1 has
-/// the bits of x. A scalar is copied by every host.
-mxArray* columnOf(const double* x, int n) {
-  mxArray* a = mxCreateDoubleMatrix(static_cast<mwSize>(n), n > 0 ? 1 : 0, mxREAL);
-  if (n > 0) std::copy_n(x, n, mxGetPr(a));
-  if (n < 2 || !host::lendsArguments()) return a;
-  mxArray* factors[2] = {a, mxCreateDoubleScalar(1.0)};
-  mxArray* own = nullptr;
-  host::callHost(1, &own, 2, factors, "times");
-  mxDestroyArray(factors[0]);
-  mxDestroyArray(factors[1]);
-  return own;
-}
-
 /// Takes the n values of what the function returned.
 void take(mxArray* result, int n, const char* what, double t, double* to) {
   if (!result || !host::isRealDouble(result) || host::count(result) != static_cast<std::size_t>(n)) {
@@ -88,8 +74,8 @@ void take(mxArray* result, int n, const char* what, double t, double* to) {
 }
 
 void callFunction(chandleNl_inout* h, int first, int rows, int states, double t) {
-  mxArray* in[] = {const_cast<mxArray*>(h->call), columnOf(h->unl + first, rows), columnOf(h->vnl + first, rows),
-                   columnOf(h->unl + rows, states), mxCreateDoubleScalar(t)};
+  mxArray* in[] = {const_cast<mxArray*>(h->call), host::columnToGive(h->unl + first, rows), host::columnToGive(h->vnl + first, rows),
+                   host::columnToGive(h->unl + rows, states), mxCreateDoubleScalar(t)};
   mxArray* out[2] = {nullptr, nullptr};
   const std::uint64_t before = disturbedUses;
   host::callHost(states > 0 ? 2 : 1, out, 5, in, "feval");

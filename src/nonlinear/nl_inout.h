@@ -6,7 +6,9 @@
 
 #include "base/chandle.h"
 #include "host/arrays.h"
+#include "nonlinear/observation.h"
 #include "nonlinear/quarn_law.h"
+#include "nonlinear/scatter.h"
 #include "sparse/sparse_view.h"
 
 namespace quarn {
@@ -39,23 +41,30 @@ class chandleNl_inout final : public chandle {
   bool keepsToItself(const Range* ranges, int count) const override;
   std::int64_t stateEnd() const override;
 
-  SparseView c;
-  SparseView b;
-  const int* iopt = nullptr;
+  // What a step looks at comes first and fills few lines of the cache: with a thousand small elements memory sets the pace.
+  bool tableAscends = false;     ///< the abscissae of the law's table ascend, and nothing that a run writes lies on them
+  bool subStepsChecked = false;  ///< of law "Maxw": an evaluation of this call had sub-steps, and the arrays hold what they need
+  NlForceLaw law = nullptr;
   double* unl = nullptr;
   double* vnl = nullptr;
   double* snl = nullptr;
   double* opt = nullptr;
+  const int* iopt = nullptr;
   int unlLen = 0;  ///< values in one page of unl
   int optLen = 0;
   int ioptLen = 0;
   int unlSlices = 0;  ///< pages of unl; 0 when it is absent
-  NlForceLaw law = nullptr;
+
+ private:
+  Observation observation;
+  Scatter scatter;
+
+ public:
+  SparseView c;
+  SparseView b;
   NlLawCheck check = nullptr;
   const quarn_law* user = nullptr;  ///< of law "User": its library's law, or
   mxArray* call = nullptr;          ///< its function
-  bool tableAscends = false;        ///< the abscissae of the law's table ascend, and nothing that a run writes lies on them
-  bool subStepsChecked = false;     ///< of law "Maxw": an evaluation of this call had sub-steps, and the arrays hold what they need
 
   // Values that the arrays hold in all.
   std::size_t unlTotal = 0;
@@ -65,38 +74,16 @@ class chandleNl_inout final : public chandle {
  private:
   void readStates();
   void readOptions();
-  void observeBoth(const ROr& ro) const;
-  void observe(const double* x, double* page) const;
-  void observeBlock(const ROr& ro) const;
-  void planObservation();
-  bool planFullRow();
-  void planCommand(host::Doubles r);
   void planTable(host::Doubles r);
-  void addForces(const ROr& ro, double* r);
   void checkViews(const ROr& ro, std::size_t rLen);
   void checkObservation(const ROr& ro);
   void checkCommand(std::size_t rLen);
 
   int cLargest = -1;
   int bLargest = -1;
-  double* bWork = nullptr;        ///< work vector of the scatter, host memory of the current call; zero between the steps if bSparse
-  bool bSparse = false;           ///< b touches few of its columns
-  bool pagesApart = false;        ///< unl and vnl lie apart from the state that they are observed from
-  bool optApart = false;          ///< the law's parameters lie apart from what a run writes
-  bool cApart = false;            ///< the values of c lie apart from what a run writes
-  bool bSingles = false;          ///< each line of b has at most one entry, in a column of its own; bSparse holds
-  bool cSingles = false;          ///< each line of c has at most one entry
-  int* cRuns = nullptr;           ///< full lines of c that are summed together, host memory of the current call; null where none is full
-  int cLength = 0;                ///< entries of each line of c where all lines are full, with the same indices; else 0
-  const double* cRows = nullptr;  ///< values of those lines
-  int cFirst = 0;                 ///< their first index
-  bool together = false;          ///< unl and vnl are observed in one pass over c
-  bool bBlock = false;            ///< the lines of b are full, or empty
-  int bFirst = 0;                 ///< first index of those full lines
-  int bLength = 0;                ///< entries of each of them
-  bool bOne = false;              ///< b has one line, and bBlock holds
-  bool bRow = false;              ///< b is a full matrix of one row
-  const double* bRows = nullptr;  ///< values of b, or those of c where they are the same: in cache from the observation
+  bool pagesApart = false;  ///< unl and vnl lie apart from the state that they are observed from
+  bool optApart = false;    ///< the law's parameters lie apart from what a run writes
+  bool cApart = false;      ///< the values of c lie apart from what a run writes
 };
 
 /// Copies forces to ro.FNL (from iopt[0] on, if not negative) and state blocks to ro.u (from iopt[1] on, if positive): for each of

@@ -32,16 +32,12 @@ inline void gatherSingles(int lines, const int* ir, const int* jc, const double*
   }
 }
 
-/// addScatteredTouched for such lines with distinct indices. As in a sparse axpy, a force of zero adds nothing, whatever it is multiplied
-/// with.
-inline void scatterSingles(int lines, const int* ir, const int* jc, const double* pr, const double* u, double* y, double* work) {
+/// Their transposed product with u, added to y: y[j] += 0 + u[i] * entry, for lines with distinct indices. As in a sparse axpy, a force of
+/// zero adds nothing, whatever it is multiplied with. y must overlap neither u nor pr.
+inline void scatterSingles(int lines, const int* ir, const int* jc, const double* pr, const double* u, double* y) {
   for (int i = 0; i < lines; ++i) {
     const int k = jc[i];
-    if (jc[i + 1] > k) work[ir[k]] = u[i] != 0.0 ? u[i] * pr[k] : 0.0;
-  }
-  for (int k = jc[0]; k < jc[lines]; ++k) {
-    y[ir[k]] += work[ir[k]];
-    work[ir[k]] = 0.0;
+    if (jc[i + 1] > k && u[i] != 0.0) y[ir[k]] += 0.0 + u[i] * pr[k];
   }
 }
 

@@ -215,6 +215,25 @@ function test_negative_zeros_that_no_row_reaches_become_zeros ()
   end
 end
 
+function test_negative_zeros_that_a_force_of_zero_reaches_become_zeros ()
+  for n = 1:2
+    e = element_of (repmat ({4, zeros(9, 1)}, n, 1), random_rows (n, 4, 9), n, 15);
+    expect_equal (1 ./ residual_of (e, ones (15, 1), ones (15, 1), -zeros (15, 1)), Inf (15, 1));
+  end
+end
+
+function test_a_row_and_empty_lines_after_it ()
+  randn ('seed', 60);
+  c = [random_rows(1, 3, 9); {1, []}];
+  b = [random_rows(1, 2, 9); {1, []}];
+  u = randn (15, 1);
+  r = randn (15, 1);
+  [got, e] = residual_of (element_of (c, b, 2, 15), u, -u, r);
+  expect_equal (e.unl, sums_of (c, u));
+  expect_equal (e.vnl, sums_of (c, -u));
+  expect_equal (got, spread_of (b, e.unl, r));
+end
+
 function test_forces_that_share_memory_with_the_residual_are_read_first ()
   n = 3;
   cols = 9;

@@ -63,6 +63,36 @@ function test_random_picks_equal_full_rows ()
   end
 end
 
+function test_a_line_with_one_entry_and_empty_lines_after_it ()
+  expect_same_run (7, -1.5, 9, 0.25, 1);
+  expect_same_run ([64; 0; 0], [3; 0; 0], [1; 0; 0], [0.1; 0; 0], 3);
+  expect_same_run ([7; 0; 0], [-1.5; 0; 0], [0; 7; 0], [0; 0.25; 0], 3);
+  expect_same_run ([0; 7; 0], [0; -1.5; 0], [7; 0; 0], [-1.5; 0; 0], 3);
+  expect_same_run ([7; 0], [-1.5; 0], [7; 0], [-1.5; 0], 2);  % one matrix for both
+end
+
+function test_an_entry_that_belongs_to_no_line_is_not_observed ()
+  e = spring_element (4, 1, 9, [law_code('Power') 2 1]);
+  e.c.jc = int32 ([0; 0]);
+  seen = evaluate_law (e, ones (9, 1), ones (9, 1));
+  expect_equal ([seen.unl seen.vnl], [0 0]);
+end
+
+function test_negative_zeros_become_zeros_whatever_few_entries_add ()
+  for places = {4, [4 20]}
+    for weight = [0 1]
+      at = places{1};
+      e = spring_element (at, ones (size (at)), 40, [law_code('Power') 2 1]);
+      e.c.pr = weight * e.c.pr;
+      r = -zeros (40, 1);
+      quarn ('residual', r, registered ({e}), ones (40, 1), zeros (40, 1), []);
+      wanted = zeros (40, 1);
+      wanted(at) = 2 * weight * numel (at);
+      expect_equal (1 ./ r, 1 ./ wanted);
+    end
+  end
+end
+
 function test_forces_on_one_degree_of_freedom_are_summed_first ()
   rand ('twister', 32);
   for k = 1:20

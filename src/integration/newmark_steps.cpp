@@ -26,8 +26,8 @@ struct Modes {
   const double* c;
 };
 
-/// Vectors vectors of modes through all steps; they are independent, and keep the processor busy together. rows: how many values of each
-/// are saved, from row first of the place on.
+/// Vectors vectors of modes through all steps; they are independent, and keep the processor busy together. The first rows modes are saved,
+/// from row first of the place on.
 template <class Vector, int Vectors, With with>
 [[gnu::always_inline]] inline void stepTogether(const Modes& m, const StepsOfModes& steps, double beta, const NewmarkCoefficients& in,
                                                 std::ptrdiff_t first, int rows) {
@@ -76,11 +76,11 @@ template <class Vector, int Vectors, With with>
     double* to = steps.saves[j];
     if (!to) continue;
     for (int b = 0; b < Vectors; ++b) {
-      if (rows == Vectors * wide) {
+      if (rows >= (b + 1) * wide) {
         std::memcpy(to + first + b * wide, &u[b], sizeof(Vector));
       } else {
         const Vector some = u[b];
-        std::memcpy(to + first, &some, static_cast<std::size_t>(rows) * sizeof(double));
+        std::memcpy(to + first + b * wide, &some, static_cast<std::size_t>(rows - b * wide) * sizeof(double));
       }
     }
   }
@@ -91,27 +91,30 @@ template <class Vector, int Vectors, With with>
   }
 }
 
-/// Fewer modes than fill a vector: with modes of zeros beside them.
-template <class Vector, With with>
-[[gnu::always_inline]] inline void stepFew(const Modes& m, int n, const StepsOfModes& steps, double beta, const NewmarkCoefficients& in,
-                                           std::ptrdiff_t first) {
-  constexpr std::ptrdiff_t wide = lanes<Vector>;
-  double part[7][wide] = {};
+/// Load columns that are kept beside modes of zeros; of more, each step forms the sum first.
+constexpr int kKeptColumns = 8;
+
+/// n modes that do not fill the last of their vectors: with modes of zeros beside them.
+template <class Vector, int Vectors, With with>
+[[gnu::always_inline]] inline void stepPadded(const Modes& m, int n, const StepsOfModes& steps, double beta, const NewmarkCoefficients& in,
+                                              std::ptrdiff_t first) {
+  constexpr std::ptrdiff_t wide = Vectors * lanes<Vector>;
+  double part[6][wide] = {};
+  double columns[kKeptColumns][wide] = {};
   const double* const from[] = {m.u, m.v, m.a, m.gain, m.k, m.c};
   for (int i = 0; i < 6; ++i) {
     if (from[i]) std::copy_n(from[i], n, part[i]);
   }
-  double* const column = part[6];
-  const Modes few{part[0], part[1], part[2], column, wide, part[3], part[4], part[5]};
-  if (steps.nb == 1) {
-    std::copy_n(m.r, n, column);
-    stepTogether<Vector, 1, with>(few, steps, beta, in, first, n);
+  const Modes padded{part[0], part[1], part[2], columns[0], wide, part[3], part[4], part[5]};
+  if (steps.nb <= kKeptColumns) {
+    for (int q = 0; q < steps.nb; ++q) std::copy_n(m.r + q * m.ld, n, columns[q]);
+    stepTogether<Vector, Vectors, with>(padded, steps, beta, in, first, n);
   } else {
     const double one = 1.0;
     const double* p = steps.loads;
     for (int j = 0; j < steps.count; ++j, p += steps.stride) {
-      newmarkLoad(column, m.r, static_cast<int>(m.ld), p, n, steps.nb);
-      stepTogether<Vector, 1, with>(few, {&one, 0, 1, 1, steps.saves + j}, beta, in, first, n);
+      newmarkLoad(columns[0], m.r, static_cast<int>(m.ld), p, n, steps.nb);
+      stepTogether<Vector, Vectors, with>(padded, {&one, 0, 1, 1, steps.saves + j}, beta, in, first, n);
     }
   }
   std::copy_n(part[0], n, m.u);
@@ -119,17 +122,28 @@ template <class Vector, With with>
   std::copy_n(part[2], n, m.a);
 }
 
+/// n modes, as many as Vectors vectors hold or fewer: with as few vectors as they need.
+template <class Vector, int Vectors, With with>
+[[gnu::always_inline]] inline void stepLast(const Modes& m, int n, const StepsOfModes& steps, double beta, const NewmarkCoefficients& in,
+                                            std::ptrdiff_t first) {
+  if constexpr (Vectors > 1) {
+    if (n <= (Vectors - 1) * lanes<Vector>) return stepLast<Vector, Vectors - 1, with>(m, n, steps, beta, in, first);
+  }
+  if (n == Vectors * lanes<Vector>) {
+    stepTogether<Vector, Vectors, with>(m, steps, beta, in, first, n);
+  } else {
+    stepPadded<Vector, Vectors, with>(m, n, steps, beta, in, first);
+  }
+}
+
 template <class Vector, With with>
 [[gnu::always_inline]] inline void allModes(const Modes& m, int n, const StepsOfModes& steps, double beta, const NewmarkCoefficients& in) {
   constexpr int together = 4;
-  constexpr std::ptrdiff_t wide = lanes<Vector>;
-  const auto from = [&m](int i) {
-    return Modes{m.u + i, m.v + i, m.a + i, m.r + i, m.ld, m.gain + i, m.k ? m.k + i : nullptr, m.c ? m.c + i : nullptr};
-  };
-  int i = 0;
-  for (; i + together * wide <= n; i += together * wide) stepTogether<Vector, together, with>(from(i), steps, beta, in, i, together * wide);
-  for (; i + wide <= n; i += wide) stepTogether<Vector, 1, with>(from(i), steps, beta, in, i, wide);
-  if (i < n) stepFew<Vector, with>(from(i), n - i, steps, beta, in, i);
+  constexpr int most = together * static_cast<int>(lanes<Vector>);
+  for (int i = 0; i < n; i += most) {
+    const Modes part{m.u + i, m.v + i, m.a + i, m.r + i, m.ld, m.gain + i, m.k ? m.k + i : nullptr, m.c ? m.c + i : nullptr};
+    stepLast<Vector, together, with>(part, std::min(most, n - i), steps, beta, in, i);
+  }
 }
 
 // NOLINTBEGIN(bugprone-macro-parentheses): attributes and types take none

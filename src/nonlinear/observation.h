@@ -43,7 +43,9 @@ class Observation {
 
   void observeFirst(const double* x, double* page, int lines) const {
     page[0] = 0.0 + values[0] * x[first];
-    for (int i = 1; i < lines; ++i) page[i] = 0.0;
+    if (lines == 1) return;
+    page[1] = 0.0;  // most laws with a state have one; what follows is a call of memset
+    for (int i = 2; i < lines; ++i) page[i] = 0.0;
   }
   void observeLines(const SparseView& c, const Pages& pages, const double* u, const double* v) const;
   void observeBlock(const Pages& pages, const double* u, const double* v) const;

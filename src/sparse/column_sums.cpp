@@ -156,6 +156,10 @@ void scatteredSums(double* g, std::size_t ldG, const SparseLines& s, std::size_t
 }  // namespace
 
 void columnSums(double* g, std::size_t ldG, const SparseLines& s, std::size_t first, std::size_t lines, const Columns& columns) {
+  if (columns.count < kSideBySide) {  // lineSum looks for itself whether a line is full
+    for (std::size_t l = 0; l < lines; ++l) oneByOne(g + l * ldG, s, first + l, columns, 0);
+    return;
+  }
   std::size_t done = 0;
   for (std::size_t l = 0; l < lines; ++l) {
     if (!isFull(entries(s, first + l), s.ir + s.jc[first + l])) continue;

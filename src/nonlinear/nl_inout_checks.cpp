@@ -33,9 +33,14 @@ void chandleNl_inout::checkViews(const ROr& ro, std::size_t rLen) {
     if (overlap(page, length, ro.u, ro.uLen) || overlap(page, length, ro.v, ro.vLen)) pagesApart = false;
   }
   cApart = true;
-  optApart = !overlap(opt, static_cast<std::size_t>(optLen), ro.FNL, ro.fnlLen);
-  for (const host::Doubles& written :
-       {host::Doubles{unl, unlTotal}, {vnl, vnlTotal}, {snl, snlTotal}, {ro.u, ro.uLen}, {ro.v, ro.vLen}, {ro.a, ro.aLen}}) {
+  optApart = true;
+  for (const host::Doubles& written : {host::Doubles{unl, unlTotal},
+                                       {vnl, vnlTotal},
+                                       {snl, snlTotal},
+                                       {ro.u, ro.uLen},
+                                       {ro.v, ro.vLen},
+                                       {ro.a, ro.aLen},
+                                       {ro.FNL, ro.fnlLen}}) {
     if (overlap(c.pr, c.prLen, written.data, written.count)) cApart = false;
     if (overlap(opt, static_cast<std::size_t>(optLen), written.data, written.count)) optApart = false;
   }

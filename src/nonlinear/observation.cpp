@@ -71,9 +71,7 @@ void Observation::observeLines(const SparseView& c, const Pages& pages, const do
     if (pages.vnl) observe(v, pages.vnl);
     if (pages.unl) observe(u, pages.unl);
   };
-  if (way == Way::block) {
-    observeBlock(pages, u, v);
-  } else if (way == Way::singles) {
+  if (way == Way::singles) {
     each([&](const double* x, double* page) { gatherSingles(pages.length, c.ir, c.jc, c.pr, x, page); });
   } else if (way == Way::runs && together) {
     sumLinesOfTwo(linesOf(c), runs, v, pages.vnl, u, pages.unl);

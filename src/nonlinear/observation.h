@@ -27,6 +27,8 @@ class Observation {
     if (way == Way::first) {
       if (pages.vnl) observeFirst(v, pages.vnl, pages.length);
       if (pages.unl) observeFirst(u, pages.unl, pages.length);
+    } else if (way == Way::block) {
+      observeBlock(pages, u, v);
     } else {
       observeLines(c, pages, u, v);
     }

@@ -41,7 +41,10 @@ void Scatter::plan(const SparseView& b, const SparseView* c, host::Doubles r, ho
   if (way == Way::none || b.trans != 1) return;
   const bool apart = !overlap(r.data, r.count, snl.data, snl.count) && !overlap(r.data, r.count, b.pr, b.prLen);
   if (!b.sparse()) {
-    if (apart) way = Way::row;
+    if (!apart) return;
+    way = Way::row;
+    first = 0;
+    length = columns;
     return;
   }
   if (apart && b.rows > 0) way = directWay(b);
@@ -88,8 +91,6 @@ void Scatter::addLines(const SparseView& b, const double* snl, double* r, int be
   if (direct()) {
     addDirectly(b, snl, r);
     for (int j = 0; j < columns && !noNegativeZeros; ++j) r[j] += 0.0;
-  } else if (way == Way::row && noNegativeZeros) {
-    addDenseRow(columns, values, snl[0], r);
   } else if (way == Way::touched && noNegativeZeros) {
     addScatteredTouched(b.rows, b.ir, b.jc, b.pr, snl, r, work);
   } else {

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "host/arrays.h"
+#include "sparse/dense_lines.h"
 #include "sparse/sparse_view.h"
 
 namespace quarn {
@@ -18,23 +19,25 @@ class Scatter {
 
   /// r += b' * snl in the sense of Add_Mt_ub; nothing without forces or without b. begunAtZero: as in ROr. b, snl: those of plan.
   void add(const SparseView& b, const double* snl, double* r, int begunAtZero) {
-    if (way == Way::first && columns <= begunAtZero) {
-      addFirst(snl[0], r);
-    } else {
+    if (columns > begunAtZero || way > Way::row) {
       addLines(b, snl, r, begunAtZero);
+    } else if (way == Way::first) {
+      addFirst(snl[0], r);
+    } else if (way == Way::row || snl[0] != 0.0) {
+      addDenseRow(length, values, snl[0], r + first);
     }
   }
 
  private:
   enum class Way : std::uint8_t {
-    none,
-    sums,     ///< all the sums in a work vector, then added
-    touched,  ///< the same for the few columns that have entries
     first,    ///< the first line has one entry, the others have none
+    line,     ///< the first line is full, the others have no entries
+    row,      ///< a full matrix of one row
     singles,  ///< each line has at most one entry, in a column of its own
-    line,     ///< one full line
     block,    ///< all lines are full with the same indices, or empty
-    row       ///< a full matrix of one row
+    touched,  ///< the sums of the few columns that have entries, in a work vector, then added
+    sums,     ///< those of all columns
+    none
   };
 
   /// As in a sparse axpy, a force of zero adds nothing, whatever it is multiplied with.

@@ -253,6 +253,22 @@ function test_forces_that_share_memory_with_the_residual_are_read_first ()
   expect_equal ([u1 v1 a1], [u2 v2 a2]);
 end
 
+function test_a_row_in_the_memory_of_the_force_store_goes_its_own_way ()
+  % It is equal to that of the command until the force is stored in it.
+  n = 9;
+  store = ones (n + 1, 1);
+  e = element_of ({1, ones(n, 1)}, {1, ones(n, 1)}, 1, n);
+  e.c.pr = store(2:end);
+  e.iopt = int32 (1);
+  if isempty (which ('address_of')), skip_test ('there is no address_of beside this module'); end
+  if double (address_of (e.c.pr)) - double (address_of (store)) ~= 8, skip_test ('slices of a vector have memory of their own here'); end
+  still = struct ('type', 2000, 'r', zeros (n, 2), 'tft', [0 1], 'data', zeros (1, 6));
+  mem = struct ('uva', struct ('uva', zeros (4 * n, 1)));
+  quarn ('chandlediagnewmark', {still, e}, struct ('FNL', store), ones (n, 1), zeros (n, 1), zeros (n, 1), [0 0], mem, struct ());
+  expect_equal (store(2), n);
+  expect_equal (mem.uva.uva(3 * n + (1:n)), n * ones (n, 1));
+end
+
 function test_observed_values_that_overlap_observed_velocities_are_written_last ()
   n = 9;
   shared = (1:8)' + 0;

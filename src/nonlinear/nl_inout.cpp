@@ -106,7 +106,8 @@ void chandleNl_inout::planTable(host::Doubles r) {
 void chandleNl_inout::takeWork(host::Doubles r) {
   planTable(r);
   observation.plan(c, {unl, vnl, unlLen}, pagesApart && cApart, overlap(unl, unlTotal, vnl, vnlTotal));
-  scatter.plan(b, cApart ? &c : nullptr, r, {snl, snlTotal});
+  const bool observed = unl || vnl;  // without pages nobody has looked whether c is sound
+  scatter.plan(b, observed && cApart ? &c : nullptr, r, {snl, snlTotal});
 }
 
 }  // namespace quarn

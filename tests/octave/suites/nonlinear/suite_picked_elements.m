@@ -78,6 +78,14 @@ function test_an_entry_that_belongs_to_no_line_is_not_observed ()
   expect_equal ([seen.unl seen.vnl], [0 0]);
 end
 
+function test_a_matrix_that_nothing_is_observed_through_is_not_read ()
+  e = rmfield (spring_element (4, 1, 9, [law_code('Power') 2 1]), {'unl', 'vnl'});
+  e.snl = 5 * ones (1, 1);
+  e.c.jc = zeros (0, 1, 'int32');
+  [unused, r] = evaluate_law (e, ones (9, 1), ones (9, 1));
+  expect_equal (r, 5 * ((1:9)' == 4));
+end
+
 function test_negative_zeros_become_zeros_whatever_few_entries_add ()
   for places = {4, [4 20]}
     for weight = [0 1]

@@ -73,6 +73,7 @@ void chandleNl_inout::readOptions() {
   check = row->check;
   tableAscends = false;
   subStepsChecked = false;
+  cWritten = false;
   if (law == FuUser) bindUserLaw(this);
 }
 
@@ -107,7 +108,7 @@ void chandleNl_inout::takeWork(host::Doubles r) {
   planTable(r);
   observation.plan(c, {unl, vnl, unlLen}, pagesApart && cApart, overlap(unl, unlTotal, vnl, vnlTotal));
   const bool observed = unl || vnl;  // without pages nobody has looked whether c is sound
-  scatter.plan(b, observed && cApart ? &c : nullptr, r, {snl, snlTotal});
+  scatter.plan(b, observed && cApart && !cWritten ? &c : nullptr, r, {snl, snlTotal});
 }
 
 }  // namespace quarn

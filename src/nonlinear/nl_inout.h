@@ -36,6 +36,7 @@ class chandleNl_inout final : public chandle {
   bool endsSteps() const override { return unlSlices > 1; }
   /// Observes ro.u and ro.v in the first pages of unl and vnl, evaluates the law, adds the forces to r (in-out, ro.N values).
   void Residual(ROr ro, double* r) override;
+  void takeTimes(const StepTimes& times) override { cWritten = writtenIn(times, c.pr, c.prLen) != nullptr; }
   void checkSizes(const ROr& ro, std::size_t rLen) override;
   void takeWork(host::Doubles r) override;
   bool keepsToItself(const Range* ranges, int count) const override;
@@ -83,7 +84,8 @@ class chandleNl_inout final : public chandle {
   int bLargest = -1;
   bool pagesApart = false;  ///< unl and vnl lie apart from the state that they are observed from
   bool optApart = false;    ///< the law's parameters lie apart from what a run writes
-  bool cApart = false;      ///< the values of c lie apart from what a run writes
+  bool cApart = false;      ///< the values of c lie apart from the state, the force store and the element's own arrays
+  bool cWritten = false;    ///< the steps of the run write on them
 };
 
 /// Copies forces to ro.FNL (from iopt[0] on, if not negative) and state blocks to ro.u (from iopt[1] on, if positive): for each of

@@ -49,7 +49,7 @@ void Scatter::plan(const SparseView& b, const SparseView* c, host::Doubles r, ho
   }
   if (apart && b.rows > 0) way = directWay(b);
   if (direct()) {
-    if (c && sameLines(b, *c) && !overlap(r.data, r.count, c->pr, c->prLen)) values = c->pr;
+    if (c && way != Way::first && sameLines(b, *c) && !overlap(r.data, r.count, c->pr, c->prLen)) values = c->pr;
     if (way == Way::first || way == Way::line) values += b.jc[0];
     return;
   }

@@ -269,6 +269,20 @@ function test_a_row_in_the_memory_of_the_force_store_goes_its_own_way ()
   expect_equal (mem.uva.uva(3 * n + (1:n)), n * ones (n, 1));
 end
 
+function test_a_row_in_the_memory_of_the_work_array_goes_its_own_way ()
+  % The step copies the state on it.
+  n = 9;
+  work = ones (4 * n, 1);
+  e = element_of ({1, ones(n, 1)}, {1, ones(n, 1)}, 1, n);
+  e.c.pr = work(1:n);
+  if isempty (which ('address_of')), skip_test ('there is no address_of beside this module'); end
+  if ~isequal (address_of (e.c.pr), address_of (work)), skip_test ('slices of a vector have memory of their own here'); end
+  still = struct ('type', 2000, 'r', zeros (n, 2), 'tft', [0 1], 'data', zeros (1, 6));
+  u = 2 * ones (n, 1);
+  quarn ('chandlediagnewmark', {still, e}, struct (), u, zeros (n, 1), zeros (n, 1), [0 0], struct ('uva', struct ('uva', work)), struct ());
+  expect_equal (work(3 * n + (1:n)), 4 * n * ones (n, 1));
+end
+
 function test_observed_values_that_overlap_observed_velocities_are_written_last ()
   n = 9;
   shared = (1:8)' + 0;

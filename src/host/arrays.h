@@ -100,6 +100,9 @@ class PropertiesOfCall {
 #endif
 };
 
+/// n zeros, one at least, in memory of the current call, which the host reclaims after an error as well.
+inline double* zeros(std::size_t n) { return static_cast<double*>(mxCalloc(n > 0 ? n : 1, sizeof(double))); }
+
 /// A copy that shares no memory with a: deep on every host. Objects other than structs and cells are copied by the host.
 mxArray* duplicate(const mxArray* a);
 

@@ -13,8 +13,6 @@ namespace quarn {
 
 namespace {
 
-double* zeros(int n) { return static_cast<double*>(mxCalloc(static_cast<std::size_t>(std::max(n, 1)), sizeof(double))); }
-
 int entriesOf(const SparseView& m) { return m.jc[m.rows] - m.jc[0]; }
 
 bool sameLines(const SparseView& a, const SparseView& b) {
@@ -25,7 +23,7 @@ bool sameLines(const SparseView& a, const SparseView& b) {
 }
 
 bool columnsDistinct(const SparseView& b) {
-  double* marks = zeros(b.cols);
+  double* marks = host::zeros(static_cast<std::size_t>(std::max(b.cols, 0)));
   const bool yes = distinct(entriesOf(b), b.ir + b.jc[0], marks);
   mxFree(marks);
   return yes;
@@ -49,11 +47,12 @@ void Scatter::plan(const SparseView& b, const SparseView* c, host::Doubles r, ho
   }
   if (apart && b.rows > 0) way = directWay(b);
   if (direct()) {
-    if (c && way != Way::first && sameLines(b, *c) && !overlap(r.data, r.count, c->pr, c->prLen)) values = c->pr;
+    const bool full = way == Way::line || way == Way::block;
+    if (full && c && sameLines(b, *c) && !overlap(r.data, r.count, c->pr, c->prLen)) values = c->pr;
     if (way == Way::first || way == Way::line) values += b.jc[0];
     return;
   }
-  work = zeros(columns);
+  work = host::zeros(static_cast<std::size_t>(std::max(columns, 0)));
   if (b.rows > 0 && 8LL * entriesOf(b) <= columns) way = Way::touched;
 }
 

@@ -28,7 +28,7 @@ void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, 
 
 void Add_Mt_ub(const int* dims, const int* ir, const int* jc, const double* pr, const double* u, double* y) {
   const bool scatters = ir && dims[2] == 1;
-  auto* work = scatters ? static_cast<double*>(mxCalloc(static_cast<std::size_t>(std::max(dims[1], 1)), sizeof(double))) : nullptr;
+  double* work = scatters ? host::zeros(static_cast<std::size_t>(std::max(dims[1], 0))) : nullptr;
   Add_Mt_ub(dims, ir, jc, pr, u, y, work);
   if (work) mxFree(work);
 }

@@ -1,5 +1,4 @@
 // "c<-a'*b" and "abc": a sparse matrix projected onto dense bases.
-#include <algorithm>
 #include <cstring>
 
 #include "base/fixed_errors.h"
@@ -17,8 +16,6 @@ namespace quarn {
 namespace {
 
 SparseLines linesOf(const SparseView& v) { return {v.ir, v.jc, v.pr}; }
-
-double* doublesOfHost(std::size_t n) { return static_cast<double*>(mxCalloc(std::max<std::size_t>(n, 1), sizeof(double))); }
 
 double* outputOf(const mxArray* c, std::size_t n, std::size_t lines) {
   if (!host::isRealDouble(c) || host::rowCount(c) != n || host::columnCount(c) != lines) {
@@ -61,7 +58,7 @@ void commandProjectLeft(int, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
     return;
   }
   // The caller wants the result where an operand lies.
-  double* apart = doublesOfHost(values);
+  double* apart = host::zeros(values);
   projectLines(apart, a, linesOf(s), lines);
   std::memcpy(result, apart, values * sizeof(double));
   mxFree(apart);
@@ -90,7 +87,7 @@ void commandTripleProduct(int, mxArray* plhs[], int nrhs, const mxArray* prhs[])
   }
   plhs[0] = zeros(a.cols, b.cols, isComplex ? mxCOMPLEX : mxREAL);
   if (pairs == 0 || s.rows == 0) return;
-  double* work = doublesOfHost(bilinearWork(a.cols, b.cols));
+  double* work = host::zeros(bilinearWork(a.cols, b.cols));
   double* imaginary = a.im || b.im ? mxGetPi(plhs[0]) : nullptr;
   bilinearForms(mxGetPr(plhs[0]), imaginary, a, b, linesOf(s), static_cast<std::size_t>(s.rows), work);
   mxFree(work);

@@ -22,6 +22,7 @@
 %   y = quarn ('chandleget', f, i, ...)                        f (value, ...)
 %   quarn ('chandleclear', i)                                  frees a handle, all of them without i
 %   quarn ('chandlediagnewmark', list, model, u, v, a, opt, mem, out)   time integration in modal coordinates, in place
+%   [e, v, a] = quarn ('energies', q, k, c, [h gamma], v0, a0, s, loads, b, forces)   energies and rates of a motion in modal coordinates
 %   quarn ('tbbp', A, x, y)                                    y = y + A.' * x, in place, in parallel
 %   p = quarn ('c<-a''*b', a, B)                               a.' * B
 %   p = quarn ('abc', A, K, B, int32 ([1 0 0]))                A.' * K * B, bases real or complex, of equal width

@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "gateway/energies_command.h"
 #include "gateway/newmark_command.h"
 #include "gateway/residual_command.h"
 #include "gateway/service_commands.h"
@@ -33,6 +34,7 @@ constexpr CommandRow commands[] = {
     {"tbbp", commandTbbp},
     {"omp", commandOmp},
     {"version", commandVersion},
+    {"energies", commandEnergies},
 };
 
 }  // namespace

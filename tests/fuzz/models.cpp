@@ -122,6 +122,16 @@ standin::Arguments matrixArguments(Maker& make, const char* command) {
             in.rarely(2) ? make.complexDoubles(m, n) : make.doubles(m, n)};
   }
   if (is("igsm")) args = {make.doubles(n, in.below(2)), make.nativeSparse(m, n)};
+  if (is("energies")) {
+    const std::size_t elements = in.below(3);
+    mxArray* scheme = make.doubles(2);
+    double* step = ordinary(scheme);
+    if (step && mxGetNumberOfElements(scheme) == 2 && !in.rarely(4)) step[0] = step[1] = 0.5;
+    args = {make.doubles(n, m), make.doubles(n), make.doubles(n), scheme, make.doubles(n), make.doubles(n)};
+    const standin::Arguments forces{make.doubles(n, columns), make.doubles(columns, m), make.doubles(n, elements),
+                                    make.doubles(elements, m)};
+    args.insert(args.end(), forces.begin(), forces.end());
+  }
   if (is("nlv1")) args = {make.structure({{"unl", make.doubles(n)}})};
   if (in.rarely(20)) args.resize(in.below(args.size() + 1));
   if (in.rarely(40)) args.push_back(make.anything());

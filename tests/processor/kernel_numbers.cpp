@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "integration/full_gain.h"
+#include "integration/motion_energies.h"
 #include "integration/newmark_steps.h"
 #include "sparse/dense_lines.h"
 #include "sparse/largest.h"
@@ -65,6 +66,25 @@ void newmark(Vector& all, int n) {
   }
 }
 
+void energies(Vector& all, int n) {
+  const auto modes = static_cast<std::size_t>(n);
+  const std::size_t columns = 5;
+  const Vector k = randomVector(n, 21);
+  const Vector c = randomVector(n, 22);
+  const Vector start = randomVector(2 * n, 23);
+  const Vector q = randomVector(5 * n, 24);
+  const Vector directions = randomVector(5 * n, 25);
+  const Vector values = randomVector(25, 26);
+  Vector e(4 * columns);
+  Vector v(q.size());
+  Vector a(q.size());
+  Vector work(quarn::motionEnergiesWork(modes, 2, 3));
+  quarn::motionEnergies({modes, k.data(), c.data(), 0.05, 0.5, start.data(), start.data() + n}, q.data(), columns,
+                        {2, directions.data(), values.data()}, {3, directions.data() + 2 * modes, values.data() + 2 * columns},
+                        {e.data(), v.data(), a.data()}, work.data());
+  for (const Vector* x : {&e, &v, &a}) append(all, *x);
+}
+
 void projections(Vector& all, int n) {
   const quarn::test::Lines m = quarn::test::randomLines(n, n, 20, 11);
   const std::size_t cols = 7;
@@ -107,6 +127,7 @@ void indices(Vector& all, int n) {
 std::vector<double> KERNEL_NUMBERS(int n) {
   Vector all;
   newmark(all, n);
+  energies(all, n);
   if (n > 0) projections(all, n);
   if (n > 0) denseLines(all, n);
   if (n > 0) indices(all, n);

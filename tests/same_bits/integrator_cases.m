@@ -17,6 +17,10 @@ function integrator_cases (id)
     full.factor = changing{1}.factor;
     run (id, 'sum integrator, factor', n, c, k, [changing, {full}], 20);
   end
+  for n = [1 8 37]
+    recorded_call (id, 'one motion', 3, 'energies', randn (n, 50), 10 * rand (n, 1), rand (n, 1), [0.1 0.5], randn (n, 1), randn (n, 1), ...
+                   randn (n, 2), randn (2, 50), randn (n, 3), randn (3, 50));
+  end
   for w = laws_of_the_module ()
     for trial = 1:rounds (6)
       n = 7;

@@ -61,9 +61,15 @@ function e = energies (res)
   e.residual = now - now(1) - e.work;
 end
 
-% What does not belong to elements, a block of columns after another: works step by step, then their sums.
+% What does not belong to elements. Where modes are coupled, a block of columns after another: works step by step, then their sums.
 function e = of_structure (e, res)
   sim = res.sim;
+  if ~qn.impl.coupled (sim)
+    m = size (res.q, 1);
+    x = qn.impl.modal_motion (res, 1:size (res.q, 2), sim.start.v(1:m), sim.start.a(1:m));
+    [e.kinetic, e.strain, e.damped, e.work] = deal (x(1, :), x(2, :), x(3, :), x(4, :));
+    return
+  end
   [c, gyroscopic] = parts (sim.model.damping);
   [k, circulatory] = parts (sim.model.stiffness);
   [at, last, turning] = deal ([]);

@@ -56,6 +56,13 @@ TEST_P(AllocationFailure, OfServiceCommands) {
   for (const char* command : {"ismex", "cvs", "omp", "version"}) failEach(command, [] { return standin::Arguments{}; });
 }
 
+TEST_P(AllocationFailure, OfEnergies) {
+  const auto arguments = [] {
+    return standin::Arguments{zeros(3, 2), zeros(3), zeros(3), column({0.1, 0.5}), zeros(3), zeros(3), zeros(3, 1), zeros(1, 2)};
+  };
+  for (int nlhs = 1; nlhs < 4; ++nlhs) failEach("energies", arguments, nlhs);
+}
+
 TEST_P(AllocationFailure, OfRegistryCommands) {
   set(1, stiffness());
   failEach("chandleget", [] { return standin::Arguments{}; });

@@ -112,7 +112,7 @@ TEST_P(Matrices, RetiredCommandsCheckAndStop) {
 
 TEST_P(Matrices, CommandsWithoutOperandsAreRefused) {
   for (const char* command :
-       {"setsparse", "c<-a'*b", "dtkt", "abc", "ta'*k*tb", "directzr", "igsm", "tbbp", "residual", "chandlediagnewmark"}) {
+       {"setsparse", "c<-a'*b", "dtkt", "abc", "ta'*k*tb", "directzr", "igsm", "tbbp", "residual", "chandlediagnewmark", "energies"}) {
     EXPECT_TRUE(quarn(1, command).failed) << command;
   }
   for (const char* command : {"c<-a'*b", "dtkt", "abc", "ta'*k*tb", "directzr", "igsm", "tbbp", "residual", "chandlediagnewmark"}) {

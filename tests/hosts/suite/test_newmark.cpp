@@ -194,6 +194,32 @@ TEST_P(Newmark, RefusesAMatrixGainInMemoryThatAStepWrites) {
   refused("mem.uva.uva must have memory of its own beside a gain that is a matrix, got that of u", zeros(1, 1));
 }
 
+TEST_P(Newmark, EnergiesOfARunAddUpAndItsRatesAreThoseOfTheRun) {
+  NewmarkRun n = newmarkRun(2, 20);
+  run("chandlediagnewmark", n.arguments(cell(1, 2, {n.integrator, listMatrix(1, {1, 4})})), 0);
+  // The loads of a step stand in the column before; those at the first time and the last one act as zero here, where the motion is at rest.
+  Values q{0, 0};
+  for (const double x : values(field(n.out, "def"))) q.push_back(x);
+  const Values tft = values(field(n.integrator, "tft"));
+  const Values r = values(field(n.integrator, "r"));
+  Values loads{0};
+  for (std::size_t j = 0; j < 20; ++j) loads.push_back(-tft[2 * j + 1]);
+  const standin::Arguments args{matrix(2, 21, q),     column({1, 4}),      zeros(2), column({0.05, 0.5}), zeros(2), zeros(2),
+                                column({r[2], r[3]}), matrix(1, 21, loads)};
+  const std::vector<mxArray*> out = quarn(3, "energies", args).out;
+  ASSERT_EQ(out.size(), 3u);
+  const Values e = values(out[0]);
+  ASSERT_EQ(e.size(), 84u);
+  EXPECT_GT(e[80], 1e-6);
+  EXPECT_NEAR(e[80] + e[81] + e[82], e[83], 1e-13);
+  const Values v = values(out[1]);
+  const Values a = values(out[2]);
+  for (std::size_t mode = 0; mode < 2; ++mode) {
+    EXPECT_NEAR(v[40 + mode], values(n.v)[mode], 1e-13);
+    EXPECT_NEAR(a[40 + mode], values(n.a)[mode], 1e-13);
+  }
+}
+
 TEST_P(Newmark, RefusesWhatIsNotAnIntegratorOrTooShort) {
   NewmarkRun n = newmarkRun(2, 3);
   expectRefusal("the handle list is empty", "chandlediagnewmark", n.arguments(cell(0, 0, {})));

@@ -69,7 +69,7 @@ end
 % Whether anything moves mode K: an initial value, a load or an element. Where modes are coupled they move one another.
 function yes = reached (sim, k)
   m = numel (sim.model.w);
-  yes = size (sim.model.stiffness, 2) > 1 || size (sim.model.damping, 2) > 1 || qn.impl.varies (sim);
+  yes = qn.impl.coupled (sim);
   pushes = sim.shapes;
   if ~isempty (pushes), pushes = pushes(:, any (sim.loads, 2)); end
   for e = sim.elements(:).', pushes = [pushes, e.command.']; end

@@ -1,5 +1,6 @@
 % [V, AT, A] = NEXT_RATES (RES, AT, J)  modal velocities and accelerations at the columns J of a result, which follow those of the call before
 %
+% For modes that are coupled; the module does those that are not (see modal_motion).
 % AT is what that one handed back, [] for the first. With g = loads - forces - K q, the run obeys a + C v = g at every step, and
 % v' = v + h (1-gamma) a + h gamma a'.
 function [v, at, a] = next_rates (res, at, j)
@@ -13,47 +14,32 @@ function [v, at, a] = next_rates (res, at, j)
   end
   if isempty (at.g)
     at.v = sim.start.v(1:m);
-    at.g = sim.start.a(1:m) + qn.impl.product (at.damping, at.v);
+    at.g = sim.start.a(1:m) + at.damping * at.v;
     g(:, 1) = at.g;
     v = [at.v, along(at, g(:, 2:end))];
   else
     v = along (at, g);
   end
   [at.v, at.g] = deal (v(:, end), g(:, end));
-  if nargout > 2, a = g - qn.impl.product (at.damping, v); end
+  if nargout > 2, a = g - at.damping * v; end
 end
 
-% What does not change: v' = keeps v + early g + late g', one value a mode or matrices. PUSHES makes modal forces of the loads and of the
-% elements' forces.
+% What does not change: v' = keeps v + early g + late g'. PUSHES makes modal forces of the loads and of the elements' forces.
 function at = start_of (sim, m)
   h = sim.step;
   gamma = sim.scheme.gamma;
-  c = sim.model.damping;
-  if size (c, 2) == 1
-    implicit = 1 ./ (1 + h * gamma * c);
-    keeps = implicit .* (1 - h * (1 - gamma) * c);
-  else
-    implicit = inv (eye (m) + h * gamma * c);
-    keeps = implicit * (eye (m) - h * (1 - gamma) * c);
-  end
-  at = struct ('pushes', sim.shapes, 'damping', c, 'keeps', keeps, 'early', h * (1 - gamma) * implicit, 'late', h * gamma * implicit, ...
-               'v', [], 'g', []);
+  c = qn.impl.matrix (sim.model.damping);
+  implicit = inv (eye (m) + h * gamma * c);
+  at = struct ('pushes', sim.shapes, 'damping', c, 'keeps', implicit * (eye (m) - h * (1 - gamma) * c), ...
+               'early', h * (1 - gamma) * implicit, 'late', h * gamma * implicit, 'v', [], 'g', []);
   for e = sim.elements, at.pushes = [at.pushes, -e.command.']; end
   at.parts = qn.impl.varying (sim);
 end
 
-% The velocities at the columns of G, which follow AT.v and AT.g. A row that is turned lies in one piece of memory.
+% The velocities at the columns of G, which follow AT.v and AT.g.
 function v = along (at, g)
-  if size (at.keeps, 2) > 1
-    v = qn.impl.recurrence (at.keeps, at.early * [at.g, g(:, 1:end - 1)] + at.late * g, at.v, size (g, 1));
-    v = v(:, 2:end);
-    return
-  end
-  carried = at.early .* at.g + at.keeps .* at.v;
-  g = g.';
-  v = zeros (size (g));
-  for i = 1:size (g, 2), v(:, i) = filter ([at.late(i), at.early(i)], [1, -at.keeps(i)], g(:, i), carried(i)); end
-  v = v.';
+  v = qn.impl.recurrence (at.keeps, at.early * [at.g, g(:, 1:end - 1)] + at.late * g, at.v, size (g, 1));
+  v = v(:, 2:end);
 end
 
 % The same with the matrices of every step; Q are the displacements, G the forces without those that change with time.

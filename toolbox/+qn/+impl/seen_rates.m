@@ -5,8 +5,7 @@ function [v, a] = seen_rates (res, c)
   sim = res.sim;
   n = size (res.q, 2);
   [first, at, from] = qn.impl.next_rates (res, [], 1:1);
-  [keeps, early, late, damping] = deal (qn.impl.matrix (at.keeps), qn.impl.matrix (at.early), qn.impl.matrix (at.late), ...
-                                        qn.impl.matrix (at.damping));
+  [keeps, early, late, damping] = deal (at.keeps, at.early, at.late, at.damping);
   g = [at.pushes, -qn.impl.matrix(sim.model.stiffness)];
   [sees, feels] = deal (c, c * late * g);
   if nargout > 1, [sees, feels] = deal ([c; -c * damping], [feels; c * (g - damping * late * g)]); end

@@ -1,0 +1,16 @@
+% [E, V, A] = MODAL_MOTION (RES, J, V, A)  energies, modal velocities and accelerations at the columns J of a result, by the module
+%
+% For modes that are not coupled. V, A: those at the first of the columns; energies that grow are counted from there.
+function [e, v, a] = modal_motion (res, j, v, a)
+  sim = res.sim;
+  commands = arrayfun (@(x) -full (x.command).', sim.elements, 'UniformOutput', false);
+  parts = {res.q, sim.loads, res.force};
+  if numel (j) < size (res.q, 2), parts = cellfun (@(x) x(:, j), parts, 'UniformOutput', false); end
+  in = {parts{1}, sim.model.stiffness, sim.model.damping, [sim.step, sim.scheme.gamma], v, a, full(sim.shapes), parts{2}, ...
+        [commands{:}], parts{3}};
+  switch nargout
+    case 1, e = quarn ('energies', in{:});
+    case 2, [e, v] = quarn ('energies', in{:});
+    otherwise, [e, v, a] = quarn ('energies', in{:});
+  end
+end

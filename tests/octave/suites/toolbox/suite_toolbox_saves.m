@@ -220,6 +220,30 @@ function test_what_could_not_be_read_as_data_is_not_taken_for_saved ()
   end
 end
 
+function test_long_arrays_come_back_whole ()
+  folder = scratch ();
+  clean = onCleanup (@() gone (folder));
+  file = fullfile (folder, 'x.mat');
+  randn ('twister', 5);
+  for n = [199999, 200000, 200001, 450001]
+    long = struct ('x', randn (1, n), 'column', single (randn (n, 1)), 'bytes', uint8 (mod (1:n, 251)), 'yes', randn (3, n) > 0, ...
+                   'wide', int64 (1e6 * randn (2, n)));
+    expect_equal (qn.impl.files.write_data (file, long), '');
+    expect_equal (qn.impl.files.read_data (file), long);
+  end
+end
+
+function test_numbers_whose_sum_is_none_are_finite ()
+  folder = scratch ();
+  clean = onCleanup (@() gone (folder));
+  file = half (folder);
+  s = load (file);
+  s.q(:) = 1e308;
+  save ('-v6', file, '-struct', 's');
+  res = qn.impl.files.read_run ('qn.resume', file);
+  expect_equal (res.q, s.q);
+end
+
 % MATLAB's save adds ".mat" to a name without an end, and what it had written was not found again.
 function test_what_is_written_has_a_name_that_every_host_keeps ()
   folder = scratch ();

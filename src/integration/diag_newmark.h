@@ -64,7 +64,8 @@ class chandleDiagNewmark final : public chandle {
   int runUndisturbed(int j, const ROr& c);
   int runUnseen(chandle** list, int nh, int j, ROr c);
   void enterStep(int j, ROr& c);
-  void storeLoads(int j, const ROr& c);
+  void enterUnseen(int j, ROr& c) const;
+  void storeLoads(int j, const ROr& c) const;
   void beginModes(int j, const ROr& c);
   void finishCopies(const ROr& c);
   void finishForces(const ROr& c);

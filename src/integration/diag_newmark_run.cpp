@@ -120,6 +120,12 @@ int chandleDiagNewmark::runUndisturbed(int j, const ROr& c) {
   return j;
 }
 
+/// The same as enterStep where nobody sees what a step copies, nor the time in "data".
+void chandleDiagNewmark::enterUnseen(int j, ROr& c) const {
+  c.t = time(j + 1);
+  storeLoads(j, c);
+}
+
 /// Steps from column j on to the last but one. What they copy into the work array nobody sees, so that the correction of each and the
 /// beginning of the next are one pass.
 int chandleDiagNewmark::runUnseen(chandle** list, int nh, int j, ROr c) {
@@ -138,7 +144,7 @@ int chandleDiagNewmark::runUnseen(chandle** list, int nh, int j, ROr c) {
       if (column) std::copy(c.u, c.u + N, column);
       return j;
     }
-    enterStep(j, c);
+    enterUnseen(j, c);
     newmarkNext(modes, fmod, gain, r.data + N, loadsAt(j), Nb, diagonals, coefficients, column);
     finishForces(c);
   }

@@ -49,7 +49,7 @@ void chandleDiagNewmark::enterStep(int j, ROr& c) {
   storeLoads(j, c);
 }
 
-void chandleDiagNewmark::storeLoads(int j, const ROr& c) {
+void chandleDiagNewmark::storeLoads(int j, const ROr& c) const {
   if (iopt) storeClipped(c.FNL, c.fnlLen, iopt[0], loadsAt(j), Nb);
 }
 

@@ -158,6 +158,25 @@ function test_complex_operands ()
   flat ('products with complex operands', @complex_products, @complex_idle, scaled (3e5), 16);
 end
 
+function motion_energies (count)
+  c = {ones(9, 5), ones(9, 1), ones(9, 1), [0.1 0.5], ones(9, 1), ones(9, 1), ones(9, 2), ones(2, 5), ones(9, 1), ones(1, 5)};
+  for j = 1:count
+    [e, v, a] = quarn ('energies', c{:});
+    try, quarn ('energies', c{1:9}, ones (2, 5)); catch, end
+  end
+end
+
+function motion_idle (count)
+  for j = 1:count
+    e = ones (4, 5) * max (j, 1);
+    try, error ('own text %d', j); catch, end
+  end
+end
+
+function test_energies_half_of_them_failing ()
+  flat ('energies', @motion_energies, @motion_idle, scaled (3e5), 16);
+end
+
 function parallel_products (count)
   [s, n] = long_lines (4100);
   x = ones (n, 1);

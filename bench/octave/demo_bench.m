@@ -31,7 +31,7 @@ function notes = demo_bench (quick)
     took = best_time (@() frame_loop (c_out{:}, scheme{:}, variant{3}{:}), quick);
     off = max (abs (out.def(:) - c_out{1}(:))) / max (abs (c_out{1}(:)));
     if ~isfinite (off), error ('demo_bench: the run %s diverged', variant{1}); end
-    notes = [notes, note('demo', variant{1}, modes, 'a C loop for this frame', took / steps, 1, off, 1e-6)];
+    notes = [notes, note('demo', variant{1}, modes, 'a C loop for this frame', took / steps, 1, off, 1e-12)];
   end
 end
 
@@ -44,6 +44,7 @@ end
 
 function removed (folder)
   clear ('frame_loop');
+  rmpath (folder);
   delete (fullfile (folder, '*'));
   rmdir (folder);
 end

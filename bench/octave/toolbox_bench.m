@@ -13,7 +13,8 @@ function notes = toolbox_bench (quick, only_cases)
   elseif quick
     notes = [parts('strip', 100, quick), parts('chain', 100, quick), sweep_of(20, quick), calls(quick)];
   else
-    notes = [parts('strip', 4e4, quick), parts('chain', 1e4, quick), parts('chain', 1e5, quick), parts('chain', 1e6, quick), sweep_of(2e4, quick), calls(quick)];
+    notes = [parts('strip', 4e4, quick), parts('chain', 1e4, quick), parts('chain', 1e5, quick), parts('chain', 1e6, quick), ...
+             sweep_of(2e4, quick), calls(quick)];
   end
 end
 

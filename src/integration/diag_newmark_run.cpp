@@ -120,7 +120,8 @@ int chandleDiagNewmark::runUndisturbed(int j, const ROr& c) {
   return j;
 }
 
-/// The same as enterStep where nobody sees what a step copies, nor the time in "data".
+/// Time and loads of a step. The snapshot of the force store and the time in "data" are left to the last one, since nobody looks at them
+/// before.
 void chandleDiagNewmark::enterUnseen(int j, ROr& c) const {
   c.t = time(j + 1);
   storeLoads(j, c);

@@ -68,8 +68,6 @@ template <class Values>
   }
 }
 
-double total(const double* s) { return ((s[0] + s[4]) + (s[2] + s[6])) + ((s[1] + s[5]) + (s[3] + s[7])); }
-
 /// The next column of a vector of modes from i on, and what that adds to its sums.
 template <class Vector>
 [[gnu::always_inline]] inline void advanceFew(const Motion& x, std::size_t i, const Acting& f, Vector* sums, std::size_t stride) {
@@ -114,7 +112,7 @@ template <class Vector>
   for (std::size_t e = 0; e < kEnergies; ++e) {
     double lanes[kLanes];
     std::memcpy(lanes, partial + e * parts, sizeof lanes);
-    sums[e] = total(lanes);
+    sumOfEight(sums[e], lanes);
   }
 }
 
@@ -147,8 +145,8 @@ void begin(const Motion& x, const ModesInMotion& m, const Acting& f, double* sum
     kin[i % kLanes] += x.v[i] * x.v[i];
     str[i % kLanes] += x.stiffness[i] * x.q[i] * x.q[i];
   }
-  sums[kinetic] = total(kin);
-  sums[strain] = total(str);
+  sumOfEight(sums[kinetic], kin);
+  sumOfEight(sums[strain], str);
   sums[damped] = sums[worked] = 0.0;
 }
 

@@ -9,18 +9,18 @@
 
 namespace quarn {
 
-/// Modes of unit mass that only forces couple.
+/// Modes of unit mass that only forces couple, n values each.
 struct ModesInMotion {
   std::size_t n;
-  const double* stiffness;  ///< n squares of circular frequencies
-  const double* damping;    ///< n values
-  double step;              ///< h
+  const double* stiffness;  ///< squares of circular frequencies [1/s^2]
+  const double* damping;    ///< [1/s]
+  double step;              ///< h [s]
   double gamma;             ///< of the scheme
-  const double* v0;         ///< n velocities and accelerations at the first column
-  const double* a0;
+  const double* v0;         ///< velocities at the first column
+  const double* a0;         ///< accelerations there: they stand for the forces of that column
 };
 
-/// Forces at every column along fixed directions.
+/// Forces at every column along fixed directions, positive where they push the way of the direction.
 struct ModalForces {
   std::size_t count;
   const double* directions;  ///< n x count
@@ -29,7 +29,7 @@ struct ModalForces {
 
 /// What is written, each apart from everything else.
 struct MotionOut {
-  double* energies;       ///< 4 x columns: kinetic, strain, damped since the start, work of the loads since the start
+  double* energies;       ///< 4 x columns: kinetic, strain, damped since the first column, work of the loads since then
   double* velocities;     ///< n x columns; null: nowhere
   double* accelerations;  ///< the same
 };

@@ -18,4 +18,10 @@ template <class Vector>
   std::memcpy(&to, from, sizeof to);
 }
 
+/// Eight partial sums s, values or vectors of them, in the order in which every sum of a line ends.
+template <class Value>
+[[gnu::always_inline]] inline void sumOfEight(Value& sum, const Value* s) {
+  sum = ((s[0] + s[4]) + (s[2] + s[6])) + ((s[1] + s[5]) + (s[3] + s[7]));
+}
+
 }  // namespace quarn

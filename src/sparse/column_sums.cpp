@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "numbers/processor.h"
+#include "numbers/vectors.h"
 #include "sparse/dense_lines.h"
 #include "sparse/line_sums.h"
 
@@ -110,7 +111,7 @@ struct FourSums {
       default:
         break;
     }
-    sum = ((s[0] + s[4]) + (s[2] + s[6])) + ((s[1] + s[5]) + (s[3] + s[7]));
+    sumOfEight(sum, s);
   }
 
   [[gnu::always_inline]] inline void run(double* to) const {

@@ -21,7 +21,7 @@ void oneCommand(fuzz::Session& session, std::size_t n) {
   fuzz::Maker& make = session.make;
   const std::size_t which = in.below(sizeof words / sizeof *words);
   const char* word = words[which];
-  // Beside the last one, so that the inputs of the corpus go on meaning what they did.
+  // Takes most turns of the last word, so that the inputs of the corpus go on meaning what they did.
   if (which == sizeof words / sizeof *words - 1 && !in.rarely(8)) word = "energies";
   const int nlhs = static_cast<int>(in.below(4));
   session.perhapsFailAllocation();

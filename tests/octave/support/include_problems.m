@@ -48,7 +48,8 @@ function yes = knows_no_host (file)
   switch room_of (file)
     case 'numbers', yes = true;
     case 'sparse', yes = isempty (regexp (file, '/(sparse_view|line_checks|mt_products|\w*_commands?|command_arguments)\.(h|cpp)$', 'once'));
-    case 'integration', yes = ~isempty (regexp (file, '/(newmark_kernels|newmark_fused|newmark_steps|motion_energies|full_gain|knots)\.(h|cpp)$', 'once'));
+    case 'integration'
+      yes = ~isempty (regexp (file, '/(newmark_(kernels|fused|steps)|motion_energies|full_gain|knots)\.(h|cpp)$', 'once'));
     case 'nonlinear', yes = ~isempty (regexp (file, '/lin_interp\.(h|cpp)$', 'once'));
     otherwise, yes = false;
   end

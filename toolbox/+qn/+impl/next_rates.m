@@ -1,6 +1,6 @@
 % [V, AT, A] = NEXT_RATES (RES, AT, J)  modal velocities and accelerations at the columns J of a result, which follow those of the call before
 %
-% For modes that are coupled; the module does those that are not (see modal_motion).
+% With any matrices; of modes that are not coupled modal_motion is quicker.
 % AT is what that one handed back, [] for the first. With g = loads - forces - K q, the run obeys a + C v = g at every step, and
 % v' = v + h (1-gamma) a + h gamma a'.
 function [v, at, a] = next_rates (res, at, j)

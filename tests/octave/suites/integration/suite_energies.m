@@ -5,13 +5,12 @@ end
 
 function test_energies_and_rates_are_those_of_the_equation_step_by_step ()
   rand ('twister', 11);
-  randn ('seed', 11);
+  randn ('twister', 11);
   for trial = 1:rounds (150)
     c = motion (randi ([1, 27]), randi ([1, 12]), randi ([0, 4]), randi ([0, 4]));
     [e, v, a] = quarn ('energies', c{:});
     [we, wv, wa] = step_by_step (c{:});
-    agree (e(1:2, :), we(1:2, :));
-    for row = 3:4, agree (e(row, :), we(row, :)); end
+    for row = 1:4, agree (e(row, :), we(row, :)); end
     agree (v, wv);
     agree (a, wa);
     expect_equal (quarn ('energies', c{:}), e);
@@ -55,6 +54,7 @@ function test_sums_over_the_modes_have_the_stated_order ()
 end
 
 function test_forces_may_be_absent ()
+  randn ('twister', 13);
   c = motion (5, 6, 2, 3);
   [we, wv] = step_by_step (c{1:6}, zeros (5, 0), zeros (0, 6), c{9:10});
   [e, v] = quarn ('energies', c{1:6}, [], [], c{9:10});
@@ -78,6 +78,7 @@ function test_no_columns_and_no_modes ()
 end
 
 function test_of_complex_arrays_the_real_parts_are_taken_and_nothing_is_written ()
+  randn ('twister', 14);
   c = motion (4, 5, 2, 1);
   kept = cellfun (@(x) x * 1, c, 'UniformOutput', false);
   e = quarn ('energies', c{:});
@@ -90,6 +91,7 @@ function test_of_complex_arrays_the_real_parts_are_taken_and_nothing_is_written 
 end
 
 function test_what_does_not_fit_is_refused_in_words ()
+  randn ('twister', 15);
   c = motion (3, 4, 2, 1);
   says (c(1:5), 'expected 7 to 11 inputs (command, Q, K, C, [h gamma], V0, A0, S, L, B, F), got 6');
   says ({}, 'expected 7 to 11 inputs (command, Q, K, C, [h gamma], V0, A0, S, L, B, F), got 1');
@@ -114,7 +116,8 @@ function test_what_does_not_fit_is_refused_in_words ()
   names = {'Q', 'K', 'C', '\[h gamma\]', 'V0', 'A0', 'S', 'L', 'B', 'F'};
   for k = 1:10
     for odd = {single(c{k}), sparse(c{k}), int32(c{k}), 'text', {c{k}}, @sin, struct('a', 1)}
-      expect_error (@() quarn ('energies', with (c, k, odd{1}){:}), '', ['~^quarn energies : ' names{k} ' must be a full real double array, got ']);
+      args = with (c, k, odd{1});
+      expect_error (@() quarn ('energies', args{:}), '', ['~^quarn energies : ' names{k} ' must be a full real double array, got ']);
     end
   end
 end
@@ -134,7 +137,7 @@ end
 function [e, v, a] = step_by_step (q, k, c, scheme, v0, a0, s, l, b, f)
   h = scheme(1);
   gamma = scheme(2);
-  n = columns (q);
+  n = size (q, 2);
   [v, a] = deal (zeros (size (q)));
   e = zeros (4, n);
   v(:, 1) = v0;

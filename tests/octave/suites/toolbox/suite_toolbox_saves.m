@@ -233,6 +233,24 @@ function test_long_arrays_come_back_whole ()
   end
 end
 
+% A count of bytes that is no multiple of what a number takes was an error of the host's, without an identifier, in a long array.
+function test_a_damaged_count_of_bytes_is_said_whatever_the_length ()
+  folder = scratch ();
+  clean = onCleanup (@() gone (folder));
+  file = fullfile (folder, 'x.mat');
+  for n = [5, 300000]
+    x = pi * ones (1, n);
+    save ('-v6', file, 'x');
+    id = fopen (file, 'r+');
+    fseek (id, 128 + 8 + 16 + 16 + 8 + 4, 'bof');   % the head, the array's tag, flags, extents, name, the type of its numbers
+    expect_equal (fread (id, 1, 'uint32'), 8 * n);
+    fseek (id, -4, 'cof');
+    fwrite (id, 8 * n - 3, 'uint32');
+    fclose (id);
+    expect_error (@() qn.impl.files.read_data (file), 'qn:input', 'it is damaged');
+  end
+end
+
 function test_numbers_whose_sum_is_none_are_finite ()
   folder = scratch ();
   clean = onCleanup (@() gone (folder));

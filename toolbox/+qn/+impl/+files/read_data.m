@@ -52,7 +52,7 @@ function x = numbers (id, last, class_name)
              'uint16'};
   end
   [type, n, next] = tag (id, last);
-  if type < 1 || type > numel (widths) || widths(type) == 0, fail ('it is damaged'); end
+  if type < 1 || type > numel (widths) || widths(type) == 0 || mod (n, widths(type)) ~= 0, fail ('it is damaged'); end
   x = values (id, n / widths(type), [forms{type} '=>' class_name], class_name);
   fseek (id, next, 'bof');
 end

@@ -37,7 +37,7 @@ ModalForces forces(const mxArray* directions, const char* name, const mxArray* g
 }  // namespace
 
 void commandEnergies(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {
-  if (nrhs < 7) host::refuse("expected 7 to 11 inputs (command, Q, K, C, [h gamma], V0, A0, S, L, B, F), got %d", nrhs);
+  if (nrhs < 7 || nrhs > 11) host::refuse("expected 7 to 11 inputs (command, Q, K, C, [h gamma], V0, A0, S, L, B, F), got %d", nrhs);
   const host::Doubles q = host::doubles(prhs[1], "Q");
   const std::size_t n = host::rowCount(prhs[1]);
   const std::size_t columns = host::columnCount(prhs[1]);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "integration/modal_forces.h"
 #include "numbers/processor.h"
 #include "numbers/vectors.h"
 
@@ -18,14 +19,9 @@ enum Energy { kinetic, strain, damped, worked, kEnergies };
 struct Motion {
   std::size_t n;  ///< a multiple of the lanes
   double *stiffness, *damping, *keeps, *early, *late;
-  double *next, *q, *v, *g, *load;  ///< next: displacements of the column to come
+  double *next, *q, *v, *g, *load;  ///< next: displacements of the column to come; load: what the loads were before
+  double *loads, *forces;           ///< of kForceColumns columns: the loads, and they with the elements
   double *alongLoads, *alongElements;
-};
-
-/// The directions of the forces and their values at one column.
-struct Acting {
-  std::size_t loads, elements;
-  const double *load, *element;
 };
 
 std::size_t filledUp(std::size_t n) { return (n + kLanes - 1) / kLanes * kLanes; }
@@ -43,7 +39,9 @@ Motion laidOut(const ModesInMotion& m, const ModalForces& loads, const ModalForc
     *place = work;
     work += n;
   }
-  x.alongLoads = work;
+  x.loads = work;
+  x.forces = x.loads + kForceColumns * n;
+  x.alongLoads = x.forces + kForceColumns * n;
   x.alongElements = spread(x.alongLoads, n, loads.directions, m.n, loads.count);
   spread(x.alongElements, n, elements.directions, m.n, elements.count);
   std::copy_n(m.stiffness, m.n, x.stiffness);
@@ -57,21 +55,10 @@ Motion laidOut(const ModesInMotion& m, const ModalForces& loads, const ModalForc
   return x;
 }
 
-/// Adds the products of directions, of the modes from i on, and values to f.
-template <class Values>
-[[gnu::always_inline]] inline void addAlong(Values& f, const double* directions, std::size_t n, std::size_t i, std::size_t count,
-                                            const double* values) {
-  for (std::size_t k = 0; k < count; ++k) {
-    Values along;
-    load(along, directions + k * n + i);
-    f += along * values[k];
-  }
-}
-
 /// The next column of a vector of modes from i on, and what that adds to its sums.
 template <class Vector>
-[[gnu::always_inline]] inline void advanceFew(const Motion& x, std::size_t i, const Acting& f, Vector* sums, std::size_t stride) {
-  Vector stiffness, damping, keeps, early, late, q, qBefore, vBefore, gBefore, loadsBefore;
+[[gnu::always_inline]] inline void advanceFew(const Motion& x, std::size_t i, std::size_t column, Vector* sums, std::size_t stride) {
+  Vector stiffness, damping, keeps, early, late, q, qBefore, vBefore, gBefore, loadsBefore, loads, forces;
   load(stiffness, x.stiffness + i);
   load(damping, x.damping + i);
   load(keeps, x.keeps + i);
@@ -82,13 +69,11 @@ template <class Vector>
   load(vBefore, x.v + i);
   load(gBefore, x.g + i);
   load(loadsBefore, x.load + i);
-  Vector acting = {};
-  addAlong(acting, x.alongLoads, x.n, i, f.loads, f.load);
-  const Vector loads = acting;
-  addAlong(acting, x.alongElements, x.n, i, f.elements, f.element);
+  load(loads, x.loads + column * x.n + i);
+  load(forces, x.forces + column * x.n + i);
   const Vector moved = q - qBefore;
   const Vector pull = stiffness * q;
-  const Vector g = acting - pull;
+  const Vector g = forces - pull;
   const Vector v = late * g + (early * gBefore + keeps * vBefore);
   sums[kinetic * stride] += v * v;
   sums[strain * stride] += pull * q;
@@ -100,14 +85,15 @@ template <class Vector>
   std::memcpy(x.load + i, &loads, sizeof loads);
 }
 
-/// The state at the next column, and what came about on the way there: sums over the modes, twice the energies.
+/// The state at the next column, number column of those whose forces are formed, and what came about on the way there: sums over the modes,
+/// twice the energies.
 template <class Vector>
-[[gnu::always_inline]] inline void advanceAll(const Motion& x, const Acting& f, double* sums) {
+[[gnu::always_inline]] inline void advanceAll(const Motion& x, std::size_t column, double* sums) {
   constexpr std::size_t length = sizeof(Vector) / sizeof(double);
   constexpr std::size_t parts = kLanes / length;
   Vector partial[kEnergies * parts] = {};
   for (std::size_t i = 0; i < x.n; i += kLanes) {
-    for (std::size_t p = 0; p < parts; ++p) advanceFew(x, i + p * length, f, partial + p, parts);
+    for (std::size_t p = 0; p < parts; ++p) advanceFew(x, i + p * length, column, partial + p, parts);
   }
   for (std::size_t e = 0; e < kEnergies; ++e) {
     double lanes[kLanes];
@@ -118,7 +104,7 @@ template <class Vector>
 
 // NOLINTBEGIN(bugprone-macro-parentheses): attributes and types take none
 #define QUARN_ADVANCE(version, Vector) \
-  version void advance(const Motion& x, const Acting& f, double* sums) { advanceAll<Vector>(x, f, sums); }
+  version void advance(const Motion& x, std::size_t column, double* sums) { advanceAll<Vector>(x, column, sums); }
 // NOLINTEND(bugprone-macro-parentheses)
 #ifdef QUARN_VERSION_BASE
 QUARN_ADVANCE(QUARN_VERSION_BASE, Doubles2)
@@ -133,14 +119,24 @@ QUARN_ADVANCE(, Doubles2)
 #endif
 #undef QUARN_ADVANCE
 
+/// The forces of columns from number first on. Where there is no mode they stay zero, also beside a value that is not finite.
+void formForces(const Motion& x, std::size_t modes, const ModalForces& loads, const ModalForces& elements, std::size_t first,
+                std::size_t columns) {
+  modalForces(x.loads, nullptr, x.n, x.alongLoads, loads.count, loads.values + first * loads.count, columns);
+  modalForces(x.forces, x.loads, x.n, x.alongElements, elements.count, elements.values + first * elements.count, columns);
+  for (std::size_t j = 0; j < columns; ++j) {
+    for (std::size_t i = modes; i < x.n; ++i) x.loads[j * x.n + i] = x.forces[j * x.n + i] = 0.0;
+  }
+}
+
 /// The state at the first column, from what is given there.
-void begin(const Motion& x, const ModesInMotion& m, const Acting& f, double* sums) {
+void begin(const Motion& x, const ModesInMotion& m, double* sums) {
   std::copy_n(m.v0, m.n, x.v);
   std::copy_n(x.next, m.n, x.q);
+  std::copy_n(x.loads, m.n, x.load);
   double kin[kLanes] = {};
   double str[kLanes] = {};
   for (std::size_t i = 0; i < m.n; ++i) {
-    addAlong(x.load[i], x.alongLoads, x.n, i, f.loads, f.load);
     x.g[i] = m.a0[i] + x.damping[i] * x.v[i];
     kin[i % kLanes] += x.v[i] * x.v[i];
     str[i % kLanes] += x.stiffness[i] * x.q[i] * x.q[i];
@@ -152,20 +148,22 @@ void begin(const Motion& x, const ModesInMotion& m, const Acting& f, double* sum
 
 }  // namespace
 
-std::size_t motionEnergiesWork(std::size_t n, std::size_t loads, std::size_t elements) { return filledUp(n) * (10 + loads + elements); }
+std::size_t motionEnergiesWork(std::size_t n, std::size_t loads, std::size_t elements) {
+  return filledUp(n) * (10 + 2 * kForceColumns + loads + elements);
+}
 
 void motionEnergies(const ModesInMotion& modes, const double* q, std::size_t columns, const ModalForces& loads, const ModalForces& elements,
                     const MotionOut& out, double* work) {
   const Motion x = laidOut(modes, loads, elements, work);
   double since[kEnergies] = {};
   for (std::size_t j = 0; j < columns; ++j) {
-    const Acting f{loads.count, elements.count, loads.values + j * loads.count, elements.values + j * elements.count};
+    if (j % kForceColumns == 0) formForces(x, modes.n, loads, elements, j, std::min(kForceColumns, columns - j));
     std::copy_n(q + j * modes.n, modes.n, x.next);
     double sums[kEnergies];
     if (j == 0) {
-      begin(x, modes, f, sums);
+      begin(x, modes, sums);
     } else {
-      advance(x, f, sums);
+      advance(x, j % kForceColumns, sums);
     }
     double* e = out.energies + j * kEnergies;
     e[kinetic] = sums[kinetic] / 2.0;

@@ -68,13 +68,13 @@ void newmark(Vector& all, int n) {
 
 void energies(Vector& all, int n) {
   const auto modes = static_cast<std::size_t>(n);
-  const std::size_t columns = 5;
+  const std::size_t columns = 11;
   const Vector k = randomVector(n, 21);
   const Vector c = randomVector(n, 22);
   const Vector start = randomVector(2 * n, 23);
-  const Vector q = randomVector(5 * n, 24);
+  const Vector q = randomVector(11 * n, 24);
   const Vector directions = randomVector(5 * n, 25);
-  const Vector values = randomVector(25, 26);
+  const Vector values = randomVector(55, 26);
   Vector e(4 * columns);
   Vector v(q.size());
   Vector a(q.size());

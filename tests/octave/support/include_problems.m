@@ -49,7 +49,7 @@ function yes = knows_no_host (file)
     case 'numbers', yes = true;
     case 'sparse', yes = isempty (regexp (file, '/(sparse_view|line_checks|mt_products|\w*_commands?|command_arguments)\.(h|cpp)$', 'once'));
     case 'integration'
-      yes = ~isempty (regexp (file, '/(newmark_(kernels|fused|steps)|motion_energies|full_gain|knots)\.(h|cpp)$', 'once'));
+      yes = ~isempty (regexp (file, '/(newmark_(kernels|fused|steps)|modal_forces|motion_energies|full_gain|knots)\.(h|cpp)$', 'once'));
     case 'nonlinear', yes = ~isempty (regexp (file, '/lin_interp\.(h|cpp)$', 'once'));
     otherwise, yes = false;
   end

@@ -3,11 +3,11 @@
 % For modes that are not coupled. V, A: those at the first of the columns; energies that grow are counted from there.
 function [e, v, a] = modal_motion (res, j, v, a)
   sim = res.sim;
-  commands = arrayfun (@(x) -full (x.command).', sim.elements, 'UniformOutput', false);
-  parts = {res.q, sim.loads, res.force};
-  if numel (j) < size (res.q, 2), parts = cellfun (@(x) x(:, j), parts, 'UniformOutput', false); end
-  in = {parts{1}, sim.model.stiffness, sim.model.damping, [sim.step, sim.scheme.gamma], v, a, full(sim.shapes), parts{2}, ...
-        [commands{:}], parts{3}};
+  commands = arrayfun (@(x) -x.command.', sim.elements, 'UniformOutput', false);
+  along = {res.q, sim.loads, res.force};
+  if numel (j) < size (res.q, 2), along = cellfun (@(x) x(:, j), along, 'UniformOutput', false); end
+  in = {along{1}, sim.model.stiffness, sim.model.damping, [sim.step, sim.scheme.gamma], v, a, sim.shapes, along{2}, [commands{:}], along{3}};
+  in = cellfun (@(x) double (full (x)), in, 'UniformOutput', false);
   switch nargout
     case 1, e = quarn ('energies', in{:});
     case 2, [e, v] = quarn ('energies', in{:});

@@ -7,7 +7,7 @@ function test_energies_and_rates_are_those_of_the_equation_step_by_step ()
   rand ('twister', 11);
   randn ('twister', 11);
   for trial = 1:rounds (150)
-    c = motion (randi ([1, 27]), randi ([1, 12]), randi ([0, 4]), randi ([0, 4]));
+    c = motion (randi ([1, 27]), randi ([1, 25]), randi ([0, 4]), randi ([0, 4]));
     [e, v, a] = quarn ('energies', c{:});
     [we, wv, wa] = step_by_step (c{:});
     for row = 1:4, agree (e(row, :), we(row, :)); end
@@ -94,6 +94,7 @@ function test_what_does_not_fit_is_refused_in_words ()
   randn ('twister', 15);
   c = motion (3, 4, 2, 1);
   says (c(1:5), 'expected 7 to 11 inputs (command, Q, K, C, [h gamma], V0, A0, S, L, B, F), got 6');
+  says ([c, {1}], 'expected 7 to 11 inputs (command, Q, K, C, [h gamma], V0, A0, S, L, B, F), got 12');
   says ({}, 'expected 7 to 11 inputs (command, Q, K, C, [h gamma], V0, A0, S, L, B, F), got 1');
   names = {'K', 'C', '', 'V0', 'A0'};
   for k = [2 3 5 6]
@@ -119,6 +120,18 @@ function test_what_does_not_fit_is_refused_in_words ()
       args = with (c, k, odd{1});
       expect_error (@() quarn ('energies', args{:}), '', ['~^quarn energies : ' names{k} ' must be a full real double array, got ']);
     end
+  end
+end
+
+% Kinetic energies were NaN where the last modes did not fill a vector of the processor.
+function test_what_an_infinite_load_does_is_the_same_for_any_number_of_modes ()
+  for m = [1, 7, 8, 9, 16]
+    c = {zeros(m, 4), ones(m, 1), ones(m, 1), [1, 0.5], ones(m, 1), ones(m, 1), ones(m, 1), [0 0 0 Inf]};
+    [e, v, a] = quarn ('energies', c{:});
+    [we, wv, wa] = step_by_step (c{:}, zeros (m, 0), zeros (0, 4));
+    expect_equal (e(1:2, 1:2), we(1:2, 1:2), 1e-12 * m);
+    expect_equal ([isinf(e); isnan(e)], [isinf(we); isnan(we)]);
+    expect_equal ([isinf([v; a]); isnan([v; a])], [isinf([wv; wa]); isnan([wv; wa])]);
   end
 end
 

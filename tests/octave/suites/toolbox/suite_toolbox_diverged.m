@@ -49,6 +49,14 @@ function test_nothing_goes_on_from_a_diverged_run ()
   expect_error (@() unstable (5, 'start', res), 'qn:input', '~this run diverged');
 end
 
+% Its file said that an element was damaged.
+function test_nothing_goes_on_from_the_file_of_a_diverged_run ()
+  [folder, clean] = new_folder ();
+  file = fullfile (folder, 'run.mat');
+  run_quietly (unstable (5000), 'save', file);
+  expect_error (@() qn.resume (file), 'qn:input', '~qn.resume: this run diverged, its last good time is [\d.]+ s');
+end
+
 function test_a_stopped_run_has_no_columns_after_its_end ()
   model = qn.modal (100, 1);
   sim = qn.simulation (model, 'step', 1e-3, 'steps', 1000, 'v0', 1, 'every', 3);

@@ -175,6 +175,23 @@ function test_velocities_and_energies_of_many_steps_are_those_of_the_formulas ()
   end
 end
 
+function test_results_of_other_classes_give_the_same ()
+  model = qn.modal (1e4 * [2 -1; -1 1], eye (2), 'damping', 0.02);
+  res = qn.run (qn.simulation (model, 'step', 1e-3, 'steps', 50, 'load', {qn.load_at(model, 2), @(t) 50 * sin(30 * t)}, ...
+                               'elements', {qn.cubic('stiffness', 1e6), qn.observe(model, 1)}));
+  wanted = qn.energies (res);
+  res.q = double (single (res.q));
+  res.force = double (single (res.force));
+  rounded = qn.energies (res);
+  expect_equal (rounded.kinetic, wanted.kinetic, 1e-5 * max (wanted.kinetic));
+  [res.q, res.force] = deal (single (res.q), single (res.force));
+  res.sim.model.damping = sparse (res.sim.model.damping);
+  res.sim.loads = sparse (res.sim.loads);
+  other = qn.energies (res);
+  for name = {'kinetic', 'strain', 'damped', 'work'}, expect_equal (other.(name{1}), rounded.(name{1})); end
+  expect_equal (qn.velocity (res, 2), qn.velocity (setfield (res, 'q', double (res.q)), 2));
+end
+
 function test_linear_steps_in_blocks_are_those_of_one_step_after_another ()
   randn ('twister', 63);
   for steps = [1 2 3 200 901]

@@ -25,7 +25,7 @@ function res = advance (res, o)
   most = max (100, ceil (4e6 / numel (res.final.u) * last / numel (sim.saved)));  % 32 MB of results: they are in memory twice for a moment
   while res.final.column < last
     piece_begun = tic ();
-    [next, part, wanted] = qn.impl.piece (sim, res.final, h, min (res.final.column + chunk, last));
+    [next, part, wanted] = qn.impl.piece (sim, res.final, h, min (res.final.column + chunk, last), kept);
     qn.impl.reached (key, wanted, part);
     res.diverged = ~within_numbers ([next.u; next.v; next.a]);
     if res.diverged

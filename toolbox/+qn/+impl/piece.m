@@ -1,14 +1,15 @@
-% [S, OUT, WANTED] = PIECE (SIM, S, H, TO)  one call of the module: from the state S to column TO of the time table
+% [S, OUT, WANTED] = PIECE (SIM, S, H, TO, KEPT)  one call of the module: from the state S to column TO of the time table
 %
-% OUT holds the results q, state and force for the columns WANTED of the whole. They are handed back rather than put in place
-% here, so that the host does not copy the whole for every piece.
-function [s, out, wanted] = piece (sim, s, h, to)
+% OUT holds the results q, state and force for the columns WANTED of the whole, those after the first KEPT. They are handed back rather
+% than put in place here, so that the host does not copy the whole for every piece.
+function [s, out, wanted] = piece (sim, s, h, to, kept)
   from = s.column;
   m = numel (sim.model.w);
   n = numel (s.u);
   newmark = chandle (quarn ('chandleset', 2000, qn.impl.integrator (sim, from, to)));
   free = onCleanup (@() delete (newmark));
-  wanted = sum (sim.saved <= from) + 1:sum (sim.saved <= to);
+  wanted = kept + 1:min (kept + to - from, numel (sim.saved));  % a step may be kept once
+  wanted = wanted(sim.saved(wanted) <= to);
   times = reshape (sim.time(sim.saved(wanted)), [], 1);
   slots = numel (s.FNL);
   u = qn.impl.fresh (s.u);

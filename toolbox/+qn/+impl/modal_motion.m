@@ -6,7 +6,8 @@ function [e, v, a] = modal_motion (res, j, v, a)
   commands = arrayfun (@(x) -x.command.', sim.elements, 'UniformOutput', false);
   along = {res.q, sim.loads, res.force};
   if numel (j) < size (res.q, 2), along = cellfun (@(x) x(:, j), along, 'UniformOutput', false); end
-  in = {along{1}, sim.model.stiffness, sim.model.damping, [sim.step, sim.scheme.gamma], v, a, sim.shapes, along{2}, [commands{:}], along{3}};
+  in = {along{1}, sim.model.stiffness, sim.model.damping, [sim.step, sim.scheme.gamma], v, a, sim.shapes, along{2}, [commands{:}], ...
+        along{3}};
   in = cellfun (@(x) double (full (x)), in, 'UniformOutput', false);
   switch nargout
     case 1, e = quarn ('energies', in{:});

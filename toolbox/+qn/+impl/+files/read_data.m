@@ -53,22 +53,8 @@ function x = numbers (id, last, class_name)
   end
   [type, n, next] = tag (id, last);
   if type < 1 || type > numel (widths) || widths(type) == 0 || mod (n, widths(type)) ~= 0, fail ('it is damaged'); end
-  x = values (id, n / widths(type), [forms{type} '=>' class_name], class_name);
+  x = qn.impl.files.read_numbers (id, n / widths(type), [forms{type} '=>' class_name], class_name);
   fseek (id, next, 'bof');
-end
-
-% COUNT numbers, many of them in parts: the host holds what it reads in one go twice.
-function x = values (id, count, form, class_name)
-  part = 2e5;
-  if count <= part
-    x = fread (id, [1, count], form);
-    return
-  end
-  x = zeros (1, count, class_name);
-  for k = 1:part:count
-    last = min (k + part - 1, count);
-    x(k:last) = fread (id, [1, last - k + 1], form);
-  end
 end
 
 % What an array is, its bits, extents and name; of two dimensions and without a name, as most are, it is read at once.

@@ -97,7 +97,8 @@ function s = state (sim, f, column, fresh, lost)
   n = numel (sim.model.w) + sim.states;
   for name = {'u', 'v', 'a'}
     x = f.(name{1});
-    expect (isa (x, 'double') && isequal (size (x), [n 1]) && (lost || all (isfinite (x))), 'the state "%s" must be %d finite numbers', name{1}, n);
+    expect (isa (x, 'double') && isequal (size (x), [n 1]) && (lost || all (isfinite (x))), ...
+            'the state "%s" must be %d finite numbers', name{1}, n);
   end
   expect (isa (f.FNL, 'double') && isequal (size (f.FNL), [max(sim.slots, 1), 1]) && iscell (f.memory) && ...
           numel (f.memory) == numel (sim.elements), 'what the elements remember does not fit them');

@@ -6,7 +6,6 @@
  * they push, X and F the knots of the stop's table. */
 #include <math.h>
 #include <mex.h>
-#include <string.h>
 
 static double along(int n, const double* row, const double* u) {
   double sum = 0;

@@ -9,9 +9,5 @@ function [e, v, a] = modal_motion (res, j, v, a)
   in = {along{1}, sim.model.stiffness, sim.model.damping, [sim.step, sim.scheme.gamma], v, a, sim.shapes, along{2}, [commands{:}], ...
         along{3}};
   in = cellfun (@(x) double (full (x)), in, 'UniformOutput', false);
-  switch nargout
-    case 1, e = quarn ('energies', in{:});
-    case 2, [e, v] = quarn ('energies', in{:});
-    otherwise, [e, v, a] = quarn ('energies', in{:});
-  end
+  if nargout < 2, e = quarn ('energies', in{:}); else, [e, v, a] = quarn ('energies', in{:}); end
 end

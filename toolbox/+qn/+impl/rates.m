@@ -16,7 +16,13 @@ function [v, a] = rates (res, who, c)
   coupled = qn.impl.coupled (res.sim);
   for columns = qn.impl.blocks ([m, n])
     j = columns(1):columns(2);
-    if coupled, [vj, at, aj] = qn.impl.next_rates (res, at, j); else, [vj, at, aj] = of_modes (res, at, j); end
+    if ~coupled
+      [vj, at, aj] = of_modes (res, at, j);
+    elseif nargout > 1
+      [vj, at, aj] = qn.impl.next_rates (res, at, j);
+    else
+      [vj, at] = qn.impl.next_rates (res, at, j);
+    end
     if nargin > 2, vj = c * vj; end
     v(:, j) = vj;
     if nargout < 2, continue, end
